@@ -1,0 +1,30 @@
+# Finds Qt and gives its parts names that stay the same on Qt 5 and Qt 6.
+#
+#   xmlhelper_qt_core, xmlhelper_qt_widgets, xmlhelper_qt_xml, xmlhelper_qt_test
+#
+# The SAX classes live in QtXml on Qt 5 and in Core5Compat on Qt 6.
+
+if(NOT XMLHELPER_QT_MAJOR MATCHES "^[56]$")
+    message(FATAL_ERROR "XMLHELPER_QT_MAJOR is '${XMLHELPER_QT_MAJOR}'; it must be 5 or 6.")
+endif()
+
+set(_qt "Qt${XMLHELPER_QT_MAJOR}")
+set(_qt_components Core Gui Widgets Xml)
+if(XMLHELPER_QT_MAJOR EQUAL 6)
+    list(APPEND _qt_components Core5Compat)
+    set(_qt_minimum 6.2)
+else()
+    set(_qt_minimum 5.15)
+endif()
+if(XMLHELPER_BUILD_TESTS)
+    list(APPEND _qt_components Test)
+endif()
+find_package(${_qt} ${_qt_minimum} REQUIRED COMPONENTS ${_qt_components})
+
+set(xmlhelper_qt_core    ${_qt}::Core)
+set(xmlhelper_qt_widgets ${_qt}::Widgets)
+set(xmlhelper_qt_xml     ${_qt}::Xml)
+set(xmlhelper_qt_test    ${_qt}::Test)
+if(XMLHELPER_QT_MAJOR EQUAL 6)
+    list(APPEND xmlhelper_qt_xml ${_qt}::Core5Compat)
+endif()
