@@ -1,0 +1,3 @@
+#include <guibase/undorecordingcontrolbase.h>
+
+UndoRecordingControlBase::~UndoRecordingControlBase() = default;

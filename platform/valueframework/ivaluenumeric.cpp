@@ -1,0 +1,3 @@
+#include <valueframework/ivaluenumeric.h>
+
+IValueNumeric::~IValueNumeric() = default;
