@@ -1,0 +1,16 @@
+#ifndef XMLHELPER_DOCENDEVENT_H
+#define XMLHELPER_DOCENDEVENT_H
+
+#include <xmlhelper/xmlevent.h>
+
+/// A document has ended: the last event of a parse that succeeded, or of a walk. It carries nothing.
+class XMLHELPER_EXPORT DocEndEvent : public XmlEvent
+{
+public:
+    DocEndEvent();
+    DocEndEvent(const DocEndEvent& other);
+    DocEndEvent& operator=(const DocEndEvent& other);
+    ~DocEndEvent() override;
+};
+
+#endif

@@ -1,0 +1,25 @@
+#ifndef XMLHELPER_ELEMENDEVENT_H
+#define XMLHELPER_ELEMENDEVENT_H
+
+#include <QString>
+
+#include <xmlhelper/xmlevent.h>
+
+/// An element has ended. Sent by the reader only.
+class XMLHELPER_EXPORT ElemEndEvent : public XmlEvent
+{
+public:
+    /// @param name  the element's qualified name
+    explicit ElemEndEvent(const QString& name);
+    ElemEndEvent(const ElemEndEvent& other);
+    ElemEndEvent& operator=(const ElemEndEvent& other);
+    ~ElemEndEvent() override;
+
+    /// The element's qualified name.
+    QString GetElementName();
+
+private:
+    QString m_sName;
+};
+
+#endif

@@ -1,0 +1,24 @@
+#ifndef XMLHELPER_ERROREVENT_H
+#define XMLHELPER_ERROREVENT_H
+
+#include <xmlhelper/ixmlhelper.h>
+#include <xmlhelper/xmlevent.h>
+
+/// Something was refused or failed. Carries a number only; the wording lives with the receiver.
+class XMLHELPER_EXPORT ErrorEvent : public XmlEvent
+{
+public:
+    /// @param id  what went wrong
+    explicit ErrorEvent(IXMLHelper::ErrorID id);
+    ErrorEvent(const ErrorEvent& other);
+    ErrorEvent& operator=(const ErrorEvent& other);
+    ~ErrorEvent() override;
+
+    /// What went wrong.
+    IXMLHelper::ErrorID GetErrorID();
+
+private:
+    IXMLHelper::ErrorID m_eErrorID;
+};
+
+#endif
