@@ -4,16 +4,12 @@
 #
 # builds the Qt Test program tst_<name> and registers it with CTest as <name>, to run without a screen. Sanitizers say
 # where a finding comes from; a leak is a failure, unless tests/support/leaks.supp names what made it.
+#
+#   xmlhelper_set_test_environment(<name>)
+#
+# gives a test that was added in another way the same environment.
 
-function(xmlhelper_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
-
-    set(program tst_${name})
-    add_executable(${program} ${arg_SOURCES})
-    set_target_properties(${program} PROPERTIES AUTOMOC ON)
-    xmlhelper_target_defaults(${program})
-    target_link_libraries(${program} PRIVATE ${arg_LIBRARIES} ${xmlhelper_qt_test})
-
+function(xmlhelper_set_test_environment name)
     set(environment QT_QPA_PLATFORM=offscreen)
     if(XMLHELPER_SANITIZE)
         list(APPEND environment UBSAN_OPTIONS=print_stacktrace=1)
@@ -25,6 +21,18 @@ function(xmlhelper_add_test name)
             "LSAN_OPTIONS=suppressions=${suppressions}:print_suppressions=0")
     endif()
 
-    add_test(NAME ${name} COMMAND ${program})
     set_tests_properties(${name} PROPERTIES ENVIRONMENT "${environment}" TIMEOUT 300)
+endfunction()
+
+function(xmlhelper_add_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
+
+    set(program tst_${name})
+    add_executable(${program} ${arg_SOURCES})
+    set_target_properties(${program} PROPERTIES AUTOMOC ON)
+    xmlhelper_target_defaults(${program})
+    target_link_libraries(${program} PRIVATE ${arg_LIBRARIES} ${xmlhelper_qt_test})
+
+    add_test(NAME ${name} COMMAND ${program})
+    xmlhelper_set_test_environment(${name})
 endfunction()

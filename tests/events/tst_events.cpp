@@ -125,8 +125,8 @@ public:
 
 template <class Event>
 constexpr bool isEventClass
-    = std::is_base_of_v<XmlEvent, Event> && std::is_convertible_v<Event*, XmlEvent*> && std::is_polymorphic_v<Event>
-    && std::has_virtual_destructor_v<Event> && std::is_copy_constructible_v<Event> && std::is_copy_assignable_v<Event>;
+    = std::is_base_of_v<XmlEvent, Event>&& std::is_convertible_v<Event*, XmlEvent*>&& std::is_polymorphic_v<Event>&&
+        std::has_virtual_destructor_v<Event>&& std::is_copy_constructible_v<Event>&& std::is_copy_assignable_v<Event>;
 
 QXmlAttributes attributesOf(const QStringList& names)
 {

@@ -8,7 +8,12 @@ class XMLHELPER_EXPORT DocBeginEvent : public XmlEvent
 {
 public:
     DocBeginEvent();
+    /// Copies the kind.
+    /// @param other  copied
     DocBeginEvent(const DocBeginEvent& other);
+    /// Copies the kind.
+    /// @param other  copied
+    /// @return this object
     DocBeginEvent& operator=(const DocBeginEvent& other);
     ~DocBeginEvent() override;
 };

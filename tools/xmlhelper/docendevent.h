@@ -8,7 +8,12 @@ class XMLHELPER_EXPORT DocEndEvent : public XmlEvent
 {
 public:
     DocEndEvent();
+    /// Copies the kind.
+    /// @param other  copied
     DocEndEvent(const DocEndEvent& other);
+    /// Copies the kind.
+    /// @param other  copied
+    /// @return this object
     DocEndEvent& operator=(const DocEndEvent& other);
     ~DocEndEvent() override;
 };

@@ -22,17 +22,22 @@ public:
     /// @param attributes  the element's attributes in the order in which the sender met them
     /// @param text        the element's text, for the senders that know it; an empty one is kept as not null
     ElemBeginEvent(const QDomNode& node, const QString& name, const QXmlAttributes& attributes, const QString& text);
+    /// Copies the kind, the node handle, the name, the attributes and the text.
+    /// @param other  copied
     ElemBeginEvent(const ElemBeginEvent& other);
+    /// Copies the kind, the node handle, the name, the attributes and the text.
+    /// @param other  copied
+    /// @return this object
     ElemBeginEvent& operator=(const ElemBeginEvent& other);
     ~ElemBeginEvent() override;
 
-    /// The element in the sender's document; a null node when there is none.
+    /// @return the element in the sender's document; a null node when there is none
     QDomNode GetElementNode();
-    /// The element's qualified name.
+    /// @return the element's qualified name
     QString GetElementName();
-    /// The element's text; empty when the sender does not report it. Prefer reading the node.
+    /// @return the element's text; empty when the sender does not report it. Prefer reading the node.
     QString GetElementText();
-    /// The element's attributes.
+    /// @return the element's attributes
     QXmlAttributes GetElementAttributes();
 
 private:

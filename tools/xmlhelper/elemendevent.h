@@ -11,11 +11,16 @@ class XMLHELPER_EXPORT ElemEndEvent : public XmlEvent
 public:
     /// @param name  the element's qualified name
     explicit ElemEndEvent(const QString& name);
+    /// Copies the kind and the name.
+    /// @param other  copied
     ElemEndEvent(const ElemEndEvent& other);
+    /// Copies the kind and the name.
+    /// @param other  copied
+    /// @return this object
     ElemEndEvent& operator=(const ElemEndEvent& other);
     ~ElemEndEvent() override;
 
-    /// The element's qualified name.
+    /// @return the element's qualified name
     QString GetElementName();
 
 private:

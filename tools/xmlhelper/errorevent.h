@@ -10,11 +10,16 @@ class XMLHELPER_EXPORT ErrorEvent : public XmlEvent
 public:
     /// @param id  what went wrong
     explicit ErrorEvent(IXMLHelper::ErrorID id);
+    /// Copies the kind and the identifier.
+    /// @param other  copied
     ErrorEvent(const ErrorEvent& other);
+    /// Copies the kind and the identifier.
+    /// @param other  copied
+    /// @return this object
     ErrorEvent& operator=(const ErrorEvent& other);
     ~ErrorEvent() override;
 
-    /// What went wrong.
+    /// @return what went wrong
     IXMLHelper::ErrorID GetErrorID();
 
 private:

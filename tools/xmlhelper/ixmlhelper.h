@@ -41,6 +41,8 @@ public:
     ///
     /// The receiver may call back into the sender. Errors that this causes arrive nested, before the outer call has
     /// returned. An error event does not stop the sender: it abandons the one operation that failed.
+    ///
+    /// @param event  the event, never null; the sender's
     virtual void XmlUpdate(XmlEvent* event) = 0;
 };
 

@@ -24,11 +24,16 @@ public:
 
     /// An event of no kind (EVENT_NONE).
     XmlEvent();
+    /// Copies the kind.
+    /// @param other  copied
     XmlEvent(const XmlEvent& other);
+    /// Copies the kind.
+    /// @param other  copied
+    /// @return this object
     XmlEvent& operator=(const XmlEvent& other);
     virtual ~XmlEvent();
 
-    /// The kind of this event.
+    /// @return the kind of this event
     type GetType();
 
 protected:

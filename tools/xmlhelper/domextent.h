@@ -1,0 +1,19 @@
+#ifndef XMLHELPER_DOMEXTENT_H
+#define XMLHELPER_DOMEXTENT_H
+
+class QDomNode;
+
+/// How much there is of a piece of a document.
+struct DomExtent
+{
+    int elements; ///< how many elements
+    int levels; ///< how deep they are nested
+};
+
+/// The extent of @p node and everything below it. Uses no recursion, so that any document can be measured.
+DomExtent extentOf(const QDomNode& node);
+
+/// How many elements @p node and its ancestors are.
+int levelOf(const QDomNode& node);
+
+#endif
