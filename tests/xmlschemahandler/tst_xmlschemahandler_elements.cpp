@@ -1,0 +1,36 @@
+#include <QtTest>
+
+#include "expectedfile.h"
+#include "schemafixture.h"
+#include "tracecollector.h"
+
+/// What the declarations of elements, global and local, of a schema lay into the skeleton. Each file of data/elements shows one rule;
+/// its skeleton is beside it.
+class TestXmlSchemaHandlerElements : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void laysOut_data();
+    void laysOut();
+};
+
+void TestXmlSchemaHandlerElements::laysOut_data()
+{
+    addRowsForDataFiles(QFINDTESTDATA("data/elements"));
+}
+
+void TestXmlSchemaHandlerElements::laysOut()
+{
+    QFETCH(QString, path);
+    TraceCollector traces;
+    SchemaFixture schema(path + QStringLiteral(".xsd"));
+
+    QVERIFY(schema.ReadFile(path + QStringLiteral(".xsd")));
+    COMPARE_WITH_FILE(schema.Skeleton(), path + QStringLiteral(".skeleton"));
+    QCOMPARE(traces.Messages(), QString());
+    QCOMPARE(schema.Events(), QStringList());
+}
+
+QTEST_GUILESS_MAIN(TestXmlSchemaHandlerElements)
+#include "tst_xmlschemahandler_elements.moc"

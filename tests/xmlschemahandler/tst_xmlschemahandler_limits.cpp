@@ -1,0 +1,361 @@
+#include <QtTest>
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include "schemafixture.h"
+#include "tracecollector.h"
+
+/// What protects the process that reads a schema: each limit refuses with one trace and fails the parse, and nothing
+/// takes longer than seconds, whatever the schema says.
+class TestXmlSchemaHandlerLimits : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void reads512NestedTags();
+    void refusesMoreNestedTags_data();
+    void refusesMoreNestedTags();
+    void countsTheNestingOfEachFile();
+    void survivesDeeplyNestedIncludes();
+    void laysOut512NestedElements_data();
+    void laysOut512NestedElements();
+    void lays500000ElementsOut_data();
+    void lays500000ElementsOut();
+    void refusesSchemasThatGrowWithoutEnd_data();
+    void refusesSchemasThatGrowWithoutEnd();
+    void endsWhenNothingIsLaidOutCountlessTimes_data();
+    void endsWhenNothingIsLaidOutCountlessTimes();
+    void keepsOccursCodesInRange();
+    void failsTheIncludingFilesToo();
+};
+
+namespace {
+
+QString named(const QString& name, const QString& content)
+{
+    return QStringLiteral("<xs:complexType name='%1'>%2</xs:complexType>").arg(name, content);
+}
+
+QString global(const QString& name, const QString& content)
+{
+    return QStringLiteral("<xs:element name='%1'><xs:complexType>%2</xs:complexType></xs:element>").arg(name, content);
+}
+
+QString element(const QString& name, const QString& type, int minOccurs = 1)
+{
+    return QStringLiteral("<xs:element name='%1' type='%2' minOccurs='%3'/>").arg(name, type).arg(minOccurs);
+}
+
+QString reference(const QString& name, int minOccurs = 1)
+{
+    return QStringLiteral("<xs:element ref='%1' minOccurs='%2'/>").arg(name).arg(minOccurs);
+}
+
+/// @p content inside of @p levels tags.
+QString nested(const QString& content, int levels)
+{
+    return QStringLiteral("<xs:sequence>").repeated(levels) + content + QStringLiteral("</xs:sequence>").repeated(levels);
+}
+
+/// Types T0 to T@p last, each of which holds @p content of the one before; in this order or the other way round.
+QString typeChain(int last, const QString& innermost, const QString& content, bool isBackwards = false)
+{
+    QString types;
+    for (int i = 0; i <= last; ++i) {
+        const QString type = named(QStringLiteral("T%1").arg(i), i == 0 ? innermost : content.arg(i - 1));
+        types = isBackwards ? type + types : types + type;
+    }
+    return types;
+}
+
+int elementsOf(const QDomNode& top)
+{
+    int count = top.isElement() ? 1 : 0;
+    for (QDomNode child = top.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        count += elementsOf(child);
+    }
+    return count;
+}
+
+int levelsOf(QDomNode node)
+{
+    int levels = 0;
+    for (QDomElement element = node.firstChildElement(); !element.isNull(); element = element.firstChildElement()) {
+        ++levels;
+    }
+    return levels;
+}
+
+QString nestedTagsTrace()
+{
+    return QStringLiteral("The schema is nested deeper than 512 elements!");
+}
+
+QString nestedElementsTrace()
+{
+    return QStringLiteral("The schema lays out elements nested deeper than 512!");
+}
+
+QString elementsTrace()
+{
+    return QStringLiteral("The schema lays out more than 500000 elements!");
+}
+
+} // namespace
+
+void TestXmlSchemaHandlerLimits::reads512NestedTags()
+{
+    TraceCollector traces;
+    SchemaFixture schema;
+    QVERIFY(schema.Read(nested(QStringLiteral("<xs:element name='root'/>"), 510)));
+    QCOMPARE(schema.Definitions(), QStringLiteral("root 1 0 [root]\n"));
+    QCOMPARE(traces.Messages(), QString());
+}
+
+void TestXmlSchemaHandlerLimits::refusesMoreNestedTags_data()
+{
+    QTest::addColumn<QString>("declarations");
+
+    QTest::newRow("one-level-too-many") << nested(QStringLiteral("<xs:element name='root'/>"), 511);
+    QTest::newRow("very-many-levels") << nested(QString(), 100000);
+    QTest::newRow("facets-count")
+        << QStringLiteral("<xs:simpleType name='S'><xs:restriction base='xs:int'>") + nested(QString(), 510)
+            + QStringLiteral("</xs:restriction></xs:simpleType>");
+    QTest::newRow("tags-without-meaning-count")
+        << QStringLiteral("<a>").repeated(512) + QStringLiteral("</a>").repeated(512);
+}
+
+void TestXmlSchemaHandlerLimits::refusesMoreNestedTags()
+{
+    QFETCH(QString, declarations);
+    TraceCollector traces;
+    SchemaFixture schema;
+    QVERIFY(!schema.Read(declarations));
+    QCOMPARE(traces.Messages(), nestedTagsTrace());
+    QCOMPARE(schema.Events(), QStringList());
+}
+
+void TestXmlSchemaHandlerLimits::countsTheNestingOfEachFile()
+{
+    const QTemporaryDir folder;
+    QFile part(folder.filePath(QStringLiteral("part.xsd")));
+    QVERIFY(part.open(QIODevice::WriteOnly));
+    part.write(schemaOf(nested(QStringLiteral("<xs:element name='root'/>"), 510)).toUtf8());
+    part.close();
+    TraceCollector traces;
+    SchemaFixture schema(folder.filePath(QStringLiteral("main.xsd")));
+    QVERIFY(schema.Read(QStringLiteral("<xs:include schemaLocation='part.xsd'/>")));
+    QCOMPARE(schema.Definitions(), QStringLiteral("root 1 0 [root]\n"));
+    QCOMPARE(traces.Messages(), QString());
+}
+
+void TestXmlSchemaHandlerLimits::survivesDeeplyNestedIncludes()
+{
+    // Each file of the longest chain includes the next one as deep inside as it may.
+    const QTemporaryDir folder;
+    for (int i = 0; i < 64; ++i) {
+        QFile file(folder.filePath(QStringLiteral("file%1.xsd").arg(i)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(schemaOf(nested(QStringLiteral("<xs:include schemaLocation='file%1.xsd'/>").arg(i + 1), 510)).toUtf8());
+    }
+    SchemaFixture schema(folder.filePath(QStringLiteral("file0.xsd")));
+    schema.ReadFile(folder.filePath(QStringLiteral("file0.xsd")));
+}
+
+void TestXmlSchemaHandlerLimits::laysOut512NestedElements_data()
+{
+    QTest::addColumn<QString>("withinLimit"); // %1 stands for a fitting number of types
+    QTest::addColumn<bool>("isBackwards");
+    QTest::addColumn<int>("types");
+    QTest::addColumn<bool>("isAllowed");
+
+    // The root, an element for each type but the innermost, and what the innermost holds.
+    const QString content = QStringLiteral("<xs:element name='e' type='T%1'/>");
+    QTest::newRow("known-types") << content << false << 511 << true;
+    QTest::newRow("known-types-one-level-too-many") << content << false << 512 << false;
+    QTest::newRow("later-types") << content << true << 511 << true;
+    QTest::newRow("later-types-one-level-too-many") << content << true << 512 << false;
+}
+
+void TestXmlSchemaHandlerLimits::laysOut512NestedElements()
+{
+    QFETCH(QString, withinLimit);
+    QFETCH(bool, isBackwards);
+    QFETCH(int, types);
+    QFETCH(bool, isAllowed);
+    const QString chain = typeChain(types - 1, QStringLiteral("<xs:element name='leaf'/>"), withinLimit, isBackwards);
+    const QString root = QStringLiteral("<xs:element name='root' type='T%1'/>").arg(types - 1);
+    TraceCollector traces;
+    SchemaFixture schema;
+    QCOMPARE(schema.Read(isBackwards ? root + chain : chain + root), isAllowed);
+    QCOMPARE(traces.Messages(), isAllowed ? QString() : nestedElementsTrace());
+    if (isAllowed) {
+        QCOMPARE(levelsOf(*schema.Handler().GetDocument()), 512);
+    }
+}
+
+void TestXmlSchemaHandlerLimits::lays500000ElementsOut_data()
+{
+    QTest::addColumn<QString>("declarations"); // %1 stands for a number of copies
+    QTest::addColumn<int>("copies"); // that fit
+
+    const QString unit = QStringLiteral("<xs:element name='unit'/>");
+    const QString copies = QStringLiteral("minOccurs='%1'");
+    QTest::newRow("copies-of-a-built-in-type")
+        << global(QStringLiteral("root"), QStringLiteral("<xs:element name='a' type='xs:int' %1/>").arg(copies))
+        << 499999;
+    QTest::newRow("copies-of-a-known-type")
+        << named(QStringLiteral("Known"), unit)
+            + global(QStringLiteral("root"), QStringLiteral("<xs:element name='a' type='Known' %1/>").arg(copies))
+        << 249999;
+    QTest::newRow("copies-of-a-later-type")
+        << global(QStringLiteral("root"), QStringLiteral("<xs:element name='a' type='Later' %1/>").arg(copies))
+            + named(QStringLiteral("Later"), unit + unit)
+        << 166666;
+    QTest::newRow("known-references")
+        << unit + global(QStringLiteral("root"), QStringLiteral("<xs:element ref='unit' %1/>").arg(copies)) << 499999;
+    QTest::newRow("later-references")
+        << global(QStringLiteral("root"), QStringLiteral("<xs:element ref='unit' %1/>").arg(copies)) + unit << 499999;
+}
+
+void TestXmlSchemaHandlerLimits::lays500000ElementsOut()
+{
+    QFETCH(QString, declarations);
+    QFETCH(int, copies);
+    TraceCollector traces;
+    {
+        SchemaFixture schema;
+        QVERIFY(schema.Read(declarations.arg(copies)));
+        QCOMPARE(traces.Messages(), QString());
+        const int elements = elementsOf(*schema.Handler().GetDocument());
+        QVERIFY(elements <= 500000);
+        QVERIFY(elements > 499990);
+    }
+    SchemaFixture schema;
+    QVERIFY(!schema.Read(declarations.arg(copies + 1)));
+    QCOMPARE(traces.Messages(), elementsTrace());
+}
+
+void TestXmlSchemaHandlerLimits::refusesSchemasThatGrowWithoutEnd_data()
+{
+    QTest::addColumn<QString>("declarations");
+    const QString leaf = QStringLiteral("<xs:element name='leaf'/>");
+    const QString twice
+        = QStringLiteral("<xs:element name='a' type='T%1'/>") + QStringLiteral("<xs:element name='b' type='T%1'/>");
+    const QString deferredRoot = QStringLiteral("<xs:element name='root' type='T40'/>");
+    QString elements = QStringLiteral("<xs:element name='e10'/>");
+    QString laterElements = elements;
+    QString laterTypes = elements;
+    for (int i = 11; i <= 50; ++i) {
+        const QString name = QStringLiteral("e%1").arg(i);
+        const QString previous = QStringLiteral("e%1").arg(i - 1);
+        const QString doubling = global(name, reference(previous, 2));
+        elements += doubling;
+        laterElements.prepend(doubling);
+        // The copies arrive in time, because the name of the element comes before that of its definition.
+        laterTypes.prepend(global(name, element(previous + QLatin1Char('a'), previous, 2)));
+    }
+
+    QTest::newRow("known-types-that-double") << typeChain(40, leaf, twice);
+    QTest::newRow("later-types-that-double") << deferredRoot + typeChain(40, leaf, twice, true);
+    QTest::newRow("known-elements-that-double") << elements;
+    QTest::newRow("later-elements-that-double") << laterElements;
+    QTest::newRow("repeated-elements-of-later-types-that-double") << laterTypes;
+    QTest::newRow("element-that-doubles-itself")
+        << global(QStringLiteral("root"), reference(QStringLiteral("root")).repeated(100));
+    QTest::newRow("type-that-multiplies-itself")
+        << named(QStringLiteral("T"), element(QStringLiteral("a"), QStringLiteral("T"), 100));
+    QTest::newRow("countless-copies") << named(QStringLiteral("T"), element(QStringLiteral("a"), QStringLiteral("xs:int"), 2147483647));
+    QTest::newRow("countless-copies-outside-of-any-definition")
+        << QStringLiteral("<xs:complexType>") + element(QStringLiteral("a"), QStringLiteral("xs:int"), 2147483647)
+            + QStringLiteral("</xs:complexType>");
+    QTest::newRow("countless-copies-of-a-later-type")
+        << QStringLiteral("<xs:element name='root'>%1</xs:element>")
+               .arg(QStringLiteral("<xs:complexType>%1</xs:complexType>")
+                        .arg(element(QStringLiteral("a"), QStringLiteral("Later"), 2147483647)))
+            + named(QStringLiteral("Later"), leaf);
+    QTest::newRow("countless-later-references")
+        << global(QStringLiteral("root"), reference(QStringLiteral("unit"), 2147483647))
+            + QStringLiteral("<xs:element name='unit'/>");
+    // Each definition stays within the limit; what it refers to lands in the last global element all the same.
+    const QString misplaced = reference(QStringLiteral("a"), 200000);
+    QTest::newRow("references-that-land-in-another-definition")
+        << QStringLiteral("<xs:element name='a'/><xs:element name='root'/>") + named(QStringLiteral("T1"), misplaced)
+            + named(QStringLiteral("T2"), misplaced) + named(QStringLiteral("T3"), misplaced);
+    QTest::newRow("later-references-that-land-in-another-definition")
+        << QStringLiteral("<xs:element name='root'/>") + named(QStringLiteral("T1"), misplaced)
+            + named(QStringLiteral("T2"), misplaced) + named(QStringLiteral("T3"), misplaced)
+            + QStringLiteral("<xs:element name='a'/>");
+}
+
+void TestXmlSchemaHandlerLimits::refusesSchemasThatGrowWithoutEnd()
+{
+    QFETCH(QString, declarations);
+    TraceCollector traces;
+    SchemaFixture schema;
+    QVERIFY(!schema.Read(declarations));
+    QCOMPARE(traces.Messages(), elementsTrace());
+    QCOMPARE(schema.Skeleton(), QString());
+}
+
+void TestXmlSchemaHandlerLimits::endsWhenNothingIsLaidOutCountlessTimes_data()
+{
+    QTest::addColumn<QString>("declarations");
+    QTest::addColumn<QString>("definitions");
+    const QString countless = global(QStringLiteral("root"), reference(QStringLiteral("Type"), 2147483647));
+    const QString empty = named(QStringLiteral("Type"), QString());
+    const QString simple
+        = QStringLiteral("<xs:simpleType name='Type'><xs:restriction base='xs:int'/></xs:simpleType>");
+
+    QTest::newRow("known-empty-type") << empty + countless << QStringLiteral("Type 1 0 []\nroot 1 0 [root]\n");
+    QTest::newRow("later-empty-type") << countless + empty << QStringLiteral("Type 1 -1 []\nroot 1 0 [root]\n");
+    QTest::newRow("known-carrier") << simple + countless << QStringLiteral("Type 1 0 [dummy]\nroot 1 0 [root]\n");
+    QTest::newRow("later-carrier") << countless + simple << QStringLiteral("Type 1 -1 [dummy]\nroot 1 0 [root]\n");
+}
+
+void TestXmlSchemaHandlerLimits::endsWhenNothingIsLaidOutCountlessTimes()
+{
+    QFETCH(QString, declarations);
+    QFETCH(QString, definitions);
+    TraceCollector traces;
+    SchemaFixture schema;
+    QVERIFY(schema.Read(declarations));
+    QCOMPARE(schema.Definitions(), definitions);
+    QCOMPARE(traces.Messages(), QString());
+}
+
+void TestXmlSchemaHandlerLimits::keepsOccursCodesInRange()
+{
+    SchemaFixture schema;
+    QVERIFY(schema.Read(named(QStringLiteral("T"),
+                              QStringLiteral("<xs:element name='a' minOccurs='0' maxOccurs='2147483647'/>"
+                                             "<xs:element name='b' minOccurs='0' maxOccurs='-2147483648'/>"))));
+    UnresolvedTypeMap references;
+    OccursMap occurs;
+    TypeDefinitionMap definitions;
+    ChoiceMap choices;
+    QVERIFY(schema.Handler().HandOver(references, occurs, definitions, choices));
+    QVERIFY(occurs[QStringLiteral("a")].begin()->first > 0);
+    QVERIFY(occurs[QStringLiteral("b")].begin()->first < 0);
+}
+
+void TestXmlSchemaHandlerLimits::failsTheIncludingFilesToo()
+{
+    const QTemporaryDir folder;
+    const auto write = [&folder](const QString& name, const QString& declarations) {
+        QFile file(folder.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(schemaOf(declarations).toUtf8());
+    };
+    write(QStringLiteral("part.xsd"), QStringLiteral("<xs:include schemaLocation='deep.xsd'/>"));
+    write(QStringLiteral("deep.xsd"), nested(QString(), 512));
+    TraceCollector traces;
+    SchemaFixture schema(folder.filePath(QStringLiteral("main.xsd")));
+    QVERIFY(!schema.Read(QStringLiteral("<xs:include schemaLocation='part.xsd'/><xs:element name='root'/>")));
+    QCOMPARE(schema.Definitions(), QString());
+    QCOMPARE(traces.Messages(), nestedTagsTrace());
+}
+
+QTEST_GUILESS_MAIN(TestXmlSchemaHandlerLimits)
+#include "tst_xmlschemahandler_limits.moc"
