@@ -1,0 +1,107 @@
+#ifndef XMLHELPER_DOMPARSER_H
+#define XMLHELPER_DOMPARSER_H
+
+#include <list>
+#include <map>
+#include <vector>
+
+#include <QDomDocument>
+#include <QDomElement>
+#include <QString>
+
+#include "schemamodel.h"
+
+class IXMLHelper;
+
+/// Walks the skeleton document of a schema, announces every element to the observer and prunes what the observer left
+/// unfilled although the schema allows it to be missing.
+///
+/// The report builder makes one for each report, gives it the document with SetDocument() and calls Walk() once. While
+/// an element is announced (an ElemBeginEvent is being delivered) the observer fills it through the builder, which
+/// works on GetCurrentElement() and says with ContinueAt() that the element has been dealt with. After an announcement
+/// without such a notice the element is checked:
+///
+/// - an optional element or a choice alternative that has a type is removed;
+/// - an optional container, or a container that is a choice alternative, goes on probation: it is removed when the
+///   first value element met inside is left unfilled, and kept when a notice comes first;
+/// - everything else stays, and MAX_OCCURS_EXCEEDED is sent, as a diagnosis rather than a failure.
+///
+/// Which elements are optional is decided by names, so elements of equal name in different places count as the same.
+///
+/// Observer and document are not owned. Removed nodes stay alive as long as the parser. One made with a null observer
+/// traces it and must not be used.
+class DomParser
+{
+public:
+    /// @param pCallback  the observer, not owned
+    /// @param occurs     copied
+    /// @param choices    copied
+    DomParser(IXMLHelper* pCallback, const OccursMap& occurs, const ChoiceMap& choices);
+
+    /// Takes the document to walk, not owned. Null is refused (false) and changes nothing.
+    bool SetDocument(QDomDocument* document);
+
+    /// Announces the document, its elements and its end. Gives false, and announces nothing, without a document that
+    /// has a root element.
+    bool Walk();
+
+    /// The element announced last, always the same object; null before the first announcement. The element is a null
+    /// one while a node of another kind is announced.
+    QDomElement* GetCurrentElement();
+
+    /// Says where the walk goes on after the announcement: behind @p element, or with @p revisit at @p element itself,
+    /// which is then announced. A pointer to a null element ends the level. Gives false for a null pointer.
+    bool ContinueAt(QDomElement* element, bool revisit);
+
+    /// Lists the nodes called @p name below the first element called @p ownerName, or in the whole document when that
+    /// is empty. The caller deletes the list.
+    std::list<QDomNode>* SearchElements(const QString& name, const QString& ownerName);
+
+    /// Whether @p element is one of those that SearchElements() lists below @p ownerName, found without making the
+    /// list. An empty owner name is nobody's.
+    bool IsBelowOwner(const QString& name, const QString& ownerName, const QDomNode& element);
+
+private:
+    Q_DISABLE_COPY(DomParser)
+
+    /// Where the walk stands among the children of one element.
+    struct Level
+    {
+        QDomNode node;
+        QString text; ///< of the last sibling that had one
+    };
+
+    void visit();
+    void takeText(Level& level, bool isTopLevel);
+    void announce(const QDomNode& node, const QString& text);
+    bool takeNotice();
+    bool checkCurrentElement();
+    bool isOptional();
+    bool isBelowAnyOf(const std::list<QString>& owners);
+    bool isChoiceAlternative() const;
+    void removeProbationElement();
+    void removeCurrentElement();
+    QDomNode remove(const QDomNode& node);
+    QDomElement firstElement(const QString& name);
+    bool isInDocument(const QDomNode& node) const;
+
+    QDomDocument* m_pDocument;
+    QDomNode m_resumeNode; ///< where the walk goes on after a notice or a removal
+    QDomElement m_currentElement;
+    QDomElement m_probationElement; ///< kept only if something inside it is filled; null when there is none
+    IXMLHelper* m_pCallback;
+    OccursMap m_occurs;
+    ChoiceMap m_choices;
+    bool m_bResume; ///< a notice is pending
+    bool m_bRevisit; ///< the notice asks to announce its element
+
+    bool m_bAnnounced; ///< anything has been announced
+    std::vector<Level> m_levels; ///< from the children of the root down to where the walk stands
+
+    /// Keeps alive what was removed: the walk goes on inside a container that was removed from further below, and the
+    /// current element may stay there.
+    std::list<QDomNode> m_removedNodes;
+    std::map<QString, QDomElement> m_firstElements; ///< remembered results of firstElement()
+};
+
+#endif
