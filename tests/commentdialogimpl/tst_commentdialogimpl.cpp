@@ -1,0 +1,793 @@
+#include <QtTest>
+
+#include <memory>
+
+#include <QCloseEvent>
+#include <QDir>
+#include <QDomDocument>
+#include <QFile>
+#include <QGridLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTextEdit>
+#include <QTimer>
+
+#include <xmlhelper/commentdialogimpl.h>
+
+#include "domtext.h"
+#include "fakeclock.h"
+
+namespace {
+
+QString plainReport()
+{
+    return QStringLiteral("<Report><Frequency>98.5</Frequency></Report>");
+}
+
+QDateTime summerMorning()
+{
+    return QDateTime(QDate(2008, 7, 4), QTime(10, 39, 20));
+}
+
+/// A dialog over a document and a file of its own, as the builder of a report makes it.
+class OpenReport
+{
+public:
+    explicit OpenReport(const QString& fileName, const QString& xml = plainReport())
+        : m_fileName(fileName)
+        , m_document(std::make_unique<QDomDocument>(documentOf(xml)))
+        , m_dialog(new CommentDialogImpl)
+    {
+        m_dialog->SetDocument(m_document.get());
+        m_dialog->SetFileName(fileName);
+        m_dialog->ShowReportSummary();
+    }
+    ~OpenReport() { delete m_dialog; }
+
+    CommentDialogImpl& Dialog() { return *m_dialog; }
+    bool IsOpen() const { return m_dialog->isVisible(); }
+    void DeleteDialog() { delete m_dialog; }
+    bool IsDialogDeleted() const { return m_dialog.isNull(); }
+
+    template <class Widget> Widget* Find(const char* objectName) const
+    {
+        return m_dialog->findChild<Widget*>(QLatin1String(objectName));
+    }
+    void Type(const QString& comment) const { QTest::keyClicks(Find<QTextEdit>("m_pTextEdit"), comment); }
+    void Click(const char* button) const { QTest::mouseClick(Find<QPushButton>(button), Qt::LeftButton); }
+
+    bool IsWritten() const { return QFile::exists(m_fileName); }
+    /// The texts of the comments that the file holds.
+    QStringList WrittenComments() const
+    {
+        QStringList comments;
+        const QDomElement root = documentInFile(m_fileName).documentElement();
+        for (QDomElement child = root.firstChildElement(QStringLiteral("Comment")); !child.isNull();
+             child = child.nextSiblingElement(QStringLiteral("Comment"))) {
+            comments.append(child.text());
+        }
+        return comments;
+    }
+
+private:
+    Q_DISABLE_COPY(OpenReport)
+
+    QString m_fileName;
+    std::unique_ptr<QDomDocument> m_document;
+    QPointer<CommentDialogImpl> m_dialog;
+};
+
+/// Answers the next question like an operator who sees it come up, and remembers what was asked.
+class Operator
+{
+public:
+    explicit Operator(QMessageBox::StandardButton answer)
+        : Operator([answer](QMessageBox& question) { QTest::mouseClick(question.button(answer), Qt::LeftButton); })
+    {
+    }
+    template <class Act> explicit Operator(Act act)
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this, act] {
+            if (auto* const question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                m_timer.stop();
+                m_title = question->windowTitle();
+                m_text = question->text();
+                m_buttons = question->standardButtons();
+                m_icon = question->icon();
+                act(*question);
+            }
+        });
+        m_timer.start(0);
+    }
+
+    bool WasAsked() const { return !m_text.isEmpty(); }
+    QString Title() const { return m_title; }
+    QString Text() const { return m_text; }
+    QMessageBox::StandardButtons Buttons() const { return m_buttons; }
+    QMessageBox::Icon Icon() const { return m_icon; }
+
+private:
+    Q_DISABLE_COPY(Operator)
+
+    QTimer m_timer;
+    QString m_title;
+    QString m_text;
+    QMessageBox::StandardButtons m_buttons;
+    QMessageBox::Icon m_icon = QMessageBox::NoIcon;
+};
+
+QByteArray bytesOf(const QString& fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(there is no file)");
+}
+
+} // namespace
+
+class TestCommentDialogImpl : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void isAFreeNonModalWindow();
+    void hasItsSlotsInOrder();
+    void formHoldsLabels_data();
+    void formHoldsLabels();
+    void formHoldsATextEdit();
+    void formHoldsButtons_data();
+    void formHoldsButtons();
+    void formPlacesTheGrid_data();
+    void formPlacesTheGrid();
+    void formStacksGridAboveButtons();
+    void formKeepsTheButtonsRight();
+    void startsWithEmptyValues();
+
+    void showsTheSummary_data();
+    void showsTheSummary();
+    void showsTheTimeInLabelAndTitle();
+    void showsWithoutBlocking();
+
+    void saveWritesTheComment();
+    void saveWritesReadableBytes();
+    void saveKeepsEveryCharacterOfTheComment_data();
+    void saveKeepsEveryCharacterOfTheComment();
+    void saveWithoutATypedCommentEqualsNoComment();
+    void noCommentIgnoresWhatWasTyped();
+    void answersReplaceAnEarlierFile();
+    void answersOpenPathsWithBackSlashes();
+    void answersKeepTheDialogAlive();
+
+    void closeWritesSilentlyWithoutATypedComment();
+    void closeAsksAboutATypedComment_data();
+    void closeAsksAboutATypedComment();
+    void closeAfterSavingDoesNothing_data();
+    void closeAfterSavingDoesNothing();
+    void closeCancelledLeavesTheReportOpen();
+    void closeAcceptsTheEventUnlessCancelled_data();
+    void closeAcceptsTheEventUnlessCancelled();
+    void escapeDoesWhatClosingDoes_data();
+    void escapeDoesWhatClosingDoes();
+
+    void failedWriteIsTriedAgainByALaterClose();
+    void failedWriteLeavesNoCommentBehind_data();
+    void failedWriteLeavesNoCommentBehind();
+    void severalDialogsAnswerForThemselves();
+    void dialogMayBeDeletedWhileItAsks_data();
+    void dialogMayBeDeletedWhileItAsks();
+    void dialogDeletedUnansweredWritesNothing();
+    void showsAndWritesNothingWithoutADocument();
+
+private:
+    QString reportFile(const QString& name = QStringLiteral("report.xml")) const { return m_folder->filePath(name); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void TestCommentDialogImpl::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+}
+
+void TestCommentDialogImpl::isAFreeNonModalWindow()
+{
+    const CommentDialogImpl dialog;
+    QVERIFY(!dialog.parent());
+    QCOMPARE(dialog.windowFlags(), Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
+    QVERIFY(!dialog.isModal());
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("Comment"));
+    QCOMPARE(dialog.objectName(), QStringLiteral("ToReportCommentDialog"));
+    QCOMPARE(dialog.size(), QSize(392, 300));
+    QCOMPARE(dialog.minimumSize(), QSize(90, 0));
+    QVERIFY(dialog.isSizeGripEnabled());
+    QVERIFY(!dialog.isVisible());
+}
+
+void TestCommentDialogImpl::hasItsSlotsInOrder()
+{
+    const QMetaObject& meta = CommentDialogImpl::staticMetaObject;
+    QCOMPARE(meta.method(meta.methodOffset()).methodSignature(), QByteArray("SlotSaveWithComment()"));
+    QCOMPARE(meta.method(meta.methodOffset() + 1).methodSignature(), QByteArray("SlotSaveWithoutComment()"));
+    QCOMPARE(meta.methodCount(), meta.methodOffset() + 2);
+}
+
+void TestCommentDialogImpl::formHoldsLabels_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("minimumWidth");
+    QTest::addColumn<bool>("isFramed");
+
+    QTest::newRow("m_pTimeTextLabel") << QStringLiteral("Time:") << 0 << false;
+    QTest::newRow("m_pTimeLabel") << QStringLiteral("2008/07/04 10:39:20") << 130 << true;
+    QTest::newRow("m_pFreqTextLabel") << QStringLiteral("Frequency:") << 0 << false;
+    QTest::newRow("m_pFrequencyLabel") << QStringLiteral("98.5 MHz") << 90 << true;
+    QTest::newRow("m_pBandwidthTextLabel") << QStringLiteral("Bandwidth:") << 0 << false;
+    QTest::newRow("m_pBandwidthLabel") << QStringLiteral("150 kHz") << 90 << true;
+    QTest::newRow("m_pLevelTextLabel") << QStringLiteral("Level:") << 0 << false;
+    QTest::newRow("m_pLevelLabel") << QStringLiteral("17 dB\u00B5V") << 130 << true;
+    QTest::newRow("m_pAzimuthTextLabel") << QStringLiteral("Azimuth:") << 0 << false;
+    QTest::newRow("m_pAzimuthLabel") << QStringLiteral("235,1\u00B0") << 90 << true;
+    QTest::newRow("m_pCommentTextLabel") << QStringLiteral("Comment:") << 0 << false;
+}
+
+void TestCommentDialogImpl::formHoldsLabels()
+{
+    QFETCH(QString, text);
+    QFETCH(int, minimumWidth);
+    QFETCH(bool, isFramed);
+    CommentDialogImpl dialog;
+    dialog.retranslateUi(&dialog); // Puts the texts back that the form is designed with.
+
+    const auto* const label = dialog.findChild<QLabel*>(QLatin1String(QTest::currentDataTag()));
+    QVERIFY(label);
+    QCOMPARE(label->text(), text);
+    QCOMPARE(label->minimumSize(), QSize(minimumWidth, 0));
+    QVERIFY(!label->wordWrap());
+    QCOMPARE(label->frameShape(), isFramed ? QFrame::WinPanel : QFrame::NoFrame);
+    if (isFramed) {
+        QCOMPARE(label->frameShadow(), QFrame::Sunken);
+    }
+}
+
+void TestCommentDialogImpl::formHoldsATextEdit()
+{
+    const CommentDialogImpl dialog;
+    const auto* const edit = dialog.findChild<QTextEdit*>(QStringLiteral("m_pTextEdit"));
+    QVERIFY(edit);
+    QVERIFY(edit->tabChangesFocus());
+    QCOMPARE(edit->toPlainText(), QString());
+    QVERIFY(!edit->isReadOnly());
+}
+
+void TestCommentDialogImpl::formHoldsButtons_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("m_pSaveButton") << QStringLiteral("Save");
+    QTest::newRow("m_pNoCommentButton") << QStringLiteral("No Comment");
+}
+
+void TestCommentDialogImpl::formHoldsButtons()
+{
+    QFETCH(QString, text);
+    const CommentDialogImpl dialog;
+    const auto* const button = dialog.findChild<QPushButton*>(QLatin1String(QTest::currentDataTag()));
+    QVERIFY(button);
+    QCOMPARE(button->text(), text);
+}
+
+void TestCommentDialogImpl::formPlacesTheGrid_data()
+{
+    QTest::addColumn<QRect>("cell"); // column, row, columns, rows
+
+    QTest::newRow("m_pFreqTextLabel") << QRect(0, 0, 1, 1);
+    QTest::newRow("m_pFrequencyLabel") << QRect(1, 0, 1, 1);
+    QTest::newRow("m_pLevelTextLabel") << QRect(2, 0, 1, 1);
+    QTest::newRow("m_pLevelLabel") << QRect(3, 0, 1, 1);
+    QTest::newRow("m_pBandwidthTextLabel") << QRect(0, 1, 1, 1);
+    QTest::newRow("m_pBandwidthLabel") << QRect(1, 1, 1, 1);
+    QTest::newRow("m_pTimeTextLabel") << QRect(2, 1, 1, 1);
+    QTest::newRow("m_pTimeLabel") << QRect(3, 1, 1, 1);
+    QTest::newRow("m_pAzimuthTextLabel") << QRect(0, 2, 1, 1);
+    QTest::newRow("m_pAzimuthLabel") << QRect(1, 2, 1, 1);
+    QTest::newRow("(spacer)") << QRect(2, 2, 2, 1);
+    QTest::newRow("m_pCommentTextLabel") << QRect(0, 3, 1, 1);
+    QTest::newRow("m_pTextEdit") << QRect(0, 4, 4, 1);
+}
+
+void TestCommentDialogImpl::formPlacesTheGrid()
+{
+    QFETCH(QRect, cell);
+    const CommentDialogImpl dialog;
+    const auto* const grid = dialog.findChild<QGridLayout*>(QStringLiteral("gridLayout"));
+    QVERIFY(grid);
+    QCOMPARE(grid->horizontalSpacing(), 6);
+    QCOMPARE(grid->verticalSpacing(), 6);
+    QCOMPARE(grid->count(), 13);
+
+    QLayoutItem* const item = grid->itemAtPosition(cell.y(), cell.x());
+    QVERIFY(item);
+    int row = 0;
+    int column = 0;
+    int rows = 0;
+    int columns = 0;
+    grid->getItemPosition(grid->indexOf(item), &row, &column, &rows, &columns);
+    QCOMPARE(QRect(column, row, columns, rows), cell);
+    if (item->widget()) {
+        QCOMPARE(item->widget()->objectName(), QLatin1String(QTest::currentDataTag()));
+    } else {
+        QVERIFY(item->spacerItem());
+        QCOMPARE(item->sizeHint(), QSize(171, 20));
+        QCOMPARE(item->spacerItem()->sizePolicy(), QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum));
+    }
+}
+
+void TestCommentDialogImpl::formStacksGridAboveButtons()
+{
+    const CommentDialogImpl dialog;
+    const auto* const stack = qobject_cast<QVBoxLayout*>(dialog.layout());
+    QVERIFY(stack);
+    QCOMPARE(stack->objectName(), QStringLiteral("vboxLayout"));
+    QCOMPARE(stack->spacing(), 6);
+    QCOMPARE(stack->contentsMargins(), QMargins(11, 11, 11, 11));
+    QCOMPARE(stack->count(), 2);
+    QCOMPARE(stack->itemAt(0)->layout()->objectName(), QStringLiteral("gridLayout"));
+    QCOMPARE(stack->itemAt(1)->layout()->objectName(), QStringLiteral("hboxLayout"));
+}
+
+void TestCommentDialogImpl::formKeepsTheButtonsRight()
+{
+    const CommentDialogImpl dialog;
+    const auto* const row = dialog.findChild<QHBoxLayout*>(QStringLiteral("hboxLayout"));
+    QVERIFY(row);
+    QCOMPARE(row->spacing(), 6);
+    QCOMPARE(row->count(), 3);
+    QSpacerItem* const spacer = row->itemAt(0)->spacerItem();
+    QVERIFY(spacer);
+    QCOMPARE(spacer->sizeHint(), QSize(150, 20));
+    QCOMPARE(spacer->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+    QCOMPARE(row->itemAt(1)->widget()->objectName(), QStringLiteral("m_pSaveButton"));
+    QCOMPARE(row->itemAt(2)->widget()->objectName(), QStringLiteral("m_pNoCommentButton"));
+}
+
+void TestCommentDialogImpl::startsWithEmptyValues()
+{
+    const CommentDialogImpl dialog;
+    for (const char* const name :
+         {"m_pTimeLabel", "m_pFrequencyLabel", "m_pBandwidthLabel", "m_pLevelLabel", "m_pAzimuthLabel"}) {
+        QCOMPARE(dialog.findChild<QLabel*>(QLatin1String(name))->text(), QString());
+    }
+}
+
+void TestCommentDialogImpl::showsTheSummary_data()
+{
+    QTest::addColumn<QString>("xml");
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("text");
+
+    const QString frequency = QStringLiteral("m_pFrequencyLabel");
+    const QString bandwidth = QStringLiteral("m_pBandwidthLabel");
+    const QString level = QStringLiteral("m_pLevelLabel");
+    const QString azimuth = QStringLiteral("m_pAzimuthLabel");
+    const QString none = QStringLiteral("---");
+
+    QTest::newRow("frequency-is-followed-by-its-unit")
+        << QStringLiteral("<R><Frequency Unit='MHz'>98.5</Frequency></R>") << frequency << QStringLiteral("98.5 MHz");
+    QTest::newRow("frequency-without-unit-stands-alone")
+        << QStringLiteral("<R><Frequency>98500000</Frequency></R>") << frequency << QStringLiteral("98500000");
+    QTest::newRow("empty-unit-of-the-frequency-is-no-unit")
+        << QStringLiteral("<R><Frequency Unit=''>98.5</Frequency></R>") << frequency << QStringLiteral("98.5");
+    QTest::newRow("first-frequency-counts")
+        << QStringLiteral("<R><Frequency>1</Frequency><Frequency Unit='Hz'>2</Frequency></R>") << frequency
+        << QStringLiteral("1");
+    QTest::newRow("frequency-is-found-anywhere")
+        << QStringLiteral("<R><a><b><Frequency Unit='Hz'>1</Frequency></b></a><Frequency>2</Frequency></R>")
+        << frequency << QStringLiteral("1 Hz");
+    QTest::newRow("frequency-name-is-case-sensitive")
+        << QStringLiteral("<R><frequency>1</frequency></R>") << frequency << none;
+    QTest::newRow("no-frequency") << QStringLiteral("<R/>") << frequency << none;
+
+    QTest::newRow("bandwidth-is-followed-by-its-unit")
+        << QStringLiteral("<R><Bandwidth Unit='kHz'>150</Bandwidth></R>") << bandwidth << QStringLiteral("150 kHz");
+    QTest::newRow("bandwidth-without-unit-stands-alone")
+        << QStringLiteral("<R><Bandwidth>150</Bandwidth></R>") << bandwidth << QStringLiteral("150");
+    QTest::newRow("no-bandwidth") << QStringLiteral("<R><Frequency>1</Frequency></R>") << bandwidth << none;
+
+    QTest::newRow("level-is-shown-without-its-unit")
+        << QStringLiteral("<R><Level Unit='dBm'>17</Level></R>") << level << QStringLiteral("17");
+    QTest::newRow("signal-level-stands-in-for-the-level")
+        << QStringLiteral("<R><Signal_Level Unit='dBm'>18</Signal_Level></R>") << level << QStringLiteral("18");
+    QTest::newRow("level-wins-over-an-earlier-signal-level")
+        << QStringLiteral("<R><Signal_Level>18</Signal_Level><Level>17</Level></R>") << level << QStringLiteral("17");
+    QTest::newRow("empty-level-still-wins")
+        << QStringLiteral("<R><Signal_Level>18</Signal_Level><Level/></R>") << level << QString();
+    QTest::newRow("no-level") << QStringLiteral("<R/>") << level << none;
+
+    QTest::newRow("azimuth-is-followed-by-a-degree-sign")
+        << QStringLiteral("<R><Azimuth Unit='rad'>235.1</Azimuth></R>") << azimuth << QStringLiteral("235.1 \u00B0");
+    QTest::newRow("df-azimuth-stands-in-for-the-azimuth")
+        << QStringLiteral("<R><DFAzimuth>12</DFAzimuth></R>") << azimuth << QStringLiteral("12 \u00B0");
+    QTest::newRow("azimuth-wins-over-an-earlier-df-azimuth")
+        << QStringLiteral("<R><DFAzimuth>12</DFAzimuth><Azimuth>235.1</Azimuth></R>") << azimuth
+        << QStringLiteral("235.1 \u00B0");
+    QTest::newRow("no-azimuth") << QStringLiteral("<R/>") << azimuth << none;
+}
+
+void TestCommentDialogImpl::showsTheSummary()
+{
+    QFETCH(QString, xml);
+    QFETCH(QString, label);
+    QFETCH(QString, text);
+    const OpenReport report(reportFile(), xml);
+    QCOMPARE(report.Find<QLabel>(qPrintable(label))->text(), text);
+}
+
+void TestCommentDialogImpl::showsTheTimeInLabelAndTitle()
+{
+    const FakeClock clock(summerMorning());
+    OpenReport report(reportFile());
+    QCOMPARE(report.Find<QLabel>("m_pTimeLabel")->text(), QStringLiteral("2008/07/04 10:39:20"));
+    QCOMPARE(report.Dialog().windowTitle(), QStringLiteral("ToReport - 2008/07/04 10:39:20"));
+}
+
+void TestCommentDialogImpl::showsWithoutBlocking()
+{
+    const OpenReport report(reportFile());
+    QVERIFY(report.IsOpen());
+    QVERIFY(!QApplication::activeModalWidget());
+    QVERIFY(!report.IsWritten());
+}
+
+void TestCommentDialogImpl::saveWritesTheComment()
+{
+    const OpenReport report(reportFile(), QStringLiteral("<R><Level>1</Level><Azimuth>2</Azimuth></R>"));
+    report.Type(QStringLiteral("Strong fading"));
+    report.Click("m_pSaveButton");
+
+    QVERIFY(!report.IsOpen());
+    QCOMPARE(domText(documentInFile(reportFile()).documentElement()),
+             QStringLiteral("<R>\n  <Level>\n    \"1\"\n  </Level>\n  <Azimuth>\n    \"2\"\n  </Azimuth>\n"
+                            "  <Comment>\n    \"Strong fading\"\n  </Comment>\n</R>\n"));
+}
+
+void TestCommentDialogImpl::saveWritesReadableBytes()
+{
+    const OpenReport report(reportFile(),
+                            QStringLiteral("<?xml version='1.0' encoding=\"UTF-8\"?><R><Site>M\u00FCnchen</Site></R>"));
+    report.Type(QStringLiteral("17 dB\u00B5V"));
+    report.Click("m_pSaveButton");
+
+    QCOMPARE(bytesOf(reportFile()),
+             QStringLiteral("<?xml version='1.0' encoding='UTF-8'?>\n"
+                            "<R>\n"
+                            "    <Site>M\u00FCnchen</Site>\n"
+                            "    <Comment>17 dB\u00B5V</Comment>\n"
+                            "</R>\n")
+                 .toUtf8());
+}
+
+void TestCommentDialogImpl::saveKeepsEveryCharacterOfTheComment_data()
+{
+    QTest::addColumn<QString>("comment");
+    QTest::newRow("markup") << QStringLiteral("<b>a & b</b> ]]> \"'");
+    QTest::newRow("several-lines") << QStringLiteral("first\nsecond\n\nlast");
+    QTest::newRow("blanks-at-both-ends") << QStringLiteral("  fading  ");
+    QTest::newRow("characters-beyond-ascii") << QStringLiteral("\u00B0\u00B5\u20AC\u0416\u6F22");
+}
+
+void TestCommentDialogImpl::saveKeepsEveryCharacterOfTheComment()
+{
+    QFETCH(QString, comment);
+    const OpenReport report(reportFile());
+    report.Find<QTextEdit>("m_pTextEdit")->setPlainText(comment);
+    report.Click("m_pSaveButton");
+    QCOMPARE(report.WrittenComments(), QStringList(comment));
+}
+
+void TestCommentDialogImpl::saveWithoutATypedCommentEqualsNoComment()
+{
+    const OpenReport saved(reportFile(QStringLiteral("saved.xml")));
+    saved.Click("m_pSaveButton");
+    QVERIFY(!saved.IsOpen());
+    const OpenReport uncommented(reportFile(QStringLiteral("uncommented.xml")));
+    uncommented.Click("m_pNoCommentButton");
+    QVERIFY(!uncommented.IsOpen());
+
+    QCOMPARE(bytesOf(reportFile(QStringLiteral("saved.xml"))),
+             QByteArray("<Report>\n    <Frequency>98.5</Frequency>\n</Report>\n"));
+    QCOMPARE(bytesOf(reportFile(QStringLiteral("uncommented.xml"))), bytesOf(reportFile(QStringLiteral("saved.xml"))));
+}
+
+void TestCommentDialogImpl::noCommentIgnoresWhatWasTyped()
+{
+    const OpenReport report(reportFile());
+    report.Type(QStringLiteral("never mind"));
+    report.Click("m_pNoCommentButton");
+    QVERIFY(!report.IsOpen());
+    QVERIFY(report.IsWritten());
+    QCOMPARE(report.WrittenComments(), QStringList());
+}
+
+void TestCommentDialogImpl::answersReplaceAnEarlierFile()
+{
+    QFile earlier(reportFile());
+    QVERIFY(earlier.open(QIODevice::WriteOnly));
+    earlier.write(QByteArray(1000, 'x'));
+    earlier.close();
+
+    const OpenReport report(reportFile());
+    report.Click("m_pNoCommentButton");
+    QCOMPARE(bytesOf(reportFile()), QByteArray("<Report>\n    <Frequency>98.5</Frequency>\n</Report>\n"));
+}
+
+void TestCommentDialogImpl::answersOpenPathsWithBackSlashes()
+{
+    QString path = reportFile();
+    const OpenReport report(path.replace(QLatin1Char('/'), QLatin1Char('\\')));
+    report.Click("m_pSaveButton");
+    QVERIFY(QFile::exists(reportFile()));
+}
+
+void TestCommentDialogImpl::answersKeepTheDialogAlive()
+{
+    OpenReport report(reportFile());
+    report.Dialog().close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!report.IsDialogDeleted());
+}
+
+void TestCommentDialogImpl::closeWritesSilentlyWithoutATypedComment()
+{
+    OpenReport report(reportFile());
+    const Operator asked(QMessageBox::Cancel);
+    QVERIFY(report.Dialog().close());
+    QVERIFY(!asked.WasAsked());
+    QVERIFY(!report.IsOpen());
+    QCOMPARE(bytesOf(reportFile()), QByteArray("<Report>\n    <Frequency>98.5</Frequency>\n</Report>\n"));
+}
+
+void TestCommentDialogImpl::closeAsksAboutATypedComment_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<bool>("isWritten");
+    QTest::addColumn<QStringList>("comments");
+
+    QTest::newRow("yes-writes-the-comment")
+        << int(QMessageBox::Yes) << true << QStringList(QStringLiteral("Strong fading"));
+    QTest::newRow("no-writes-without-the-comment") << int(QMessageBox::No) << true << QStringList();
+    QTest::newRow("cancel-closes-and-writes-nothing") << int(QMessageBox::Cancel) << false << QStringList();
+}
+
+void TestCommentDialogImpl::closeAsksAboutATypedComment()
+{
+    QFETCH(int, answer);
+    QFETCH(bool, isWritten);
+    QFETCH(QStringList, comments);
+    OpenReport report(reportFile());
+    report.Type(QStringLiteral("Strong fading"));
+    const Operator asked(static_cast<QMessageBox::StandardButton>(answer));
+
+    QVERIFY(report.Dialog().close());
+    QVERIFY(asked.WasAsked());
+    QCOMPARE(asked.Title(), QStringLiteral("Warning"));
+    QCOMPARE(asked.Text(), QStringLiteral("You have enterd a comment. Would you like to save it?"));
+    QCOMPARE(asked.Buttons(), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    QCOMPARE(asked.Icon(), QMessageBox::Warning);
+    QVERIFY(!report.IsOpen());
+    QCOMPARE(report.IsWritten(), isWritten);
+    QCOMPARE(report.WrittenComments(), comments);
+}
+
+void TestCommentDialogImpl::closeAfterSavingDoesNothing_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::newRow("after-save") << QByteArray("m_pSaveButton");
+    QTest::newRow("after-no-comment") << QByteArray("m_pNoCommentButton");
+}
+
+void TestCommentDialogImpl::closeAfterSavingDoesNothing()
+{
+    QFETCH(QByteArray, button);
+    OpenReport report(reportFile());
+    report.Type(QStringLiteral("Strong fading"));
+    report.Click(button.constData());
+    QVERIFY(QFile::remove(reportFile()));
+
+    report.Dialog().show();
+    const Operator asked(QMessageBox::Yes);
+    QVERIFY(report.Dialog().close());
+    QVERIFY(!asked.WasAsked());
+    QVERIFY(!report.IsOpen());
+    QVERIFY(!report.IsWritten());
+}
+
+void TestCommentDialogImpl::closeCancelledLeavesTheReportOpen()
+{
+    OpenReport report(reportFile());
+    report.Type(QStringLiteral("Strong fading"));
+    {
+        const Operator cancels(QMessageBox::Cancel);
+        report.Dialog().close();
+        QVERIFY(cancels.WasAsked());
+    }
+    report.Dialog().show();
+    const Operator agrees(QMessageBox::Yes);
+    report.Dialog().close();
+    QVERIFY(agrees.WasAsked());
+    QCOMPARE(report.WrittenComments(), QStringList(QStringLiteral("Strong fading")));
+}
+
+void TestCommentDialogImpl::closeAcceptsTheEventUnlessCancelled_data()
+{
+    QTest::addColumn<QString>("comment");
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<bool>("isAccepted");
+
+    const QString comment = QStringLiteral("fading");
+    QTest::newRow("silent-write-accepts") << QString() << int(QMessageBox::NoButton) << true;
+    QTest::newRow("yes-accepts") << comment << int(QMessageBox::Yes) << true;
+    QTest::newRow("no-accepts") << comment << int(QMessageBox::No) << true;
+    QTest::newRow("cancel-leaves-the-event-as-it-arrived") << comment << int(QMessageBox::Cancel) << false;
+}
+
+void TestCommentDialogImpl::closeAcceptsTheEventUnlessCancelled()
+{
+    QFETCH(QString, comment);
+    QFETCH(int, answer);
+    QFETCH(bool, isAccepted);
+    OpenReport report(reportFile());
+    report.Type(comment);
+    const Operator asked(static_cast<QMessageBox::StandardButton>(answer));
+
+    QCloseEvent event;
+    event.ignore();
+    QCoreApplication::sendEvent(&report.Dialog(), &event);
+    QCOMPARE(event.isAccepted(), isAccepted);
+}
+
+void TestCommentDialogImpl::escapeDoesWhatClosingDoes_data()
+{
+    QTest::addColumn<QString>("comment");
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<bool>("isWritten");
+    QTest::addColumn<QStringList>("comments");
+
+    const QString fading = QStringLiteral("fading");
+    QTest::newRow("without-comment-writes-silently")
+        << QString() << int(QMessageBox::NoButton) << true << QStringList();
+    QTest::newRow("answered-yes-writes-the-comment") << fading << int(QMessageBox::Yes) << true << QStringList(fading);
+    QTest::newRow("answered-no-writes-without-the-comment") << fading << int(QMessageBox::No) << true << QStringList();
+    QTest::newRow("answered-cancel-writes-nothing") << fading << int(QMessageBox::Cancel) << false << QStringList();
+}
+
+void TestCommentDialogImpl::escapeDoesWhatClosingDoes()
+{
+    QFETCH(QString, comment);
+    QFETCH(int, answer);
+    QFETCH(bool, isWritten);
+    QFETCH(QStringList, comments);
+    const OpenReport report(reportFile());
+    report.Type(comment);
+    const Operator asked(static_cast<QMessageBox::StandardButton>(answer));
+
+    QTest::keyClick(report.Find<QTextEdit>("m_pTextEdit"), Qt::Key_Escape);
+    QCOMPARE(asked.WasAsked(), !comment.isEmpty());
+    QVERIFY(!report.IsOpen());
+    QCOMPARE(report.IsWritten(), isWritten);
+    QCOMPARE(report.WrittenComments(), comments);
+}
+
+void TestCommentDialogImpl::failedWriteIsTriedAgainByALaterClose()
+{
+    OpenReport report(reportFile(QStringLiteral("missing/report.xml")));
+    const Operator asked(QMessageBox::Cancel);
+    report.Click("m_pSaveButton");
+    QVERIFY(!report.IsOpen());
+    QVERIFY(!report.IsWritten());
+    QVERIFY(report.Dialog().close());
+    QVERIFY(!report.IsWritten());
+
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("missing")));
+    QVERIFY(report.Dialog().close());
+    QVERIFY(report.IsWritten());
+    QVERIFY(!asked.WasAsked());
+}
+
+void TestCommentDialogImpl::failedWriteLeavesNoCommentBehind_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QStringList>("comments");
+
+    QTest::newRow("yes-writes-the-comment-once") << int(QMessageBox::Yes) << QStringList(QStringLiteral("fading"));
+    QTest::newRow("no-writes-without-the-comment") << int(QMessageBox::No) << QStringList();
+}
+
+void TestCommentDialogImpl::failedWriteLeavesNoCommentBehind()
+{
+    QFETCH(int, answer);
+    QFETCH(QStringList, comments);
+    OpenReport report(reportFile(QStringLiteral("missing/report.xml")));
+    report.Type(QStringLiteral("fading"));
+    report.Click("m_pSaveButton");
+    QVERIFY(!report.IsWritten());
+
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("missing")));
+    const Operator asked(static_cast<QMessageBox::StandardButton>(answer));
+    QVERIFY(report.Dialog().close());
+    QVERIFY(asked.WasAsked());
+    QVERIFY(report.IsWritten());
+    QCOMPARE(report.WrittenComments(), comments);
+}
+
+void TestCommentDialogImpl::severalDialogsAnswerForThemselves()
+{
+    const OpenReport first(reportFile(QStringLiteral("first.xml")), QStringLiteral("<R><Level>1</Level></R>"));
+    OpenReport second(reportFile(QStringLiteral("second.xml")), QStringLiteral("<R><Level>2</Level></R>"));
+    const OpenReport third(reportFile(QStringLiteral("third.xml")), QStringLiteral("<R><Level>3</Level></R>"));
+    QVERIFY(first.IsOpen() && second.IsOpen() && third.IsOpen());
+    first.Type(QStringLiteral("one"));
+    second.Type(QStringLiteral("two"));
+
+    third.Click("m_pNoCommentButton");
+    const Operator agrees(QMessageBox::Yes);
+    second.Dialog().close();
+    QVERIFY(agrees.WasAsked());
+    QVERIFY(first.IsOpen());
+    QVERIFY(!first.IsWritten());
+    QCOMPARE(second.WrittenComments(), QStringList(QStringLiteral("two")));
+    QCOMPARE(third.WrittenComments(), QStringList());
+    first.Click("m_pSaveButton");
+    QCOMPARE(first.WrittenComments(), QStringList(QStringLiteral("one")));
+    QCOMPARE(second.Find<QLabel>("m_pLevelLabel")->text(), QStringLiteral("2"));
+}
+
+void TestCommentDialogImpl::dialogMayBeDeletedWhileItAsks_data()
+{
+    QTest::addColumn<bool>("byEscape");
+    QTest::newRow("closed") << false;
+    QTest::newRow("left-by-escape") << true;
+}
+
+void TestCommentDialogImpl::dialogMayBeDeletedWhileItAsks()
+{
+    QFETCH(bool, byEscape);
+    OpenReport report(reportFile());
+    report.Type(QStringLiteral("fading"));
+    const Operator asked([&report](QMessageBox&) { report.DeleteDialog(); });
+    if (byEscape) {
+        QTest::keyClick(report.Find<QTextEdit>("m_pTextEdit"), Qt::Key_Escape);
+    } else {
+        report.Dialog().close();
+    }
+    QVERIFY(asked.WasAsked());
+    QVERIFY(report.IsDialogDeleted());
+    QVERIFY(!report.IsWritten());
+    QVERIFY(!QApplication::activeModalWidget());
+}
+
+void TestCommentDialogImpl::dialogDeletedUnansweredWritesNothing()
+{
+    OpenReport report(reportFile());
+    report.DeleteDialog();
+    QVERIFY(!report.IsWritten());
+}
+
+void TestCommentDialogImpl::showsAndWritesNothingWithoutADocument()
+{
+    CommentDialogImpl dialog;
+    dialog.SetFileName(reportFile());
+    dialog.ShowReportSummary();
+    QCOMPARE(dialog.findChild<QLabel*>(QStringLiteral("m_pFrequencyLabel"))->text(), QStringLiteral("---"));
+    QCOMPARE(dialog.findChild<QLabel*>(QStringLiteral("m_pAzimuthLabel"))->text(), QStringLiteral("---"));
+    QTest::keyClicks(dialog.findChild<QTextEdit*>(QStringLiteral("m_pTextEdit")), QStringLiteral("fading"));
+    QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("m_pSaveButton")), Qt::LeftButton);
+    QVERIFY(!dialog.isVisible());
+    QVERIFY(!QFile::exists(reportFile()));
+}
+
+QTEST_MAIN(TestCommentDialogImpl)
+#include "tst_commentdialogimpl.moc"

@@ -1,0 +1,161 @@
+#include "commentdialogimpl.h"
+
+#include <QCloseEvent>
+#include <QDomDocument>
+#include <QMessageBox>
+#include <QPointer>
+
+#include <arbase/vorndatetime.h>
+#include <arbase/vornos.h>
+
+#include "documentfile.h"
+
+namespace {
+
+const QLatin1String NoValue("---");
+
+/// Asks above @p window. The question lives on the heap because the window may be deleted while it is open, which
+/// counts as Cancel; QMessageBox::warning() keeps it on the stack, where its parent must not delete it.
+QMessageBox::StandardButton ask(QWidget* window, const QString& title, const QString& text)
+{
+    const QPointer<QMessageBox> question(new QMessageBox(
+        QMessageBox::Warning, title, text, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, window));
+    question->exec();
+    if (!question) {
+        return QMessageBox::Cancel;
+    }
+    const QMessageBox::StandardButton answer = question->standardButton(question->clickedButton());
+    delete question;
+    return answer;
+}
+
+} // namespace
+
+CommentDialogImpl::CommentDialogImpl()
+    : QDialog(nullptr, Qt::WindowTitleHint | Qt::WindowSystemMenuHint)
+    , m_pDocument(nullptr)
+    , m_bSaved(false)
+{
+    setupUi(this);
+    setWindowTitle(tr("Comment"));
+    setModal(false);
+    setObjectName(QStringLiteral("ToReportCommentDialog"));
+    for (QLabel* label : {m_pTimeLabel, m_pFrequencyLabel, m_pBandwidthLabel, m_pLevelLabel, m_pAzimuthLabel}) {
+        label->clear();
+    }
+}
+
+void CommentDialogImpl::SetDocument(QDomDocument* document)
+{
+    m_pDocument = document;
+}
+
+void CommentDialogImpl::SetFileName(QString fileName)
+{
+    m_sFileName = fileName;
+}
+
+void CommentDialogImpl::ShowReportSummary()
+{
+    const Vorn::DateTime now(VornOS::Create()->GetCurrentTime());
+    const QString time = now.toString(QStringLiteral("yyyy/MM/dd hh:mm:ss"));
+    m_pTimeLabel->setText(time);
+    setWindowTitle(QStringLiteral("ToReport - ") + time);
+
+    m_pFrequencyLabel->setText(textWithUnit(QStringLiteral("Frequency")));
+    m_pBandwidthLabel->setText(textWithUnit(QStringLiteral("Bandwidth")));
+    const QDomElement level = firstElement(QStringLiteral("Level"), QStringLiteral("Signal_Level"));
+    m_pLevelLabel->setText(level.isNull() ? QString(NoValue) : level.text());
+    const QDomElement azimuth = firstElement(QStringLiteral("Azimuth"), QStringLiteral("DFAzimuth"));
+    m_pAzimuthLabel->setText(azimuth.isNull() ? QString(NoValue) : azimuth.text() + QStringLiteral(" °"));
+    show();
+}
+
+void CommentDialogImpl::reject()
+{
+    close();
+}
+
+void CommentDialogImpl::SlotSaveWithComment()
+{
+    removeComment();
+    const QString comment = m_pTextEdit->toPlainText();
+    if (!comment.isEmpty()) {
+        appendComment(comment);
+    }
+    WriteReportFile();
+    hide();
+}
+
+void CommentDialogImpl::SlotSaveWithoutComment()
+{
+    removeComment();
+    WriteReportFile();
+    hide();
+}
+
+void CommentDialogImpl::closeEvent(QCloseEvent* event)
+{
+    if (!m_bSaved && m_pTextEdit->toPlainText().isEmpty()) {
+        removeComment();
+        WriteReportFile();
+    } else if (!m_bSaved) {
+        switch (ask(this, tr("Warning"), tr("You have enterd a comment. Would you like to save it?"))) {
+        case QMessageBox::Yes:
+            SlotSaveWithComment();
+            break;
+        case QMessageBox::No:
+            SlotSaveWithoutComment();
+            break;
+        default:
+            // Cancel leaves the event as it arrived, which is accepted: the dialog closes and the report is not
+            // written. The dialog may be gone by now.
+            return;
+        }
+    }
+    event->accept();
+}
+
+void CommentDialogImpl::appendComment(const QString& comment)
+{
+    if (m_pDocument) {
+        m_comment = m_pDocument->createElement(QStringLiteral("Comment"));
+        m_comment.appendChild(m_pDocument->createTextNode(comment));
+        m_pDocument->documentElement().appendChild(m_comment);
+    }
+}
+
+/// Takes back the comment of an earlier answer whose file could not be written.
+void CommentDialogImpl::removeComment()
+{
+    m_comment.parentNode().removeChild(m_comment);
+    m_comment = QDomElement();
+}
+
+void CommentDialogImpl::WriteReportFile()
+{
+    if (m_pDocument && saveDocument(*m_pDocument, m_sFileName)) {
+        m_bSaved = true;
+    }
+}
+
+QDomElement CommentDialogImpl::firstElement(const QString& name) const
+{
+    return m_pDocument ? m_pDocument->elementsByTagName(name).item(0).toElement() : QDomElement();
+}
+
+QDomElement CommentDialogImpl::firstElement(const QString& name, const QString& alternativeName) const
+{
+    const QDomElement element = firstElement(name);
+    return element.isNull() ? firstElement(alternativeName) : element;
+}
+
+QString CommentDialogImpl::textWithUnit(const QString& name) const
+{
+    const QDomElement element = firstElement(name);
+    if (element.isNull()) {
+        return NoValue;
+    }
+    const QString unit = element.attribute(QStringLiteral("Unit"));
+    return unit.isEmpty() ? element.text() : element.text() + QLatin1Char(' ') + unit;
+}

@@ -1,0 +1,64 @@
+#ifndef XMLHELPER_COMMENTDIALOGIMPL_H
+#define XMLHELPER_COMMENTDIALOGIMPL_H
+
+#include <QDialog>
+#include <QDomElement>
+#include <QString>
+
+#include "ui_commentdialog.h"
+
+class QDomDocument;
+
+/// Shows the summary of a finished measurement report, takes the operator's comment and writes the report's file.
+///
+/// The report builder makes the dialog, gives it the document and the file name and calls ShowReportSummary(), which
+/// shows it without blocking; several may be open at once. The file is written when the operator saves, with or
+/// without a comment, or closes the dialog; Escape does what closing the window does. Only a close that is answered
+/// with Cancel, or a dialog that is never answered, leaves the report unwritten.
+///
+/// The dialog belongs to the builder and is hidden, not destroyed, when it has been answered. The document belongs to
+/// whoever made it and must outlive the dialog. A file that cannot be written is not reported; the next answer tries
+/// again.
+class CommentDialogImpl : public QDialog, public Ui::CommentDialog
+{
+    Q_OBJECT
+
+public:
+    CommentDialogImpl();
+
+    /// The document to summarise, comment and write; not owned.
+    void SetDocument(QDomDocument* document);
+    /// The full path of the file to write.
+    void SetFileName(QString fileName);
+    /// Fills the labels from the document and the clock and shows the dialog.
+    void ShowReportSummary();
+
+    void reject() override;
+
+public Q_SLOTS:
+    /// Appends the comment, if there is one, as last child of the document's root, writes the file and hides.
+    void SlotSaveWithComment();
+    /// Writes the file without a comment and hides.
+    void SlotSaveWithoutComment();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    Q_DISABLE_COPY(CommentDialogImpl)
+
+    void appendComment(const QString& comment);
+    void removeComment();
+    void WriteReportFile();
+    QDomElement firstElement(const QString& name) const;
+    QDomElement firstElement(const QString& name, const QString& alternativeName) const;
+    QString textWithUnit(const QString& name) const;
+
+    QDomDocument* m_pDocument;
+    QString m_sFileName;
+    bool m_bSaved; ///< the file has been written
+
+    QDomElement m_comment; ///< what an answer put into the document; null when there is none
+};
+
+#endif
