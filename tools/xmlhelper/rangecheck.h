@@ -1,0 +1,93 @@
+#ifndef XMLHELPER_RANGECHECK_H
+#define XMLHELPER_RANGECHECK_H
+
+#include <initializer_list>
+#include <vector>
+
+#include <QLatin1String>
+
+#include "constants.h"
+
+/// What the range check answers: whether the value is accepted, and which facets have been used up then, in the order
+/// in which they are to be removed.
+struct RangeVerdict
+{
+    bool isAccepted;
+    std::vector<QLatin1String> usedFacets;
+};
+
+/// How a value is compared with maxInclusive once it has passed a lower bound.
+enum class UpperBoundBehindLower {
+    Inclusive, ///< elements
+
+    /// Attributes. One might expect the bound to be inclusive, as its name says and as it is without a lower bound. It
+    /// is kept because modules that write attributes treat the bound as a limit never reached.
+    Strict
+};
+
+/// The bounds of a value and the check against them, shared by elements and attributes. For at most one lower and one
+/// upper bound it accepts what satisfies both; for two on one side the order of the steps decides, and the facets that
+/// are not named in the verdict stay. Comparisons follow IEEE rules: NaN is on neither side of a bound.
+template <typename Number> struct RangeBounds
+{
+    Number minInclusive = AbsentBound;
+    Number maxInclusive = AbsentBound;
+    Number minExclusive = AbsentBound;
+    Number maxExclusive = AbsentBound;
+
+    RangeVerdict Check(Number value, UpperBoundBehindLower rule) const
+    {
+        if (isGiven(minInclusive) && !(value < minInclusive)) {
+            return checkBehindLower(MinInclusiveFacet, value, rule);
+        }
+        if (!isGiven(minInclusive) && !isGiven(minExclusive) && !isGiven(maxInclusive) && !isGiven(maxExclusive)) {
+            return accept({});
+        }
+        if (isGiven(minExclusive) && !(value <= minExclusive)) {
+            return checkBehindLower(MinExclusiveFacet, value, rule);
+        }
+        if (isGiven(maxInclusive) && !(value > maxInclusive)) {
+            return checkBelow(MaxInclusiveFacet, value);
+        }
+        if (isGiven(maxExclusive) && !(value >= maxExclusive)) {
+            return checkBelow(MaxExclusiveFacet, value);
+        }
+        return refuse();
+    }
+
+private:
+    static bool isGiven(Number bound) { return bound != Number(AbsentBound); }
+    static RangeVerdict accept(std::initializer_list<QLatin1String> usedFacets) { return {true, usedFacets}; }
+    static RangeVerdict refuse() { return {false, {}}; }
+
+    bool isAboveMaxInclusive(Number value, UpperBoundBehindLower rule) const
+    {
+        return rule == UpperBoundBehindLower::Strict ? value >= maxInclusive : value > maxInclusive;
+    }
+
+    /// The value has passed the lower bound @p lower.
+    RangeVerdict checkBehindLower(QLatin1String lower, Number value, UpperBoundBehindLower rule) const
+    {
+        if (isGiven(maxInclusive)) {
+            return isAboveMaxInclusive(value, rule) ? refuse() : accept({MaxInclusiveFacet, lower});
+        }
+        if (isGiven(maxExclusive)) {
+            return value >= maxExclusive ? refuse() : accept({MaxExclusiveFacet, lower});
+        }
+        return accept({lower});
+    }
+
+    /// The value has passed the upper bound @p upper without having passed a lower one.
+    RangeVerdict checkBelow(QLatin1String upper, Number value) const
+    {
+        if (isGiven(minInclusive)) {
+            return value < minInclusive ? refuse() : accept({MinInclusiveFacet, upper});
+        }
+        if (isGiven(minExclusive)) {
+            return value <= minExclusive ? refuse() : accept({MinExclusiveFacet, upper});
+        }
+        return accept({upper});
+    }
+};
+
+#endif

@@ -1,0 +1,529 @@
+#include "xmlcreatereport.h"
+
+#include <QDateTime>
+#include <QDomDocument>
+#include <QFile>
+#include <QStringList>
+#include <QXmlInputSource>
+#include <QXmlSimpleReader>
+
+#include "commentdialogimpl.h"
+#include "constants.h"
+#include "documentfile.h"
+#include "domextent.h"
+#include "domparser.h"
+#include "errorevent.h"
+#include "eventdelivery.h"
+#include "numberconversion.h"
+#include "rangecheck.h"
+#include "tracing.h"
+#include "xmlcontenthandler.h"
+#include "xmlreader.h"
+#include "xmlschemahandler.h"
+
+QT_WARNING_DISABLE_DEPRECATED
+
+namespace {
+
+const QLatin1String ShortType("short");
+const QLatin1String LongType("long");
+const QLatin1String IntType("int");
+const QLatin1String IntegerType("integer");
+
+/// The namespace of schema instances, fixed by W3C XML Schema Part 1.
+const QLatin1String SchemaInstanceNamespace("http://www.w3.org/2001/XMLSchema-instance");
+
+bool isEnumerationOfElement(const QString& attributeName)
+{
+    return attributeName.contains(EnumerationFacet) && attributeName.back().isDigit();
+}
+
+/// A facet's number; one that does not convert counts as 0.
+void readBound(const QString& text, int& bound)
+{
+    bound = text.toInt();
+}
+
+void readBound(const QString& text, double& bound)
+{
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    bound = isNumber ? number : 0.0;
+}
+
+template <typename Number> RangeBounds<Number> boundsOfElement(const QDomElement& element)
+{
+    RangeBounds<Number> bounds;
+    const auto read = [&element](const QString& facet, Number& bound) {
+        if (element.hasAttribute(facet)) {
+            readBound(element.attribute(facet), bound);
+        }
+    };
+    read(MinInclusiveFacet, bounds.minInclusive);
+    read(MaxInclusiveFacet, bounds.maxInclusive);
+    read(MinExclusiveFacet, bounds.minExclusive);
+    read(MaxExclusiveFacet, bounds.maxExclusive);
+    return bounds;
+}
+
+/// The facets of an attribute are those whose names contain its name. They are read as integers for numbers of every
+/// kind, so that a fractional one counts as 0. One might expect 0.5 to bound a double; it is kept because schemas have
+/// been written to it.
+template <typename Number> RangeBounds<Number> boundsOfAttribute(const QDomElement& element, const QString& name)
+{
+    RangeBounds<Number> bounds;
+    const QDomNamedNodeMap attributes = element.attributes();
+    for (int i = 0; i < attributes.count(); ++i) {
+        const QDomAttr attribute = attributes.item(i).toAttr();
+        const QString facet = attribute.name();
+        const int value = attribute.value().toInt();
+        if (!facet.contains(name)) {
+            continue;
+        }
+        if (facet.contains(MinInclusiveFacet)) {
+            bounds.minInclusive = value;
+        } else if (facet.contains(MaxInclusiveFacet)) {
+            bounds.maxInclusive = value;
+        } else if (facet.contains(MinExclusiveFacet)) {
+            bounds.minExclusive = value;
+        } else if (facet.contains(MaxExclusiveFacet)) {
+            bounds.maxExclusive = value;
+        }
+    }
+    return bounds;
+}
+
+/// Whether an occurs code allows an element to occur @p count times. The code is compared as it is, so an optional
+/// element takes up to a hundred times its maxOccurs.
+bool isCountAllowed(int occursCode, int count)
+{
+    if (count > 0) {
+        return occursCode == UnboundedOccurs || occursCode / OptionalOccursFactor == UnboundedOccurs
+            || count <= occursCode;
+    }
+    return count < 0 || occursCode % OptionalOccursFactor == 0;
+}
+
+} // namespace
+
+XmlCreateReport::XmlCreateReport(IXMLHelper* pCallback)
+    : m_pSchemaReader(nullptr)
+    , m_pContentHandler(nullptr)
+    , m_pSchemaHandler(nullptr)
+    , m_pCallback(pCallback)
+    , m_pDocument(nullptr)
+    , m_pReader(nullptr)
+    , m_pCurrentElement(nullptr)
+    , m_pDomParser(nullptr)
+    , m_sLastMultipliedName(QLatin1String(""))
+    , m_sUnused(QLatin1String(""))
+    , m_bUnused(false)
+    , m_iDiscardedChoices(0)
+    , m_iElements(0)
+{
+    checkObserver(pCallback, "XmlCreateReport", "xmlcreatereport", 43);
+}
+
+XmlCreateReport::XmlCreateReport(const XmlCreateReport& other) = default;
+XmlCreateReport& XmlCreateReport::operator=(const XmlCreateReport& other) = default;
+
+XmlCreateReport::~XmlCreateReport()
+{
+    qDeleteAll(m_commentDialogs);
+    m_commentDialogs.clear();
+    qDeleteAll(m_dialogDocuments);
+    qDeleteAll(m_followers);
+    delete m_pSchemaHandler;
+    m_pSchemaHandler = nullptr;
+}
+
+bool XmlCreateReport::CreateXmlFromSchema(QString schemaPath, QString reportPath, bool showCommentDialog)
+{
+    if (!m_pCallback || m_pSchemaHandler) {
+        return false;
+    }
+    QString normalisedPath = schemaPath;
+    normalisedPath.replace(QLatin1Char('\\'), QLatin1Char('/'));
+
+    // Whatever has been read of a schema is still walked, stamped and written.
+    m_pSchemaHandler = new XmlSchemaHandler(m_pCallback, normalisedPath);
+    const bool isSchemaRead = readSchema(schemaPath);
+    createWalkers();
+    m_pDomParser->Walk();
+    stampSchemaLocation(normalisedPath);
+    if (showCommentDialog) {
+        showComment(reportPath);
+    } else {
+        saveDocument(*m_pDocument, reportPath);
+    }
+    return isSchemaRead;
+}
+
+void XmlCreateReport::SetXmlValue(QString value)
+{
+    if (isTypeAccepted(QStringLiteral("string"), IXMLHelper::CURRENT_TYPE_IS_NOT_STRING)
+        && useEnumeration(value, isEnumerationOfElement)) {
+        m_pCurrentElement->removeAttribute(TypeAttribute);
+        CreateAndAppendTextNode(value);
+    }
+}
+
+void XmlCreateReport::SetXmlValue(double value)
+{
+    // The type is asked of the element as the operation before left it: the object is the same for the whole walk, so
+    // only the first operation of all does not know its type. One might expect to ask after refreshing the element; it
+    // is kept because an element without a type is reported as unknown twice, and receivers count on that.
+    const QString wanted = QStringLiteral("double");
+    const bool isShort = m_pCurrentElement && TypeControl(wanted) == ShortType;
+    const QString text = isShort ? QString::number(toInt32(value)) : toReportText(value);
+    if (isTypeAccepted(wanted, IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE) && useRange(value)) {
+        m_pCurrentElement->removeAttribute(TypeAttribute);
+        CreateAndAppendTextNode(text);
+    }
+}
+
+void XmlCreateReport::SetXmlValue(int value)
+{
+    if (!isTypeAccepted(IntegerType, IXMLHelper::CURRENT_TYPE_IS_NOT_INTEGER)) {
+        return;
+    }
+    // Removed before the range is checked, unlike the other numbers: a refused integer leaves no type behind.
+    m_pCurrentElement->removeAttribute(TypeAttribute);
+    if (useRange(value)) {
+        CreateAndAppendTextNode(QString::number(value));
+    }
+}
+
+void XmlCreateReport::SetXmlValue(bool value)
+{
+    if (isTypeAccepted(QStringLiteral("bool"), IXMLHelper::CURRENT_TYPE_IS_NOT_BOOLEAN)) {
+        m_pCurrentElement->removeAttribute(TypeAttribute);
+        CreateAndAppendTextNode(value ? QStringLiteral("true") : QStringLiteral("false"));
+    }
+}
+
+void XmlCreateReport::SetXmlValue(QDateTime value)
+{
+    if (isTypeAccepted(QStringLiteral("dateTime"), IXMLHelper::CURRENT_TYPE_IS_NOT_DATETIME)) {
+        CreateAndAppendTextNode(value.toString(Qt::ISODate));
+        m_pCurrentElement->removeAttribute(TypeAttribute);
+    }
+}
+
+void XmlCreateReport::SetXmlValue(QTime value)
+{
+    if (isTypeAccepted(QStringLiteral("time"), IXMLHelper::CURRENT_TYPE_IS_NOT_TIME)) {
+        CreateAndAppendTextNode(value.toString(Qt::ISODate));
+        m_pCurrentElement->removeAttribute(TypeAttribute);
+    }
+}
+
+void XmlCreateReport::SetAttributeValue(QString name, QString value)
+{
+    const auto isEnumerationOfAttribute = [&name](const QString& attributeName) {
+        return attributeName.contains(EnumerationFacet) && attributeName.contains(name);
+    };
+    if (refreshCurrentElement()
+        && isAttributeTypeAccepted(name, QStringLiteral("string"), IXMLHelper::CURRENT_TYPE_IS_NOT_STRING)
+        && useEnumeration(value, isEnumerationOfAttribute)) {
+        m_pCurrentElement->setAttribute(name, value);
+    }
+}
+
+void XmlCreateReport::SetAttributeValue(QString name, QDateTime value)
+{
+    if (refreshCurrentElement()
+        && isAttributeTypeAccepted(name, QStringLiteral("dateTime"), IXMLHelper::CURRENT_TYPE_IS_NOT_DATETIME)) {
+        m_pCurrentElement->setAttribute(name, value.toString(Qt::ISODate));
+    }
+}
+
+void XmlCreateReport::SetAttributeValue(QString name, int value)
+{
+    if (!refreshCurrentElement()) {
+        Error(IXMLHelper::NO_CURRENT_ELEMENT);
+    } else if (isAttributeTypeAccepted(name, IntegerType, IXMLHelper::CURRENT_TYPE_IS_NOT_INTEGER)) {
+        setCheckedAttribute(name, QString::number(value), value);
+    }
+}
+
+void XmlCreateReport::SetAttributeValue(QString name, double value)
+{
+    if (!refreshCurrentElement()) {
+        Error(IXMLHelper::NO_CURRENT_ELEMENT);
+    } else if (isAttributeTypeAccepted(name, QStringLiteral("double"), IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE)) {
+        setCheckedAttribute(name, toReportText(value), value);
+    }
+}
+
+void XmlCreateReport::RemoveAttribute(QString name)
+{
+    if (refreshCurrentElement()) {
+        m_pCurrentElement->removeAttribute(name);
+    }
+}
+
+void XmlCreateReport::SetElementMaxOccurs(QString name, int count)
+{
+    if (!refreshCurrentElement() || name == m_sLastMultipliedName) {
+        return;
+    }
+    m_sLastMultipliedName = name; // also a name that is refused: it is not tried again
+    if (CheckOccursMap(name, m_pCurrentElement->tagName(), count, m_pCurrentElement) && copyCurrentElement(count)) {
+        m_pDomParser->ContinueAt(m_pCurrentElement, true);
+    } else {
+        Error(IXMLHelper::MAX_OCCURS_EXCEEDED);
+    }
+}
+
+void XmlCreateReport::DiscardChoiceItem()
+{
+    if (!refreshCurrentElement()) {
+        return;
+    }
+    const QDomElement discarded = *m_pCurrentElement;
+    if (!isDiscardAllowed(discarded.tagName())) {
+        Error(IXMLHelper::GENERAL_ERROR);
+        return;
+    }
+    m_pCurrentElement = new QDomElement(discarded.nextSibling().toElement());
+    m_followers.push_back(m_pCurrentElement);
+    const bool isRemoved = !discarded.parentNode().removeChild(discarded).isNull();
+    m_pDomParser->ContinueAt(m_pCurrentElement, false);
+    if (isRemoved) {
+        ++m_iDiscardedChoices;
+    } else {
+        Error(IXMLHelper::GENERAL_ERROR);
+    }
+}
+
+/// Makes @p text the content of the current element, in place of a text that is its first child, and lets the walk go
+/// on behind the element.
+void XmlCreateReport::CreateAndAppendTextNode(QString text)
+{
+    if (!m_pCurrentElement) {
+        Error(IXMLHelper::NO_CURRENT_ELEMENT);
+        return;
+    }
+    const QDomNode first = m_pCurrentElement->firstChild();
+    if (first.nodeType() == QDomNode::TextNode) {
+        m_pCurrentElement->removeChild(first);
+    }
+    m_pCurrentElement->appendChild(m_pDocument->createTextNode(text));
+    m_pDomParser->ContinueAt(m_pCurrentElement, false);
+}
+
+/// The type of the current element when it fits @p wanted, "" when it does not. "short" and "long" fit everything: one
+/// might expect numbers only, but modules write texts and flags into such elements. An "int" takes integers.
+QString XmlCreateReport::TypeControl(QString wanted)
+{
+    const QString type = m_pCurrentElement->attribute(TypeAttribute);
+    if (type.isEmpty()) {
+        Error(IXMLHelper::CURRENT_TYPE_IS_UNKNOWN);
+        return QString();
+    }
+    if (type.contains(wanted) || (wanted == IntegerType && type == IntType)) {
+        return type;
+    }
+    for (const QLatin1String universal : {ShortType, LongType}) {
+        if (type.contains(universal)) {
+            return universal;
+        }
+    }
+    return QString();
+}
+
+void XmlCreateReport::Error(int id)
+{
+    if (m_pCallback) {
+        deliver<ErrorEvent>(m_pCallback, static_cast<IXMLHelper::ErrorID>(id));
+    }
+}
+
+/// Whether the schema allows @p count occurrences of @p name under some owner below which @p element stands.
+bool XmlCreateReport::CheckOccursMap(QString name, QString tagName, int count, QDomElement* element)
+{
+    const auto codes = m_occurs.find(name);
+    if (codes == m_occurs.end()) {
+        Error(IXMLHelper::MAX_OCCURS_EXCEEDED);
+        return false;
+    }
+    for (const auto& [code, owners] : codes->second) {
+        if (!isCountAllowed(code, count)) {
+            continue;
+        }
+        for (const QString& owner : owners) {
+            if (m_pDomParser->IsBelowOwner(tagName, owner, *element)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+bool XmlCreateReport::readSchema(const QString& schemaPath)
+{
+    QFile file(openableFileName(schemaPath));
+    m_pSchemaReader = new QXmlSimpleReader;
+    m_pSchemaReader->setContentHandler(m_pSchemaHandler);
+    m_pSchemaReader->setErrorHandler(m_pSchemaHandler);
+    const bool isParsed = m_pSchemaReader->parse(QXmlInputSource(&file));
+    delete m_pSchemaReader;
+    m_pSchemaReader = nullptr;
+
+    m_pDocument = m_pSchemaHandler->GetDocument();
+    m_pSchemaHandler->HandOver(m_unresolvedTypes, m_occurs, m_typeDefinitions, m_choices);
+    m_iElements = extentOf(*m_pDocument).elements;
+    return isParsed;
+}
+
+/// The builder never releases these three: clients keep shallow copies of builders, and elements that the walk handed
+/// out must stay as long as anybody may act on them.
+void XmlCreateReport::createWalkers()
+{
+    m_pContentHandler = new XmlContentHandler(m_pCallback, m_pDocument);
+    m_pReader = new XMLReader(m_pCallback, m_pContentHandler);
+    m_pDomParser = new DomParser(m_pCallback, m_occurs, m_choices);
+    m_pDomParser->SetDocument(m_pDocument);
+}
+
+void XmlCreateReport::stampSchemaLocation(const QString& schemaPath)
+{
+    QDomElement root = m_pDocument->documentElement();
+    root.setAttribute(QStringLiteral("xsi:noNamespaceSchemaLocation"), schemaPath);
+    root.setAttribute(QStringLiteral("xmlns:xsi"), SchemaInstanceNamespace);
+}
+
+void XmlCreateReport::showComment(const QString& reportPath)
+{
+    auto* const dialog = new CommentDialogImpl;
+    m_dialogDocuments.push_back(new QDomDocument(*m_pDocument));
+    dialog->SetDocument(m_dialogDocuments.back());
+    dialog->SetFileName(reportPath);
+    dialog->ShowReportSummary();
+    m_commentDialogs.push_back(dialog);
+}
+
+/// Takes the element that the walk stands on. Gives false when there is none.
+bool XmlCreateReport::refreshCurrentElement()
+{
+    m_pCurrentElement = m_pDomParser ? m_pDomParser->GetCurrentElement() : nullptr;
+    return m_pCurrentElement != nullptr;
+}
+
+/// What every value has to pass first; sends @p refusal when the type does not fit.
+bool XmlCreateReport::isTypeAccepted(const QString& wanted, IXMLHelper::ErrorID refusal)
+{
+    if (!refreshCurrentElement()) {
+        Error(IXMLHelper::NO_CURRENT_ELEMENT);
+        return false;
+    }
+    if (TypeControl(wanted).isEmpty()) {
+        Error(refusal);
+        return false;
+    }
+    return true;
+}
+
+/// An attribute holds its declared type until it is set.
+bool XmlCreateReport::isAttributeTypeAccepted(const QString& name, const QString& wanted, IXMLHelper::ErrorID refusal)
+{
+    if (m_pCurrentElement->attribute(name).contains(wanted)) {
+        return true;
+    }
+    Error(refusal);
+    return false;
+}
+
+/// Checks a text against an enumeration and removes the enumeration when it is in order.
+template <class IsEnumerationName>
+bool XmlCreateReport::useEnumeration(const QString& value, IsEnumerationName isEnumerationName)
+{
+    const QDomNamedNodeMap attributes = m_pCurrentElement->attributes();
+    const int count = attributes.count();
+    QStringList names;
+    QString lastValue;
+    bool isFound = false;
+    for (int i = 0; i < count; ++i) {
+        const QDomAttr attribute = attributes.item(i).toAttr();
+        if (isEnumerationName(attribute.name())) {
+            names.prepend(attribute.name());
+            lastValue = attribute.value();
+            isFound = isFound || lastValue == value;
+        }
+    }
+    if (!lastValue.isEmpty() && !isFound && count >= 2) {
+        Error(IXMLHelper::VALUE_IS_NOT_VALID);
+        return false;
+    }
+    for (const QString& name : std::as_const(names)) {
+        m_pCurrentElement->removeAttribute(name);
+    }
+    return true;
+}
+
+/// Checks a number against the range facets of the current element and removes those that were used.
+template <typename Number> bool XmlCreateReport::useRange(Number value)
+{
+    const RangeVerdict verdict
+        = boundsOfElement<Number>(*m_pCurrentElement).Check(value, UpperBoundBehindLower::Inclusive);
+    if (!verdict.isAccepted) {
+        Error(IXMLHelper::VALUE_IS_NOT_VALID);
+        return false;
+    }
+    for (const QLatin1String facet : verdict.usedFacets) {
+        m_pCurrentElement->removeAttribute(facet);
+    }
+    return true;
+}
+
+/// Checks a number against the range facets of the attribute, removes those that were used and sets the attribute.
+template <typename Number>
+void XmlCreateReport::setCheckedAttribute(const QString& name, const QString& text, Number value)
+{
+    const RangeVerdict verdict
+        = boundsOfAttribute<Number>(*m_pCurrentElement, name).Check(value, UpperBoundBehindLower::Strict);
+    if (!verdict.isAccepted) {
+        Error(IXMLHelper::VALUE_IS_NOT_VALID);
+        return;
+    }
+    for (const QLatin1String facet : verdict.usedFacets) {
+        m_pCurrentElement->removeAttribute(facet + name);
+    }
+    m_pCurrentElement->setAttribute(name, text);
+}
+
+/// Makes the current element occur @p count times. A root has no place for copies, which counts as success. Gives
+/// false, and makes no copy, when the document would become too large.
+bool XmlCreateReport::copyCurrentElement(int count)
+{
+    QDomElement parent = m_pCurrentElement->parentNode().toElement();
+    if (parent.isNull() || count <= 1) {
+        return true;
+    }
+    const qint64 added = qint64(extentOf(*m_pCurrentElement).elements) * (count - 1);
+    if (m_iElements + added > MaxElements) {
+        trace(QStringLiteral("Copies would give the report more than %1 elements!").arg(MaxElements), "xmlcreatereport",
+              __LINE__);
+        return false;
+    }
+    m_iElements += static_cast<int>(added);
+    for (int copy = 1; copy < count; ++copy) {
+        parent.insertAfter(m_pCurrentElement->cloneNode(true), *m_pCurrentElement);
+    }
+    return true;
+}
+
+/// Whether an element called @p tagName is an alternative of a choice that may go: the last alternative of the schema
+/// stays once as many have been discarded as its number says.
+bool XmlCreateReport::isDiscardAllowed(const QString& tagName) const
+{
+    int index = NO_INDEX;
+    for (const auto& [number, name] : m_choices) {
+        if (!tagName.isEmpty() && name == tagName) {
+            index = number;
+        }
+    }
+    return index != NO_INDEX
+        && (index % DiscardGuardModulus > m_iDiscardedChoices || m_choices.find(index + 1) != m_choices.end());
+}
