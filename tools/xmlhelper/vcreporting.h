@@ -1,0 +1,216 @@
+#ifndef XMLHELPER_VCREPORTING_H
+#define XMLHELPER_VCREPORTING_H
+
+#include <list>
+
+#include <QPixmap>
+#include <QString>
+#include <QWidget>
+
+#include <xmlhelper/ixmlhelper.h>
+#include <xmlhelper/reportdata.h>
+#include <xmlhelper/xmlhelperexport.h>
+
+class ElemBeginEvent;
+class Node;
+class QDomNode;
+class QTimer;
+class QToolBar;
+class QToolButton;
+class QXmlAttributes;
+class VCButton;
+class XmlCreateReport;
+
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED // QXmlAttributes: Qt keeps the SAX classes, with a warning.
+
+    /// The "To Report" button of a measurement screen: writes the current measurement values as an XML report that
+    /// conforms to a schema.
+    ///
+    /// The screen makes the widget with a schema, a directory for the reports and its tool bar, adds the widget to the
+    /// tool bar, and registers report items that name elements (or attributes) of the schema and the sources of their
+    /// values. Every ten seconds the widget looks whether schema and directory exist, keeps its button enabled only
+    /// while both do, and says so with ReportDirAndSchemaAvailable().
+    ///
+    /// A press runs SlotToReport(): PrepareToReport() gives the screen the opportunity to add or change items, then a
+    /// report builder (XmlCreateReport) announces the elements of the schema to this widget, which answers with the
+    /// values of the matching items. A value that the builder refuses for its type is offered as the next one:
+    /// floating-point number, integer, text, ISO date and time. Elements and attributes called "DateTime" and
+    /// "DFDateTime" receive the current time. The file is named after the time and lies in the report directory; with
+    /// the comment dialog it is written when the operator answers.
+    ///
+    /// The widget owns its items, its button and its timer, not the tool bar. Report builders are never deleted, with
+    /// their documents and comment dialogs: an operator may answer a dialog long after the screen is gone. Everything
+    /// runs on the GUI thread.
+    class XMLHELPER_EXPORT VCReporting : public QWidget,
+                                         public IXMLHelper
+{
+    Q_OBJECT
+
+public:
+    /// @param schema           the schema file, ending in ".xsd"; a bare file name lies in the application's directory
+    /// @param reportDirectory  the directory for the reports; both kinds of slash separate folders on every platform
+    /// @param toolBar          the widget's parent, not owned; adding the widget to it is up to the caller
+    /// @param createButton     false: no button, and the widget is hidden; reports are made by SlotToReport()
+    /// @param objectName       the widget's object name, in UTF-8
+    /// @param consume          whether an item is deleted once a report has used it
+    /// @param picture          the button's icon; a null one gives the built-in picture
+    VCReporting(QString schema, QString reportDirectory, QToolBar* toolBar, bool createButton, const char* objectName,
+                bool consume, QPixmap picture);
+
+    /// Deletes the items, the button and the timer.
+    ~VCReporting() override;
+
+    /// Changes the schema. The availability is looked at with the next tick, or at once by EnableReportButton().
+    /// @param schema  as for the constructor
+    /// @return always true
+    bool SetSchema(QString schema);
+
+    /// Off: stops the availability watch and disables the button until it is switched on again. On: resumes the watch,
+    /// which decides. Does nothing without a button.
+    /// @param on  whether to switch on
+    void EnableReportButton(bool on);
+
+    /// @return the button, the widget's; null when there is none
+    QToolButton* GetReportButton() const;
+
+    /// Whether the operator is asked for a comment before a report is written. Off at first.
+    /// @param show  whether to ask
+    void SetShowCommentDialog(bool show);
+
+    /// Registers every value below a node of the value tree under its name, see below. Nothing for null.
+    /// @param node  not owned, only read
+    void AddReportData(Node* node);
+
+    /// Registers an item whose value is looked up in the value tree or is a fixed text. The item is kept even when the
+    /// tree does not know the path; it then gives an empty text. Items are asked in the order in which they were
+    /// registered; the first one that matches an element wins.
+    ///
+    /// @param name             the report element or attribute; "parent/child" names an element below a certain parent
+    /// @param valuePath        the path of the value in the value tree; empty: there is none
+    /// @param fixedText        used only when @p valuePath is empty
+    /// @param maxOccurs        how often the element occurs in the report; above 1 it is repeated
+    /// @param formatText       kept with the item, not used by this library
+    /// @param decimalExponent  numbers are divided by 10 to the power of this
+    /// @param unit             for the attribute "Unit" of the element; empty: none
+    void AddReportData(const QString& name, const QString& valuePath, const QString& fixedText, int maxOccurs,
+                       const QString& formatText, int decimalExponent, const QString& unit);
+
+    /// Registers an item with an explicit text. It reaches the report as an empty text: use a fixed text instead.
+    ///
+    /// @param name             as above
+    /// @param value            the explicit value
+    /// @param maxOccurs        as above
+    /// @param formatText       as above
+    /// @param decimalExponent  as above
+    /// @param unit             as above
+    void AddExplicitReportData(const QString& name, const QString& value, int maxOccurs, const QString& formatText,
+                               int decimalExponent, const QString& unit);
+    /// Registers an item with an explicit floating-point number, which reaches the report as an empty text.
+    /// @copydetails AddExplicitReportData(const QString&,const QString&,int,const QString&,int,const QString&)
+    void AddExplicitReportData(const QString& name, double value, int maxOccurs, const QString& formatText,
+                               int decimalExponent, const QString& unit);
+    /// Registers an item with an explicit truth value, written as such.
+    /// @copydetails AddExplicitReportData(const QString&,const QString&,int,const QString&,int,const QString&)
+    void AddExplicitReportData(const QString& name, bool value, int maxOccurs, const QString& formatText,
+                               int decimalExponent, const QString& unit);
+    /// Registers an item with an explicit integer, written as such; outside of 32 bits the nearest limit is written.
+    /// @copydetails AddExplicitReportData(const QString&,const QString&,int,const QString&,int,const QString&)
+    void AddExplicitReportData(const QString& name, long value, int maxOccurs, const QString& formatText,
+                               int decimalExponent, const QString& unit);
+    /// A text literal would silently become a bool.
+    void AddExplicitReportData(const QString& name, const char* value, int maxOccurs, const QString& formatText,
+                               int decimalExponent, const QString& unit)
+        = delete;
+
+    /// Deletes the first item of a name; nothing when there is none.
+    /// @param name  the item's name
+    void DeleteReportData(QString name);
+
+    /// Deletes every item.
+    void ClearReportData();
+
+    /// Answers the report builder; not for clients.
+    /// @param event  the builder's
+    void XmlUpdate(XmlEvent* event) override;
+
+Q_SIGNALS:
+    /// A report is about to be made: the last opportunity to add, change or delete items.
+    void PrepareToReport();
+    /// What the watch has found, sent after every look.
+    /// @param available  whether both schema and report directory exist
+    void ReportDirAndSchemaAvailable(bool available);
+    /// A report was made: its file is written, or its comment dialog is open.
+    void ReportSuccessful();
+    /// The schema could not be read.
+    void ReportNotSuccessful();
+
+public Q_SLOTS:
+    /// Makes one report.
+    /// @return whether the schema was read; false, without any signal but PrepareToReport(), when the path of the
+    ///         schema does not end in ".xsd". A file that cannot be written is not reported.
+    bool SlotToReport();
+
+private Q_SLOTS:
+    void SlotCheckFileAndDirectory();
+
+private:
+    Q_DISABLE_COPY(VCReporting)
+
+    /// The item that the announced element has matched.
+    struct Match
+    {
+        const ReportData* item = nullptr;
+        bool isQualified = false;
+    };
+
+    void SetInputPathToSchema(const QString& schema);
+    void createReportButton();
+    QString newReportPath() const;
+    XmlCreateReport* createBuilder();
+
+    static ReportData* CreateReportData(const QString& name, int maxOccurs, const QString& formatText,
+                                        int decimalExponent, const QString& unit);
+    void CheckReportData(ReportData* item);
+    void addExplicitItem(const ExplicitReportData& value, const QString& name, int maxOccurs, const QString& formatText,
+                         int decimalExponent, const QString& unit);
+
+    void answerElement(ElemBeginEvent* event);
+    Match fillFromItems(const QString& name, const QXmlAttributes& attributes, const QDomNode& node);
+    void fillElement(const QString& name, const QXmlAttributes& attributes, const ReportData& item, int index);
+    void fillAttribute(const QXmlAttributes& attributes, const ReportData& item, int index);
+    void HandleAttributes(const QXmlAttributes& attributes);
+    bool handleAttribute(const QString& name, const ReportData& item, int index);
+    void finishElement(const Match& match, const QString& name, const QXmlAttributes& attributes);
+    void stampTime(const QString& name, const QXmlAttributes& attributes);
+
+    template <class Value> void setElement(Value value, int index);
+    void setAttribute(const QString& name, const ReportData& item, int index, double& number);
+    bool setTimeAttribute(const QString& name);
+
+    void answerError(int errorID);
+    template <class Value> void retryWith(Value value);
+    const ReportData* pendingItem(const char* errorName, int traceLine) const;
+
+    QToolBar* m_pToolBar; ///< not owned
+    VCButton* m_pReportButton;
+    QTimer* m_pCheckTimer;
+    XmlCreateReport* m_pReportBuilder; ///< of the latest report; never deleted
+    QPixmap m_picture;
+    bool m_bUnused; ///< set, and not read by this library
+    bool m_bValueSet;
+    bool m_bConsume;
+    bool m_bAttributePending; ///< a value is being set on an attribute, not on the element
+    double m_dPending; ///< the number being set, for the retry as integer
+    int m_iIndex; ///< the item whose value is being set, for the retries
+    int m_iCheckInterval; ///< milliseconds
+    QString m_sSchemaPath;
+    QString m_sReportDirectory; ///< with back slashes
+    QString m_sAttributeName; ///< the attribute being looked at, for the retries
+    std::list<ReportData*> m_items; ///< owned
+    bool m_bShowComment;
+};
+
+QT_WARNING_POP
+
+#endif
