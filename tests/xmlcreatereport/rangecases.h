@@ -12,8 +12,6 @@ struct RangeCase
     const char* usedFacets; ///< what goes when the value is accepted
 };
 
-// The bounds in the names are abbreviated where there are several: the lower ones minInclusive and minExclusive, the
-// upper ones maxInclusive and maxExclusive.
 constexpr RangeCase RangeCases[] = {
     {"no-bound-accepts-everything", "", -5, true, true, ""},
 

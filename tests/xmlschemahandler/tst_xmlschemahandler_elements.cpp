@@ -4,8 +4,8 @@
 #include "schemafixture.h"
 #include "tracecollector.h"
 
-/// What the declarations of elements, global and local, of a schema lay into the skeleton. Each file of data/elements shows one rule;
-/// its skeleton is beside it.
+/// What the declarations of elements, global and local, of a schema lay into the skeleton. Each file of data/elements
+/// shows one rule; its skeleton is beside it.
 class TestXmlSchemaHandlerElements : public QObject
 {
     Q_OBJECT

@@ -69,7 +69,8 @@ QString include(const QString& name)
 /// A named type with one element, called leaf.
 QString type(const QString& name)
 {
-    return QStringLiteral("<xs:complexType name='%1'><xs:element name='leaf' type='xs:int'/></xs:complexType>").arg(name);
+    return QStringLiteral("<xs:complexType name='%1'><xs:element name='leaf' type='xs:int'/></xs:complexType>")
+        .arg(name);
 }
 
 QString choice(const QString& typeName, const QString& element)
@@ -129,8 +130,7 @@ void TestXmlSchemaHandlerIncludes::findsIncludedFiles_data()
         << QStringLiteral("%1") << QStringLiteral("types.xsd") << false;
     QTest::newRow("path-with-another-ending-gives-a-slash")
         << QStringLiteral("%1") << QStringLiteral("%2/types.xsd") << true;
-    QTest::newRow("ending-is-case-sensitive")
-        << QStringLiteral("%1/main.XSD") << QStringLiteral("types.xsd") << false;
+    QTest::newRow("ending-is-case-sensitive") << QStringLiteral("%1/main.XSD") << QStringLiteral("types.xsd") << false;
     QTest::newRow("path-with-an-upper-case-ending-gives-a-slash")
         << QStringLiteral("%1/main.XSD") << QStringLiteral("%2/types.xsd") << true;
     QTest::newRow("path-that-ends-with-a-slash-gives-nothing-and-no-folder")
@@ -176,8 +176,7 @@ void TestXmlSchemaHandlerIncludes::skipsFilesThatAreBeingRead_data()
     QTest::addColumn<QString>("locationInIncludedFile");
     QTest::addColumn<int>("skipped");
 
-    QTest::newRow("schema-that-includes-itself")
-        << QStringLiteral("main.xsd") << QString() << 1;
+    QTest::newRow("schema-that-includes-itself") << QStringLiteral("main.xsd") << QString() << 1;
     QTest::newRow("schema-that-includes-itself-in-other-words")
         << QStringLiteral("./sub/../main.xsd") << QString() << 1;
     QTest::newRow("included-file-that-includes-the-schema")
@@ -201,7 +200,8 @@ void TestXmlSchemaHandlerIncludes::skipsFilesThatAreBeingRead()
     SchemaFixture schema(folder.Path(QStringLiteral("main.xsd")));
 
     QVERIFY(schema.ReadFile(folder.Path(QStringLiteral("main.xsd"))));
-    QCOMPARE(traces.Messages(), QStringList(QVector<QString>(skipped, skippedTrace()).toList()).join(QLatin1Char('\n')));
+    QCOMPARE(traces.Messages(),
+             QStringList(QVector<QString>(skipped, skippedTrace()).toList()).join(QLatin1Char('\n')));
     QVERIFY(schema.Definitions().startsWith(QStringLiteral("Known 1 0 [leaf]\n")));
 }
 
@@ -278,14 +278,12 @@ void TestXmlSchemaHandlerIncludes::numbersChoicesOverAllFiles_data()
     const QString part = include(QStringLiteral("part.xsd"));
     const QString other = include(QStringLiteral("other.xsd"));
 
-    QTest::newRow("included-file-goes-on-from-the-including-one")
-        << a + part << b << QStringLiteral("0 a\n1 b\n");
+    QTest::newRow("included-file-goes-on-from-the-including-one") << a + part << b << QStringLiteral("0 a\n1 b\n");
     QTest::newRow("including-file-goes-on-from-the-included-one")
         << part + a + c << b << QStringLiteral("0 b\n1 a\n2 c\n");
     QTest::newRow("numbers-go-through-files-in-files")
         << a + part + c << b + other + b << QStringLiteral("0 a\n1 b\n2 o\n3 b\n4 c\n");
-    QTest::newRow("file-included-twice-is-numbered-twice")
-        << part + part << b << QStringLiteral("0 b\n1 b\n");
+    QTest::newRow("file-included-twice-is-numbered-twice") << part + part << b << QStringLiteral("0 b\n1 b\n");
     QTest::newRow("numbers-of-a-broken-file-are-not-used-again")
         << part + a << b + QStringLiteral("<broken") << QStringLiteral("0 b\n1 a\n");
 }
@@ -360,9 +358,8 @@ void TestXmlSchemaHandlerIncludes::countsServedReferencesOfTheIncludingFile()
 {
     const SchemaFolder folder;
     folder.Write(QStringLiteral("part.xsd"), type(QStringLiteral("Later")));
-    const QString declarations
-        = QStringLiteral("<xs:complexType name='Holder'><xs:element name='a' type='Later'/>"
-                         "<xs:element name='b' type='Last'/></xs:complexType>")
+    const QString declarations = QStringLiteral("<xs:complexType name='Holder'><xs:element name='a' type='Later'/>"
+                                                "<xs:element name='b' type='Last'/></xs:complexType>")
         + include(QStringLiteral("part.xsd"));
 
     // In the order of names the end of the included file misses Last before it comes to Later, and serves nothing.
@@ -427,8 +424,8 @@ void TestXmlSchemaHandlerIncludes::leavesASkeletonThatOutlivesTheHandler()
     const SchemaFolder folder;
     folder.Write(QStringLiteral("part.xsd"), type(QStringLiteral("Known")));
     auto schema = std::make_unique<SchemaFixture>(folder.Path(QStringLiteral("main.xsd")));
-    QVERIFY(schema->Read(include(QStringLiteral("part.xsd"))
-                         + QStringLiteral("<xs:element name='root' type='Known'/>")));
+    QVERIFY(
+        schema->Read(include(QStringLiteral("part.xsd")) + QStringLiteral("<xs:element name='root' type='Known'/>")));
     QDomDocument skeleton = *schema->Handler().GetDocument();
     const QString before = domText(skeleton);
     schema.reset();

@@ -64,8 +64,7 @@ QString missingTrace()
 }
 
 /// Lets a test name private members, which an explicit instantiation may do.
-template <typename Tag, typename Tag::Type Member>
-struct Reveal
+template <typename Tag, typename Tag::Type Member> struct Reveal
 {
     friend typename Tag::Type revealed(Tag) { return Member; }
 };
@@ -149,15 +148,16 @@ void TestXmlSchemaHandlerModel::entersOwners_data()
     QTest::newRow("owner-in-a-global-element-is-that-element")
         << global(QStringLiteral("root"), a) << QStringLiteral("a 2: root\n");
     QTest::newRow("owner-in-a-nested-anonymous-type-is-its-element")
-        << global(QStringLiteral("root"), QStringLiteral("<xs:element name='b'><xs:complexType>") + a
+        << global(QStringLiteral("root"),
+                  QStringLiteral("<xs:element name='b'><xs:complexType>") + a
                       + QStringLiteral("</xs:complexType></xs:element>") + a)
         << QStringLiteral("a 2: b, root\n");
     QTest::newRow("owner-in-a-named-type-is-its-name")
         << named(QStringLiteral("Type"), a) << QStringLiteral("a 2: Type\n");
-    QTest::newRow("owner-in-an-anonymous-type-of-a-named-type-is-that-type")
-        << named(QStringLiteral("Type"), QStringLiteral("<xs:element name='b'><xs:complexType>") + a
-                      + QStringLiteral("</xs:complexType></xs:element>"))
-        << QStringLiteral("a 2: Type\n");
+    QTest::newRow("owner-in-an-anonymous-type-of-a-named-type-is-that-type") << named(
+        QStringLiteral("Type"),
+        QStringLiteral("<xs:element name='b'><xs:complexType>") + a + QStringLiteral("</xs:complexType></xs:element>"))
+                                                                             << QStringLiteral("a 2: Type\n");
     QTest::newRow("owners-of-one-code-stand-in-reading-order")
         << named(QStringLiteral("Type"), a) + global(QStringLiteral("root"), a) + named(QStringLiteral("Other"), a)
         << QStringLiteral("a 2: Type, root, Other\n");
@@ -169,10 +169,9 @@ void TestXmlSchemaHandlerModel::entersOwners_data()
     QTest::newRow("copies-of-an-element-are-entered-once")
         << named(QStringLiteral("Type"), QStringLiteral("<xs:element name='a' minOccurs='3' maxOccurs='4'/>"))
         << QStringLiteral("a 4: Type\n");
-    QTest::newRow("reference-is-entered-under-its-name")
-        << QStringLiteral("<xs:element name='a'/>")
+    QTest::newRow("reference-is-entered-under-its-name") << QStringLiteral("<xs:element name='a'/>")
             + global(QStringLiteral("root"), QStringLiteral("<xs:element ref='a' minOccurs='0'/>"))
-        << QStringLiteral("a 0: root\n");
+                                                         << QStringLiteral("a 0: root\n");
     QTest::newRow("later-reference-is-entered-under-its-name")
         << global(QStringLiteral("root"), QStringLiteral("<xs:element ref='a' maxOccurs='3'/>"))
             + QStringLiteral("<xs:element name='a'/>")
@@ -195,9 +194,10 @@ void TestXmlSchemaHandlerModel::entersOwners_data()
             + named(QStringLiteral("Later"), QString())
         << QStringLiteral("a 3: Type\nb 4: Type\n");
     QTest::newRow("names-are-case-sensitive-and-ordered-by-code-units")
-        << named(QStringLiteral("Type"), QStringLiteral("<xs:element name='b' maxOccurs='2'/>"
-                                                        "<xs:element name='a' maxOccurs='2'/>"
-                                                        "<xs:element name='B' maxOccurs='2'/>"))
+        << named(QStringLiteral("Type"),
+                 QStringLiteral("<xs:element name='b' maxOccurs='2'/>"
+                                "<xs:element name='a' maxOccurs='2'/>"
+                                "<xs:element name='B' maxOccurs='2'/>"))
         << QStringLiteral("B 2: Type\na 2: Type\nb 2: Type\n");
 }
 
@@ -266,16 +266,16 @@ void TestXmlSchemaHandlerModel::numbersChoices_data()
         << QStringLiteral("0 a\n1 b\n2 c\n");
     QTest::newRow("alternative-without-name-is-skipped")
         << type(begin + a + QStringLiteral("<xs:element type='xs:int'/>") + b + end) << QStringLiteral("0 a\n1 b\n");
-    QTest::newRow("reference-is-numbered-by-its-name")
-        << QStringLiteral("<xs:element name='known'/>")
+    QTest::newRow("reference-is-numbered-by-its-name") << QStringLiteral("<xs:element name='known'/>")
             + global(QStringLiteral("root"),
                      begin + QStringLiteral("<xs:element ref='known'/><xs:element ref='later'/>") + end)
             + QStringLiteral("<xs:element name='later'/>")
-        << QStringLiteral("0 known\n1 later\n");
+                                                       << QStringLiteral("0 known\n1 later\n");
     QTest::newRow("copies-of-an-alternative-are-numbered-once")
         << type(begin + QStringLiteral("<xs:element name='a' minOccurs='3'/>") + end) << QStringLiteral("0 a\n");
     QTest::newRow("elements-nested-in-an-alternative-are-numbered")
-        << global(QStringLiteral("root"), begin + QStringLiteral("<xs:element name='outer'><xs:complexType>") + a
+        << global(QStringLiteral("root"),
+                  begin + QStringLiteral("<xs:element name='outer'><xs:complexType>") + a
                       + QStringLiteral("</xs:complexType></xs:element>") + end)
         << QStringLiteral("0 outer\n1 a\n");
     QTest::newRow("end-of-an-inner-choice-ends-the-outer-one")
@@ -286,8 +286,8 @@ void TestXmlSchemaHandlerModel::numbersChoices_data()
     QTest::newRow("global-elements-in-a-choice-are-not-numbered")
         << begin + QStringLiteral("<xs:element name='a'/>") + end << QString();
     QTest::newRow("choice-in-a-restriction-is-a-facet")
-        << QStringLiteral("<xs:simpleType name='S'><xs:restriction base='xs:int'><xs:choice/></xs:restriction>")
-            + a + QStringLiteral("</xs:simpleType>")
+        << QStringLiteral("<xs:simpleType name='S'><xs:restriction base='xs:int'><xs:choice/></xs:restriction>") + a
+            + QStringLiteral("</xs:simpleType>")
         << QString();
     QTest::newRow("choice-with-another-prefix-is-none")
         << type(QStringLiteral("<xsd:choice>") + a + QStringLiteral("</xsd:choice>")) << QString();
@@ -308,22 +308,22 @@ void TestXmlSchemaHandlerModel::definesNames_data()
     QTest::addColumn<QString>("definitions"); // before the end of the schema
 
     QTest::newRow("named-types-count-as-used")
-        << named(QStringLiteral("Complex"), QStringLiteral("<xs:element name='a'/>"))
-            + simple(QStringLiteral("Simple"))
+        << named(QStringLiteral("Complex"), QStringLiteral("<xs:element name='a'/>")) + simple(QStringLiteral("Simple"))
         << QStringLiteral("Complex 1 0 [a]\nSimple 1 0 [dummy]\n");
     QTest::newRow("global-declarations-count-as-unused")
-        << QStringLiteral("<xs:element name='b'/><xs:attribute name='a'/>")
-        << QStringLiteral("a 0 0 [a]\nb 0 0 [b]\n");
+        << QStringLiteral("<xs:element name='b'/><xs:attribute name='a'/>") << QStringLiteral("a 0 0 [a]\nb 0 0 [b]\n");
     QTest::newRow("local-and-anonymous-declarations-are-no-definitions")
-        << global(QStringLiteral("root"), QStringLiteral("<xs:element name='a'><xs:simpleType/></xs:element>"
-                                                         "<xs:attribute name='b'/>"))
+        << global(QStringLiteral("root"),
+                  QStringLiteral("<xs:element name='a'><xs:simpleType/></xs:element>"
+                                 "<xs:attribute name='b'/>"))
         << QStringLiteral("root 0 0 [root]\n");
     QTest::newRow("first-attribute-names-a-definition")
         << QStringLiteral("<xs:element id='i' name='n'/><xs:complexType abstract='t' name='n'/>"
                           "<xs:simpleType final='s'/><xs:attribute use='u'/>")
         << QStringLiteral("i 0 0 [i]\ns 1 0 []\nt 1 0 []\nu 0 0 [u]\n");
     QTest::newRow("declaration-inside-an-untyped-global-is-global")
-        << QStringLiteral("<xs:element name='a'><xs:element name='b'><xs:attribute name='c'/></xs:element></xs:element>")
+        << QStringLiteral(
+               "<xs:element name='a'><xs:element name='b'><xs:attribute name='c'/></xs:element></xs:element>")
         << QStringLiteral("a 0 0 [a]\nb 0 0 [b]\nc 0 0 [c]\n");
     QTest::newRow("type-with-attributes-inside-an-element-is-a-named-type")
         << QStringLiteral("<xs:element name='a'><xs:complexType mixed='true'/></xs:element>")
@@ -334,9 +334,8 @@ void TestXmlSchemaHandlerModel::definesNames_data()
         << QStringLiteral("T 1 0 [b]\n");
     QTest::newRow("later-global-declaration-replaces-the-earlier")
         << QStringLiteral("<xs:element name='a' type='Never'/><xs:element name='a'/>") << QStringLiteral("a 0 0 [a]\n");
-    QTest::newRow("global-declaration-replaces-a-type-of-its-name")
-        << named(QStringLiteral("a"), QString()) + QStringLiteral("<xs:element name='a'/>")
-        << QStringLiteral("a 0 0 [a]\n");
+    QTest::newRow("global-declaration-replaces-a-type-of-its-name") << named(QStringLiteral("a"), QString())
+            + QStringLiteral("<xs:element name='a'/>") << QStringLiteral("a 0 0 [a]\n");
     QTest::newRow("template-of-a-repeated-element-waits-once")
         << global(QStringLiteral("root"), QStringLiteral("<xs:element name='a' type='Later' minOccurs='3'/>"))
         << QStringLiteral("a 1 1 [a]\nroot 0 1 [root]\n");
@@ -345,8 +344,9 @@ void TestXmlSchemaHandlerModel::definesNames_data()
             + global(QStringLiteral("root"), QStringLiteral("<xs:element name='a' type='Later' minOccurs='2'/>"))
         << QStringLiteral("a 1 1 [a]\nroot 0 1 [root]\n");
     QTest::newRow("template-takes-what-follows-in-a-named-type")
-        << named(QStringLiteral("T"), QStringLiteral("<xs:element name='a' type='Later' minOccurs='2'/>"
-                                                     "<xs:element name='b'/>"))
+        << named(QStringLiteral("T"),
+                 QStringLiteral("<xs:element name='a' type='Later' minOccurs='2'/>"
+                                "<xs:element name='b'/>"))
         << QStringLiteral("T 1 1 [a]\na 1 1 [a b]\n");
     QTest::newRow("element-once-of-a-later-type-has-no-template")
         << global(QStringLiteral("root"), QStringLiteral("<xs:element name='a' type='Later' minOccurs='1'/>"))
@@ -415,14 +415,11 @@ void TestXmlSchemaHandlerModel::recordsReferences_data()
         << root(QStringLiteral("<xs:element name='b' type='Later' minOccurs='0'/>"))
         << QStringLiteral("Later 1: b in root\n") << 1;
     QTest::newRow("type-of-an-element-in-a-named-type-waits-in-that-element")
-        << type(QStringLiteral("<xs:element name='a' type='Later'/>"))
-        << QStringLiteral("Later 1: a in Type\n") << 1;
+        << type(QStringLiteral("<xs:element name='a' type='Later'/>")) << QStringLiteral("Later 1: a in Type\n") << 1;
     QTest::newRow("type-of-a-global-element-waits-in-that-element")
-        << QStringLiteral("<xs:element name='root' type='Later'/>")
-        << QStringLiteral("Later 1: root in root\n") << 1;
+        << QStringLiteral("<xs:element name='root' type='Later'/>") << QStringLiteral("Later 1: root in root\n") << 1;
     QTest::newRow("type-of-a-global-attribute-waits-in-its-element")
-        << QStringLiteral("<xs:attribute name='root' type='Later'/>")
-        << QStringLiteral("Later 1: root in root\n") << 1;
+        << QStringLiteral("<xs:attribute name='root' type='Later'/>") << QStringLiteral("Later 1: root in root\n") << 1;
     QTest::newRow("empty-type-of-a-global-element-is-recorded")
         << QStringLiteral("<xs:element name='root' type=''/>") << QStringLiteral(" 1: root in root\n") << 1;
     QTest::newRow("element-reference-waits-behind-the-last-child")
@@ -472,8 +469,7 @@ void TestXmlSchemaHandlerModel::recordsReferences_data()
         << root(QStringLiteral("<xs:element name='z'/><xs:element name='a' type='Later' minOccurs='3'/>"))
         << QStringLiteral("Later 1: a in root\nLater 1: a in a\na 2: root behind a in root\n") << 1;
     QTest::newRow("definition-that-waits-itself-is-waited-for")
-        << QStringLiteral("<xs:element name='first' type='Later'/>")
-            + root(QStringLiteral("<xs:element ref='first'/>"))
+        << QStringLiteral("<xs:element name='first' type='Later'/>") + root(QStringLiteral("<xs:element ref='first'/>"))
         << QStringLiteral("Later 1: first in first\nfirst 1: root in root\n") << 1;
     QTest::newRow("every-kind-of-reference-counts-as-pending")
         << root(QStringLiteral("<xs:element name='a' type='L1'/><xs:element ref='L2' minOccurs='4'/>"
@@ -493,7 +489,8 @@ void TestXmlSchemaHandlerModel::recordsReferences()
     QCOMPARE(schema.References(), references);
     // What waits stands in the first definition of each row, in the order of names; a template comes before it.
     const QString definitions = schema.Definitions();
-    const QString waiting = definitions.split(QLatin1Char('\n')).filter(QRegularExpression(QStringLiteral("^[^a]"))).at(0);
+    const QString waiting
+        = definitions.split(QLatin1Char('\n')).filter(QRegularExpression(QStringLiteral("^[^a]"))).at(0);
     QCOMPARE(waiting.section(QLatin1Char(' '), 2, 2).toInt(), pending);
 }
 
@@ -564,13 +561,12 @@ void TestXmlSchemaHandlerModel::failsForMissingDefinitions_data()
         << global(QStringLiteral("root"), QStringLiteral("<xs:attribute ref='never'/>"));
     QTest::newRow("base-of-an-extension")
         << global(QStringLiteral("root"), QStringLiteral("<xs:extension base='Never'/>"));
-    QTest::newRow("type-in-a-definition-that-nobody-uses")
-        << QStringLiteral("<xs:element name='root'/>")
+    QTest::newRow("type-in-a-definition-that-nobody-uses") << QStringLiteral("<xs:element name='root'/>")
             + named(QStringLiteral("Unused"), QStringLiteral("<xs:element name='a' type='Never'/>"));
-    QTest::newRow("one-of-many")
-        << named(QStringLiteral("Later"), QStringLiteral("<xs:element name='a' type='Zulu'/>"))
-            + global(QStringLiteral("root"), QStringLiteral("<xs:element name='a' type='Later'/>"
-                                                            "<xs:element name='b' type='Never'/>"))
+    QTest::newRow("one-of-many") << named(QStringLiteral("Later"), QStringLiteral("<xs:element name='a' type='Zulu'/>"))
+            + global(QStringLiteral("root"),
+                     QStringLiteral("<xs:element name='a' type='Later'/>"
+                                    "<xs:element name='b' type='Never'/>"))
             + simple(QStringLiteral("Zulu"));
 }
 
@@ -601,11 +597,11 @@ void TestXmlSchemaHandlerModel::failsForDefinitionsThatWaitForEachOther_data()
             + type(QStringLiteral("B"), QStringLiteral("C")) + type(QStringLiteral("C"), QStringLiteral("A"));
     QTest::newRow("two-elements") << element(QStringLiteral("a"), QStringLiteral("b"))
             + element(QStringLiteral("b"), QStringLiteral("a"));
-    QTest::newRow("two-extensions")
-        << QStringLiteral("<xs:complexType name='A'><xs:extension base='B'/></xs:complexType>"
-                          "<xs:complexType name='B'><xs:extension base='A'/></xs:complexType>");
-    QTest::newRow("two-global-types")
-        << QStringLiteral("<xs:element name='a' type='b'/><xs:element name='b' type='a'/>");
+    QTest::newRow("two-extensions") << QStringLiteral(
+        "<xs:complexType name='A'><xs:extension base='B'/></xs:complexType>"
+        "<xs:complexType name='B'><xs:extension base='A'/></xs:complexType>");
+    QTest::newRow("two-global-types") << QStringLiteral(
+        "<xs:element name='a' type='b'/><xs:element name='b' type='a'/>");
     QTest::newRow("type-that-waits-for-another-and-for-itself")
         << named(QStringLiteral("A"), QStringLiteral("<xs:element name='x' type='B'/><xs:element name='y' type='A'/>"))
             + simple(QStringLiteral("B"));
@@ -630,14 +626,13 @@ void TestXmlSchemaHandlerModel::keepsTheMapsOfAFailedSchema()
 {
     SchemaFixture schema;
     // In the order of names Able is laid out before Baker is missed, and Charlie is not looked at any more.
-    QVERIFY(!schema.Read(
-        global(QStringLiteral("root"), QStringLiteral("<xs:choice><xs:element name='a' type='Able' maxOccurs='2'/>"
-                                                      "<xs:element name='b' type='Baker'/>"
-                                                      "<xs:element name='c' type='Charlie'/></xs:choice>"))
-        + simple(QStringLiteral("Able")) + simple(QStringLiteral("Charlie"))));
+    QVERIFY(!schema.Read(global(QStringLiteral("root"),
+                                QStringLiteral("<xs:choice><xs:element name='a' type='Able' maxOccurs='2'/>"
+                                               "<xs:element name='b' type='Baker'/>"
+                                               "<xs:element name='c' type='Charlie'/></xs:choice>"))
+                         + simple(QStringLiteral("Able")) + simple(QStringLiteral("Charlie"))));
     QCOMPARE(schema.Definitions(), QStringLiteral("Able 1 -1 [dummy]\nCharlie 1 0 [dummy]\nroot 0 2 [root]\n"));
-    QCOMPARE(schema.References(),
-             QStringLiteral("Able 1: a in root\nBaker 1: b in root\nCharlie 1: c in root\n"));
+    QCOMPARE(schema.References(), QStringLiteral("Able 1: a in root\nBaker 1: b in root\nCharlie 1: c in root\n"));
     QCOMPARE(schema.Occurs(), QStringLiteral("a 2: root\n"));
     QCOMPARE(schema.Choices(), QStringLiteral("0 a\n1 b\n2 c\n"));
     QCOMPARE(schema.Skeleton(), QString());
@@ -671,8 +666,9 @@ void TestXmlSchemaHandlerModel::hasAnEmptyDocumentUntilTheEnd()
 void TestXmlSchemaHandlerModel::handsCopiesOver()
 {
     SchemaFixture schema;
-    QVERIFY(schema.Read(global(QStringLiteral("root"), QStringLiteral("<xs:choice><xs:element name='a' type='Later'"
-                                                                      " maxOccurs='2'/></xs:choice>"))
+    QVERIFY(schema.Read(global(QStringLiteral("root"),
+                               QStringLiteral("<xs:choice><xs:element name='a' type='Later'"
+                                              " maxOccurs='2'/></xs:choice>"))
                         + simple(QStringLiteral("Later"))));
     // What the targets held is gone; the pointers are copied, not what they point to.
     UnresolvedTypeMap references {{QStringLiteral("old"), {}}};
@@ -701,8 +697,9 @@ void TestXmlSchemaHandlerModel::handsCopiesOver()
 void TestXmlSchemaHandlerModel::handsOverIntoItsOwnMaps()
 {
     SchemaFixture schema;
-    QVERIFY(schema.Read(global(QStringLiteral("root"), QStringLiteral("<xs:choice><xs:element name='a' type='Later'"
-                                                                      " maxOccurs='2'/></xs:choice>"))
+    QVERIFY(schema.Read(global(QStringLiteral("root"),
+                               QStringLiteral("<xs:choice><xs:element name='a' type='Later'"
+                                              " maxOccurs='2'/></xs:choice>"))
                         + simple(QStringLiteral("Later"))));
     const QStringList before {schema.References(), schema.Occurs(), schema.Definitions(), schema.Choices()};
     XmlSchemaHandler& handler = schema.Handler();

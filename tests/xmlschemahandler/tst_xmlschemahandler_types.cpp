@@ -4,8 +4,8 @@
 #include "schemafixture.h"
 #include "tracecollector.h"
 
-/// What the types, restrictions, extensions and attributes of a schema lay into the skeleton. Each file of data/types shows one rule;
-/// its skeleton is beside it.
+/// What the types, restrictions, extensions and attributes of a schema lay into the skeleton. Each file of data/types
+/// shows one rule; its skeleton is beside it.
 class TestXmlSchemaHandlerTypes : public QObject
 {
     Q_OBJECT

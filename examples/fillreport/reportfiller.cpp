@@ -1,0 +1,196 @@
+#include "reportfiller.h"
+
+#include <algorithm>
+#include <type_traits>
+#include <utility>
+#include <variant>
+
+#include <QDateTime>
+#include <QDomNode>
+
+QT_WARNING_DISABLE_DEPRECATED
+
+namespace {
+
+const QLatin1String TypeAttribute("type");
+const QLatin1String AttributeSeparator("@");
+
+/// Whether an attribute of the skeleton tells of its element instead of being declared for the report.
+bool isAnnotation(const QString& attribute)
+{
+    return attribute == TypeAttribute || attribute == QLatin1String("default")
+        || attribute.contains(QLatin1String("enumeration")) || attribute.contains(QLatin1String("clusive"));
+}
+
+using TypedValue = std::variant<QString, bool, int, double, QDateTime, QTime>;
+
+/// The value as what the schema asks for, or as a text when it cannot be read so; the builder then says no.
+TypedValue typedValue(const QString& text, const QString& type)
+{
+    const auto isOf = [&type](const char* word) { return type.contains(QLatin1String(word)); };
+    if (isOf("bool") && (text == QLatin1String("true") || text == QLatin1String("false"))) {
+        return text == QLatin1String("true");
+    }
+    if (isOf("dateTime") && QDateTime::fromString(text, Qt::ISODate).isValid()) {
+        return QDateTime::fromString(text, Qt::ISODate);
+    }
+    if (isOf("time") && QTime::fromString(text, Qt::ISODate).isValid()) {
+        return QTime::fromString(text, Qt::ISODate);
+    }
+    bool isInteger = false;
+    const int integer = text.toInt(&isInteger);
+    if (isInteger && (isOf("int") || isOf("short") || isOf("long"))) {
+        return integer;
+    }
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    if (isNumber && !isOf("string")) {
+        return number;
+    }
+    return text;
+}
+
+QString wordsFor(IXMLHelper::ErrorID error)
+{
+    switch (error) {
+    case IXMLHelper::CURRENT_TYPE_IS_NOT_STRING:
+        return QStringLiteral("its type takes no text");
+    case IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE:
+        return QStringLiteral("its type takes no floating-point number");
+    case IXMLHelper::CURRENT_TYPE_IS_NOT_INTEGER:
+        return QStringLiteral("its type takes no integer");
+    case IXMLHelper::CURRENT_TYPE_IS_NOT_DATETIME:
+        return QStringLiteral("its type takes no date and time");
+    case IXMLHelper::CURRENT_TYPE_IS_NOT_TIME:
+        return QStringLiteral("its type takes no time");
+    case IXMLHelper::CURRENT_TYPE_IS_NOT_BOOLEAN:
+        return QStringLiteral("its type takes no truth value");
+    case IXMLHelper::VALUE_IS_NOT_VALID:
+        return QStringLiteral("the value is outside of its range or enumeration");
+    case IXMLHelper::MAX_OCCURS_EXCEEDED:
+        return QStringLiteral("it may not occur so often");
+    default:
+        return QStringLiteral("error %1").arg(error);
+    }
+}
+
+} // namespace
+
+ReportFiller::ReportFiller(std::list<Value> values)
+    : m_builder(this)
+    , m_values(std::move(values))
+{
+}
+
+bool ReportFiller::Fill(const QString& schema, const QString& report)
+{
+    return m_builder.CreateXmlFromSchema(schema, report, false);
+}
+
+QStringList ReportFiller::Complaints() const
+{
+    QStringList complaints = m_complaints;
+    for (const Value& value : m_values) {
+        if (!value.isUsed) {
+            complaints.append(QStringLiteral("%1: the schema has no place for it").arg(value.name));
+        }
+    }
+    return complaints;
+}
+
+void ReportFiller::XmlUpdate(XmlEvent* event)
+{
+    if (event->GetType() == XmlEvent::EVENT_ELEM_BEGIN) {
+        answerElement(*static_cast<ElemBeginEvent*>(event));
+    } else if (event->GetType() == XmlEvent::EVENT_ERROR) {
+        answerError(static_cast<ErrorEvent*>(event)->GetErrorID());
+    }
+}
+
+void ReportFiller::answerElement(ElemBeginEvent& event)
+{
+    const QXmlAttributes attributes = event.GetElementAttributes();
+    const QString type = attributes.value(TypeAttribute);
+    const QString parent = event.GetElementNode().parentNode().nodeName();
+    m_sElement = event.GetElementName();
+    m_bElementHasType = !type.isEmpty();
+
+    Value* value = findUnused(parent + QLatin1Char('/') + m_sElement);
+    value = value ? value : findUnused(m_sElement);
+    if (value && countOf(value->name) > 1) {
+        m_pOffered = value;
+        m_builder.SetElementMaxOccurs(m_sElement, countOf(value->name));
+    }
+    for (int i = 0; i < attributes.count(); ++i) {
+        const QString attribute = attributes.qName(i);
+        if (isAnnotation(attribute)) {
+            continue;
+        }
+        if (Value* const given = findUnused(m_sElement + AttributeSeparator + attribute)) {
+            setAttribute(*given, attribute, attributes.value(i));
+        } else {
+            removeDeclaration(attributes, attribute);
+        }
+    }
+    if (value && m_bElementHasType) {
+        setElement(*value, type);
+    }
+    m_pOffered = nullptr;
+}
+
+void ReportFiller::answerError(ErrorID error)
+{
+    if (m_pOffered) {
+        m_complaints.append(QStringLiteral("%1=%2: %3").arg(m_pOffered->name, m_pOffered->text, wordsFor(error)));
+    } else if (error == MAX_OCCURS_EXCEEDED && m_bElementHasType) {
+        m_complaints.append(QStringLiteral("%1: mandatory, and no value was accepted").arg(m_sElement));
+    }
+}
+
+void ReportFiller::setElement(Value& value, const QString& type)
+{
+    value.isUsed = true;
+    m_pOffered = &value;
+    std::visit([this](const auto& typed) { m_builder.SetXmlValue(typed); }, typedValue(value.text, type));
+}
+
+void ReportFiller::setAttribute(Value& value, const QString& attribute, const QString& type)
+{
+    value.isUsed = true;
+    m_pOffered = &value;
+    std::visit(
+        [&](const auto& typed) {
+            using Typed = std::decay_t<decltype(typed)>;
+            if constexpr (std::is_same_v<Typed, bool> || std::is_same_v<Typed, QTime>) {
+                m_builder.SetAttributeValue(attribute, value.text); // attributes know neither
+            } else {
+                m_builder.SetAttributeValue(attribute, typed);
+            }
+        },
+        typedValue(value.text, type));
+}
+
+/// Removes a declared attribute and its facets.
+void ReportFiller::removeDeclaration(const QXmlAttributes& attributes, const QString& attribute)
+{
+    for (int i = 0; i < attributes.count(); ++i) {
+        const QString name = attributes.qName(i);
+        if (name == attribute || (isAnnotation(name) && name.endsWith(attribute))) {
+            m_builder.RemoveAttribute(name);
+        }
+    }
+}
+
+/// The next value of this name that has not been used.
+ReportFiller::Value* ReportFiller::findUnused(const QString& name)
+{
+    const auto found = std::find_if(m_values.begin(), m_values.end(),
+                                    [&name](const Value& value) { return !value.isUsed && value.name == name; });
+    return found == m_values.end() ? nullptr : &*found;
+}
+
+int ReportFiller::countOf(const QString& name) const
+{
+    return static_cast<int>(
+        std::count_if(m_values.begin(), m_values.end(), [&name](const Value& value) { return value.name == name; }));
+}
