@@ -688,10 +688,13 @@ void TestCommentDialogImpl::failedWriteIsTriedAgainByALaterClose()
     report.Click("m_pSaveButton");
     QVERIFY(!report.IsOpen());
     QVERIFY(!report.IsWritten());
+    report.Dialog().show();
     QVERIFY(report.Dialog().close());
+    QVERIFY(!report.IsOpen());
     QVERIFY(!report.IsWritten());
 
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("missing")));
+    report.Dialog().show();
     QVERIFY(report.Dialog().close());
     QVERIFY(report.IsWritten());
     QVERIFY(!asked.WasAsked());
@@ -716,6 +719,7 @@ void TestCommentDialogImpl::failedWriteLeavesNoCommentBehind()
     QVERIFY(!report.IsWritten());
 
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("missing")));
+    report.Dialog().show();
     const Operator asked(static_cast<QMessageBox::StandardButton>(answer));
     QVERIFY(report.Dialog().close());
     QVERIFY(asked.WasAsked());

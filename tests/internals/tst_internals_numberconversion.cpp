@@ -27,8 +27,6 @@ constexpr int Greatest = std::numeric_limits<int>::max();
 
 } // namespace
 
-Q_DECLARE_METATYPE(long)
-
 void TestNumberConversion::makesIntegersOfDoubles_data()
 {
     QTest::addColumn<double>("value");

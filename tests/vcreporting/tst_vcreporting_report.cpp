@@ -478,18 +478,21 @@ void TestVCReportingReport::fillsAnAttributeOfAMatchedElement()
 
 void TestVCReportingReport::forgetsThePendingNumberAfterEachValue()
 {
-    // Whatever number was written before, the attribute of the last element is retried with the idle number.
-    const QString integerQuality = declaredAttribute(QStringLiteral("Quality"), QStringLiteral("integer"));
-    ReportingScene scene(declaredElement(QStringLiteral("Level"), QStringLiteral("double"), integerQuality)
-                         + declaredElement(QStringLiteral("Channel"), QStringLiteral("integer"), integerQuality)
-                         + declaredElement(QStringLiteral("Value"), QStringLiteral("string"), integerQuality));
+    // Whatever number was written before, the attribute of an unmatched element is retried with the idle number.
+    const QString quality = declaredAttribute(QStringLiteral("Quality"), QStringLiteral("integer"));
+    const QString string = QStringLiteral("string");
+    ReportingScene scene(declaredElement(QStringLiteral("Level"), QStringLiteral("double"))
+                         + declaredElement(QStringLiteral("BehindAnElement"), string, quality)
+                         + declaredElement(QStringLiteral("Channel"), QStringLiteral("integer"), quality)
+                         + declaredElement(QStringLiteral("BehindAnAttribute"), string, quality));
     scene.AddText(QStringLiteral("Level"), QStringLiteral("17.5"));
     scene.AddText(QStringLiteral("Channel"), QStringLiteral("21.5"));
     scene.AddText(QStringLiteral("Quality"), QStringLiteral("98.7"));
-    // Level and Channel are reached by their own items before the item of the attribute is asked.
     QCOMPARE(scene.MakeReport(),
-             bodyText(QStringLiteral("<Level Quality='98'>17.5</Level><Channel Quality='98'>21</Channel>"
-                                     "<Value type='string' Quality='65535'/>")));
+             bodyText(QStringLiteral("<Level>17.5</Level>"
+                                     "<BehindAnElement type='string' Quality='65535'/>"
+                                     "<Channel Quality='98'>21</Channel>"
+                                     "<BehindAnAttribute type='string' Quality='65535'/>")));
 }
 
 void TestVCReportingReport::explicitValuesReachAttributesAsEmptyText()
@@ -1269,7 +1272,7 @@ void TestVCReportingReport::nextPressWorks()
     QTest::mouseClick(scene.Reporting().GetReportButton(), Qt::LeftButton);
     repair(scene);
     scene.Reporting().Forget();
-    const int before = successful.count();
+    const auto before = successful.count();
     QTest::mouseClick(scene.Reporting().GetReportButton(), Qt::LeftButton);
     QCOMPARE(successful.count(), before + 1);
     QCOMPARE(bodyText(scene.Report()), bodyText(QStringLiteral("<Value>FM</Value>")));
