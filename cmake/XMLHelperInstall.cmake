@@ -1,0 +1,100 @@
+# The install rules: the libraries with their client headers, and what find_package() and pkg-config find them by.
+# Three components: runtime, development, and the tools, which are installed only by name:
+#
+#   cmake --install <build> --prefix <folder>
+#   cmake --install <build> --prefix <folder> --component tools
+
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+# Installs a shared library, its PUBLIC_HEADERs (absolute paths) below the name of its folder, and a CMake package of
+# its name, which finds everything that the library links: a client's linker follows its shared libraries.
+#
+#   xmlhelper_install_library(<target> [NAMESPACE <namespace::>])
+function(xmlhelper_install_library target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "NAMESPACE" "")
+    get_target_property(source_dir ${target} SOURCE_DIR)
+    get_filename_component(folder "${source_dir}" NAME)
+    set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/${target}")
+
+    # A library finds its neighbours wherever the tree is moved to, and so does the linker of a client.
+    if(UNIX AND NOT APPLE)
+        set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
+    endif()
+    install(TARGETS ${target} EXPORT ${target}Targets
+        RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development
+        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development
+        PUBLIC_HEADER DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${folder}" COMPONENT development)
+    install(EXPORT ${target}Targets NAMESPACE "${arg_NAMESPACE}"
+        DESTINATION "${package_dir}" COMPONENT development)
+
+    get_target_property(dependencies ${target} LINK_LIBRARIES)
+    set(required_qt "Qt${XMLHELPER_QT_MAJOR}")
+    set(required_qt_components ${dependencies})
+    list(FILTER required_qt_components INCLUDE REGEX "^${required_qt}::")
+    list(TRANSFORM required_qt_components REPLACE "^${required_qt}::" "")
+    set(required_libraries ${dependencies})
+    list(FILTER required_libraries EXCLUDE REGEX "^${required_qt}::")
+    list(JOIN required_qt_components " " required_qt_components)
+    list(JOIN required_libraries " " required_libraries)
+    # Qt promises that what was built with one minor version runs with the later ones.
+    string(REGEX MATCH "^[0-9]+\\.[0-9]+" required_qt_version "${${required_qt}_VERSION}")
+
+    set(config_dir "${PROJECT_BINARY_DIR}/package/${target}")
+    configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/PackageConfig.cmake.in"
+        "${config_dir}/${target}Config.cmake" INSTALL_DESTINATION "${package_dir}")
+    write_basic_package_version_file("${config_dir}/${target}ConfigVersion.cmake"
+        VERSION ${PROJECT_VERSION} COMPATIBILITY SameMajorVersion)
+    install(FILES "${config_dir}/${target}Config.cmake" "${config_dir}/${target}ConfigVersion.cmake"
+        DESTINATION "${package_dir}" COMPONENT development)
+endfunction()
+
+# Installs a program that looks for its FILES beside itself. Those have no place among the programs of a Unix system:
+# there both stand in a folder of their own, and a link leads to the program.
+#
+#   xmlhelper_install_tool(<target> [FILES <file>...])
+function(xmlhelper_install_tool target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FILES")
+    set(folder "${CMAKE_INSTALL_BINDIR}")
+    if(UNIX AND arg_FILES)
+        set(folder "${CMAKE_INSTALL_LIBEXECDIR}/xmlhelper")
+        file(RELATIVE_PATH program "/${CMAKE_INSTALL_BINDIR}" "/${folder}/${target}")
+        set(link "${PROJECT_BINARY_DIR}/package/links/${target}")
+        file(MAKE_DIRECTORY "${PROJECT_BINARY_DIR}/package/links")
+        file(CREATE_LINK "${program}" "${link}" SYMBOLIC)
+        install(PROGRAMS "${link}" DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tools EXCLUDE_FROM_ALL)
+    endif()
+
+    if(UNIX AND NOT APPLE)
+        file(RELATIVE_PATH libraries "/${folder}" "/${CMAKE_INSTALL_LIBDIR}")
+        set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries}")
+    endif()
+    install(TARGETS ${target} RUNTIME DESTINATION "${folder}" COMPONENT tools EXCLUDE_FROM_ALL)
+    install(FILES ${arg_FILES} DESTINATION "${folder}" COMPONENT tools EXCLUDE_FROM_ALL)
+endfunction()
+
+# The stand-ins that are in use; the embedding project installs the libraries that it brings itself.
+get_property(stand_ins GLOBAL PROPERTY XMLHELPER_STAND_INS)
+foreach(stand_in IN LISTS stand_ins)
+    xmlhelper_install_library(${stand_in})
+endforeach()
+xmlhelper_install_library(XMLHelper NAMESPACE XMLHelper::)
+
+file(RELATIVE_PATH prefix_from_pc_file "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+string(REGEX REPLACE "/$" "" prefix_from_pc_file "${prefix_from_pc_file}")
+set(pc_requires ${xmlhelper_qt_core} ${xmlhelper_qt_widgets} ${xmlhelper_qt_xml})
+list(TRANSFORM pc_requires REPLACE "::" "")
+list(JOIN pc_requires " " pc_requires)
+configure_file("${PROJECT_SOURCE_DIR}/cmake/xmlhelper.pc.in" "${PROJECT_BINARY_DIR}/package/xmlhelper.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/package/xmlhelper.pc"
+    DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
+
+if(TARGET fillreport)
+    xmlhelper_install_tool(fillreport)
+endif()
+if(TARGET measurementpanel)
+    get_target_property(panel_dir measurementpanel SOURCE_DIR)
+    file(GLOB panel_schemas CONFIGURE_DEPENDS "${panel_dir}/*.xsd")
+    xmlhelper_install_tool(measurementpanel FILES ${panel_schemas})
+endif()

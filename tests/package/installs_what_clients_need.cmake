@@ -1,0 +1,9 @@
+# The installed tree holds the files of the checked-in list and nothing else. It is moved before anybody uses it.
+include("${CMAKE_CURRENT_LIST_DIR}/packagetest.cmake")
+
+run(COMMAND ${CMAKE_COMMAND} --install "${BUILD_DIR}" --config "${CONFIG}" --prefix "${WORK_DIR}/tree")
+list_files(installed "${WORK_DIR}/tree")
+compare_lists("The installed files" "${CASES_DIR}/installed-files.txt" LINES ${installed})
+
+file(REMOVE_RECURSE "${PREFIX}")
+file(RENAME "${WORK_DIR}/tree" "${PREFIX}")

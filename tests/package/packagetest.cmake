@@ -1,0 +1,67 @@
+# What the cases have in common: SETTINGS of the build, CONFIG and NAME of the case come from CTest.
+cmake_minimum_required(VERSION 3.22)
+include("${SETTINGS}")
+include("${CMAKE_CURRENT_LIST_DIR}/../support/comparelists.cmake")
+
+set(WORK_DIR "${CASES_BUILD_DIR}/${NAME}")
+file(REMOVE_RECURSE "${WORK_DIR}")
+file(MAKE_DIRECTORY "${WORK_DIR}")
+set(ENV{LC_ALL} C.UTF-8)    # what compilers say is looked at
+
+# Runs a command in the folder of the case; its failure is the case's, with all that it has said.
+#   run([OUTPUT <variable>] COMMAND <command>...)
+function(run)
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" "OUTPUT" "COMMAND")
+    execute_process(COMMAND ${arg_COMMAND} WORKING_DIRECTORY "${WORK_DIR}"
+        RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE error)
+    if(NOT result EQUAL 0)
+        list(JOIN arg_COMMAND " " command)
+        string(REPLACE "\n" "\n  " said "\n${output}${error}")    # CMake leaves indented lines alone
+        message(FATAL_ERROR "This failed (${result}):\n  ${command}${said}")
+    endif()
+    if(arg_OUTPUT)
+        set(${arg_OUTPUT} "${output}" PARENT_SCOPE)
+    endif()
+endfunction()
+
+# Configures a client's project into the folder "build" of the case, with the compiler of this build.
+#   configure_client(<folder below clients> <argument>...)
+function(configure_client client)
+    run(COMMAND ${CMAKE_COMMAND} -S "${CASES_DIR}/clients/${client}" -B build -G ${GENERATOR}
+        -D "CMAKE_MAKE_PROGRAM=${MAKE_PROGRAM}" -D "CMAKE_BUILD_TYPE=${CONFIG}" -D "CMAKE_CXX_COMPILER=${COMPILER}"
+        -D "CMAKE_CXX_FLAGS=${FLAGS}" -D "XMLHELPER_QT_MAJOR=${QT_MAJOR}" ${ARGN})
+endfunction()
+
+# Builds the client that was configured, runs it and compares what it prints.
+#   build_and_run_client(<expected line>...)
+function(build_and_run_client)
+    run(COMMAND ${CMAKE_COMMAND} --build build --config "${CONFIG}" --target client --parallel 2)
+    find_program(client client PATHS "${WORK_DIR}/build" PATH_SUFFIXES "${CONFIG}" NO_DEFAULT_PATH NO_CACHE REQUIRED)
+    run(OUTPUT printed COMMAND "${client}")
+    expect_output("${printed}" ${ARGN})
+endfunction()
+
+#   expect_output(<text> <expected line>...)
+function(expect_output text)
+    list(JOIN ARGN "\n" expected)
+    string(STRIP "${text}" text)
+    if(NOT text STREQUAL expected)
+        string(REPLACE "\n" "\n  " text "${text}")
+        string(REPLACE "\n" "\n  " expected "${expected}")
+        message(FATAL_ERROR "The client printed:\n  ${text}\nExpected was:\n  ${expected}")
+    endif()
+endfunction()
+
+# The files below a folder, links included, with placeholders for what differs between builds.
+function(list_files variable folder)
+    file(GLOB_RECURSE files LIST_DIRECTORIES OFF RELATIVE "${folder}" "${folder}/*")
+    string(TOLOWER "${CONFIG}" config)
+    if(NOT config)
+        set(config noconfig)
+    endif()
+    list(TRANSFORM files REPLACE "^((usr/)?)${LIBDIR}/" "\\1<libdir>/")
+    list(TRANSFORM files REPLACE "Targets-${config}\\.cmake$" "Targets-<config>.cmake")
+    list(TRANSFORM files REPLACE "\\.so\\.${VERSION}$" ".so.<version>")
+    list(TRANSFORM files REPLACE "\\.so\\.${VERSION_MAJOR}$" ".so.<major>")
+    set(${variable} "${files}" PARENT_SCOPE)
+endfunction()
