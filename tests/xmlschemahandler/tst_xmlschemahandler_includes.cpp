@@ -61,6 +61,23 @@ private:
     QTemporaryDir m_folder;
 };
 
+/// Works in a folder for as long as it lives.
+class CurrentDirectory
+{
+public:
+    explicit CurrentDirectory(const QString& folder)
+        : m_sBefore(QDir::currentPath())
+    {
+        QDir::setCurrent(folder);
+    }
+    ~CurrentDirectory() { QDir::setCurrent(m_sBefore); }
+
+private:
+    Q_DISABLE_COPY(CurrentDirectory)
+
+    QString m_sBefore;
+};
+
 QString include(const QString& name)
 {
     return QStringLiteral("<xs:include schemaLocation='%1'/>").arg(name);
@@ -147,8 +164,12 @@ void TestXmlSchemaHandlerIncludes::findsIncludedFiles()
     const SchemaFolder folder;
     folder.Write(QStringLiteral("types.xsd"), type(QStringLiteral("Known")));
     const QString top = folder.Path();
-    const auto resolved = [&top](QString path) {
-        return path.replace(QStringLiteral("%1"), top).replace(QStringLiteral("%2"), top.mid(1));
+    // A path that starts with a slash starts at the root of the current drive, where there are drives.
+    const auto rootLength = top.indexOf(QLatin1Char('/')) + 1;
+    const CurrentDirectory current(top.left(rootLength));
+    const QString topBelowRoot = top.mid(rootLength);
+    const auto resolved = [&top, &topBelowRoot](QString path) {
+        return path.replace(QStringLiteral("%1"), top).replace(QStringLiteral("%2"), topBelowRoot);
     };
 
     SchemaFixture schema(resolved(schemaPath));
@@ -160,13 +181,9 @@ void TestXmlSchemaHandlerIncludes::findsFilesBelowASchemaPathWithoutFolder()
 {
     const SchemaFolder folder;
     folder.Write(QStringLiteral("main.xsd/types.xsd"), type(QStringLiteral("Known")));
-    const QString before = QDir::currentPath();
-    QVERIFY(QDir::setCurrent(folder.Path()));
+    const CurrentDirectory current(folder.Path());
     SchemaFixture schema(QStringLiteral("main.xsd"));
-    const bool isRead = schema.Read(include(QStringLiteral("types.xsd")));
-    QVERIFY(QDir::setCurrent(before));
-
-    QVERIFY(isRead);
+    QVERIFY(schema.Read(include(QStringLiteral("types.xsd"))));
     QCOMPARE(schema.Definitions(), QStringLiteral("Known 1 0 [leaf]\n"));
 }
 
