@@ -77,6 +77,10 @@ static_assert(UnboundedOccurs * OptionalOccursFactor == OccursNotGiven, "The two
 /// document when it saves, clones and deletes one, and the stack of a Windows main thread ends below 1,000 levels.
 constexpr int MaxElementNesting = 512;
 
+/// Tags that may be open at once in all files of an include chain: the parser recurses over them, so the limit of each
+/// file does not protect the stack when deep places include each other.
+constexpr int MaxOpenTags = 2 * MaxElementNesting;
+
 /// Elements of one document, laid out by a schema or made by copying.
 constexpr int MaxElements = 500000;
 

@@ -54,10 +54,6 @@ namespace {
 
 const char Component[] = "xmlschemahandler";
 
-/// Tags that may be open at once in all files of an include chain: the parser recurses over them, so the limit of each
-/// file does not protect the stack when deep places include each other.
-constexpr int MaxOpenTags = 2 * MaxElementNesting;
-
 const QLatin1String IncludeTag("xs:include");
 const QLatin1String ComplexTypeTag("xs:complexType");
 const QLatin1String SimpleTypeTag("xs:simpleType");
