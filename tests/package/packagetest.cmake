@@ -27,17 +27,42 @@ endfunction()
 # Configures a client's project into the folder "build" of the case, with the compiler of this build.
 #   configure_client(<folder below clients> <argument>...)
 function(configure_client client)
+    set(system "")
+    if(TOOLCHAIN_FILE)
+        list(APPEND system -D "CMAKE_TOOLCHAIN_FILE=${TOOLCHAIN_FILE}" -D "CMAKE_PREFIX_PATH=${PREFIX}\\;${PREFIX_PATH}")
+    endif()
+    if(IS_WINDOWS)
+        list(APPEND system -D "CMAKE_RUNTIME_OUTPUT_DIRECTORY=${WORK_DIR}/build")
+    endif()
     run(COMMAND ${CMAKE_COMMAND} -S "${CASES_DIR}/clients/${client}" -B build -G ${GENERATOR}
         -D "CMAKE_MAKE_PROGRAM=${MAKE_PROGRAM}" -D "CMAKE_BUILD_TYPE=${CONFIG}" -D "CMAKE_CXX_COMPILER=${COMPILER}"
-        -D "CMAKE_CXX_FLAGS=${FLAGS}" -D "XMLHELPER_QT_MAJOR=${QT_MAJOR}" ${ARGN})
+        -D "CMAKE_CXX_FLAGS=${FLAGS}" -D "XMLHELPER_QT_MAJOR=${QT_MAJOR}" ${system} ${ARGN})
+endfunction()
+
+# Windows looks for DLLs beside a program, Qt for its plugins: what the client's build has not put there itself is taken
+# from the installed tree and from what the tests of this build run with.
+function(lay_dlls_beside_client)
+    file(GLOB dlls "${PREFIX}/bin/*.dll" "${PROGRAMS_DIR}/*.dll")
+    foreach(dll IN LISTS dlls)
+        get_filename_component(name "${dll}" NAME)
+        if(NOT EXISTS "${WORK_DIR}/build/${name}")
+            file(COPY "${dll}" DESTINATION "${WORK_DIR}/build")
+        endif()
+    endforeach()
+    file(COPY "${PROGRAMS_DIR}/platforms" DESTINATION "${WORK_DIR}/build")
 endfunction()
 
 # Builds the client that was configured, runs it and compares what it prints.
 #   build_and_run_client(<expected line>...)
 function(build_and_run_client)
     run(COMMAND ${CMAKE_COMMAND} --build build --config "${CONFIG}" --target client --parallel 2)
-    find_program(client client PATHS "${WORK_DIR}/build" PATH_SUFFIXES "${CONFIG}" NO_DEFAULT_PATH NO_CACHE REQUIRED)
-    run(OUTPUT printed COMMAND "${client}")
+    find_program(client NAMES client client.exe PATHS "${WORK_DIR}/build" PATH_SUFFIXES "${CONFIG}"
+        NO_DEFAULT_PATH NO_CACHE REQUIRED)
+    if(IS_WINDOWS)
+        lay_dlls_beside_client()
+    endif()
+    run(OUTPUT printed COMMAND ${EMULATOR} "${client}")
+    string(REPLACE "\r" "" printed "${printed}")
     expect_output("${printed}" ${ARGN})
 endfunction()
 

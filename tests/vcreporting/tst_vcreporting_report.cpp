@@ -335,22 +335,21 @@ void TestVCReportingReport::offersAnExplicitValue_data()
     row("long-for-date-time-gives-an-empty-text", "dateTime", addLong, "<Value/>", "integer string");
     row("long-for-double-is-refused-to-the-end", "double", addLong, "<Value type='double'/>",
         "integer string dateTime");
-    if (sizeof(long) > sizeof(qint32)) {
-        row(
-            "long-beyond-32-bits-takes-the-upper-limit", "integer",
-            [](VCReporting& reporting) {
-                reporting.AddExplicitReportData(QStringLiteral("Value"), std::numeric_limits<long>::max(), 1, QString(),
-                                                0, QString());
-            },
-            "<Value>2147483647</Value>", "");
-        row(
-            "long-below-32-bits-takes-the-lower-limit", "integer",
-            [](VCReporting& reporting) {
-                reporting.AddExplicitReportData(QStringLiteral("Value"), std::numeric_limits<long>::min(), 1, QString(),
-                                                0, QString());
-            },
-            "<Value>-2147483648</Value>", "");
-    }
+    // Where long has 32 bits its limits are these limits themselves.
+    row(
+        "greatest-long-takes-the-upper-limit", "integer",
+        [](VCReporting& reporting) {
+            reporting.AddExplicitReportData(QStringLiteral("Value"), std::numeric_limits<long>::max(), 1, QString(), 0,
+                                            QString());
+        },
+        "<Value>2147483647</Value>", "");
+    row(
+        "least-long-takes-the-lower-limit", "integer",
+        [](VCReporting& reporting) {
+            reporting.AddExplicitReportData(QStringLiteral("Value"), std::numeric_limits<long>::min(), 1, QString(), 0,
+                                            QString());
+        },
+        "<Value>-2147483648</Value>", "");
 
     row("explicit-text-for-string-gives-an-empty-text", "string", addText, "<Value/>", "");
     row("explicit-text-for-date-time-gives-an-empty-text", "dateTime", addText, "<Value/>", "string");
