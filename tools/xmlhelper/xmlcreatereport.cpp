@@ -30,7 +30,7 @@ const QLatin1String LongType("long");
 const QLatin1String IntType("int");
 const QLatin1String IntegerType("integer");
 
-/// The namespace of schema instances, fixed by W3C XML Schema Part 1.
+/// The namespace of schema instances, fixed by W3C XML Schema, Structures.
 const QLatin1String SchemaInstanceNamespace("http://www.w3.org/2001/XMLSchema-instance");
 
 bool isEnumerationOfElement(const QString& attributeName)

@@ -110,7 +110,7 @@ public:
 
     /// Sets a date and time in ISO format (Qt::ISODate); an invalid one gives an empty text. The type must contain
     /// "dateTime". Sends as for texts, with CURRENT_TYPE_IS_NOT_DATETIME.
-    /// @param value  written in its own time specification
+    /// @param value  written in its own time zone
     void SetXmlValue(QDateTime value);
 
     /// Sets a time in ISO format (Qt::ISODate). The type must contain "time". Sends as for texts, with
@@ -138,7 +138,7 @@ public:
     /// Sets a declared attribute to a date and time in ISO format (Qt::ISODate). Its type must contain "dateTime".
     /// Sends CURRENT_TYPE_IS_NOT_DATETIME. Does nothing without a current element.
     /// @param name   the attribute
-    /// @param value  written in its own time specification
+    /// @param value  written in its own time zone
     void SetAttributeValue(QString name, QDateTime value);
 
     /// Sets a declared attribute to an integer. Its type must contain "integer" and the value must satisfy its range
