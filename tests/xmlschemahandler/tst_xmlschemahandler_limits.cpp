@@ -26,6 +26,7 @@ private Q_SLOTS:
     void refusesSchemasThatGrowWithoutEnd();
     void endsWhenNothingIsLaidOutCountlessTimes_data();
     void endsWhenNothingIsLaidOutCountlessTimes();
+    void limitsTheValuesOfAnEnumeration();
     void keepsOccursCodesInRange();
     void failsTheIncludingFilesToo();
 };
@@ -326,6 +327,23 @@ void TestXmlSchemaHandlerLimits::endsWhenNothingIsLaidOutCountlessTimes()
     QVERIFY(schema.Read(declarations));
     QCOMPARE(schema.Definitions(), definitions);
     QCOMPARE(traces.Messages(), QString());
+}
+
+void TestXmlSchemaHandlerLimits::limitsTheValuesOfAnEnumeration()
+{
+    const auto enumeration = [](int values) {
+        return QStringLiteral("<xs:simpleType name='Type'><xs:restriction base='xs:string'>")
+            + QStringLiteral("<xs:enumeration value='v'/>").repeated(values)
+            + QStringLiteral("</xs:restriction></xs:simpleType>");
+    };
+    TraceCollector traces;
+    SchemaFixture greatest;
+    QVERIFY(greatest.Read(enumeration(10000)));
+    QCOMPARE(traces.Messages(), QString());
+
+    SchemaFixture tooLong;
+    QVERIFY(!tooLong.Read(enumeration(10001)));
+    QCOMPARE(traces.Messages(), QStringLiteral("An enumeration has more than 10000 values!"));
 }
 
 void TestXmlSchemaHandlerLimits::keepsOccursCodesInRange()
