@@ -14,7 +14,11 @@ function(xmlhelper_target_defaults target)
         QT_NO_KEYWORDS)
 
     if(MSVC)
-        target_compile_options(${target} PRIVATE /W4 /utf-8 $<$<BOOL:${XMLHELPER_WERROR}>:/WX>)
+        # 4251 and 4275 say that exported classes hold and inherit classes of others: all modules of one process are
+        # built by one compiler anyway.
+        target_compile_options(${target} PRIVATE
+            /W4 /wd4251 /wd4275 /utf-8 /permissive- /Zc:__cplusplus
+            $<$<BOOL:${XMLHELPER_WERROR}>:/WX>)
     else()
         target_compile_options(${target} PRIVATE
             -Wall -Wextra -Wpedantic -Wconversion -Wshadow
