@@ -1,5 +1,7 @@
 #include "xmlcreatereport.h"
 
+#include <utility>
+
 #include <QDateTime>
 #include <QDomDocument>
 #include <QFile>

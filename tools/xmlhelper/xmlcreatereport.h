@@ -91,7 +91,8 @@ public:
     /// The type must contain "double" and the value must satisfy the range facets. On success the element loses the
     /// facets that were used and its type. 65535 as a facet counts as no facet.
     ///
-    /// Sends as for texts, with CURRENT_TYPE_IS_NOT_DOUBLE, and CURRENT_TYPE_IS_UNKNOWN twice.
+    /// Sends as for texts, with CURRENT_TYPE_IS_NOT_DOUBLE, and CURRENT_TYPE_IS_UNKNOWN twice, but once when it is the
+    /// first operation of all.
     ///
     /// @param value  NaN is on neither side of a bound
     void SetXmlValue(double value);
