@@ -8,6 +8,7 @@
 #include "constants.h"
 #include "docbeginevent.h"
 #include "docendevent.h"
+#include "domattributes.h"
 #include "elembeginevent.h"
 #include "elementsearch.h"
 #include "errorevent.h"
@@ -18,12 +19,10 @@ QT_WARNING_DISABLE_DEPRECATED
 
 namespace {
 
-QXmlAttributes attributesOf(const QDomNode& node)
+QXmlAttributes saxAttributesOf(const QDomNode& node)
 {
     QXmlAttributes attributes;
-    const QDomNamedNodeMap map = node.attributes();
-    for (int i = 0; i < map.count(); ++i) {
-        const QDomAttr attribute = map.item(i).toAttr();
+    for (const QDomAttr& attribute : attributesOf(node.toElement())) {
         attributes.append(attribute.name(), QLatin1String(""), QLatin1String(""), attribute.value());
     }
     return attributes;
@@ -49,10 +48,26 @@ DomParser::DomParser(IXMLHelper* pCallback, const OccursMap& occurs, const Choic
     , m_bRevisit(false)
     , m_bAnnounced(false)
 {
-    if (checkObserver(pCallback, "DomParser", "domparser", 37)) {
-        m_occurs = occurs;
-        m_choices = choices;
+    if (!checkObserver(pCallback, "DomParser", "domparser", 37)) {
+        return;
     }
+    m_limitedNames.reserve(static_cast<int>(occurs.size()));
+    m_occursCodes.reserve(static_cast<int>(occurs.size()));
+    for (const auto& [name, codes] : occurs) {
+        m_limitedNames.insert(name);
+        for (const auto& [code, owners] : codes) {
+            for (const QString& owner : owners) {
+                m_ownerNames.insert(owner);
+                if (!m_occursCodes.contains({name, owner}, code)) {
+                    m_occursCodes.insert({name, owner}, code);
+                }
+            }
+        }
+    }
+    for (const auto& alternative : choices) {
+        m_choiceNames.insert(alternative.second);
+    }
+    m_choiceNames.remove(QString());
 }
 
 bool DomParser::SetDocument(QDomDocument* document)
@@ -61,7 +76,7 @@ bool DomParser::SetDocument(QDomDocument* document)
         return false;
     }
     m_pDocument = document;
-    m_firstElements.clear();
+    m_pOwners.reset();
     return true;
 }
 
@@ -70,6 +85,7 @@ bool DomParser::Walk()
     if (!m_pCallback || !m_pDocument || m_pDocument->documentElement().isNull()) {
         return false;
     }
+    m_pOwners = std::make_unique<OwnerIndex>(*m_pDocument, m_ownerNames);
     deliver<DocBeginEvent>(m_pCallback);
     const QDomElement root = m_pDocument->documentElement();
     m_currentElement = root;
@@ -130,8 +146,45 @@ bool DomParser::IsBelowOwner(const QString& name, const QString& ownerName, cons
     if (!m_pDocument || ownerName.isEmpty()) {
         return false;
     }
-    const QDomElement start = firstElement(ownerName);
-    return !start.isNull() && ElementSearch(m_pDocument->lastChild()).IsMatch(name, start, element);
+    const ElementSearch search(m_pDocument->lastChild());
+    const QDomElement start = search.FirstMatch(ownerName, m_pDocument->documentElement()).toElement();
+    return !start.isNull() && search.IsMatch(name, start, element);
+}
+
+bool DomParser::IsDeclaredAbove(const QString& name, const QString& tagName, const QDomNode& element,
+                                const std::function<bool(int)>& isWanted)
+{
+    const auto isOwner = [&](const QString& owner) { return isDeclaredBelow(name, owner, isWanted); };
+    if (!m_pOwners->Refresh()) {
+        return std::any_of(m_ownerNames.begin(), m_ownerNames.end(), [&](const QString& owner) {
+            return isOwner(owner) && IsBelowOwner(tagName, owner, element);
+        });
+    }
+    if (element == m_pDocument->documentElement()) {
+        return isOwner(tagName); // A search that starts at the root reports the root too.
+    }
+    // A match hides what is below it.
+    QDomNode ancestor = element.parentNode();
+    for (; !ancestor.isNull(); ancestor = ancestor.parentNode()) {
+        const QString ancestorName = ancestor.nodeName();
+        if (isOwner(ancestorName) && m_pOwners->IsFirst(ancestor, ancestorName)) {
+            return true;
+        }
+        if (ancestorName == tagName) {
+            return false;
+        }
+    }
+    return false;
+}
+
+QDomNode DomParser::Remove(const QDomNode& node)
+{
+    return m_pOwners->Remove(node);
+}
+
+void DomParser::InsertCopies(const QDomElement& element, int copies)
+{
+    m_pOwners->InsertCopies(element, copies);
 }
 
 /// Announces the node on which the walk stands and moves on from it.
@@ -173,6 +226,7 @@ void DomParser::takeText(Level& level, bool isTopLevel)
     }
     const QString defaultText = m_currentElement.attribute(DefaultAttribute);
     if (!isTopLevel && !defaultText.isEmpty()) {
+        const OwnerIndex::OwnChange change = Change();
         m_currentElement.removeAttribute(DefaultAttribute);
         m_currentElement.appendChild(m_pDocument->createTextNode(defaultText));
     }
@@ -181,7 +235,11 @@ void DomParser::takeText(Level& level, bool isTopLevel)
 void DomParser::announce(const QDomNode& node, const QString& text)
 {
     m_bAnnounced = true;
-    deliver<ElemBeginEvent>(m_pCallback, node, node.nodeName(), attributesOf(node), text);
+    const QString name = node.nodeName();
+    deliver<ElemBeginEvent>(m_pCallback, node, name, saxAttributesOf(node), text);
+    if (node.nodeName() != name) {
+        m_pOwners->Invalidate();
+    }
 }
 
 bool DomParser::takeNotice()
@@ -216,28 +274,29 @@ bool DomParser::checkCurrentElement()
 
 bool DomParser::isOptional()
 {
-    const auto codes = m_occurs.find(m_currentElement.tagName());
-    if (codes == m_occurs.end()) {
+    const QString name = m_currentElement.tagName();
+    if (!m_limitedNames.contains(name)) {
         deliver<ErrorEvent>(m_pCallback, IXMLHelper::VALUE_IS_NOT_VALID);
         return false;
     }
-    return std::any_of(codes->second.begin(), codes->second.end(),
-                       [this](const auto& code) { return isOptionalCode(code.first) && isBelowAnyOf(code.second); });
+    return IsDeclaredAbove(name, name, m_currentElement, isOptionalCode);
 }
 
-bool DomParser::isBelowAnyOf(const std::list<QString>& owners)
+bool DomParser::isDeclaredBelow(const QString& name, const QString& ownerName,
+                                const std::function<bool(int)>& isWanted) const
 {
-    return std::any_of(owners.begin(), owners.end(), [this](const QString& owner) {
-        return IsBelowOwner(m_currentElement.tagName(), owner, m_currentElement);
-    });
+    const QPair<QString, QString> key(name, ownerName);
+    for (auto code = m_occursCodes.constFind(key); code != m_occursCodes.constEnd() && code.key() == key; ++code) {
+        if (isWanted(*code)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool DomParser::isChoiceAlternative() const
 {
-    const QString name = m_currentElement.tagName();
-    return !name.isEmpty() && std::any_of(m_choices.begin(), m_choices.end(), [&name](const auto& alternative) {
-        return alternative.second == name;
-    });
+    return m_choiceNames.contains(m_currentElement.tagName());
 }
 
 /// The walk goes on behind the container, one level deeper than the container stood.
@@ -245,42 +304,21 @@ void DomParser::removeProbationElement()
 {
     m_resumeNode = m_probationElement.nextSibling();
     m_currentElement = m_resumeNode.toElement();
-    remove(m_probationElement);
+    removeAndKeep(m_probationElement);
     m_probationElement = QDomElement();
 }
 
 void DomParser::removeCurrentElement()
 {
     m_resumeNode = m_currentElement.nextSibling();
-    if (remove(m_currentElement).isNull()) {
+    if (removeAndKeep(m_currentElement).isNull()) {
         deliver<ErrorEvent>(m_pCallback, IXMLHelper::GENERAL_ERROR);
     }
 }
 
 /// Gives a null node when there was nothing to remove @p node from.
-QDomNode DomParser::remove(const QDomNode& node)
+QDomNode DomParser::removeAndKeep(const QDomNode& node)
 {
     m_removedNodes.push_back(node);
-    return node.parentNode().removeChild(node);
-}
-
-/// The first element called @p name in the document. The answer is remembered while the element is there: copies go
-/// behind their original and nothing else is put in, so no other becomes the first.
-QDomElement DomParser::firstElement(const QString& name)
-{
-    const auto known = m_firstElements.find(name);
-    if (known != m_firstElements.end() && (known->second.isNull() || isInDocument(known->second))) {
-        return known->second;
-    }
-    const ElementSearch search(m_pDocument->lastChild());
-    return m_firstElements[name] = search.FirstMatch(name, m_pDocument->documentElement()).toElement();
-}
-
-bool DomParser::isInDocument(const QDomNode& node) const
-{
-    QDomNode top = node;
-    while (!top.parentNode().isNull()) {
-        top = top.parentNode();
-    }
-    return top == *m_pDocument;
+    return Remove(node);
 }

@@ -1,14 +1,19 @@
 #ifndef XMLHELPER_DOMPARSER_H
 #define XMLHELPER_DOMPARSER_H
 
+#include <functional>
 #include <list>
-#include <map>
+#include <memory>
 #include <vector>
 
 #include <QDomDocument>
 #include <QDomElement>
+#include <QMultiHash>
+#include <QPair>
+#include <QSet>
 #include <QString>
 
+#include "ownerindex.h"
 #include "schemamodel.h"
 
 class IXMLHelper;
@@ -61,6 +66,24 @@ public:
     /// list. An empty owner name is nobody's.
     bool IsBelowOwner(const QString& name, const QString& ownerName, const QDomNode& element);
 
+    /// Whether @p element, called @p tagName, is one of those that IsBelowOwner() accepts for some owner under which
+    /// @p name was declared with an occurs code that @p isWanted accepts. What it costs depends on how deep the element
+    /// stands, not on the number of owners or elements.
+    bool IsDeclaredAbove(const QString& name, const QString& tagName, const QDomNode& element,
+                         const std::function<bool(int)>& isWanted);
+
+    // The changes of the builder, which are to be made with these from the start of the walk on. Anything else that
+    // happens to the document is noticed, and costs a new look at all of it.
+
+    /// Removes @p node from its parent; gives a null node when it could not be removed.
+    QDomNode Remove(const QDomNode& node);
+
+    /// Inserts @p copies deep copies of @p element behind it.
+    void InsertCopies(const QDomElement& element, int copies);
+
+    /// To be held while texts and attributes are changed.
+    OwnerIndex::OwnChange Change() { return OwnerIndex::OwnChange(m_pOwners.get()); }
+
 private:
     Q_DISABLE_COPY(DomParser)
 
@@ -77,21 +100,21 @@ private:
     bool takeNotice();
     bool checkCurrentElement();
     bool isOptional();
-    bool isBelowAnyOf(const std::list<QString>& owners);
     bool isChoiceAlternative() const;
     void removeProbationElement();
     void removeCurrentElement();
-    QDomNode remove(const QDomNode& node);
-    QDomElement firstElement(const QString& name);
-    bool isInDocument(const QDomNode& node) const;
+    QDomNode removeAndKeep(const QDomNode& node);
+    bool isDeclaredBelow(const QString& name, const QString& ownerName, const std::function<bool(int)>& isWanted) const;
 
     QDomDocument* m_pDocument;
     QDomNode m_resumeNode; ///< where the walk goes on after a notice or a removal
     QDomElement m_currentElement;
     QDomElement m_probationElement; ///< kept only if something inside it is filled; null when there is none
     IXMLHelper* m_pCallback;
-    OccursMap m_occurs;
-    ChoiceMap m_choices;
+    QSet<QString> m_limitedNames; ///< that have an entry in the occurrence map
+    QMultiHash<QPair<QString, QString>, int> m_occursCodes; ///< of an element name and an owner name
+    QSet<QString> m_ownerNames;
+    QSet<QString> m_choiceNames;
     bool m_bResume; ///< a notice is pending
     bool m_bRevisit; ///< the notice asks to announce its element
 
@@ -101,7 +124,7 @@ private:
     /// Keeps alive what was removed: the walk goes on inside a container that was removed from further below, and the
     /// current element may stay there.
     std::list<QDomNode> m_removedNodes;
-    std::map<QString, QDomElement> m_firstElements; ///< remembered results of firstElement()
+    std::unique_ptr<OwnerIndex> m_pOwners; ///< from the start of the walk on
 };
 
 #endif

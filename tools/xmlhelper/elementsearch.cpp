@@ -1,19 +1,8 @@
 #include "elementsearch.h"
 
-namespace {
+#include "domorder.h"
 
-/// The node after @p node in document order below @p start, without descending when @p isToSkipChildren is set.
-QDomNode nextBelow(const QDomNode& start, const QDomNode& node, bool isToSkipChildren)
-{
-    if (!isToSkipChildren && node.isElement() && node.hasChildNodes()) {
-        return node.firstChild();
-    }
-    QDomNode last = node;
-    while (last != start && last.nextSibling().isNull()) {
-        last = last.parentNode();
-    }
-    return last == start ? QDomNode() : last.nextSibling();
-}
+namespace {
 
 /// Whether a walk that starts at @p node has its start for a match.
 bool isMatchingAsStart(const QDomNode& node, const QString& name)

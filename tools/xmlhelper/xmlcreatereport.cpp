@@ -12,6 +12,7 @@
 #include "commentdialogimpl.h"
 #include "constants.h"
 #include "documentfile.h"
+#include "domattributes.h"
 #include "domextent.h"
 #include "domparser.h"
 #include "errorevent.h"
@@ -74,14 +75,12 @@ template <typename Number> RangeBounds<Number> boundsOfElement(const QDomElement
 template <typename Number> RangeBounds<Number> boundsOfAttribute(const QDomElement& element, const QString& name)
 {
     RangeBounds<Number> bounds;
-    const QDomNamedNodeMap attributes = element.attributes();
-    for (int i = 0; i < attributes.count(); ++i) {
-        const QDomAttr attribute = attributes.item(i).toAttr();
+    for (const QDomAttr& attribute : attributesOf(element)) {
         const QString facet = attribute.name();
-        const int value = attribute.value().toInt();
         if (!facet.contains(name)) {
             continue;
         }
+        const int value = attribute.value().toInt();
         if (facet.contains(MinInclusiveFacet)) {
             bounds.minInclusive = value;
         } else if (facet.contains(MaxInclusiveFacet)) {
@@ -165,7 +164,7 @@ void XmlCreateReport::SetXmlValue(QString value)
 {
     if (isTypeAccepted(QStringLiteral("string"), IXMLHelper::CURRENT_TYPE_IS_NOT_STRING)
         && useEnumeration(value, isEnumerationOfElement)) {
-        m_pCurrentElement->removeAttribute(TypeAttribute);
+        removeAttribute(TypeAttribute);
         CreateAndAppendTextNode(value);
     }
 }
@@ -179,7 +178,7 @@ void XmlCreateReport::SetXmlValue(double value)
     const bool isShort = m_pCurrentElement && TypeControl(wanted) == ShortType;
     const QString text = isShort ? QString::number(toInt32(value)) : toReportText(value);
     if (isTypeAccepted(wanted, IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE) && useRange(value)) {
-        m_pCurrentElement->removeAttribute(TypeAttribute);
+        removeAttribute(TypeAttribute);
         CreateAndAppendTextNode(text);
     }
 }
@@ -190,7 +189,7 @@ void XmlCreateReport::SetXmlValue(int value)
         return;
     }
     // Removed before the range is checked, unlike the other numbers: a refused integer leaves no type behind.
-    m_pCurrentElement->removeAttribute(TypeAttribute);
+    removeAttribute(TypeAttribute);
     if (useRange(value)) {
         CreateAndAppendTextNode(QString::number(value));
     }
@@ -199,7 +198,7 @@ void XmlCreateReport::SetXmlValue(int value)
 void XmlCreateReport::SetXmlValue(bool value)
 {
     if (isTypeAccepted(QStringLiteral("bool"), IXMLHelper::CURRENT_TYPE_IS_NOT_BOOLEAN)) {
-        m_pCurrentElement->removeAttribute(TypeAttribute);
+        removeAttribute(TypeAttribute);
         CreateAndAppendTextNode(value ? QStringLiteral("true") : QStringLiteral("false"));
     }
 }
@@ -208,7 +207,7 @@ void XmlCreateReport::SetXmlValue(QDateTime value)
 {
     if (isTypeAccepted(QStringLiteral("dateTime"), IXMLHelper::CURRENT_TYPE_IS_NOT_DATETIME)) {
         CreateAndAppendTextNode(value.toString(Qt::ISODate));
-        m_pCurrentElement->removeAttribute(TypeAttribute);
+        removeAttribute(TypeAttribute);
     }
 }
 
@@ -216,7 +215,7 @@ void XmlCreateReport::SetXmlValue(QTime value)
 {
     if (isTypeAccepted(QStringLiteral("time"), IXMLHelper::CURRENT_TYPE_IS_NOT_TIME)) {
         CreateAndAppendTextNode(value.toString(Qt::ISODate));
-        m_pCurrentElement->removeAttribute(TypeAttribute);
+        removeAttribute(TypeAttribute);
     }
 }
 
@@ -228,7 +227,7 @@ void XmlCreateReport::SetAttributeValue(QString name, QString value)
     if (refreshCurrentElement()
         && isAttributeTypeAccepted(name, QStringLiteral("string"), IXMLHelper::CURRENT_TYPE_IS_NOT_STRING)
         && useEnumeration(value, isEnumerationOfAttribute)) {
-        m_pCurrentElement->setAttribute(name, value);
+        setAttribute(name, value);
     }
 }
 
@@ -236,7 +235,7 @@ void XmlCreateReport::SetAttributeValue(QString name, QDateTime value)
 {
     if (refreshCurrentElement()
         && isAttributeTypeAccepted(name, QStringLiteral("dateTime"), IXMLHelper::CURRENT_TYPE_IS_NOT_DATETIME)) {
-        m_pCurrentElement->setAttribute(name, value.toString(Qt::ISODate));
+        setAttribute(name, value.toString(Qt::ISODate));
     }
 }
 
@@ -261,7 +260,7 @@ void XmlCreateReport::SetAttributeValue(QString name, double value)
 void XmlCreateReport::RemoveAttribute(QString name)
 {
     if (refreshCurrentElement()) {
-        m_pCurrentElement->removeAttribute(name);
+        removeAttribute(name);
     }
 }
 
@@ -290,7 +289,7 @@ void XmlCreateReport::DiscardChoiceItem()
     }
     m_pCurrentElement = new QDomElement(discarded.nextSibling().toElement());
     m_followers.push_back(m_pCurrentElement);
-    const bool isRemoved = !discarded.parentNode().removeChild(discarded).isNull();
+    const bool isRemoved = !m_pDomParser->Remove(discarded).isNull();
     m_pDomParser->ContinueAt(m_pCurrentElement, false);
     if (isRemoved) {
         ++m_iDiscardedChoices;
@@ -307,6 +306,7 @@ void XmlCreateReport::CreateAndAppendTextNode(QString text)
         Error(IXMLHelper::NO_CURRENT_ELEMENT);
         return;
     }
+    const OwnerIndex::OwnChange change = m_pDomParser->Change();
     const QDomNode first = m_pCurrentElement->firstChild();
     if (first.nodeType() == QDomNode::TextNode) {
         m_pCurrentElement->removeChild(first);
@@ -345,22 +345,12 @@ void XmlCreateReport::Error(int id)
 /// Whether the schema allows @p count occurrences of @p name under some owner below which @p element stands.
 bool XmlCreateReport::CheckOccursMap(QString name, QString tagName, int count, QDomElement* element)
 {
-    const auto codes = m_occurs.find(name);
-    if (codes == m_occurs.end()) {
+    if (m_occurs.find(name) == m_occurs.end()) {
         Error(IXMLHelper::MAX_OCCURS_EXCEEDED);
         return false;
     }
-    for (const auto& [code, owners] : codes->second) {
-        if (!isCountAllowed(code, count)) {
-            continue;
-        }
-        for (const QString& owner : owners) {
-            if (m_pDomParser->IsBelowOwner(tagName, owner, *element)) {
-                return true;
-            }
-        }
-    }
-    return false;
+    const auto isAllowed = [count](int occursCode) { return isCountAllowed(occursCode, count); };
+    return m_pDomParser->IsDeclaredAbove(name, tagName, *element, isAllowed);
 }
 
 bool XmlCreateReport::readSchema(const QString& schemaPath)
@@ -441,23 +431,22 @@ bool XmlCreateReport::isAttributeTypeAccepted(const QString& name, const QString
 template <class IsEnumerationName>
 bool XmlCreateReport::useEnumeration(const QString& value, IsEnumerationName isEnumerationName)
 {
-    const QDomNamedNodeMap attributes = m_pCurrentElement->attributes();
-    const int count = attributes.count();
+    const std::vector<QDomAttr> attributes = attributesOf(*m_pCurrentElement);
     QStringList names;
     QString lastValue;
     bool isFound = false;
-    for (int i = 0; i < count; ++i) {
-        const QDomAttr attribute = attributes.item(i).toAttr();
+    for (const QDomAttr& attribute : attributes) {
         if (isEnumerationName(attribute.name())) {
             names.prepend(attribute.name());
             lastValue = attribute.value();
             isFound = isFound || lastValue == value;
         }
     }
-    if (!lastValue.isEmpty() && !isFound && count >= 2) {
+    if (!lastValue.isEmpty() && !isFound && attributes.size() >= 2) {
         Error(IXMLHelper::VALUE_IS_NOT_VALID);
         return false;
     }
+    const OwnerIndex::OwnChange change = m_pDomParser->Change();
     for (const QString& name : std::as_const(names)) {
         m_pCurrentElement->removeAttribute(name);
     }
@@ -474,7 +463,7 @@ template <typename Number> bool XmlCreateReport::useRange(Number value)
         return false;
     }
     for (const QLatin1String facet : verdict.usedFacets) {
-        m_pCurrentElement->removeAttribute(facet);
+        removeAttribute(facet);
     }
     return true;
 }
@@ -490,17 +479,28 @@ void XmlCreateReport::setCheckedAttribute(const QString& name, const QString& te
         return;
     }
     for (const QLatin1String facet : verdict.usedFacets) {
-        m_pCurrentElement->removeAttribute(facet + name);
+        removeAttribute(facet + name);
     }
-    m_pCurrentElement->setAttribute(name, text);
+    setAttribute(name, text);
+}
+
+void XmlCreateReport::setAttribute(const QString& name, const QString& value)
+{
+    const OwnerIndex::OwnChange change = m_pDomParser->Change();
+    m_pCurrentElement->setAttribute(name, value);
+}
+
+void XmlCreateReport::removeAttribute(const QString& name)
+{
+    const OwnerIndex::OwnChange change = m_pDomParser->Change();
+    m_pCurrentElement->removeAttribute(name);
 }
 
 /// Makes the current element occur @p count times. A root has no place for copies, which counts as success. Gives
 /// false, and makes no copy, when the document would become too large.
 bool XmlCreateReport::copyCurrentElement(int count)
 {
-    QDomElement parent = m_pCurrentElement->parentNode().toElement();
-    if (parent.isNull() || count <= 1) {
+    if (m_pCurrentElement->parentNode().toElement().isNull() || count <= 1) {
         return true;
     }
     const qint64 added = qint64(extentOf(*m_pCurrentElement).elements) * (count - 1);
@@ -510,9 +510,7 @@ bool XmlCreateReport::copyCurrentElement(int count)
         return false;
     }
     m_iElements += static_cast<int>(added);
-    for (int copy = 1; copy < count; ++copy) {
-        parent.insertAfter(m_pCurrentElement->cloneNode(true), *m_pCurrentElement);
-    }
+    m_pDomParser->InsertCopies(*m_pCurrentElement, count - 1);
     return true;
 }
 

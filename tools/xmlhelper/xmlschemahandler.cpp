@@ -12,6 +12,7 @@
 
 #include "constants.h"
 #include "documentfile.h"
+#include "domattributes.h"
 #include "domextent.h"
 #include "tracing.h"
 
@@ -96,9 +97,7 @@ bool isCarrier(const QDomNode& node)
 
 void copyAttributes(const QDomElement& from, QDomElement to)
 {
-    const QDomNamedNodeMap attributes = from.attributes();
-    for (int i = 0; i < attributes.count(); ++i) {
-        const QDomAttr attribute = attributes.item(i).toAttr();
+    for (const QDomAttr& attribute : attributesOf(from)) {
         to.setAttribute(attribute.name(), attribute.value());
     }
 }
@@ -106,9 +105,7 @@ void copyAttributes(const QDomElement& from, QDomElement to)
 /// Copies the facets of @p from to @p to, with @p suffix appended to their names.
 void copyFacets(const QDomElement& from, QDomElement to, const QString& suffix = QString())
 {
-    const QDomNamedNodeMap attributes = from.attributes();
-    for (int i = 0; i < attributes.count(); ++i) {
-        const QDomAttr attribute = attributes.item(i).toAttr();
+    for (const QDomAttr& attribute : attributesOf(from)) {
         if (isFacet(attribute.name())) {
             to.setAttribute(attribute.name() + suffix, attribute.value());
         }

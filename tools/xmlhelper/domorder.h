@@ -1,0 +1,10 @@
+#ifndef XMLHELPER_DOMORDER_H
+#define XMLHELPER_DOMORDER_H
+
+class QDomNode;
+
+/// The node after @p node in document order below @p start, a null node at the end. Descends into elements only, and
+/// not into @p node when @p isToSkipChildren is set. Uses no recursion.
+QDomNode nextBelow(const QDomNode& start, const QDomNode& node, bool isToSkipChildren);
+
+#endif
