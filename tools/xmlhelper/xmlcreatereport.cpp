@@ -4,9 +4,7 @@
 
 #include <QDateTime>
 #include <QDomDocument>
-#include <QFile>
 #include <QStringList>
-#include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
 #include "commentdialogimpl.h"
@@ -105,6 +103,18 @@ bool isCountAllowed(int occursCode, int count)
     return count < 0 || occursCode % OptionalOccursFactor == 0;
 }
 
+void setAttribute(DomParser& parser, const QString& name, const QString& value)
+{
+    const OwnerIndex::OwnChange change = parser.Change();
+    parser.GetCurrentElement()->setAttribute(name, value);
+}
+
+void removeAttribute(DomParser& parser, const QString& name)
+{
+    const OwnerIndex::OwnChange change = parser.Change();
+    parser.GetCurrentElement()->removeAttribute(name);
+}
+
 } // namespace
 
 XmlCreateReport::XmlCreateReport(IXMLHelper* pCallback)
@@ -164,7 +174,7 @@ void XmlCreateReport::SetXmlValue(QString value)
 {
     if (isTypeAccepted(QStringLiteral("string"), IXMLHelper::CURRENT_TYPE_IS_NOT_STRING)
         && useEnumeration(value, isEnumerationOfElement)) {
-        removeAttribute(TypeAttribute);
+        removeAttribute(*m_pDomParser, TypeAttribute);
         CreateAndAppendTextNode(value);
     }
 }
@@ -178,7 +188,7 @@ void XmlCreateReport::SetXmlValue(double value)
     const bool isShort = m_pCurrentElement && TypeControl(wanted) == ShortType;
     const QString text = isShort ? QString::number(toInt32(value)) : toReportText(value);
     if (isTypeAccepted(wanted, IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE) && useRange(value)) {
-        removeAttribute(TypeAttribute);
+        removeAttribute(*m_pDomParser, TypeAttribute);
         CreateAndAppendTextNode(text);
     }
 }
@@ -189,7 +199,7 @@ void XmlCreateReport::SetXmlValue(int value)
         return;
     }
     // Removed before the range is checked, unlike the other numbers: a refused integer leaves no type behind.
-    removeAttribute(TypeAttribute);
+    removeAttribute(*m_pDomParser, TypeAttribute);
     if (useRange(value)) {
         CreateAndAppendTextNode(QString::number(value));
     }
@@ -198,7 +208,7 @@ void XmlCreateReport::SetXmlValue(int value)
 void XmlCreateReport::SetXmlValue(bool value)
 {
     if (isTypeAccepted(QStringLiteral("bool"), IXMLHelper::CURRENT_TYPE_IS_NOT_BOOLEAN)) {
-        removeAttribute(TypeAttribute);
+        removeAttribute(*m_pDomParser, TypeAttribute);
         CreateAndAppendTextNode(value ? QStringLiteral("true") : QStringLiteral("false"));
     }
 }
@@ -207,7 +217,7 @@ void XmlCreateReport::SetXmlValue(QDateTime value)
 {
     if (isTypeAccepted(QStringLiteral("dateTime"), IXMLHelper::CURRENT_TYPE_IS_NOT_DATETIME)) {
         CreateAndAppendTextNode(value.toString(Qt::ISODate));
-        removeAttribute(TypeAttribute);
+        removeAttribute(*m_pDomParser, TypeAttribute);
     }
 }
 
@@ -215,7 +225,7 @@ void XmlCreateReport::SetXmlValue(QTime value)
 {
     if (isTypeAccepted(QStringLiteral("time"), IXMLHelper::CURRENT_TYPE_IS_NOT_TIME)) {
         CreateAndAppendTextNode(value.toString(Qt::ISODate));
-        removeAttribute(TypeAttribute);
+        removeAttribute(*m_pDomParser, TypeAttribute);
     }
 }
 
@@ -227,7 +237,7 @@ void XmlCreateReport::SetAttributeValue(QString name, QString value)
     if (refreshCurrentElement()
         && isAttributeTypeAccepted(name, QStringLiteral("string"), IXMLHelper::CURRENT_TYPE_IS_NOT_STRING)
         && useEnumeration(value, isEnumerationOfAttribute)) {
-        setAttribute(name, value);
+        setAttribute(*m_pDomParser, name, value);
     }
 }
 
@@ -235,7 +245,7 @@ void XmlCreateReport::SetAttributeValue(QString name, QDateTime value)
 {
     if (refreshCurrentElement()
         && isAttributeTypeAccepted(name, QStringLiteral("dateTime"), IXMLHelper::CURRENT_TYPE_IS_NOT_DATETIME)) {
-        setAttribute(name, value.toString(Qt::ISODate));
+        setAttribute(*m_pDomParser, name, value.toString(Qt::ISODate));
     }
 }
 
@@ -260,7 +270,7 @@ void XmlCreateReport::SetAttributeValue(QString name, double value)
 void XmlCreateReport::RemoveAttribute(QString name)
 {
     if (refreshCurrentElement()) {
-        removeAttribute(name);
+        removeAttribute(*m_pDomParser, name);
     }
 }
 
@@ -355,16 +365,13 @@ bool XmlCreateReport::CheckOccursMap(QString name, QString tagName, int count, Q
 
 bool XmlCreateReport::readSchema(const QString& schemaPath)
 {
-    QFile file(openableFileName(schemaPath));
     m_pSchemaReader = new QXmlSimpleReader;
-    m_pSchemaReader->setContentHandler(m_pSchemaHandler);
-    m_pSchemaReader->setErrorHandler(m_pSchemaHandler);
-    const bool isParsed = m_pSchemaReader->parse(QXmlInputSource(&file));
+    const bool isParsed = m_pSchemaHandler->ReadFile(openableFileName(schemaPath), *m_pSchemaReader);
     delete m_pSchemaReader;
     m_pSchemaReader = nullptr;
 
     m_pDocument = m_pSchemaHandler->GetDocument();
-    m_pSchemaHandler->HandOver(m_unresolvedTypes, m_occurs, m_typeDefinitions, m_choices);
+    std::move(*m_pSchemaHandler).HandOver(m_unresolvedTypes, m_occurs, m_typeDefinitions, m_choices);
     m_iElements = extentOf(*m_pDocument).elements;
     return isParsed;
 }
@@ -463,7 +470,7 @@ template <typename Number> bool XmlCreateReport::useRange(Number value)
         return false;
     }
     for (const QLatin1String facet : verdict.usedFacets) {
-        removeAttribute(facet);
+        removeAttribute(*m_pDomParser, facet);
     }
     return true;
 }
@@ -479,21 +486,9 @@ void XmlCreateReport::setCheckedAttribute(const QString& name, const QString& te
         return;
     }
     for (const QLatin1String facet : verdict.usedFacets) {
-        removeAttribute(facet + name);
+        removeAttribute(*m_pDomParser, facet + name);
     }
-    setAttribute(name, text);
-}
-
-void XmlCreateReport::setAttribute(const QString& name, const QString& value)
-{
-    const OwnerIndex::OwnChange change = m_pDomParser->Change();
-    m_pCurrentElement->setAttribute(name, value);
-}
-
-void XmlCreateReport::removeAttribute(const QString& name)
-{
-    const OwnerIndex::OwnChange change = m_pDomParser->Change();
-    m_pCurrentElement->removeAttribute(name);
+    setAttribute(*m_pDomParser, name, text);
 }
 
 /// Makes the current element occur @p count times. A root has no place for copies, which counts as success. Gives

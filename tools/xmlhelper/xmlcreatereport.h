@@ -196,8 +196,6 @@ private:
     template <class IsEnumerationName> bool useEnumeration(const QString& value, IsEnumerationName isEnumerationName);
     template <typename Number> bool useRange(Number value);
     template <typename Number> void setCheckedAttribute(const QString& name, const QString& text, Number value);
-    void setAttribute(const QString& name, const QString& value);
-    void removeAttribute(const QString& name);
     bool copyCurrentElement(int count);
     bool isDiscardAllowed(const QString& tagName) const;
 

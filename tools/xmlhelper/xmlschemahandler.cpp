@@ -124,6 +124,33 @@ void setDeclaredAttribute(TypeDefinition& definition, QDomElement owner)
     }
 }
 
+bool isNamespaceDeclaration(const QString& attributeName)
+{
+    const QLatin1String word("xmlns");
+    return attributeName.startsWith(word)
+        && (attributeName.size() == word.size() || attributeName.at(word.size()) == QLatin1Char(':'));
+}
+
+/// What a parser reports that looks after namespaces, as if no declaration stood among the attributes.
+QXmlAttributes withoutNamespaceDeclarations(const QXmlAttributes& attributes)
+{
+    int index = 0;
+    while (index < attributes.count() && !isNamespaceDeclaration(attributes.qName(index))) {
+        ++index;
+    }
+    if (index == attributes.count()) {
+        return attributes;
+    }
+    QXmlAttributes others;
+    for (index = 0; index < attributes.count(); ++index) {
+        const QString name = attributes.qName(index);
+        if (!isNamespaceDeclaration(name)) {
+            others.append(name, QString(), QString(), attributes.value(index));
+        }
+    }
+    return others;
+}
+
 /// One name for every way to write the path of a file.
 QString identityOfFile(const QString& fileName)
 {
@@ -167,7 +194,7 @@ int XmlSchemaHandler::ElementDeclaration::OccursCode() const
 }
 
 XmlSchemaHandler::XmlSchemaHandler(IXMLHelper* pCallback, const QString& schemaPath)
-    : XmlSchemaHandler(std::make_shared<SchemaReading>(), pCallback, schemaPath, {}, {}, {}, {})
+    : XmlSchemaHandler(std::make_shared<SchemaReading>(), pCallback, schemaPath)
 {
     if (checkObserver(pCallback, "XmlSchemaHandler", Component, 35)) {
         m_pReading->openFiles.append(identityOfFile(openableFileName(schemaPath)));
@@ -178,15 +205,9 @@ XmlSchemaHandler::XmlSchemaHandler(IXMLHelper* pCallback, const QString& schemaP
 }
 
 XmlSchemaHandler::XmlSchemaHandler(const std::shared_ptr<SchemaReading>& reading, IXMLHelper* pCallback,
-                                   const QString& schemaPath, const UnresolvedTypeMap& unresolvedTypes,
-                                   const OccursMap& occurs, const TypeDefinitionMap& typeDefinitions,
-                                   const ChoiceMap& choices)
+                                   const QString& schemaPath)
     : m_sCurrentName(QLatin1String(""))
     , m_pCallback(pCallback)
-    , m_unresolvedTypes(unresolvedTypes)
-    , m_occurs(occurs)
-    , m_typeDefinitions(typeDefinitions)
-    , m_choices(choices)
     , m_iDefinitionDepth(0)
     , m_iEnumerationCounter(1)
     , m_bInsideRestriction(false)
@@ -207,13 +228,37 @@ XmlSchemaHandler::XmlSchemaHandler(const std::shared_ptr<SchemaReading>& reading
 XmlSchemaHandler::~XmlSchemaHandler() = default;
 
 bool XmlSchemaHandler::HandOver(UnresolvedTypeMap& unresolvedTypes, OccursMap& occurs,
-                                TypeDefinitionMap& typeDefinitions, ChoiceMap& choices)
+                                TypeDefinitionMap& typeDefinitions, ChoiceMap& choices) &
 {
     unresolvedTypes = m_unresolvedTypes;
     occurs = m_occurs;
     typeDefinitions = m_typeDefinitions;
     choices = m_choices;
     return true;
+}
+
+bool XmlSchemaHandler::HandOver(UnresolvedTypeMap& unresolvedTypes, OccursMap& occurs,
+                                TypeDefinitionMap& typeDefinitions, ChoiceMap& choices) &&
+{
+    unresolvedTypes = std::move(m_unresolvedTypes);
+    occurs = std::move(m_occurs);
+    typeDefinitions = std::move(m_typeDefinitions);
+    choices = std::move(m_choices);
+    return true;
+}
+
+bool XmlSchemaHandler::ReadFile(const QString& fileName, QXmlSimpleReader& parser)
+{
+    QFile file(fileName);
+    QXmlInputSource source;
+    if (file.open(QIODevice::ReadOnly)) {
+        source.setData(file.readAll());
+    }
+    // Qualified names are all that counts.
+    parser.setFeature(QStringLiteral("http://xml.org/sax/features/namespaces"), false);
+    parser.setContentHandler(this);
+    parser.setErrorHandler(this);
+    return parser.parse(source);
 }
 
 QDomDocument* XmlSchemaHandler::GetDocument() const
@@ -245,7 +290,7 @@ bool XmlSchemaHandler::startElement(const QString&, const QString&, const QStrin
         return true;
     }
     m_sCurrentName = qName;
-    m_attributes = attributes;
+    m_attributes = withoutNamespaceDeclarations(attributes);
     if (++m_iNesting > MaxElementNesting) {
         refuse(QStringLiteral("The schema is nested deeper than %1 elements!").arg(MaxElementNesting));
     } else if (m_pReading->openTags + m_iNesting > MaxOpenTags) {
@@ -320,20 +365,18 @@ void XmlSchemaHandler::readInclude()
     }
 
     // Includes inside the included file resolve against the top schema, so the handler gets this one's path.
-    XmlSchemaHandler included(m_pReading, m_pCallback, m_sSchemaPath, m_unresolvedTypes, m_occurs, m_typeDefinitions,
-                              m_choices);
-    QFile file(fileName);
-    const QXmlInputSource source(&file);
-    QXmlSimpleReader parser;
-    parser.setContentHandler(&included);
-    parser.setErrorHandler(&included);
+    // The maps go there and come back: this file is not read in between.
+    XmlSchemaHandler included(m_pReading, m_pCallback, m_sSchemaPath);
+    std::move(*this).HandOver(included.m_unresolvedTypes, included.m_occurs, included.m_typeDefinitions,
+                              included.m_choices);
     openFiles.append(identity);
     m_pReading->openTags += m_iNesting;
-    parser.parse(source);
+    QXmlSimpleReader parser;
+    included.ReadFile(fileName, parser);
     m_pReading->openTags -= m_iNesting;
     openFiles.removeLast();
     m_pReading->includedDocuments.push_back(*included.m_pDocument);
-    included.HandOver(m_unresolvedTypes, m_occurs, m_typeDefinitions, m_choices);
+    std::move(included).HandOver(m_unresolvedTypes, m_occurs, m_typeDefinitions, m_choices);
 }
 
 /// The folder counts only when the path of the schema names a file: a path with another ending contributes a slash at

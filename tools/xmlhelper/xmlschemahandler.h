@@ -12,6 +12,7 @@
 #include "schemamodel.h"
 
 class IXMLHelper;
+class QXmlSimpleReader;
 struct SchemaReading;
 
 QT_WARNING_PUSH
@@ -23,8 +24,8 @@ QT_WARNING_DISABLE_DEPRECATED // The SAX classes: Qt keeps them, with a warning.
     ///
     /// The report builder makes one handler for the schema, sets it as content and error handler of a SAX parser,
     /// parses the file once, takes the maps with HandOver() and works on the document of GetDocument(). Files named by
-    /// xs:include are read when their tag is met, each by a handler of its own that begins with copies of the maps and
-    /// hands them back.
+    /// xs:include are read when their tag is met, each by a handler of its own that begins with these maps and hands
+    /// them back.
     ///
     /// Understood are the qualified names xs:include, xs:complexType, xs:simpleType, xs:element, xs:attribute,
     /// xs:restriction with its range and enumeration facets, xs:extension and xs:choice, recognised by the literal
@@ -51,7 +52,14 @@ public:
 
     /// Makes every given map a copy of the handler's own; one that is the handler's own stays as it is. Always true.
     bool HandOver(UnresolvedTypeMap& unresolvedTypes, OccursMap& occurs, TypeDefinitionMap& typeDefinitions,
-                  ChoiceMap& choices);
+                  ChoiceMap& choices) &;
+    /// The same for a handler that has done its work: the maps are moved.
+    bool HandOver(UnresolvedTypeMap& unresolvedTypes, OccursMap& occurs, TypeDefinitionMap& typeDefinitions,
+                  ChoiceMap& choices) &&;
+
+    /// Parses the file called @p fileName with @p parser, which gets the handler for its content and its errors. Gives
+    /// what the parse gives.
+    bool ReadFile(const QString& fileName, QXmlSimpleReader& parser);
 
     /// The skeleton document itself; stays the handler's. Empty until the end of the schema has been reached.
     QDomDocument* GetDocument() const;
@@ -68,9 +76,7 @@ private:
 
     struct ElementDeclaration;
 
-    XmlSchemaHandler(const std::shared_ptr<SchemaReading>& reading, IXMLHelper* pCallback, const QString& schemaPath,
-                     const UnresolvedTypeMap& unresolvedTypes, const OccursMap& occurs,
-                     const TypeDefinitionMap& typeDefinitions, const ChoiceMap& choices);
+    XmlSchemaHandler(const std::shared_ptr<SchemaReading>& reading, IXMLHelper* pCallback, const QString& schemaPath);
 
     // One small function for each construct of a schema.
     void readTag();
