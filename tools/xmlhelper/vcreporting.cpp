@@ -1,7 +1,6 @@
 #include "vcreporting.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -25,6 +24,7 @@
 #include "elembeginevent.h"
 #include "errorevent.h"
 #include "numberconversion.h"
+#include "reportitems.h"
 #include "toreport.xpm"
 #include "tracing.h"
 #include "xmlcreatereport.h"
@@ -45,12 +45,26 @@ bool isTimeName(const QString& name)
     return name == DateTimeName || name == DFDateTimeName;
 }
 
-/// Whether @p itemName is "parent/child" and names @p node below its parent.
-bool isQualifiedMatch(const QString& itemName, const QDomNode& node)
+/// The name "parent/child" of an item that fills @p node below its parent; an item's name is split at its first slash,
+/// so that there is none (empty) for a parent whose own name has one.
+QString qualifiedName(const QDomNode& node)
 {
-    const int separator = static_cast<int>(itemName.indexOf(QLatin1Char('/')));
-    return separator >= 1 && node.nodeName() == itemName.mid(separator + 1)
-        && node.parentNode().nodeName() == itemName.left(separator);
+    const QString parentName = node.parentNode().nodeName();
+    if (parentName.isEmpty() || parentName.contains(QLatin1Char('/'))) {
+        return QString();
+    }
+    return parentName + QLatin1Char('/') + node.nodeName();
+}
+
+/// The items before @p end that may set an attribute. An attribute for the time is set for every one of them.
+std::vector<int> itemsForAttributes(const ReportItems& items, const QXmlAttributes& attributes, int end)
+{
+    std::vector<QString> names;
+    for (int i = 0; i < attributes.count(); ++i) {
+        names.push_back(attributes.qName(i));
+    }
+    const bool isTimed = std::any_of(names.begin(), names.end(), isTimeName);
+    return isTimed ? items.Before(end) : items.Before(end, names);
 }
 
 QString textOf(const ReportData& item)
@@ -105,6 +119,7 @@ VCReporting::VCReporting(QString schema, QString reportDirectory, QToolBar* tool
     , m_iIndex(NO_INDEX)
     , m_iCheckInterval(CheckIntervalMs)
     , m_sReportDirectory(reportDirectory.replace(QLatin1Char('/'), QLatin1Char('\\')))
+    , m_pItems(std::make_unique<ReportItems>())
     , m_bShowComment(false)
 {
     setObjectName(QString::fromUtf8(objectName));
@@ -231,18 +246,12 @@ void VCReporting::AddExplicitReportData(const QString& name, long value, int max
 
 void VCReporting::DeleteReportData(QString name)
 {
-    const auto found = std::find_if(m_items.begin(), m_items.end(),
-                                    [&name](const ReportData* item) { return item->GetName() == name; });
-    if (found != m_items.end()) {
-        delete *found;
-        m_items.erase(found);
-    }
+    m_pItems->DeleteFirst(name);
 }
 
 void VCReporting::ClearReportData()
 {
-    qDeleteAll(m_items);
-    m_items.clear();
+    m_pItems->Clear();
 }
 
 void VCReporting::XmlUpdate(XmlEvent* event)
@@ -338,7 +347,7 @@ ReportData* VCReporting::CreateReportData(const QString& name, int maxOccurs, co
 void VCReporting::CheckReportData(ReportData* item)
 {
     if (item && item->IsOpen()) {
-        m_items.push_back(item);
+        m_pItems->Append(item);
     } else {
         delete item;
     }
@@ -366,22 +375,24 @@ void VCReporting::answerElement(ElemBeginEvent* event)
     stampTime(name, attributes);
 }
 
-/// Offers the items in their order: the first one that matches the element itself ends the search, items that match an
-/// attribute on the way set it.
+/// The first item that matches the element itself fills it; items before it that match an attribute set that first.
 VCReporting::Match VCReporting::fillFromItems(const QString& name, const QXmlAttributes& attributes,
                                               const QDomNode& node)
 {
-    int index = 0;
-    for (const ReportData* const item : m_items) {
-        const bool isQualified = isQualifiedMatch(item->GetName(), node);
-        if (isQualified || item->GetName() == name) {
-            fillElement(name, attributes, *item, index);
-            return {item, isQualified};
-        }
-        fillAttribute(attributes, *item, index);
-        ++index;
+    const int direct = m_pItems->First(name);
+    const QString nameBelowParent = qualifiedName(node);
+    const int qualified = nameBelowParent.isEmpty() ? NO_INDEX : m_pItems->First(nameBelowParent);
+    const bool isQualified = qualified != NO_INDEX && (direct == NO_INDEX || qualified <= direct);
+    const int index = isQualified ? qualified : direct;
+    for (const int earlier : itemsForAttributes(*m_pItems, attributes, index)) {
+        fillAttribute(attributes, m_pItems->At(earlier), earlier);
     }
-    return {};
+    if (index == NO_INDEX) {
+        return {};
+    }
+    const ReportData& item = m_pItems->At(index);
+    fillElement(name, attributes, item, index);
+    return {&item, isQualified};
 }
 
 void VCReporting::fillElement(const QString& name, const QXmlAttributes& attributes, const ReportData& item, int index)
@@ -424,35 +435,31 @@ void VCReporting::fillAttribute(const QXmlAttributes& attributes, const ReportDa
     }
 }
 
-/// Sets the attributes of an element whose value has been set.
+/// Sets the attributes of an element whose value has been set. A default goes and a time is stamped as soon as there is
+/// any item, unless the first one is called like the attribute.
 void VCReporting::HandleAttributes(const QXmlAttributes& attributes)
 {
     for (int i = 0; i < attributes.count(); ++i) {
         m_sAttributeName = attributes.qName(i);
-        int index = 0;
-        for (const ReportData* const item : m_items) {
-            if (handleAttribute(m_sAttributeName, *item, index)) {
-                break;
-            }
-            ++index;
+        const bool isForAnyItem = m_sAttributeName == DefaultAttribute || isTimeName(m_sAttributeName);
+        const int index = isForAnyItem ? m_pItems->First() : m_pItems->First(m_sAttributeName);
+        if (index != NO_INDEX) {
+            handleAttribute(m_sAttributeName, m_pItems->At(index), index);
         }
     }
 }
 
-/// Gives whether the attribute has been dealt with.
-bool VCReporting::handleAttribute(const QString& name, const ReportData& item, int index)
+void VCReporting::handleAttribute(const QString& name, const ReportData& item, int index)
 {
     if (name == item.GetName()) {
         setAttribute(name, item, index, m_dPending);
         m_dPending = IdlePendingValue;
-        return true;
-    }
-    if (name == DefaultAttribute) {
+    } else if (name == DefaultAttribute) {
         m_pReportBuilder->RemoveAttribute(DefaultAttribute);
         m_bValueSet = true;
-        return true;
+    } else {
+        setTimeAttribute(name);
     }
-    return setTimeAttribute(name);
 }
 
 void VCReporting::finishElement(const Match& match, const QString& name, const QXmlAttributes& attributes)
@@ -553,5 +560,5 @@ const ReportData* VCReporting::pendingItem(const char* errorName, int traceLine)
               "vcreporting", traceLine);
         return nullptr;
     }
-    return *std::next(m_items.begin(), m_iIndex);
+    return &m_pItems->At(m_iIndex);
 }

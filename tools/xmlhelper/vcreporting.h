@@ -1,7 +1,7 @@
 #ifndef XMLHELPER_VCREPORTING_H
 #define XMLHELPER_VCREPORTING_H
 
-#include <list>
+#include <memory>
 
 #include <QPixmap>
 #include <QString>
@@ -17,6 +17,7 @@ class QDomNode;
 class QTimer;
 class QToolBar;
 class QToolButton;
+class ReportItems;
 class QXmlAttributes;
 class VCButton;
 class XmlCreateReport;
@@ -180,7 +181,7 @@ private:
     void fillElement(const QString& name, const QXmlAttributes& attributes, const ReportData& item, int index);
     void fillAttribute(const QXmlAttributes& attributes, const ReportData& item, int index);
     void HandleAttributes(const QXmlAttributes& attributes);
-    bool handleAttribute(const QString& name, const ReportData& item, int index);
+    void handleAttribute(const QString& name, const ReportData& item, int index);
     void finishElement(const Match& match, const QString& name, const QXmlAttributes& attributes);
     void stampTime(const QString& name, const QXmlAttributes& attributes);
 
@@ -207,7 +208,7 @@ private:
     QString m_sSchemaPath;
     QString m_sReportDirectory; ///< with back slashes
     QString m_sAttributeName; ///< the attribute being looked at, for the retries
-    std::list<ReportData*> m_items; ///< owned
+    std::unique_ptr<ReportItems> m_pItems;
     bool m_bShowComment;
 };
 

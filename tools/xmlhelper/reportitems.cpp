@@ -1,0 +1,83 @@
+#include "reportitems.h"
+
+#include <algorithm>
+
+ReportItems::ReportItems()
+    : m_iNextIndex(0)
+{
+}
+
+void ReportItems::Append(ReportData* item)
+{
+    m_indices[item->GetName()].push_back(m_iNextIndex);
+    m_items.emplace_hint(m_items.end(), m_iNextIndex, item);
+    ++m_iNextIndex;
+}
+
+void ReportItems::DeleteFirst(const QString& name)
+{
+    const auto indices = m_indices.find(name);
+    if (indices == m_indices.end()) {
+        return;
+    }
+    m_items.erase(indices->front());
+    indices->pop_front();
+    if (indices->empty()) {
+        m_indices.erase(indices);
+    }
+}
+
+void ReportItems::Clear()
+{
+    m_items.clear();
+    m_indices.clear();
+    m_iNextIndex = 0;
+}
+
+const ReportData& ReportItems::At(int index) const
+{
+    return *m_items.at(index);
+}
+
+int ReportItems::First() const
+{
+    return m_items.empty() ? NO_INDEX : m_items.begin()->first;
+}
+
+int ReportItems::First(const QString& name) const
+{
+    const auto indices = m_indices.constFind(name);
+    return indices == m_indices.constEnd() ? NO_INDEX : indices->front();
+}
+
+std::vector<int> ReportItems::Before(int end) const
+{
+    std::vector<int> found;
+    for (const auto& [index, item] : m_items) {
+        if (index == end) {
+            break;
+        }
+        found.push_back(index);
+    }
+    return found;
+}
+
+std::vector<int> ReportItems::Before(int end, const std::vector<QString>& names) const
+{
+    std::vector<int> found;
+    for (const QString& name : names) {
+        const auto indices = m_indices.constFind(name);
+        if (indices == m_indices.constEnd()) {
+            continue;
+        }
+        for (const int index : *indices) {
+            if (end != NO_INDEX && index >= end) {
+                break;
+            }
+            found.push_back(index);
+        }
+    }
+    std::sort(found.begin(), found.end());
+    found.erase(std::unique(found.begin(), found.end()), found.end());
+    return found;
+}
