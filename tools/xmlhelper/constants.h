@@ -2,12 +2,13 @@
 #define XMLHELPER_CONSTANTS_H
 
 #include <QLatin1String>
+#include <QString>
 
 // Words that the skeleton document and its readers share.
 
 inline const QLatin1String SchemaPrefix("xs:");
-inline const QLatin1String TypeAttribute("type");
-inline const QLatin1String DefaultAttribute("default");
+inline QString TypeAttribute() { return QStringLiteral("type"); } // as it is asked for most, without a conversion
+inline QString DefaultAttribute() { return QStringLiteral("default"); }
 inline const QLatin1String EnumerationFacet("enumeration");
 inline const QLatin1String MinInclusiveFacet("minInclusive");
 inline const QLatin1String MaxInclusiveFacet("maxInclusive");

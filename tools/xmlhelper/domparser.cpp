@@ -30,7 +30,7 @@ QXmlAttributes saxAttributesOf(const QDomNode& node)
 
 bool isValueElement(const QDomElement& element)
 {
-    return !element.attribute(TypeAttribute).isEmpty();
+    return !element.attribute(TypeAttribute()).isEmpty();
 }
 
 /// Whether an occurs code is one of minOccurs 0.
@@ -224,10 +224,10 @@ void DomParser::takeText(Level& level, bool isTopLevel)
         level.text = first.toText().data();
         return;
     }
-    const QString defaultText = m_currentElement.attribute(DefaultAttribute);
+    const QString defaultText = m_currentElement.attribute(DefaultAttribute());
     if (!isTopLevel && !defaultText.isEmpty()) {
         const OwnerIndex::OwnChange change = Change();
-        m_currentElement.removeAttribute(DefaultAttribute);
+        m_currentElement.removeAttribute(DefaultAttribute());
         m_currentElement.appendChild(m_pDocument->createTextNode(defaultText));
     }
 }

@@ -36,7 +36,7 @@ QDomNode OwnerIndex::Remove(const QDomNode& node)
 {
     const OwnChange change(this);
     QDomNode parent = node.parentNode();
-    if (!m_bCurrent || !isInDocument(parent)) {
+    if (!m_bCurrent || !holdsBearers(node) || !isInDocument(parent)) {
         return parent.removeChild(node);
     }
     const QDomNode following = nextBelow(m_document, node, true);
@@ -132,6 +132,15 @@ void OwnerIndex::make()
 bool OwnerIndex::isIndexable(const QDomNode& node) const
 {
     return node.isElement() ? node.localName().isNull() : !m_bearers.contains(node.nodeName());
+}
+
+bool OwnerIndex::holdsBearers(const QDomNode& top) const
+{
+    QDomNode node = top;
+    while (!node.isNull() && !m_bearers.contains(node.nodeName())) {
+        node = nextBelow(top, node, false);
+    }
+    return !node.isNull();
 }
 
 /// @p removed has been taken out of the document in front of @p following.

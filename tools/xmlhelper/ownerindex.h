@@ -70,6 +70,7 @@ private:
     void noticeChanges();
     void make();
     bool isIndexable(const QDomNode& node) const;
+    bool holdsBearers(const QDomNode& top) const;
     void forget(const QDomNode& removed, const QDomNode& following);
     void findNext(const QString& name, Bearers& bearers, const QDomNode& following);
     bool isInDocument(const QDomNode& node) const;

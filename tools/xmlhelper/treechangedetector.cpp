@@ -6,23 +6,22 @@ namespace {
 
 constexpr int AnotherLength = -1;
 
-const QLatin1String ListedName("listed");
-const QLatin1String OtherName("other");
-
 } // namespace
 
 TreeChangeDetector::TreeChangeDetector(const QDomDocument& document)
-    : m_iUnchangedLength(AnotherLength)
+    : m_sListedName(QStringLiteral("listed"))
+    , m_sOtherName(QStringLiteral("other"))
+    , m_iUnchangedLength(AnotherLength)
 {
     QDomDocument maker(document);
-    m_probe = maker.createElement(OtherName);
-    m_child = maker.createElement(ListedName);
+    m_probe = maker.createElement(m_sOtherName);
+    m_child = maker.createElement(m_sListedName);
     m_probe.appendChild(m_child);
-    m_list = m_probe.elementsByTagName(ListedName);
+    m_list = m_probe.elementsByTagName(m_sListedName);
 }
 
 void TreeChangeDetector::Reset()
 {
     m_iUnchangedLength = m_list.count();
-    m_child.setTagName(m_iUnchangedLength == 0 ? ListedName : OtherName);
+    m_child.setTagName(m_iUnchangedLength == 0 ? m_sListedName : m_sOtherName);
 }

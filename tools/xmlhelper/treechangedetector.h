@@ -3,6 +3,7 @@
 
 #include <QDomElement>
 #include <QDomNodeList>
+#include <QString>
 
 class QDomDocument;
 
@@ -28,6 +29,8 @@ public:
     bool IsChanged() const { return m_list.count() != m_iUnchangedLength; }
 
 private:
+    const QString m_sListedName;
+    const QString m_sOtherName;
     QDomElement m_probe;
     QDomElement m_child;
     QDomNodeList m_list; ///< the child, under one of its two names

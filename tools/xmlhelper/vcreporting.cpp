@@ -441,7 +441,7 @@ void VCReporting::HandleAttributes(const QXmlAttributes& attributes)
 {
     for (int i = 0; i < attributes.count(); ++i) {
         m_sAttributeName = attributes.qName(i);
-        const bool isForAnyItem = m_sAttributeName == DefaultAttribute || isTimeName(m_sAttributeName);
+        const bool isForAnyItem = m_sAttributeName == DefaultAttribute() || isTimeName(m_sAttributeName);
         const int index = isForAnyItem ? m_pItems->First() : m_pItems->First(m_sAttributeName);
         if (index != NO_INDEX) {
             handleAttribute(m_sAttributeName, m_pItems->At(index), index);
@@ -454,8 +454,8 @@ void VCReporting::handleAttribute(const QString& name, const ReportData& item, i
     if (name == item.GetName()) {
         setAttribute(name, item, index, m_dPending);
         m_dPending = IdlePendingValue;
-    } else if (name == DefaultAttribute) {
-        m_pReportBuilder->RemoveAttribute(DefaultAttribute);
+    } else if (name == DefaultAttribute()) {
+        m_pReportBuilder->RemoveAttribute(DefaultAttribute());
         m_bValueSet = true;
     } else {
         setTimeAttribute(name);

@@ -55,15 +55,18 @@ void readBound(const QString& text, double& bound)
 template <typename Number> RangeBounds<Number> boundsOfElement(const QDomElement& element)
 {
     RangeBounds<Number> bounds;
-    const auto read = [&element](const QString& facet, Number& bound) {
-        if (element.hasAttribute(facet)) {
-            readBound(element.attribute(facet), bound);
+    for (const QDomAttr& attribute : attributesOf(element)) {
+        const QString facet = attribute.name();
+        if (facet == MinInclusiveFacet) {
+            readBound(attribute.value(), bounds.minInclusive);
+        } else if (facet == MaxInclusiveFacet) {
+            readBound(attribute.value(), bounds.maxInclusive);
+        } else if (facet == MinExclusiveFacet) {
+            readBound(attribute.value(), bounds.minExclusive);
+        } else if (facet == MaxExclusiveFacet) {
+            readBound(attribute.value(), bounds.maxExclusive);
         }
-    };
-    read(MinInclusiveFacet, bounds.minInclusive);
-    read(MaxInclusiveFacet, bounds.maxInclusive);
-    read(MinExclusiveFacet, bounds.minExclusive);
-    read(MaxExclusiveFacet, bounds.maxExclusive);
+    }
     return bounds;
 }
 
@@ -174,7 +177,7 @@ void XmlCreateReport::SetXmlValue(QString value)
 {
     if (isTypeAccepted(QStringLiteral("string"), IXMLHelper::CURRENT_TYPE_IS_NOT_STRING)
         && useEnumeration(value, isEnumerationOfElement)) {
-        removeAttribute(*m_pDomParser, TypeAttribute);
+        removeAttribute(*m_pDomParser, TypeAttribute());
         CreateAndAppendTextNode(value);
     }
 }
@@ -188,7 +191,7 @@ void XmlCreateReport::SetXmlValue(double value)
     const bool isShort = m_pCurrentElement && TypeControl(wanted) == ShortType;
     const QString text = isShort ? QString::number(toInt32(value)) : toReportText(value);
     if (isTypeAccepted(wanted, IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE) && useRange(value)) {
-        removeAttribute(*m_pDomParser, TypeAttribute);
+        removeAttribute(*m_pDomParser, TypeAttribute());
         CreateAndAppendTextNode(text);
     }
 }
@@ -199,7 +202,7 @@ void XmlCreateReport::SetXmlValue(int value)
         return;
     }
     // Removed before the range is checked, unlike the other numbers: a refused integer leaves no type behind.
-    removeAttribute(*m_pDomParser, TypeAttribute);
+    removeAttribute(*m_pDomParser, TypeAttribute());
     if (useRange(value)) {
         CreateAndAppendTextNode(QString::number(value));
     }
@@ -208,7 +211,7 @@ void XmlCreateReport::SetXmlValue(int value)
 void XmlCreateReport::SetXmlValue(bool value)
 {
     if (isTypeAccepted(QStringLiteral("bool"), IXMLHelper::CURRENT_TYPE_IS_NOT_BOOLEAN)) {
-        removeAttribute(*m_pDomParser, TypeAttribute);
+        removeAttribute(*m_pDomParser, TypeAttribute());
         CreateAndAppendTextNode(value ? QStringLiteral("true") : QStringLiteral("false"));
     }
 }
@@ -217,7 +220,7 @@ void XmlCreateReport::SetXmlValue(QDateTime value)
 {
     if (isTypeAccepted(QStringLiteral("dateTime"), IXMLHelper::CURRENT_TYPE_IS_NOT_DATETIME)) {
         CreateAndAppendTextNode(value.toString(Qt::ISODate));
-        removeAttribute(*m_pDomParser, TypeAttribute);
+        removeAttribute(*m_pDomParser, TypeAttribute());
     }
 }
 
@@ -225,7 +228,7 @@ void XmlCreateReport::SetXmlValue(QTime value)
 {
     if (isTypeAccepted(QStringLiteral("time"), IXMLHelper::CURRENT_TYPE_IS_NOT_TIME)) {
         CreateAndAppendTextNode(value.toString(Qt::ISODate));
-        removeAttribute(*m_pDomParser, TypeAttribute);
+        removeAttribute(*m_pDomParser, TypeAttribute());
     }
 }
 
@@ -329,7 +332,7 @@ void XmlCreateReport::CreateAndAppendTextNode(QString text)
 /// might expect numbers only, but modules write texts and flags into such elements. An "int" takes integers.
 QString XmlCreateReport::TypeControl(QString wanted)
 {
-    const QString type = m_pCurrentElement->attribute(TypeAttribute);
+    const QString type = m_pCurrentElement->attribute(TypeAttribute());
     if (type.isEmpty()) {
         Error(IXMLHelper::CURRENT_TYPE_IS_UNKNOWN);
         return QString();

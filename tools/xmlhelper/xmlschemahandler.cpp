@@ -119,7 +119,7 @@ void setDeclaredAttribute(TypeDefinition& definition, QDomElement owner)
     // A clone, because a global attribute that refers to itself is its own owner.
     const QDomElement declared = definition.fragment->firstChildElement().cloneNode(false).toElement();
     if (!declared.isNull()) {
-        owner.setAttribute(declared.tagName(), declared.attribute(TypeAttribute));
+        owner.setAttribute(declared.tagName(), declared.attribute(TypeAttribute()));
         copyFacets(declared, owner, declared.tagName());
     }
 }
@@ -433,11 +433,11 @@ void XmlSchemaHandler::beginGlobalDeclaration()
 
     for (int i = 0; i < m_attributes.count(); ++i) {
         const QString name = m_attributes.qName(i);
-        if (name == TypeAttribute && !readGlobalType(m_attributes.value(i))) {
+        if (name == TypeAttribute() && !readGlobalType(m_attributes.value(i))) {
             return; // What stands behind a type that is not usable yet is not read.
         }
-        if (name == DefaultAttribute) {
-            m_currentElement.setAttribute(DefaultAttribute, m_attributes.value(i));
+        if (name == DefaultAttribute()) {
+            m_currentElement.setAttribute(DefaultAttribute(), m_attributes.value(i));
         }
     }
 }
@@ -446,7 +446,7 @@ void XmlSchemaHandler::beginGlobalDeclaration()
 bool XmlSchemaHandler::readGlobalType(const QString& type)
 {
     if (hasSchemaPrefix(type)) {
-        m_currentElement.setAttribute(TypeAttribute, withoutSchemaPrefix(type));
+        m_currentElement.setAttribute(TypeAttribute(), withoutSchemaPrefix(type));
     } else if (TypeDefinition* const definition = findUsableDefinition(type)) {
         layOutNow(*definition, m_currentElement);
     } else {
@@ -486,10 +486,10 @@ void XmlSchemaHandler::layOutNamedElement(const ElementDeclaration& declaration)
             = createElement(declaration.name, m_bInsideGlobal ? QDomNode(m_currentElement) : currentFragment());
         m_typeLevelElement = element;
         if (!declaration.defaultValue.isEmpty()) {
-            element.setAttribute(DefaultAttribute, declaration.defaultValue);
+            element.setAttribute(DefaultAttribute(), declaration.defaultValue);
         }
         if (hasSchemaPrefix(declaration.type)) {
-            element.setAttribute(TypeAttribute, withoutSchemaPrefix(declaration.type));
+            element.setAttribute(TypeAttribute(), withoutSchemaPrefix(declaration.type));
         } else if (!declaration.type.isEmpty()) {
             TypeDefinition* const definition = findUsableDefinition(declaration.type);
             if (!definition) {
@@ -522,9 +522,11 @@ void XmlSchemaHandler::enterOccurs(QString name, const ElementDeclaration& decla
 {
     if (declaration.HasOccursCode()) {
         const QString owner = m_bInsideGlobal ? m_currentElement.tagName() : m_sDefinitionName;
-        m_occurs[name][declaration.OccursCode()].push_back(owner);
-        if (m_occurs.find(name) == m_occurs.end()) {
+        const auto entry = m_occurs.try_emplace(name).first;
+        if (entry == m_occurs.end()) {
             name = LostElementName;
+        } else {
+            entry->second[declaration.OccursCode()].push_back(owner);
         }
     }
     if (m_bInsideChoice) {
@@ -538,7 +540,7 @@ void XmlSchemaHandler::beginRestriction()
         if (!m_bInsideGlobal && m_typeLevelElement.isNull()) {
             beginCarrier();
         }
-        annotatedElement().setAttribute(TypeAttribute, withoutSchemaPrefix(firstValue()));
+        annotatedElement().setAttribute(TypeAttribute(), withoutSchemaPrefix(firstValue()));
     }
     m_bInsideRestriction = true;
 }
@@ -566,7 +568,7 @@ void XmlSchemaHandler::beginExtension()
     }
     const QString base = firstValue();
     if (hasSchemaPrefix(base)) {
-        lastChildOrCurrent().setAttribute(TypeAttribute, withoutSchemaPrefix(base));
+        lastChildOrCurrent().setAttribute(TypeAttribute(), withoutSchemaPrefix(base));
     } else {
         extendDefinition(base);
     }
@@ -586,8 +588,8 @@ void XmlSchemaHandler::extendDefinition(const QString& base)
         return;
     }
     definition->usedFlag = 1;
-    if (extended.hasAttribute(TypeAttribute)) {
-        target.setAttribute(TypeAttribute, extended.attribute(TypeAttribute));
+    if (extended.hasAttribute(TypeAttribute())) {
+        target.setAttribute(TypeAttribute(), extended.attribute(TypeAttribute()));
     }
     copyFacets(extended, target);
 }
