@@ -157,7 +157,7 @@ bool DomParser::IsDeclaredAbove(const QString& name, const QString& tagName, con
     const auto isOwner = [&](const QString& owner) { return isDeclaredBelow(name, owner, isWanted); };
     if (!m_pOwners->Refresh()) {
         return std::any_of(m_ownerNames.begin(), m_ownerNames.end(), [&](const QString& owner) {
-            return isOwner(owner) && IsBelowOwner(tagName, owner, element);
+            return isOwner(owner) && isBelowAnyCalled(owner, tagName, element);
         });
     }
     if (element == m_pDocument->documentElement()) {
@@ -175,6 +175,14 @@ bool DomParser::IsDeclaredAbove(const QString& name, const QString& tagName, con
         }
     }
     return false;
+}
+
+/// Asks for the names of the nodes that are found, because a search that starts at its owner finds the top node.
+bool DomParser::isBelowAnyCalled(const QString& ownerName, const QString& tagName, const QDomNode& element)
+{
+    const std::unique_ptr<std::list<QDomNode>> owners(SearchElements(ownerName, QString()));
+    return std::any_of(owners->begin(), owners->end(),
+                       [&](const QDomNode& owner) { return IsBelowOwner(tagName, owner.nodeName(), element); });
 }
 
 QDomNode DomParser::Remove(const QDomNode& node)

@@ -104,6 +104,7 @@ private:
     void removeProbationElement();
     void removeCurrentElement();
     QDomNode removeAndKeep(const QDomNode& node);
+    bool isBelowAnyCalled(const QString& ownerName, const QString& tagName, const QDomNode& element);
     bool isDeclaredBelow(const QString& name, const QString& ownerName, const std::function<bool(int)>& isWanted) const;
 
     QDomDocument* m_pDocument;
