@@ -1,13 +1,12 @@
 #include "xmlreader.h"
 
 #include <QDomDocument>
-#include <QFile>
 #include <QTextStream>
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
 #include "constants.h"
-#include "documentfile.h"
+#include "contentfile.h"
 #include "domextent.h"
 #include "elementsearch.h"
 #include "nestingguard.h"
@@ -112,7 +111,7 @@ bool XMLReader::SetXmlContent(QString fileName)
         return false;
     }
     ErasePointerAndSetFlags();
-    m_pFile = new QFile(openableFileName(fileName));
+    m_pFile = new ContentFile(fileName);
     m_bFile = true;
     m_pDocument = new QDomDocument;
     m_keptDocuments.push_back(m_pDocument);

@@ -4,13 +4,13 @@
 #include <limits>
 #include <set>
 
-#include <QFile>
 #include <QFileInfo>
 #include <QStringList>
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
 #include "constants.h"
+#include "contentfile.h"
 #include "documentfile.h"
 #include "domattributes.h"
 #include "domextent.h"
@@ -249,7 +249,7 @@ bool XmlSchemaHandler::HandOver(UnresolvedTypeMap& unresolvedTypes, OccursMap& o
 
 bool XmlSchemaHandler::ReadFile(const QString& fileName, QXmlSimpleReader& parser)
 {
-    QFile file(fileName);
+    ContentFile file(fileName);
     QXmlInputSource source;
     if (file.open(QIODevice::ReadOnly)) {
         source.setData(file.readAll());
