@@ -92,6 +92,16 @@ constexpr int MaxElementsOfAllDefinitions = 4 * MaxElements;
 /// to list them.
 constexpr int MaxEnumerationValues = 10000;
 
+/// Characters that the references to entities of one content or schema become, all together. Qt replaces them without
+/// end. As many as MaxElements of the smallest elements have.
+constexpr int MaxExpandedCharacters = 4 * MaxElements;
+
+/// Entities declared by the document type of one content or schema. Qt compares each with all others.
+constexpr int MaxEntities = 1000;
+
+/// Parentheses of a content model in a document type that are open at once. Qt recurses over them.
+constexpr int MaxContentModelNesting = MaxElementNesting;
+
 /// Schema files read for one report, repeated reads of a file included.
 constexpr int MaxSchemaFiles = 1000;
 

@@ -2,13 +2,13 @@
 
 #include <QDomDocument>
 #include <QTextStream>
-#include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
 #include "constants.h"
 #include "contentfile.h"
 #include "domextent.h"
 #include "elementsearch.h"
+#include "guardedsource.h"
 #include "nestingguard.h"
 #include "tracing.h"
 #include "xmlcontenthandler.h"
@@ -36,17 +36,17 @@ bool isNestingWithinLimit(const QDomNode& node)
     return isWithinLimit;
 }
 
-/// Whether Qt can read the file into a document without running out of stack.
-bool isNestingWithinLimit(QFile& file)
+/// Whether Qt can read the file into a document without running out of stack, memory or time.
+bool isWithinLimits(QFile& file)
 {
     QXmlDefaultHandler nobody;
     NestingGuard guard(&nobody);
     QXmlSimpleReader parser;
     parser.setContentHandler(&guard);
-    QXmlInputSource source(&file);
-    parser.parse(source);
+    GuardedSource source(&file);
+    source.Parse(parser);
     file.close();
-    return !guard.IsExceeded();
+    return !guard.IsExceeded() && source.GetRefusal().isEmpty();
 }
 
 QString savedText(const QDomNode& node)
@@ -115,7 +115,7 @@ bool XMLReader::SetXmlContent(QString fileName)
     m_bFile = true;
     m_pDocument = new QDomDocument;
     m_keptDocuments.push_back(m_pDocument);
-    if (isNestingWithinLimit(*m_pFile) && m_pFile->open(QIODevice::ReadOnly)) {
+    if (isWithinLimits(*m_pFile) && m_pFile->open(QIODevice::ReadOnly)) {
         QString errorMessage;
         int errorLine = NoErrorPosition;
         int errorColumn = NoErrorPosition;
@@ -294,22 +294,24 @@ bool XMLReader::parseFile()
 {
     // The input source reads from where the file stands, and leaves it open.
     m_pFile->close();
-    QXmlInputSource source(m_pFile);
+    GuardedSource source(m_pFile);
     return parse(source);
 }
 
 bool XMLReader::parseText(const QString& text)
 {
-    QXmlInputSource source;
-    source.setData(text);
+    GuardedSource source(text);
     return parse(source);
 }
 
-bool XMLReader::parse(const QXmlInputSource& source)
+bool XMLReader::parse(GuardedSource& source)
 {
     m_bParsing = true;
-    const bool isParsed = m_pParser->parse(source);
+    const bool isParsed = source.Parse(*m_pParser);
     m_bParsing = false;
+    if (!source.GetRefusal().isEmpty()) {
+        trace(source.GetRefusal(), "xmlreader", __LINE__);
+    }
     if (m_pNestingGuard->IsExceeded()) {
         traceNesting();
     }

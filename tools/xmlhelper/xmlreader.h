@@ -7,6 +7,7 @@
 
 #include <xmlhelper/xmlhelperexport.h>
 
+class GuardedSource;
 class IXMLHelper;
 class NestingGuard;
 class QDomDocument;
@@ -14,7 +15,6 @@ class QDomDocumentFragment;
 class QDomElement;
 class QDomNode;
 class QFile;
-class QXmlInputSource;
 class QXmlSimpleReader;
 class XmlContentHandler;
 
@@ -121,7 +121,7 @@ private:
     void releaseDocument(QDomDocument* document);
     bool parseFile();
     bool parseText(const QString& text);
-    bool parse(const QXmlInputSource& source);
+    bool parse(GuardedSource& source);
     QDomElement rootElement() const;
     QDomNode topNode() const;
     void renewResults();

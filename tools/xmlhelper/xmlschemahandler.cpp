@@ -6,7 +6,6 @@
 
 #include <QFileInfo>
 #include <QStringList>
-#include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
 #include "constants.h"
@@ -14,6 +13,7 @@
 #include "documentfile.h"
 #include "domattributes.h"
 #include "domextent.h"
+#include "guardedsource.h"
 #include "tracing.h"
 
 QT_WARNING_DISABLE_DEPRECATED
@@ -250,15 +250,16 @@ bool XmlSchemaHandler::HandOver(UnresolvedTypeMap& unresolvedTypes, OccursMap& o
 bool XmlSchemaHandler::ReadFile(const QString& fileName, QXmlSimpleReader& parser)
 {
     ContentFile file(fileName);
-    QXmlInputSource source;
-    if (file.open(QIODevice::ReadOnly)) {
-        source.setData(file.readAll());
-    }
+    GuardedSource source(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray());
     // Qualified names are all that counts.
     parser.setFeature(QStringLiteral("http://xml.org/sax/features/namespaces"), false);
     parser.setContentHandler(this);
     parser.setErrorHandler(this);
-    return parser.parse(source);
+    const bool isParsed = source.Parse(parser);
+    if (!source.GetRefusal().isEmpty()) {
+        refuse(source.GetRefusal());
+    }
+    return isParsed;
 }
 
 QDomDocument* XmlSchemaHandler::GetDocument() const
