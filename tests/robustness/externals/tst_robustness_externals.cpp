@@ -170,5 +170,5 @@ void TestRobustnessExternals::theWatchSees()
     QVERIFY(watch.HasBeenOpened());
 }
 
-QTEST_MAIN(TestRobustnessExternals)
+QTEST_GUILESS_MAIN(TestRobustnessExternals)
 #include "tst_robustness_externals.moc"
