@@ -88,6 +88,10 @@ constexpr int MaxElements = 500000;
 /// Elements laid out while one schema is read, all its definitions together.
 constexpr int MaxElementsOfAllDefinitions = 4 * MaxElements;
 
+/// Of these, elements laid out in named types. Types that double each other hold, all together, twice what the greatest
+/// one holds, before that reaches the limit of a document.
+constexpr int MaxElementsOfNamedTypes = MaxElements + MaxElements / 5;
+
 /// Values of one enumeration. Each becomes an attribute, and Qt needs a time that grows with the square of their number
 /// to list them.
 constexpr int MaxEnumerationValues = 10000;

@@ -30,6 +30,8 @@ struct SchemaReading
     int openTags = 0; ///< of the files that include the one being read
     int files = 0;
     int elementsOfAllDefinitions = 0;
+    int elementsOfNamedTypes = 0;
+    std::set<const QDomDocumentFragment*> fragmentsOfNamedTypes;
     int choiceCounter = 0;
     bool isRefused = false;
 };
@@ -220,7 +222,6 @@ XmlSchemaHandler::XmlSchemaHandler(const std::shared_ptr<SchemaReading>& reading
     , m_sDefinitionName(QLatin1String(""))
     , m_sSchemaPath(schemaPath)
     , m_iNesting(0)
-    , m_iFragmentElements(0)
     , m_pReading(reading)
 {
 }
@@ -405,7 +406,7 @@ void XmlSchemaHandler::beginType()
 
 void XmlSchemaHandler::beginNamedType()
 {
-    beginFragment();
+    beginFragment(true);
     m_typeLevelElement = QDomElement();
     m_sDefinitionName = firstValue();
     m_typeDefinitions[m_sDefinitionName] = TypeDefinition {1, 0, m_pCurrentFragment};
@@ -428,7 +429,7 @@ void XmlSchemaHandler::beginGlobalDeclaration()
     }
     m_bInsideGlobal = true;
     m_sDefinitionName = firstValue();
-    beginFragment();
+    beginFragment(false);
     m_currentElement = createElement(m_sDefinitionName, currentFragment());
     m_typeDefinitions[m_sDefinitionName] = TypeDefinition {0, 0, m_pCurrentFragment};
 
@@ -482,6 +483,10 @@ void XmlSchemaHandler::layOutReference(const ElementDeclaration& declaration)
 
 void XmlSchemaHandler::layOutNamedElement(const ElementDeclaration& declaration)
 {
+    if (qint64(m_fragmentElements.elements) + declaration.Copies() > MaxElements) {
+        refuseElements();
+        return;
+    }
     for (int copy = 0; copy < declaration.Copies() && !isRefused(); ++copy) {
         QDomElement element
             = createElement(declaration.name, m_bInsideGlobal ? QDomNode(m_currentElement) : currentFragment());
@@ -511,7 +516,7 @@ void XmlSchemaHandler::deferNamedElement(const ElementDeclaration& declaration, 
         return;
     }
     recordReference(declaration.name, declaration.minOccurs - 1, recordOf(m_currentElement, first));
-    beginFragment();
+    beginFragment(true);
     m_typeLevelElement = createElement(declaration.name, currentFragment());
     m_typeDefinitions[declaration.name] = TypeDefinition {1, 1, m_pCurrentFragment};
     ElementPathRecord record = recordOf(m_typeLevelElement);
@@ -627,10 +632,13 @@ QString XmlSchemaHandler::firstValue() const
     return m_attributes.count() > 0 ? m_attributes.value(0) : QString();
 }
 
-void XmlSchemaHandler::beginFragment()
+void XmlSchemaHandler::beginFragment(bool isOfNamedType)
 {
     m_pCurrentFragment = &m_pReading->fragments.emplace_back(m_pDocument->createDocumentFragment());
-    m_iFragmentElements = 0;
+    m_fragmentElements = ElementCount {0, isOfNamedType};
+    if (isOfNamedType) {
+        m_pReading->fragmentsOfNamedTypes.insert(m_pCurrentFragment);
+    }
 }
 
 /// The fragment of the definition being read; null outside of any.
@@ -642,7 +650,7 @@ QDomNode XmlSchemaHandler::currentFragment() const
 /// Creates an element and appends it to @p owner; a null element when the limits do not allow it.
 QDomElement XmlSchemaHandler::createElement(const QString& name, QDomNode owner)
 {
-    if (!isWithinLimits(1, 1, owner, m_iFragmentElements)) {
+    if (!isWithinLimits(1, 1, owner, m_fragmentElements)) {
         return QDomElement();
     }
     QDomElement element = m_pDocument->createElement(name);
@@ -694,7 +702,7 @@ TypeDefinition* XmlSchemaHandler::findUsableDefinition(const QString& name)
 /// Gives @p owner the content of @p definition: the attributes of a carrier, else clones of everything as children,
 /// after @p anchor or at the end. What leaves nothing behind is done once, however many copies are wanted.
 void XmlSchemaHandler::layOut(TypeDefinition& definition, QDomElement owner, const QDomNode& anchor, int copies,
-                              int& treeElements)
+                              ElementCount& tree)
 {
     definition.usedFlag = 1;
     const QDomNode first = definition.fragment->firstChild();
@@ -705,10 +713,14 @@ void XmlSchemaHandler::layOut(TypeDefinition& definition, QDomElement owner, con
     if (first.isNull() || owner.isNull()) {
         return;
     }
+    if (tree.elements + qint64(copies) * extentOf(*definition.fragment).elements > MaxElements) {
+        refuseElements();
+        return;
+    }
     for (int copy = 0; copy < copies; ++copy) {
         // Measured for each copy: a definition that refers to itself grows under way.
         const DomExtent extent = extentOf(*definition.fragment);
-        if (!isWithinLimits(extent.elements, extent.levels, owner, treeElements)) {
+        if (!isWithinLimits(extent.elements, extent.levels, owner, tree)) {
             return;
         }
         const QDomNode content = definition.fragment->cloneNode(true);
@@ -722,7 +734,7 @@ void XmlSchemaHandler::layOut(TypeDefinition& definition, QDomElement owner, con
 
 void XmlSchemaHandler::layOutNow(TypeDefinition& definition, const QDomElement& owner, int copies)
 {
-    layOut(definition, owner, QDomNode(), copies, m_iFragmentElements);
+    layOut(definition, owner, QDomNode(), copies, m_fragmentElements);
 }
 
 /// Records a reference that also keeps the definition being read from being usable.
@@ -820,7 +832,7 @@ void XmlSchemaHandler::serve(TypeDefinition& definition, int copies, const Eleme
         setDeclaredAttribute(definition, *record.ownerElement);
     } else {
         layOut(definition, *record.ownerElement, record.anchorElement ? *record.anchorElement : QDomElement(), copies,
-               treeElementsOf(record.definitionName));
+               elementCountOf(record.definitionName));
     }
     TypeDefinition* const waiting = findDefinition(record.definitionName);
     if (waiting && waiting->pendingCount > 0) {
@@ -828,12 +840,13 @@ void XmlSchemaHandler::serve(TypeDefinition& definition, int copies, const Eleme
     }
 }
 
-int& XmlSchemaHandler::treeElementsOf(const QString& definitionName)
+XmlSchemaHandler::ElementCount& XmlSchemaHandler::elementCountOf(const QString& definitionName)
 {
-    const auto [counted, isNew] = m_treeElements.emplace(definitionName, 0);
+    const auto [counted, isNew] = m_treeElements.emplace(definitionName, ElementCount());
     const TypeDefinition* const definition = isNew ? findDefinition(definitionName) : nullptr;
     if (definition) {
-        counted->second = extentOf(*definition->fragment).elements;
+        counted->second.elements = extentOf(*definition->fragment).elements;
+        counted->second.isOfNamedType = m_pReading->fragmentsOfNamedTypes.count(definition->fragment) > 0;
     }
     return counted->second;
 }
@@ -880,18 +893,22 @@ void XmlSchemaHandler::refuseElements()
 }
 
 /// Whether @p elements nested in @p levels may be laid below @p owner; counts them when they may and refuses when not.
-bool XmlSchemaHandler::isWithinLimits(int elements, int levels, const QDomNode& owner, int& treeElements)
+bool XmlSchemaHandler::isWithinLimits(int elements, int levels, const QDomNode& owner, ElementCount& tree)
 {
     if (levelOf(owner) + levels > MaxElementNesting) {
         refuse(QStringLiteral("The schema lays out elements nested deeper than %1!").arg(MaxElementNesting));
         return false;
     }
     int& total = m_pReading->elementsOfAllDefinitions;
-    if (treeElements + elements > MaxElements || total + elements > MaxElementsOfAllDefinitions) {
+    int& ofNamedTypes = m_pReading->elementsOfNamedTypes;
+    const int forNamedTypes = tree.isOfNamedType ? elements : 0;
+    if (tree.elements + elements > MaxElements || total + elements > MaxElementsOfAllDefinitions
+        || ofNamedTypes + forNamedTypes > MaxElementsOfNamedTypes) {
         refuseElements();
         return false;
     }
-    treeElements += elements;
+    tree.elements += elements;
     total += elements;
+    ofNamedTypes += forNamedTypes;
     return true;
 }

@@ -76,6 +76,13 @@ private:
 
     struct ElementDeclaration;
 
+    /// How many elements have been laid into a definition.
+    struct ElementCount
+    {
+        int elements = 0;
+        bool isOfNamedType = false;
+    };
+
     XmlSchemaHandler(const std::shared_ptr<SchemaReading>& reading, IXMLHelper* pCallback, const QString& schemaPath);
 
     // One small function for each construct of a schema.
@@ -104,7 +111,7 @@ private:
     QString includedFileName() const;
 
     // Where declarations and annotations go.
-    void beginFragment();
+    void beginFragment(bool isOfNamedType);
     QDomNode currentFragment() const;
     QDomElement createElement(const QString& name, QDomNode owner);
     void beginCarrier();
@@ -115,7 +122,7 @@ private:
     // Definitions and the references to them.
     TypeDefinition* findDefinition(const QString& name);
     TypeDefinition* findUsableDefinition(const QString& name);
-    void layOut(TypeDefinition& definition, QDomElement owner, const QDomNode& anchor, int copies, int& treeElements);
+    void layOut(TypeDefinition& definition, QDomElement owner, const QDomNode& anchor, int copies, ElementCount& tree);
     void layOutNow(TypeDefinition& definition, const QDomElement& owner, int copies = 1);
     void deferReference(const QString& name, int copies, const ElementPathRecord& record);
     void recordReference(const QString& name, int copies, const ElementPathRecord& record);
@@ -126,13 +133,13 @@ private:
     bool resolveReferences();
     void expand(const QString& name, TypeDefinition& definition);
     void serve(TypeDefinition& definition, int copies, const ElementPathRecord& record);
-    int& treeElementsOf(const QString& definitionName);
+    ElementCount& elementCountOf(const QString& definitionName);
     bool chooseRoot();
 
     bool isRefused() const;
     void refuse(const QString& reason);
     void refuseElements();
-    bool isWithinLimits(int elements, int levels, const QDomNode& owner, int& treeElements);
+    bool isWithinLimits(int elements, int levels, const QDomNode& owner, ElementCount& tree);
 
     QXmlAttributes m_attributes;
     QString m_sCurrentName; ///< the qualified name of the last start tag
@@ -156,8 +163,8 @@ private:
     QString m_sSchemaPath;
 
     int m_iNesting; ///< of the tags of this file
-    int m_iFragmentElements; ///< laid into the current fragment
-    std::map<QString, int> m_treeElements; ///< laid into the definitions, counted at the end of the document
+    ElementCount m_fragmentElements; ///< laid into the current fragment
+    std::map<QString, ElementCount> m_treeElements; ///< laid into the definitions, counted at the end of the document
     std::shared_ptr<SchemaReading> m_pReading; ///< shared with the handlers of included files
 };
 
