@@ -9,6 +9,7 @@
 #include <arbase/vornos.h>
 
 #include "documentfile.h"
+#include "xmltext.h"
 
 namespace {
 
@@ -79,7 +80,7 @@ void CommentDialogImpl::reject()
 void CommentDialogImpl::SlotSaveWithComment()
 {
     removeComment();
-    const QString comment = m_pTextEdit->toPlainText();
+    const QString comment = representableText(m_pTextEdit->toPlainText(), "CommentDialogImpl");
     if (!comment.isEmpty()) {
         appendComment(comment);
     }

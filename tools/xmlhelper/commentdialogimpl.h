@@ -18,7 +18,8 @@ class QDomDocument;
 ///
 /// The dialog belongs to the builder and is hidden, not destroyed, when it has been answered. The document belongs to
 /// whoever made it and must outlive the dialog. A file that cannot be written is not reported; the next answer tries
-/// again.
+/// again. Characters of the comment that W3C XML cannot carry are dropped, which is traced; when nothing is left, there
+/// is no comment.
 class CommentDialogImpl : public QDialog, public Ui::CommentDialog
 {
     Q_OBJECT

@@ -21,6 +21,7 @@
 #include "xmlcontenthandler.h"
 #include "xmlreader.h"
 #include "xmlschemahandler.h"
+#include "xmltext.h"
 
 QT_WARNING_DISABLE_DEPRECATED
 
@@ -175,10 +176,13 @@ bool XmlCreateReport::CreateXmlFromSchema(QString schemaPath, QString reportPath
 
 void XmlCreateReport::SetXmlValue(QString value)
 {
-    if (isTypeAccepted(QStringLiteral("string"), IXMLHelper::CURRENT_TYPE_IS_NOT_STRING)
-        && useEnumeration(value, isEnumerationOfElement)) {
+    if (!isTypeAccepted(QStringLiteral("string"), IXMLHelper::CURRENT_TYPE_IS_NOT_STRING)) {
+        return;
+    }
+    const QString text = representableText(value, "XmlCreateReport::SetXmlValue");
+    if (useEnumeration(text, isEnumerationOfElement)) {
         removeAttribute(*m_pDomParser, TypeAttribute());
-        CreateAndAppendTextNode(value);
+        CreateAndAppendTextNode(text);
     }
 }
 
@@ -237,10 +241,13 @@ void XmlCreateReport::SetAttributeValue(QString name, QString value)
     const auto isEnumerationOfAttribute = [&name](const QString& attributeName) {
         return attributeName.contains(EnumerationFacet) && attributeName.contains(name);
     };
-    if (refreshCurrentElement()
-        && isAttributeTypeAccepted(name, QStringLiteral("string"), IXMLHelper::CURRENT_TYPE_IS_NOT_STRING)
-        && useEnumeration(value, isEnumerationOfAttribute)) {
-        setAttribute(*m_pDomParser, name, value);
+    if (!refreshCurrentElement()
+        || !isAttributeTypeAccepted(name, QStringLiteral("string"), IXMLHelper::CURRENT_TYPE_IS_NOT_STRING)) {
+        return;
+    }
+    const QString text = representableText(value, "XmlCreateReport::SetAttributeValue");
+    if (useEnumeration(text, isEnumerationOfAttribute)) {
+        setAttribute(*m_pDomParser, name, text);
     }
 }
 
@@ -392,7 +399,8 @@ void XmlCreateReport::createWalkers()
 void XmlCreateReport::stampSchemaLocation(const QString& schemaPath)
 {
     QDomElement root = m_pDocument->documentElement();
-    root.setAttribute(QStringLiteral("xsi:noNamespaceSchemaLocation"), schemaPath);
+    root.setAttribute(QStringLiteral("xsi:noNamespaceSchemaLocation"),
+                      representableText(schemaPath, "XmlCreateReport::CreateXmlFromSchema"));
     root.setAttribute(QStringLiteral("xmlns:xsi"), SchemaInstanceNamespace);
 }
 

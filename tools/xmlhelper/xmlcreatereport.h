@@ -36,6 +36,10 @@ QT_WARNING_DISABLE_DEPRECATED // QXmlSimpleReader: Qt keeps the SAX classes, wit
     /// A builder makes one document. The operations stay callable afterwards and then act on the element announced
     /// last; before, they act as with no current element.
     ///
+    /// Every report that is written can be read back, as far as the observer does not edit the document by itself: of
+    /// texts the characters that W3C XML cannot carry (control characters, halves of surrogate pairs, U+FFFE, U+FFFF)
+    /// are dropped before they are checked, with a trace.
+    ///
     /// The observer is not owned and must outlive the builder's use of it, the end of CreateXmlFromSchema(). The
     /// builder owns the document and the comment dialogs, and must not be destroyed while CreateXmlFromSchema() runs.
     /// Everything runs on the caller's thread, which must be the GUI thread when the comment dialog is used.
@@ -83,7 +87,7 @@ public:
     /// Sends NO_CURRENT_ELEMENT; CURRENT_TYPE_IS_UNKNOWN followed by CURRENT_TYPE_IS_NOT_STRING without a type;
     /// CURRENT_TYPE_IS_NOT_STRING for another type; VALUE_IS_NOT_VALID for a value outside the enumeration.
     ///
-    /// @param value  written as it is
+    /// @param value  written as it is, apart from characters that XML cannot carry
     void SetXmlValue(QString value);
 
     /// Sets a floating-point number, written with 12 significant digits; truncated to an integer for "short".
@@ -133,7 +137,7 @@ public:
     /// VALUE_IS_NOT_VALID. Does nothing without a current element.
     ///
     /// @param name   the attribute
-    /// @param value  written as it is
+    /// @param value  written as it is, apart from characters that XML cannot carry
     void SetAttributeValue(QString name, QString value);
 
     /// Sets a declared attribute to a date and time in ISO format (Qt::ISODate). Its type must contain "dateTime".

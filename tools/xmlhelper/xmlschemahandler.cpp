@@ -15,6 +15,7 @@
 #include "domextent.h"
 #include "guardedsource.h"
 #include "tracing.h"
+#include "xmltext.h"
 
 QT_WARNING_DISABLE_DEPRECATED
 
@@ -133,24 +134,26 @@ bool isNamespaceDeclaration(const QString& attributeName)
         && (attributeName.size() == word.size() || attributeName.at(word.size()) == QLatin1Char(':'));
 }
 
-/// What a parser reports that looks after namespaces, as if no declaration stood among the attributes.
-QXmlAttributes withoutNamespaceDeclarations(const QXmlAttributes& attributes)
+/// What a parser reports that looks after namespaces, as if no declaration stood among the attributes, and as a report
+/// can carry it: Qt's parser lets characters pass that XML does not allow.
+QXmlAttributes usableAttributes(const QXmlAttributes& attributes)
 {
     int index = 0;
-    while (index < attributes.count() && !isNamespaceDeclaration(attributes.qName(index))) {
+    while (index < attributes.count() && !isNamespaceDeclaration(attributes.qName(index))
+           && isRepresentableText(attributes.value(index))) {
         ++index;
     }
     if (index == attributes.count()) {
         return attributes;
     }
-    QXmlAttributes others;
+    QXmlAttributes usable;
     for (index = 0; index < attributes.count(); ++index) {
         const QString name = attributes.qName(index);
         if (!isNamespaceDeclaration(name)) {
-            others.append(name, QString(), QString(), attributes.value(index));
+            usable.append(name, QString(), QString(), representableText(attributes.value(index), "XmlSchemaHandler"));
         }
     }
-    return others;
+    return usable;
 }
 
 /// One name for every way to write the path of a file.
@@ -292,7 +295,7 @@ bool XmlSchemaHandler::startElement(const QString&, const QString&, const QStrin
         return true;
     }
     m_sCurrentName = qName;
-    m_attributes = withoutNamespaceDeclarations(attributes);
+    m_attributes = usableAttributes(attributes);
     if (++m_iNesting > MaxElementNesting) {
         refuse(QStringLiteral("The schema is nested deeper than %1 elements!").arg(MaxElementNesting));
     } else if (m_pReading->openTags + m_iNesting > MaxOpenTags) {
@@ -430,7 +433,12 @@ void XmlSchemaHandler::beginGlobalDeclaration()
     m_bInsideGlobal = true;
     m_sDefinitionName = firstValue();
     beginFragment(false);
-    m_currentElement = createElement(m_sDefinitionName, currentFragment());
+    // What is taken for the name may be any attribute that comes first. So a name that XML does not allow leaves the
+    // declaration out, but is no reason to fail.
+    m_currentElement = QDomElement();
+    if (!m_sDefinitionName.isEmpty() && isRepresentableName(m_sDefinitionName, "XmlSchemaHandler")) {
+        m_currentElement = createElement(m_sDefinitionName, currentFragment());
+    }
     m_typeDefinitions[m_sDefinitionName] = TypeDefinition {0, 0, m_pCurrentFragment};
 
     for (int i = 0; i < m_attributes.count(); ++i) {
@@ -461,7 +469,7 @@ bool XmlSchemaHandler::readGlobalType(const QString& type)
 void XmlSchemaHandler::readLocalElement()
 {
     const ElementDeclaration declaration(m_attributes);
-    if (!declaration.name.isEmpty()) {
+    if (!declaration.name.isEmpty() && checkName(declaration.name)) {
         layOutNamedElement(declaration);
         enterOccurs(declaration.name, declaration);
     } else if (!declaration.ref.isEmpty()) {
@@ -561,7 +569,9 @@ void XmlSchemaHandler::readFacet()
         }
         facet += QString::number(m_iEnumerationCounter++);
     }
-    annotatedElement().setAttribute(facet, firstValue());
+    if (checkName(facet)) {
+        annotatedElement().setAttribute(facet, firstValue());
+    }
 }
 
 void XmlSchemaHandler::beginExtension()
@@ -604,7 +614,7 @@ void XmlSchemaHandler::readAttribute()
 {
     const QString name = m_attributes.value(QLatin1String("name"));
     const QString ref = m_attributes.value(QLatin1String("ref"));
-    if (!name.isEmpty()) {
+    if (!name.isEmpty() && checkName(name)) {
         attributedElement().setAttribute(name, m_attributes.value(QLatin1String("type")));
     } else if (!ref.isEmpty()) {
         readAttributeReference(ref);
@@ -885,6 +895,15 @@ void XmlSchemaHandler::refuse(const QString& reason)
         m_pReading->isRefused = true;
         trace(reason, Component, __LINE__);
     }
+}
+
+/// Whether an element or an attribute of the skeleton may have the name; fails the parse when XML does not allow it.
+bool XmlSchemaHandler::checkName(const QString& name)
+{
+    if (!isRepresentableName(name, "XmlSchemaHandler")) {
+        m_pReading->isRefused = true;
+    }
+    return !isRefused();
 }
 
 void XmlSchemaHandler::refuseElements()

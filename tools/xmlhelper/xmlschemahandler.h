@@ -38,7 +38,9 @@ QT_WARNING_DISABLE_DEPRECATED // The SAX classes: Qt keeps them, with a warning.
     /// several.
     ///
     /// The parse fails at the end of the document when a definition never comes, and early when one of the limits in
-    /// constants.h is exceeded; both are traced. No event is ever sent.
+    /// constants.h is exceeded or a local declaration has a name that W3C XML does not allow; all of it is traced. A
+    /// global declaration of such a name is left out, and characters that XML cannot carry are dropped from what the
+    /// schema says, with a trace too. No event is ever sent.
     ///
     /// The handler owns the document, the fragments and the elements that the maps point to. Maps that were handed over
     /// dangle once it is destroyed. A handler made with a null observer traces it and must not be used.
@@ -138,6 +140,7 @@ private:
 
     bool isRefused() const;
     void refuse(const QString& reason);
+    bool checkName(const QString& name);
     void refuseElements();
     bool isWithinLimits(int elements, int levels, const QDomNode& owner, ElementCount& tree);
 

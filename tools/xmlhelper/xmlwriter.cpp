@@ -8,7 +8,11 @@
 #include <valueframework/valuebase.h>
 #include <valueframework/valueitem.h>
 
+#include "constants.h"
 #include "documentfile.h"
+#include "domextent.h"
+#include "tracing.h"
+#include "xmltext.h"
 
 XMLWriter::XMLWriter()
     : m_pFile(nullptr)
@@ -38,7 +42,9 @@ bool XMLWriter::CreateXmlFile(const QString& fileName, const QString& rootName)
         return false;
     }
     m_pDocument = new QDomDocument;
-    m_pDocument->setContent(QStringLiteral("<?xml version = '1.0' encoding = 'UTF-8'?><") + rootName
+    // Which names are allowed is checked there, which characters are not.
+    const QString root = isRepresentableText(rootName) ? rootName : QString();
+    m_pDocument->setContent(QStringLiteral("<?xml version = '1.0' encoding = 'UTF-8'?><") + root
                             + QStringLiteral("/>"));
     *m_pCurrentElement = m_pDocument->documentElement();
     return true;
@@ -46,13 +52,15 @@ bool XMLWriter::CreateXmlFile(const QString& fileName, const QString& rootName)
 
 bool XMLWriter::CreateXmlElement(const QString& name, const QString& text, bool enter)
 {
-    if (m_pCurrentElement->lastChild().isText() || !m_pDocument) {
+    if (m_pCurrentElement->lastChild().isText() || !m_pDocument || !isPlaceForElement()
+        || !isRepresentableName(name, "XMLWriter::CreateXmlElement")) {
         return false;
     }
     QDomElement element = m_pDocument->createElement(name);
     m_pCurrentElement->appendChild(element);
-    if (!text.isEmpty()) {
-        element.appendChild(m_pDocument->createTextNode(text));
+    const QString writtenText = representableText(text, "XMLWriter::CreateXmlElement");
+    if (!writtenText.isEmpty()) {
+        element.appendChild(m_pDocument->createTextNode(writtenText));
     }
     if (enter) {
         *m_pCurrentElement = m_pCurrentElement->lastChild().toElement();
@@ -62,10 +70,10 @@ bool XMLWriter::CreateXmlElement(const QString& name, const QString& text, bool 
 
 bool XMLWriter::SetXmlAttribute(const QString& name, const QString& value)
 {
-    if (m_pCurrentElement->isNull()) {
+    if (m_pCurrentElement->isNull() || !isRepresentableName(name, "XMLWriter::SetXmlAttribute")) {
         return false;
     }
-    m_pCurrentElement->setAttribute(name, value);
+    m_pCurrentElement->setAttribute(name, representableText(value, "XMLWriter::SetXmlAttribute"));
     return true;
 }
 
@@ -89,7 +97,8 @@ bool XMLWriter::SaveXmlFile()
 
 bool XMLWriter::CreateElementsFromNode(Node* node)
 {
-    if (!node || !m_pDocument) {
+    if (!node || !m_pDocument || !isPlaceForElement()
+        || !isRepresentableName(node->GetName(), "XMLWriter::CreateElementsFromNode")) {
         return false;
     }
     CreateXmlElement(node->GetName(), QString(), true);
@@ -103,4 +112,15 @@ bool XMLWriter::CreateElementsFromNode(Node* node)
     }
     GoToXmlParent();
     return true;
+}
+
+/// Whether the current element is not nested too deep to have a child. Traces when it is.
+bool XMLWriter::isPlaceForElement() const
+{
+    const bool isPlace = levelOf(*m_pCurrentElement) < MaxElementNesting;
+    if (!isPlace) {
+        trace(QStringLiteral("XMLWriter: Elements nested deeper than %1 are refused!").arg(MaxElementNesting),
+              "xmlwriter", __LINE__);
+    }
+    return isPlace;
 }

@@ -16,9 +16,10 @@ class QFile;
 /// appends below the cursor and may enter the new element, SetXmlAttribute() works on the cursor, GoToXmlParent()
 /// leaves it. SaveXmlFile() may be called as often as the document changes.
 ///
-/// Operations report failure by false and nothing else; a failed one leaves document and cursor as they were. Names
-/// and texts are written as given: names that W3C XML does not allow, and control characters, make a file that no
-/// parser accepts.
+/// Operations report failure by false; a failed one leaves document and cursor as they were. Every file that is written
+/// can be read back: names that W3C XML does not allow and elements nested deeper than 512 levels are refused, and of
+/// texts the characters that it cannot carry (control characters, halves of surrogate pairs, U+FFFE, U+FFFF) are
+/// dropped. Both is traced.
 ///
 /// The writer owns its document. Copies are shallow: of a writer and its copies exactly one may be destroyed.
 class XMLHELPER_EXPORT XMLWriter
@@ -49,13 +50,14 @@ public:
     /// @param name   the name of the new element
     /// @param text   its text; empty: none
     /// @param enter  whether the new element becomes the current one
-    /// @return false without a document, and when the current element ends with a text
+    /// @return false without a document, when the current element ends with a text, and for a name or a nesting that is
+    ///         refused
     bool CreateXmlElement(const QString& name, const QString& text, bool enter);
 
     /// Sets an attribute of the current element, or replaces it.
     /// @param name   the attribute's name
     /// @param value  its value
-    /// @return false without a current element
+    /// @return false without a current element, and for a name that is refused
     bool SetXmlAttribute(const QString& name, const QString& value);
 
     /// Makes the parent of the current element the current one.
@@ -67,13 +69,15 @@ public:
     bool SaveXmlFile();
 
     /// Appends the values of a value-tree node below the current element: an element for the node and, in order, one
-    /// with its text for each value and one for each node below. Items without a value and items that are neither
-    /// value nor node are left out.
+    /// with its text for each value and one for each node below. Items without a value, items that are neither value
+    /// nor node, and values and whole nodes whose name or nesting is refused are left out.
     /// @param node  not owned, only read
-    /// @return false for null, and without a document
+    /// @return false for null, without a document, and for a node that is refused
     bool CreateElementsFromNode(Node* node);
 
 private:
+    bool isPlaceForElement() const;
+
     QFile* m_pFile;
     QDomDocument* m_pDocument;
     QDomElement* m_pCurrentElement;
