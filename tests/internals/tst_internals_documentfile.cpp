@@ -14,6 +14,8 @@
 #include <xmlhelper/documentfile.h>
 
 #include "domtext.h"
+#include "filesizelimit.h"
+#include "tracecollector.h"
 
 class TestDocumentFile : public QObject
 {
@@ -37,6 +39,8 @@ private Q_SLOTS:
     void tellsOfAFileThatCannotBeOpened_data();
     void tellsOfAFileThatCannotBeOpened();
     void tellsOfAFullDevice();
+    void keepsNoHalfOfAFile_data();
+    void keepsNoHalfOfAFile();
 
 private:
     QString path(const char* name) const { return m_folder->filePath(QString::fromLatin1(name)); }
@@ -209,6 +213,39 @@ void TestDocumentFile::tellsOfAFullDevice()
     }
     QVERIFY(QFile::link(fullDevice, path("full.xml")));
     QVERIFY(!saveDocument(documentOf(QStringLiteral("<r/>")), path("full.xml")));
+}
+
+void TestDocumentFile::keepsNoHalfOfAFile_data()
+{
+    QTest::addColumn<bool>("isLink");
+    QTest::newRow("file-is-removed") << false;
+    QTest::newRow("file-behind-a-link-is-emptied") << true;
+}
+
+void TestDocumentFile::keepsNoHalfOfAFile()
+{
+    QFETCH(bool, isLink);
+    if (!FileSizeLimit::IsSupported()) {
+        QSKIP("The size of files cannot be limited here.");
+    }
+    const QDomDocument document
+        = documentOf(QStringLiteral("<r>%1</r>").arg(QStringLiteral("<a>x</a>").repeated(9999)));
+    write(path("target.xml"), "earlier");
+    if (isLink) {
+        QVERIFY(QFile::link(path("target.xml"), path("saved.xml")));
+    }
+    const TraceCollector traces;
+    {
+        const FileSizeLimit limit(4096);
+        QVERIFY(!saveDocument(document, path("saved.xml")));
+    }
+    QCOMPARE(traces.Messages(),
+             QStringLiteral("Only a part could be written of %1, it was discarded!").arg(path("saved.xml")));
+    QCOMPARE(bytesOf(path("saved.xml")), isLink ? QByteArray() : QByteArray("(no file)"));
+    QCOMPARE(bytesOf(path("target.xml")), isLink ? QByteArray() : QByteArray("earlier"));
+
+    QVERIFY(saveDocument(document, path("saved.xml")));
+    QCOMPARE(domText(documentInFile(path("saved.xml"))), domText(document));
 }
 
 QTEST_GUILESS_MAIN(TestDocumentFile)

@@ -1,10 +1,14 @@
 #include "documentfile.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QTextStream>
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QTextCodec>
 #endif
+
+#include "textsinpieces.h"
+#include "tracing.h"
 
 namespace {
 
@@ -22,12 +26,25 @@ void useUtf8(QTextStream& stream)
 
 QByteArray serialised(const QDomDocument& document)
 {
+    const TextsInPieces pieces(document);
     QByteArray bytes;
     QTextStream stream(&bytes, QIODevice::WriteOnly);
     useUtf8(stream);
     document.save(stream, SavedIndent);
     stream.flush();
     return bytes;
+}
+
+/// Takes back what was written of a file: half a document is of no use to anybody. A device stays, and so does a link,
+/// over an empty file.
+void discard(QFile& file)
+{
+    trace(QStringLiteral("Only a part could be written of %1, it was discarded!").arg(file.fileName()), "documentfile",
+          __LINE__);
+    const QFileInfo info(file.fileName());
+    if (info.isSymLink() || !info.isFile() || !file.remove()) {
+        file.resize(0);
+    }
 }
 
 } // namespace
@@ -47,13 +64,18 @@ QString openableFileName(const QString& fileName)
 
 bool saveDocument(const QDomDocument& document, const QString& fileName)
 {
+    // One write instead of one for every line; the bytes are those that a stream on the file would write. They are
+    // complete before the earlier content of the file is lost.
+    const QByteArray bytes = serialised(document);
     QFile file(openableFileName(fileName));
     if (!file.open(QIODevice::WriteOnly)) {
         return false;
     }
-    // One write instead of one for every line; the bytes are those that a stream on the file would write.
-    const QByteArray bytes = serialised(document);
-    const bool isWritten = file.write(bytes) == bytes.size() && file.flush();
+    const bool isFlushed = file.write(bytes) == bytes.size() && file.flush();
     file.close();
+    const bool isWritten = isFlushed && file.error() == QFile::NoError;
+    if (!isWritten) {
+        discard(file);
+    }
     return isWritten;
 }

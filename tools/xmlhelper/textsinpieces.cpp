@@ -1,0 +1,56 @@
+#include "textsinpieces.h"
+
+namespace {
+
+constexpr int PieceLength = 4096;
+
+QDomNode nextInDocument(QDomNode node)
+{
+    if (node.hasChildNodes()) {
+        return node.firstChild();
+    }
+    while (!node.isNull() && node.nextSibling().isNull()) {
+        node = node.parentNode();
+    }
+    return node.nextSibling();
+}
+
+/// Whether "]]>" stands across @p index. Qt escapes its last character only when it sees all three.
+bool isInsideSectionEnd(const QString& text, int index)
+{
+    const QLatin1String sectionEnd("]]>");
+    return text.mid(index - 2, 3) == sectionEnd || text.mid(index - 1, 3) == sectionEnd;
+}
+
+} // namespace
+
+TextsInPieces::TextsInPieces(const QDomDocument& document)
+{
+    for (QDomNode node = document; !node.isNull(); node = nextInDocument(node)) {
+        if (node.nodeType() == QDomNode::TextNode && node.nodeValue().size() > PieceLength) {
+            split(node.toText());
+        }
+    }
+}
+
+TextsInPieces::~TextsInPieces()
+{
+    for (LongText& text : m_texts) {
+        for (const QDomText& piece : text.furtherPieces) {
+            piece.parentNode().removeChild(piece);
+        }
+        text.firstPiece.setData(text.data);
+    }
+}
+
+/// Cuts from the end, so that each cut moves no more than its piece.
+void TextsInPieces::split(QDomText text)
+{
+    LongText& longText = m_texts.emplace_back(LongText {text, text.data(), {}});
+    const int lastIndex = int(longText.data.size()) - 1;
+    for (int cut = lastIndex - lastIndex % PieceLength; cut > 0; cut -= PieceLength) {
+        if (!isInsideSectionEnd(longText.data, cut) && !longText.data.at(cut).isLowSurrogate()) {
+            longText.furtherPieces.push_back(text.splitText(cut));
+        }
+    }
+}

@@ -1,0 +1,34 @@
+#ifndef XMLHELPER_TEXTSINPIECES_H
+#define XMLHELPER_TEXTSINPIECES_H
+
+#include <vector>
+
+#include <QDomDocument>
+#include <QString>
+
+/// Stands the long texts of a document in pieces while it lives, so that Qt saves it in a time in proportion to their
+/// length: what it needs to escape one text grows with the square of its length, to an hour for ten million characters.
+/// Neighbouring texts are saved to the same bytes as one. In the end every text is whole again, in its own node.
+class TextsInPieces
+{
+public:
+    /// @param document  must not be changed by anybody else meanwhile
+    explicit TextsInPieces(const QDomDocument& document);
+    ~TextsInPieces();
+
+private:
+    Q_DISABLE_COPY(TextsInPieces)
+
+    struct LongText
+    {
+        QDomText firstPiece;
+        QString data;
+        std::vector<QDomText> furtherPieces;
+    };
+
+    void split(QDomText text);
+
+    std::vector<LongText> m_texts;
+};
+
+#endif
