@@ -85,6 +85,14 @@ constexpr int MaxOpenTags = 2 * MaxElementNesting;
 /// Elements of one document, laid out by a schema or made by copying.
 constexpr int MaxElements = 500000;
 
+/// Calls that multiply an element of one document. Each lets the walk announce the element again, also one that makes
+/// no copy, so two names that take turns would keep it there for good.
+constexpr int MaxMultiplications = MaxElements;
+
+/// Error events of a builder that are sent while the observer answers an earlier one. Each is an answer that was
+/// refused; an observer that always answers refusals with the same value would otherwise use up the stack.
+constexpr int MaxNestedErrors = 100;
+
 /// Elements laid out while one schema is read, all its definitions together.
 constexpr int MaxElementsOfAllDefinitions = 4 * MaxElements;
 

@@ -135,13 +135,13 @@ ReportData::ReportData(const QString& name, const QString& valuePath, const QStr
     , m_sUnit(unit)
     , m_bOpen(false)
     , m_pReserved(nullptr)
+    , m_pTree(Tree::Instance())
 {
-    const Tree* const tree = Tree::Instance();
     if (valuePath.isEmpty()) {
         m_sFixedText = fixedText;
-    } else if (tree) {
-        m_pValue = tree->GetValue(valuePath);
-        m_pEntry = m_pValue ? nullptr : tree->GetTreeItem(valuePath);
+    } else if (m_pTree) {
+        m_pValue = m_pTree->GetValue(valuePath);
+        m_pEntry = m_pValue ? nullptr : m_pTree->GetTreeItem(valuePath);
     }
     m_bOpen = m_pValue || m_pEntry || !m_sFixedText.isEmpty();
 }
@@ -192,6 +192,9 @@ bool ReportData::IsOpen() const
 
 bool ReportData::GetDataValue(double& value) const
 {
+    if (isSourceGone()) {
+        return false;
+    }
     if (const auto* const numeric = dynamic_cast<const IValueNumeric*>(m_pValue)) {
         value = numeric->GetNumericValue() / valueScale();
         return true;
@@ -215,6 +218,9 @@ bool ReportData::GetDataValue(double& value) const
 
 bool ReportData::GetDataValue(QString& value) const
 {
+    if (isSourceGone()) {
+        return false;
+    }
     if (m_pValue) {
         value = m_pValue->GetText();
     } else if (m_pEntry) {
@@ -248,4 +254,19 @@ bool ReportData::GetDataValue(long& value) const
 double ReportData::valueScale() const
 {
     return std::pow(10.0, m_iDecimalExponent);
+}
+
+/// Whether what the tree had under the path is no longer there. Another tree that has taken the place of the tree since
+/// cannot tell.
+bool ReportData::isSourceGone() const
+{
+    if (!m_pValue && !m_pEntry) {
+        return false;
+    }
+    const Tree* const tree = Tree::Instance();
+    if (tree && tree != m_pTree) {
+        return false;
+    }
+    return !tree || tree->GetValue(m_sValuePath) != m_pValue
+        || (m_pEntry && tree->GetTreeItem(m_sValuePath) != m_pEntry);
 }

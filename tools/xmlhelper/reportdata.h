@@ -5,6 +5,7 @@
 
 #include <xmlhelper/xmlhelperexport.h>
 
+class Tree;
 class TreeItem;
 class ValueBase;
 
@@ -64,8 +65,9 @@ private:
 /// One value that a measurement report can carry: the name of a report element and where its value comes from.
 ///
 /// The source is a value of the suite's value tree, found by its path when the item is made, or a fixed text, or a
-/// value given explicitly. An item with a usable source is open. Values of the tree are not owned: they must outlive
-/// the item, and the items copied from it.
+/// value given explicitly. An item with a usable source is open. Values of the tree are not owned. One that goes away,
+/// or gives its place to another, leaves the item without a value: it stays open, but nothing is read from it. Only
+/// while another tree has taken the place of the tree must its values outlive the items that name them.
 class XMLHELPER_EXPORT ReportData
 {
 public:
@@ -104,7 +106,7 @@ public:
     /// @return how often the element may occur in the report
     int GetMaxOccurs() const;
 
-    /// @return the value found in the tree, or null; the tree's
+    /// @return the value found in the tree, or null; the tree's, and dangling when it has gone away
     ValueBase* GetVTObject() const;
 
     /// @return whether the item has a usable source
@@ -138,6 +140,7 @@ public:
 
 private:
     double valueScale() const;
+    bool isSourceGone() const;
 
     QString m_sName;
     QString m_sValuePath;
@@ -151,6 +154,8 @@ private:
     bool m_bOpen;
     void* m_pReserved; ///< always null
     ExplicitReportData m_explicitData;
+
+    const Tree* m_pTree; ///< where the value was looked up; compared, never followed
 };
 
 #endif

@@ -4,6 +4,7 @@
 
 #include <QDateTime>
 #include <QDomDocument>
+#include <QScopedValueRollback>
 #include <QStringList>
 #include <QXmlSimpleReader>
 
@@ -135,6 +136,9 @@ XmlCreateReport::XmlCreateReport(IXMLHelper* pCallback)
     , m_bUnused(false)
     , m_iDiscardedChoices(0)
     , m_iElements(0)
+    , m_iMultiplications(0)
+    , m_iErrorDepth(0)
+    , m_iNestedErrors(0)
 {
     checkObserver(pCallback, "XmlCreateReport", "xmlcreatereport", 43);
 }
@@ -357,9 +361,20 @@ QString XmlCreateReport::TypeControl(QString wanted)
 
 void XmlCreateReport::Error(int id)
 {
-    if (m_pCallback) {
-        deliver<ErrorEvent>(m_pCallback, static_cast<IXMLHelper::ErrorID>(id));
+    if (!m_pCallback) {
+        return;
     }
+    if (m_iErrorDepth == 0) {
+        m_iNestedErrors = 0;
+    } else if (++m_iNestedErrors > MaxNestedErrors) {
+        if (m_iNestedErrors == MaxNestedErrors + 1) {
+            trace(QStringLiteral("More than %1 errors while one is being answered are not sent!").arg(MaxNestedErrors),
+                  "xmlcreatereport", __LINE__);
+        }
+        return;
+    }
+    const QScopedValueRollback<int> depth(m_iErrorDepth, m_iErrorDepth + 1);
+    deliver<ErrorEvent>(m_pCallback, static_cast<IXMLHelper::ErrorID>(id));
 }
 
 /// Whether the schema allows @p count occurrences of @p name under some owner below which @p element stands.
@@ -503,9 +518,15 @@ void XmlCreateReport::setCheckedAttribute(const QString& name, const QString& te
 }
 
 /// Makes the current element occur @p count times. A root has no place for copies, which counts as success. Gives
-/// false, and makes no copy, when the document would become too large.
+/// false, and makes no copy, when the document would become too large. Calls without a copy are counted too, because
+/// the element is announced again after each.
 bool XmlCreateReport::copyCurrentElement(int count)
 {
+    if (++m_iMultiplications > MaxMultiplications) {
+        trace(QStringLiteral("Elements are multiplied more than %1 times!").arg(MaxMultiplications), "xmlcreatereport",
+              __LINE__);
+        return false;
+    }
     if (m_pCurrentElement->parentNode().toElement().isNull() || count <= 1) {
         return true;
     }

@@ -29,9 +29,10 @@ QT_WARNING_DISABLE_DEPRECATED // QXmlSimpleReader: Qt keeps the SAX classes, wit
     /// every element the schema declares, and announces these elements one by one to the observer with an
     /// ElemBeginEvent. The observer answers from inside IXMLHelper::XmlUpdate() with the operations below, which all
     /// act on the element just announced. Refusals arrive at once as ErrorEvent, while the refused call is still on the
-    /// stack; the observer may answer them with another call. Elements that stay unfilled are removed when the schema
-    /// allows them to be missing. In the end the document is written to the report file, or handed to a comment dialog
-    /// that writes it later.
+    /// stack; the observer may answer them with another call, which may be refused again. An observer that answers
+    /// without end is heard out: of the errors that follow from one, 100 are sent. Elements that stay unfilled are
+    /// removed when the schema allows them to be missing. In the end the document is written to the report file, or
+    /// handed to a comment dialog that writes it later.
     ///
     /// A builder makes one document. The operations stay callable afterwards and then act on the element announced
     /// last; before, they act as with no current element.
@@ -172,8 +173,9 @@ public:
     /// @param count  0 and 1 make no copy; negative ones are always allowed. An element with minOccurs 0 and
     ///               maxOccurs n takes up to n * 100.
     ///
-    /// Sends MAX_OCCURS_EXCEEDED when the count is not allowed, when the document would exceed 500,000 elements, and
-    /// twice for a name without occurrence limits. Does nothing without a current element.
+    /// Sends MAX_OCCURS_EXCEEDED when the count is not allowed, when the document would exceed 500,000 elements or
+    /// the call is the 500,001st to multiply one, and twice for a name without occurrence limits. Does nothing without
+    /// a current element.
     void SetElementMaxOccurs(QString name, int count);
 
     /// Removes the current element as an unwanted alternative of a choice. The walk goes on behind the sibling that
@@ -224,6 +226,9 @@ private:
     std::list<QDomDocument*> m_dialogDocuments; ///< owned, one for each dialog
     std::list<QDomElement*> m_followers; ///< owned; the walk may still go on from them
     int m_iElements; ///< laid out by the schema and made by copying
+    int m_iMultiplications; ///< calls that multiplied an element, with or without copies
+    int m_iErrorDepth; ///< error events that the observer is answering just now
+    int m_iNestedErrors; ///< sent since the outermost of them
 };
 
 QT_WARNING_POP
