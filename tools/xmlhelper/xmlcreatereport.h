@@ -39,7 +39,9 @@ QT_WARNING_DISABLE_DEPRECATED // QXmlSimpleReader: Qt keeps the SAX classes, wit
     ///
     /// Every report that is written can be read back, as far as the observer does not edit the document by itself: of
     /// texts the characters that W3C XML cannot carry (control characters, halves of surrogate pairs, U+FFFE, U+FFFF)
-    /// are dropped before they are checked, with a trace.
+    /// are dropped before they are checked, with a trace. The observer may edit the document through the nodes it is
+    /// given, and keep these, but must not give the document other content (QDomDocument::setContent()): Qt would free
+    /// nodes that are in use.
     ///
     /// The observer is not owned and must outlive the builder's use of it, the end of CreateXmlFromSchema(). The
     /// builder owns the document and the comment dialogs, and must not be destroyed while CreateXmlFromSchema() runs.
