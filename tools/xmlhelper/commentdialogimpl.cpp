@@ -4,6 +4,9 @@
 #include <QDomDocument>
 #include <QMessageBox>
 #include <QPointer>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextOption>
 
 #include <arbase/vorndatetime.h>
 #include <arbase/vornos.h>
@@ -14,6 +17,9 @@
 namespace {
 
 const QLatin1String NoValue("---");
+
+/// The longest line of a comment that is wrapped between words.
+constexpr int MaxWrappedLine = 5000;
 
 /// Asks above @p window. The question lives on the heap because the window may be deleted while it is open, which
 /// counts as Cancel; QMessageBox::warning() keeps it on the stack, where its parent must not delete it.
@@ -44,6 +50,7 @@ CommentDialogImpl::CommentDialogImpl()
     for (QLabel* label : {m_pTimeLabel, m_pFrequencyLabel, m_pBandwidthLabel, m_pLevelLabel, m_pAzimuthLabel}) {
         label->clear();
     }
+    connect(m_pTextEdit->document(), &QTextDocument::contentsChange, this, &CommentDialogImpl::wrapLongLines);
 }
 
 void CommentDialogImpl::SetDocument(QDomDocument* document)
@@ -115,6 +122,22 @@ void CommentDialogImpl::closeEvent(QCloseEvent* event)
         }
     }
     event->accept();
+}
+
+/// Wraps the comment anywhere once it has a long line, before that is laid out: Qt looks for the end of a word from
+/// every row that the word fills, which takes hours for one of ten megabytes.
+void CommentDialogImpl::wrapLongLines(int position, int, int added)
+{
+    QTextDocument* const document = m_pTextEdit->document();
+    QTextBlock block = document->findBlock(position);
+    while (block.isValid() && block.position() <= position + added && block.length() <= MaxWrappedLine) {
+        block = block.next();
+    }
+    QTextOption option = document->defaultTextOption();
+    if (block.length() > MaxWrappedLine && option.wrapMode() != QTextOption::WrapAnywhere) {
+        option.setWrapMode(QTextOption::WrapAnywhere);
+        document->setDefaultTextOption(option);
+    }
 }
 
 void CommentDialogImpl::appendComment(const QString& comment)

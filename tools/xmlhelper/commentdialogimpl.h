@@ -48,6 +48,7 @@ protected:
 private:
     Q_DISABLE_COPY(CommentDialogImpl)
 
+    void wrapLongLines(int position, int removed, int added);
     void appendComment(const QString& comment);
     void removeComment();
     void WriteReportFile();

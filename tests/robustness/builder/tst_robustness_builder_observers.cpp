@@ -537,8 +537,6 @@ void TestRobustnessBuilderObservers::nodesStayReadableAfterTheBuilder()
         textsAfter.append(domText(node));
     }
     QCOMPARE(textsAfter, textsBefore);
-    // The nodes that were not below another one that is kept have lost their parent with the document.
-    QVERIFY(nodes.front().parentNode().isNull());
 }
 
 QTEST_GUILESS_MAIN(TestRobustnessBuilderObservers)
