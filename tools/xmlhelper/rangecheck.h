@@ -47,10 +47,10 @@ template <typename Number> struct RangeBounds
             return checkBehindLower(MinExclusiveFacet, value, rule);
         }
         if (isGiven(maxInclusive) && !(value > maxInclusive)) {
-            return checkBelow(MaxInclusiveFacet, value);
+            return checkBelow(MaxInclusiveFacet);
         }
         if (isGiven(maxExclusive) && !(value >= maxExclusive)) {
-            return checkBelow(MaxExclusiveFacet, value);
+            return checkBelow(MaxExclusiveFacet);
         }
         return refuse();
     }
@@ -77,16 +77,10 @@ private:
         return accept({lower});
     }
 
-    /// The value has passed the upper bound @p upper without having passed a lower one.
-    RangeVerdict checkBelow(QLatin1String upper, Number value) const
+    /// The value has passed the upper bound @p upper but no lower one: if there is one, it refuses the value.
+    RangeVerdict checkBelow(QLatin1String upper) const
     {
-        if (isGiven(minInclusive)) {
-            return value < minInclusive ? refuse() : accept({MinInclusiveFacet, upper});
-        }
-        if (isGiven(minExclusive)) {
-            return value <= minExclusive ? refuse() : accept({MinExclusiveFacet, upper});
-        }
-        return accept({upper});
+        return isGiven(minInclusive) || isGiven(minExclusive) ? refuse() : accept({upper});
     }
 };
 
