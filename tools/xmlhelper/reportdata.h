@@ -152,7 +152,7 @@ private:
     int m_iMaxOccurs;
     QString m_sUnit;
     bool m_bOpen;
-    void* m_pReserved; ///< always null
+    [[maybe_unused]] void* m_pReserved; ///< always null
     ExplicitReportData m_explicitData;
 
     const Tree* m_pTree; ///< where the value was looked up; compared, never followed

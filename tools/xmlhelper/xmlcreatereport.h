@@ -217,7 +217,7 @@ private:
     DomParser* m_pDomParser; ///< never released, see createWalkers()
     QString m_sLastMultipliedName;
     QString m_sUnused; ///< copied with the builder, never read
-    bool m_bUnused; ///< copied with the builder, never read
+    [[maybe_unused]] bool m_bUnused; ///< copied with the builder, never read
     qint32 m_iDiscardedChoices;
     UnresolvedTypeMap m_unresolvedTypes;
     OccursMap m_occurs;
