@@ -55,6 +55,7 @@ private Q_SLOTS:
     void findsNothingWithoutADocument();
     void searchAndMembershipAgree();
     void searchAndMembershipAgreeWhileTheDocumentChanges();
+    void searchAndDeclarationsAgreeWhileTheDocumentChanges();
     void prunesManyContainersInARow();
     void keepsCopiesOfTheMaps();
     void tracesAMissingObserver();
@@ -877,6 +878,72 @@ void TestDomParser::searchAndMembershipAgreeWhileTheDocumentChanges()
         }));
     }
     QVERIFY(removed > 20); // the owners that the parser remembers have been among them
+}
+
+void TestDomParser::searchAndDeclarationsAgreeWhileTheDocumentChanges()
+{
+    QRandomGenerator random(20260103);
+    const auto isWanted = [](int code) { return code == 1; };
+    int declared = 0;
+    int undeclared = 0;
+    for (int round = 0; round < 200; ++round) {
+        QDomDocument document = anyDocument(random);
+        OccursMap occurs;
+        for (int entry = 0; entry < 12; ++entry) {
+            occurs[anyName(random)][random.bounded(2)].push_back(anyName(random));
+        }
+        FunctionObserver observer;
+        DomParser parser(&observer, occurs, {});
+        QVERIFY(parser.SetDocument(&document));
+        int answers = 0;
+        observer.answer = [&](XmlEvent& event) {
+            if (event.GetType() != XmlEvent::EVENT_ELEM_BEGIN || ++answers > 60) {
+                return;
+            }
+            QDomElement* const element = parser.GetCurrentElement();
+            const QString tagName = element->tagName();
+            const QString name = anyName(random);
+            const std::list<QString>& owners = occurs[name][1];
+            const bool isListedBelowAny = std::any_of(owners.begin(), owners.end(), [&](const QString& owner) {
+                return isListed(parser, tagName, owner, *element);
+            });
+            QCOMPARE(parser.IsDeclaredAbove(name, tagName, *element, isWanted), isListedBelowAny);
+            ++(isListedBelowAny ? declared : undeclared);
+
+            switch (random.bounded(16)) {
+            case 0: // A root has no place for copies.
+                if (element->parentNode().isElement()) {
+                    parser.InsertCopies(*element, 2);
+                }
+                break;
+            case 1: // Removes the element itself, or what may hold it.
+                parser.Remove(random.bounded(2) == 0 ? *element : element->parentNode());
+                break;
+            case 2: // An observer may edit the tree through the node that it was given, too.
+                element->parentNode().insertAfter(element->cloneNode(true), *element);
+                break;
+            case 3:
+                element->removeChild(element->lastChild());
+                break;
+            case 4:
+                element->setTagName(anyName(random));
+                break;
+            case 5:
+                if (round % 10 == 0) {
+                    document.appendChild(document.createComment(QStringLiteral("end")));
+                }
+                break;
+            default:
+                break;
+            }
+            if (random.bounded(2) == 0) {
+                parser.ContinueAt(element, random.bounded(4) == 0);
+            }
+        };
+        QVERIFY(parser.Walk());
+    }
+    QVERIFY(declared > 100);
+    QVERIFY(undeclared > 100);
 }
 
 void TestDomParser::prunesManyContainersInARow()
