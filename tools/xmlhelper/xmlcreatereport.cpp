@@ -326,7 +326,7 @@ void XmlCreateReport::DiscardChoiceItem()
 /// on behind the element.
 void XmlCreateReport::CreateAndAppendTextNode(QString text)
 {
-    if (!m_pCurrentElement) {
+    if (!m_pCurrentElement) { // unreached: every setter has looked for an element before
         Error(IXMLHelper::NO_CURRENT_ELEMENT);
         return;
     }
