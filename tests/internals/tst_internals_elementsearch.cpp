@@ -22,6 +22,7 @@ private Q_SLOTS:
     void namesTheTopNodeItWasGiven();
     void matchesFollowARecursion();
     void firstMatchFollowsARecursion();
+    void startsAreComparedWithoutTheirPrefix();
 
     void isMatchKnowsReportedNodes_data();
     void isMatchKnowsReportedNodes();
@@ -182,6 +183,29 @@ void TestElementSearch::firstMatchFollowsARecursion()
                 QVERIFY2(ElementSearch(top).FirstMatch(name, start).toElement() == expected, text.constData());
             }
         }
+    }
+}
+
+void TestElementSearch::startsAreComparedWithoutTheirPrefix()
+{
+    // Below an element that has the name but for its prefix, the search starts with a match: the top node.
+    QDomDocument document = documentOf(QStringLiteral("<r><b><a id='second'/></b></r>"));
+    QDomElement root = document.documentElement();
+    QDomElement prefixed = document.createElementNS(QStringLiteral("urn:any"), QStringLiteral("p:a"));
+    root.insertBefore(prefixed, root.firstChild());
+    QDomElement first = document.createElement(QStringLiteral("a"));
+    prefixed.appendChild(first);
+    const QDomElement second = elementWithId(document, QStringLiteral("second"));
+    const QDomNode comment = document.createComment(QStringLiteral("top"));
+
+    const std::list<QDomNode> expected {comment, first, second};
+    QVERIFY(matches(QStringLiteral("a"), root, comment) == expected);
+    // A top node that is an element is the result; one that is not ends the search below, and it goes on behind.
+    QVERIFY(ElementSearch(root).FirstMatch(QStringLiteral("a"), root) == root);
+    QVERIFY(ElementSearch(comment).FirstMatch(QStringLiteral("a"), root) == second);
+    for (const QDomNode& top : {QDomNode(root), comment}) {
+        QVERIFY(firstRecursively(QStringLiteral("a"), root, top)
+                == ElementSearch(top).FirstMatch(QStringLiteral("a"), root));
     }
 }
 
