@@ -1,0 +1,104 @@
+#include "table.h"
+
+#include <cstdio>
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "harness.h"
+
+namespace {
+
+const char* verdict(double value, double reach)
+{
+    if (reach <= 0) {
+        return "";
+    }
+    return value <= reach ? "reached" : "MISSED";
+}
+
+QJsonObject toJson(const Measurement& measurement)
+{
+    return {{QStringLiteral("name"), measurement.name},
+            {QStringLiteral("size"), measurement.size},
+            {QStringLiteral("against"), measurement.floor},
+            {QStringLiteral("reach"), measurement.reach},
+            {QStringLiteral("trouble"), measurement.trouble},
+            {QStringLiteral("pairs"), measurement.pairs},
+            {QStringLiteral("library"), measurement.libraryMs},
+            {QStringLiteral("floor"), measurement.floorMs},
+            {QStringLiteral("ratio"), measurement.ratio},
+            {QStringLiteral("lowerQuartile"), measurement.lowerQuartile},
+            {QStringLiteral("upperQuartile"), measurement.upperQuartile}};
+}
+
+QJsonObject toJson(const Growth& growth)
+{
+    return {
+        {QStringLiteral("name"), growth.name},           {QStringLiteral("smallest"), growth.smallest},
+        {QStringLiteral("largest"), growth.largest},     {QStringLiteral("library"), growth.libraryExponent},
+        {QStringLiteral("floor"), growth.floorExponent}, {QStringLiteral("reachBeyondFloor"), growth.reachBeyondFloor},
+        {QStringLiteral("reach"), growth.reachExponent}};
+}
+
+template <class Entry> QJsonArray toJson(const std::vector<Entry>& entries)
+{
+    QJsonArray array;
+    for (const Entry& entry : entries) {
+        array.append(toJson(entry));
+    }
+    return array;
+}
+
+QByteArray sized(const Measurement& measurement)
+{
+    return (measurement.name + QLatin1Char('/') + QString::number(measurement.size)).toUtf8();
+}
+
+} // namespace
+
+void printHead()
+{
+    std::printf("%-40s %11s %11s %7s %15s %6s  %-8s %s\n", "case", "library", "floor", "ratio", "quartiles", "reach",
+                "", "against");
+}
+
+void printMeasurement(const Measurement& measurement)
+{
+    if (!measurement.trouble.isEmpty()) {
+        std::printf("%-40s %s\n", sized(measurement).constData(), qPrintable(measurement.trouble));
+    } else {
+        std::printf("%-40s %11.4f %11.4f %7.3f %7.3f-%-7.3f %6.2f  %-8s %s\n", sized(measurement).constData(),
+                    measurement.libraryMs, measurement.floorMs, measurement.ratio, measurement.lowerQuartile,
+                    measurement.upperQuartile, measurement.reach, verdict(measurement.ratio, measurement.reach),
+                    qPrintable(measurement.floor));
+    }
+    std::fflush(stdout);
+}
+
+void printGrowths(const std::vector<Growth>& growths)
+{
+    if (growths.empty()) {
+        return;
+    }
+    std::printf("\n%-40s %16s %11s %11s %9s %7s\n", "growth", "sizes", "library", "floor", "beyond", "reach");
+    for (const Growth& growth : growths) {
+        const double beyond = growth.libraryExponent - growth.floorExponent;
+        const bool isAbsolute = growth.reachExponent > 0;
+        const double reach = isAbsolute ? growth.reachExponent : growth.reachBeyondFloor;
+        std::printf("%-40s %8d-%-7d %11.3f %11.3f %+9.3f %7.2f  %s\n", qPrintable(growth.name), growth.smallest,
+                    growth.largest, growth.libraryExponent, growth.floorExponent, beyond, reach,
+                    verdict(isAbsolute ? growth.libraryExponent : beyond, reach));
+    }
+}
+
+bool writeJson(const QString& fileName, const std::vector<Measurement>& measurements,
+               const std::vector<Growth>& growths)
+{
+    QFile file(fileName);
+    const QJsonObject all {{QStringLiteral("measurements"), toJson(measurements)},
+                           {QStringLiteral("growths"), toJson(growths)}};
+    return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(all).toJson()) > 0;
+}
