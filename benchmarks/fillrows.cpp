@@ -49,9 +49,11 @@ public:
 
     template <class Step> void Measure(Step&& step)
     {
+        toggleInstructionCounter();
         const auto start = Clock::now();
         step();
         m_steps.push_back(msOf(Clock::now() - start));
+        toggleInstructionCounter();
     }
 
 private:

@@ -89,15 +89,27 @@ void profile(const Contestant& contestant, const QString& name)
 {
     callIfThere(contestant.prepare);
     CALLGRIND_ZERO_STATS;
-    CALLGRIND_TOGGLE_COLLECT;
+    const bool isCountingItself = static_cast<bool>(contestant.ownMs);
+    if (!isCountingItself) {
+        toggleInstructionCounter();
+    }
     contestant.run();
-    CALLGRIND_TOGGLE_COLLECT;
+    if (!isCountingItself) {
+        toggleInstructionCounter();
+    }
     CALLGRIND_DUMP_STATS_AT(name.toUtf8().constData());
     callIfThere(contestant.release);
 }
 #endif
 
 } // namespace
+
+void toggleInstructionCounter()
+{
+#ifdef XMLHELPER_HAS_CALLGRIND
+    CALLGRIND_TOGGLE_COLLECT;
+#endif
+}
 
 qint64 cpuTime()
 {

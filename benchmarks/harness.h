@@ -116,6 +116,9 @@ private:
     std::vector<Growth> m_growths;
 };
 
+/// Switches callgrind's counter on or off; without callgrind it does nothing. For a run that measures its own steps.
+void toggleInstructionCounter();
+
 /// CPU time of this process in nanoseconds.
 qint64 cpuTime();
 

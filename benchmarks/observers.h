@@ -39,12 +39,16 @@ private:
     QDomElement m_element;
 };
 
-/// Makes a report in which every value is filled, as a module would that knows its values by name.
-class ReportFiller : public IXMLHelper
+/// Which values of a schema are filled.
+enum class Filling { Unfilled, HalfFilled, Filled };
+
+/// Makes a report as a module would that knows its values by name: every value, every second one or none is filled.
+class ReportFiller : public CountingObserver
 {
 public:
-    ReportFiller()
+    explicit ReportFiller(Filling filling = Filling::Filled)
         : m_builder(this)
+        , m_filling(filling)
     {
     }
 
@@ -55,11 +59,12 @@ public:
 
     void XmlUpdate(XmlEvent* event) override
     {
-        if (event->GetType() != XmlEvent::EVENT_ELEM_BEGIN) {
+        CountingObserver::XmlUpdate(event);
+        if (m_filling == Filling::Unfilled || event->GetType() != XmlEvent::EVENT_ELEM_BEGIN) {
             return;
         }
         const QString name = static_cast<ElemBeginEvent*>(event)->GetElementName();
-        if (isValueName(name)) {
+        if (isValueName(name) && (m_filling == Filling::Filled || ++m_values % 2 == 0)) {
             fill(kindOf(name));
         }
     }
@@ -83,6 +88,8 @@ private:
     }
 
     XmlCreateReport m_builder;
+    Filling m_filling;
+    int m_values = 0;
 };
 
 #endif

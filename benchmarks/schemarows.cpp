@@ -12,12 +12,18 @@
 #include "inputs.h"
 #include "observers.h"
 #include "rows.h"
-#include "schemareading.h"
 #include "workspace.h"
 
 QT_WARNING_DISABLE_DEPRECATED
 
 namespace {
+
+/// Parses a schema file as the report builder does.
+bool readSchema(XmlSchemaHandler& handler, const QString& path)
+{
+    QXmlSimpleReader parser;
+    return handler.ReadFile(path, parser);
+}
 
 /// The elements of a generated schema's skeleton, the root among them.
 int skeletonElements(Shape shape, int elements)
@@ -70,8 +76,6 @@ Contest readSchemaOf(const Workspace& workspace, Shape shape, int elements)
             }};
 }
 
-enum class Filling { Unfilled, HalfFilled, Filled };
-
 QString toText(Filling filling)
 {
     switch (filling) {
@@ -85,7 +89,19 @@ QString toText(Filling filling)
     return QString();
 }
 
-/// Answers a walk by editing the document itself: what the walk costs without the report builder.
+/// What is to be held while the document of a walk is changed.
+OwnerIndex::OwnChange changeOf(DomParser& walk)
+{
+    return walk.Change();
+}
+
+/// The floor keeps no index that would have to be told.
+std::nullptr_t changeOf(FloorWalk&)
+{
+    return nullptr;
+}
+
+/// Answers a walk by editing the document as the report builder does: what the walk costs without the builder's checks.
 template <class Walk> class WalkFiller : public CountingObserver
 {
 public:
@@ -112,6 +128,7 @@ private:
     void fill(const ValueKind& kind)
     {
         QDomElement* const element = m_walk->GetCurrentElement();
+        [[maybe_unused]] const auto change = changeOf(*m_walk);
         element->removeAttribute(QStringLiteral("type"));
         element->appendChild(element->ownerDocument().createTextNode(kind.text));
         m_walk->ContinueAt(element, false);
@@ -212,15 +229,6 @@ Contest walk(const Workspace& workspace, Shape shape, Filling filling, int eleme
 }
 
 } // namespace
-
-bool readSchema(XmlSchemaHandler& handler, const QString& path)
-{
-    QFile file(path);
-    QXmlSimpleReader parser;
-    parser.setContentHandler(&handler);
-    parser.setErrorHandler(&handler);
-    return parser.parse(QXmlInputSource(&file));
-}
 
 std::vector<Row> schemaRows(const Workspace& workspace)
 {
