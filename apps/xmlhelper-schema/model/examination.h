@@ -1,0 +1,60 @@
+#ifndef SCHEMADOCTOR_EXAMINATION_H
+#define SCHEMADOCTOR_EXAMINATION_H
+
+#include <map>
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include "finding.h"
+#include "includetree.h"
+#include "laidouttree.h"
+
+namespace schemadoctor {
+
+/// A global declaration that nothing refers to, so that it competes for the root of the report.
+struct RootCandidate
+{
+    QString name;
+    bool isAttribute = false;
+    bool isChosen = false; ///< the greatest name wins
+    Place place;
+};
+
+/// How many elements the schema lays out; computed before anything is laid out.
+struct ElementCount
+{
+    int elements = 0; ///< of the report's skeleton
+    bool isBeyondLimit = false; ///< the library refuses the schema; `elements` is where the counting ended
+    QString limit; ///< which limit, in a sentence; empty when none is reached
+};
+
+/// All that the doctor knows about a schema. Plain data: it refers to nothing outside of itself and is copied freely.
+struct Examination
+{
+    QString file; ///< as the caller gave it
+
+    /// Why the schema cannot be read at all: no file, no XML, beyond what the doctor reads. Empty when it can be read.
+    /// When it cannot, the rest may be empty, except for `texts` and `includes` as far as the reading came.
+    QString unreadableReason;
+
+    QVector<Finding> findings; ///< sorted: errors first, then by file (the top file first) and line
+    LaidOutTree tree; ///< empty when nothing is laid out
+    QString noTreeReason; ///< why `tree` is empty, in a sentence
+    QVector<RootCandidate> rootCandidates;
+    ElementCount count;
+    IncludedFile includes; ///< the top file and what it includes
+    std::map<QString, QString> texts; ///< the text of each file that was read, by the name that places give
+
+    bool IsReadable() const { return unreadableReason.isEmpty(); }
+};
+
+enum ExitStatus { NothingToSay = 0, HasWarnings = 1, HasErrors = 2, Unreadable = 3 };
+
+/// What a program says about the examination when it ends. Notes count as nothing.
+ExitStatus exitStatusOf(const Examination& examination);
+
+} // namespace schemadoctor
+
+#endif

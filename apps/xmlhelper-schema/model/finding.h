@@ -1,0 +1,44 @@
+#ifndef SCHEMADOCTOR_FINDING_H
+#define SCHEMADOCTOR_FINDING_H
+
+#include <QString>
+
+namespace schemadoctor {
+
+/// A line of a schema file.
+struct Place
+{
+    QString file; ///< as in Examination::texts; empty when unknown
+    int line = 0; ///< the first line is 1; 0: the file as a whole
+};
+
+enum class Severity {
+    Note, ///< good to know, no report goes wrong by it
+    Warning, ///< a report may surprise
+    Error, ///< a report can never be right
+};
+
+/// One thing that the author of a schema should know. All texts are plain: whole sentences without markup.
+struct Finding
+{
+    Severity severity = Severity::Note;
+    QString rule; ///< the identifier of the rule, in lower case with hyphens; stays the same over versions
+    Place place;
+    QString subject; ///< the name that it is about: an element, a type, a file; may be empty
+    QString what; ///< what is written there
+    QString effect; ///< what the library does with it
+    QString remedy; ///< what to write instead
+    QString path; ///< of the laid-out element concerned, as pathOf() gives it; empty when there is none
+
+    /// The piece of structure as the author means it beside the piece as it is laid out: indented text, a line for
+    /// each element. Both are empty for findings that are not about structure.
+    QString meantTree;
+    QString laidOutTree;
+};
+
+/// "note", "warning" or "error".
+QString nameOf(Severity severity);
+
+} // namespace schemadoctor
+
+#endif

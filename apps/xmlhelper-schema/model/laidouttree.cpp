@@ -1,0 +1,119 @@
+#include "laidouttree.h"
+
+#include <utility>
+
+namespace schemadoctor {
+
+namespace {
+
+/// The name of an element, with its number when a sibling shares the name.
+QString stepOf(const LaidOutTree& tree, int index)
+{
+    const LaidOutElement& element = tree.elements[std::size_t(index)];
+    if (element.parent == LaidOutElement::None) {
+        return element.name;
+    }
+    int before = 0;
+    int all = 0;
+    for (const int sibling : tree.elements[std::size_t(element.parent)].children) {
+        if (tree.elements[std::size_t(sibling)].name == element.name) {
+            ++all;
+            before += sibling < index ? 1 : 0;
+        }
+    }
+    return all > 1 ? QStringLiteral("%1[%2]").arg(element.name).arg(before + 1) : element.name;
+}
+
+/// The child to which a step of a path leads.
+int childAt(const LaidOutTree& tree, int parent, const QString& step)
+{
+    const QString name = step.section(QLatin1Char('['), 0, 0);
+    int left = step == name ? 1 : step.mid(name.size() + 1).chopped(1).toInt();
+    for (const int child : tree.elements[std::size_t(parent)].children) {
+        if (tree.elements[std::size_t(child)].name == name && --left == 0) {
+            return child;
+        }
+    }
+    return LaidOutElement::None;
+}
+
+} // namespace
+
+QString pathOf(const LaidOutTree& tree, int element)
+{
+    QString path;
+    for (int index = element; index != LaidOutElement::None; index = tree.elements[std::size_t(index)].parent) {
+        path.prepend(QLatin1Char('/') + stepOf(tree, index));
+    }
+    return path;
+}
+
+int findByPath(const LaidOutTree& tree, const QString& path)
+{
+    const QStringList steps = path.mid(1).split(QLatin1Char('/'));
+    if (tree.IsEmpty() || !path.startsWith(QLatin1Char('/')) || steps.first() != tree.elements.front().name) {
+        return LaidOutElement::None;
+    }
+    int index = 0;
+    for (int step = 1; step < steps.size() && index != LaidOutElement::None; ++step) {
+        index = childAt(tree, index, steps.at(step));
+    }
+    return index;
+}
+
+bool isContainer(const LaidOutElement& element)
+{
+    return element.type.isEmpty();
+}
+
+QString wordsFor(Fate fate)
+{
+    switch (fate) {
+    case Fate::Stays:
+        return QStringLiteral("stays");
+    case Fate::IsRemoved:
+        return QStringLiteral("is removed");
+    case Fate::IsRemovedWithItsValues:
+        return QStringLiteral("is removed with its first unfilled value");
+    }
+    return QString();
+}
+
+QString wordsFor(const AcceptedCounts& counts)
+{
+    if (counts.greatest == AcceptedCounts::Unbounded) {
+        return counts.takesZero ? QStringLiteral("any") : QStringLiteral("1 or more");
+    }
+    if (counts.greatest == 0) {
+        return counts.takesZero ? QStringLiteral("0 only") : QStringLiteral("no count");
+    }
+    return QStringLiteral("%1 to %2").arg(counts.takesZero ? 0 : 1).arg(counts.greatest);
+}
+
+QStringList namesOf(Setters setters)
+{
+    static const std::pair<Setter, QLatin1String> names[] = {
+        {Setter::Text, QLatin1String("QString")},       {Setter::Floating, QLatin1String("double")},
+        {Setter::Integer, QLatin1String("int")},        {Setter::Truth, QLatin1String("bool")},
+        {Setter::DateTime, QLatin1String("QDateTime")}, {Setter::Time, QLatin1String("QTime")},
+    };
+    QStringList all;
+    for (const auto& [setter, name] : names) {
+        if (setters.testFlag(setter)) {
+            all.append(name);
+        }
+    }
+    return all;
+}
+
+QString wordsForOccurs(const LaidOutElement& element)
+{
+    if (element.maxOccurs == AcceptedCounts::Unbounded) {
+        return QStringLiteral("%1..unbounded").arg(element.minOccurs);
+    }
+    return element.minOccurs == element.maxOccurs
+        ? QString::number(element.minOccurs)
+        : QStringLiteral("%1..%2").arg(element.minOccurs).arg(element.maxOccurs);
+}
+
+} // namespace schemadoctor

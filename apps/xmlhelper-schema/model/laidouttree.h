@@ -1,0 +1,117 @@
+#ifndef SCHEMADOCTOR_LAIDOUTTREE_H
+#define SCHEMADOCTOR_LAIDOUTTREE_H
+
+#include <vector>
+
+#include <QFlags>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include "finding.h"
+
+namespace schemadoctor {
+
+/// An annotation of a restriction.
+struct Facet
+{
+    QString name; ///< without prefix, without the name of an attribute behind it
+    QString value;
+    bool isChecked = false; ///< false: the library only keeps it, as an attribute of the report
+};
+
+/// The operations of the report builder that can give a value.
+enum class Setter {
+    Text = 1, ///< QString
+    Floating = 2, ///< double
+    Integer = 4, ///< int
+    Truth = 8, ///< bool
+    DateTime = 16, ///< QDateTime
+    Time = 32, ///< QTime
+};
+Q_DECLARE_FLAGS(Setters, Setter)
+Q_DECLARE_OPERATORS_FOR_FLAGS(Setters)
+
+/// What the report builder accepts as count of an element, SetElementMaxOccurs().
+struct AcceptedCounts
+{
+    static constexpr int Unbounded = -1;
+
+    bool takesZero = false;
+    int greatest = 0; ///< the greatest count above 0 that is accepted; 0: none is; Unbounded: any
+};
+
+/// An attribute that the schema declares for an element of the report.
+struct DeclaredAttribute
+{
+    QString name;
+    QString type; ///< as the library holds it, prefix included; may be empty
+    QVector<Facet> facets; ///< those that the library finds for it by name
+    QStringList enumeration; ///< likewise
+    Setters setters; ///< none: it can be removed, but never be filled
+    Place place;
+};
+
+/// What becomes of an element that nobody fills.
+enum class Fate {
+    Stays, ///< it is mandatory: it stays, with its annotations
+    IsRemoved, ///< a value element that may be missing
+    IsRemovedWithItsValues, ///< a container that may be missing: the first unfilled value below removes it whole
+};
+
+/// An element of the skeleton, as the walk announces it.
+struct LaidOutElement
+{
+    static constexpr int None = -1;
+
+    int parent = None; ///< an index of LaidOutTree::elements
+    int row = 0; ///< which child of its parent it is
+    std::vector<int> children; ///< indices of LaidOutTree::elements, in document order
+
+    QString name;
+    QString type; ///< without prefix; empty for a container
+    QString defaultValue;
+    QVector<Facet> facets;
+    QStringList enumeration;
+    QVector<DeclaredAttribute> attributes; ///< sorted by name
+
+    int minOccurs = 1; ///< as the library reads the declaration
+    int maxOccurs = 1; ///< likewise; AcceptedCounts::Unbounded for any; 1 when it is not given
+    AcceptedCounts counts;
+    bool isChoiceAlternative = false; ///< by name, anywhere in the schema: as the library decides it
+    int choiceGroup = None; ///< the number of the xs:choice around its declaration, in reading order, from 1
+    int choiceNumber = None; ///< the number by which the library lets it be discarded
+    Fate fate = Fate::Stays;
+    Setters setters; ///< none for a container, and for a value that can never be filled
+
+    Place place; ///< of the declaration
+};
+
+/// The skeleton document. Elements stand in document order, so what is below an element follows it.
+struct LaidOutTree
+{
+    std::vector<LaidOutElement> elements; ///< [0] is the root; empty when nothing is laid out
+
+    bool IsEmpty() const { return elements.empty(); }
+};
+
+/// The path of an element: names with a number where siblings share one, such as "/Report/Signal/Sample[2]".
+QString pathOf(const LaidOutTree& tree, int element);
+
+/// The element with that path; LaidOutElement::None when there is none.
+int findByPath(const LaidOutTree& tree, const QString& path);
+
+bool isContainer(const LaidOutElement& element);
+
+// Words for people, the same in every rendering.
+
+QString wordsFor(Fate fate); ///< "stays", "is removed", "is removed with its first unfilled value"
+QString wordsFor(const AcceptedCounts& counts); ///< "no count", "0 only", "1 to 5", "0 to 500", "any"
+QStringList namesOf(Setters setters); ///< the argument types: "QString", "double", "int", "bool", "QDateTime", "QTime"
+
+/// "0..5", "1", "2..unbounded": as written.
+QString wordsForOccurs(const LaidOutElement& element);
+
+} // namespace schemadoctor
+
+#endif
