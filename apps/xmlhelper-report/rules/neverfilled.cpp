@@ -1,0 +1,33 @@
+#include "rule.h"
+
+#include "../annotations.h"
+
+namespace reportcheck {
+
+// The first value that an element takes removes its type, whatever comes afterwards.
+Remarks neverFilled(const ReportElement& element, const RuleContext& context)
+{
+    const QStringList types = annotationsOf(element, context.declared, {AnnotationKind::Type});
+    if (types.isEmpty() || !element.IsWithoutContent()) {
+        return {};
+    }
+    const QString type = element.Find(types.first())->value;
+    if (!canBeFilled(type)) {
+        return {
+            {Severity::Error,
+             QStringLiteral("The element has no value and still carries its annotations: nothing can fill its type, "
+                            "\"%1\".")
+                 .arg(type),
+             QStringLiteral("Give it a type in the schema that can be filled: string, double, integer, int, short, "
+                            "long, boolean, dateTime or time.")}};
+    }
+    return {
+        {Severity::Error,
+         QStringLiteral("The element has no value and still carries its annotations: nothing of the type \"%1\" was "
+                        "offered, or what was offered was refused.")
+             .arg(type),
+         QStringLiteral("Offer a value of that type within its range or enumeration, or let the element be missing: "
+                        "minOccurs=\"0\" in the schema.")}};
+}
+
+} // namespace reportcheck

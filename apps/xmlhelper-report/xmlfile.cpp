@@ -1,0 +1,139 @@
+#include "xmlfile.h"
+
+#include <libxml/parser.h>
+#include <libxml/parserInternals.h>
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace reportcheck {
+
+namespace {
+
+// What a parser is given to keep: how much it has seen, and how libxml2 itself handles a start tag.
+struct Tally
+{
+    int elements = 0;
+    int attributes = 0;
+    startElementNsSAX2Func handleStartTag = nullptr;
+
+    bool IsBeyondLimits() const { return elements > MaximumElements || attributes > MaximumAttributes; }
+};
+
+struct ParserDeleter
+{
+    void operator()(xmlParserCtxt* parser) const { xmlFreeParserCtxt(parser); }
+};
+using Parser = std::unique_ptr<xmlParserCtxt, ParserDeleter>;
+
+void countStartTag(void* context, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri, int namespaceCount,
+                   const xmlChar** namespaces, int attributeCount, int defaultedCount, const xmlChar** attributes)
+{
+    auto* const parser = static_cast<xmlParserCtxt*>(context);
+    auto* const tally = static_cast<Tally*>(parser->_private);
+    ++tally->elements;
+    tally->attributes += attributeCount;
+    if (tally->IsBeyondLimits()) {
+        xmlStopParser(parser);
+        return;
+    }
+    tally->handleStartTag(context, name, prefix, uri, namespaceCount, namespaces, attributeCount, defaultedCount,
+                          attributes);
+}
+
+int readPiece(void* file, char* buffer, int length)
+{
+    return static_cast<int>(static_cast<QFile*>(file)->read(buffer, length));
+}
+
+ReadFile unreadable(const QString& reason, int line = 0)
+{
+    return {nullptr, reason, line};
+}
+
+ReadFile parserFailure(const Parser& parser, const Tally& tally)
+{
+    if (tally.IsBeyondLimits()) {
+        return unreadable(QStringLiteral("It has more than %1 elements or %2 attributes.")
+                              .arg(MaximumElements)
+                              .arg(MaximumAttributes));
+    }
+    const xmlError* const error = xmlCtxtGetLastError(parser.get());
+    const QString message = error ? QString::fromUtf8(error->message).trimmed() : QString();
+    return unreadable(QStringLiteral("It is not well-formed XML: %1")
+                          .arg(message.isEmpty() ? QStringLiteral("there is no root element") : message),
+                      error ? error->line : 0);
+}
+
+} // namespace
+
+ReadFile readXmlFile(const QString& file)
+{
+    QFile source(file);
+    if (QFileInfo(file).isDir() || !source.open(QIODevice::ReadOnly)) {
+        return unreadable(QFileInfo::exists(file) ? QStringLiteral("It cannot be opened.")
+                                                  : QStringLiteral("There is no such file."));
+    }
+    if (source.size() > MaximumBytes) {
+        return unreadable(QStringLiteral("It has more than %1 bytes.").arg(MaximumBytes));
+    }
+
+    Tally tally;
+    const Parser parser(xmlNewParserCtxt());
+    tally.handleStartTag = parser->sax->startElementNs;
+    parser->sax->startElementNs = countStartTag;
+    parser->_private = &tally;
+    Document document(xmlCtxtReadIO(parser.get(), readPiece, nullptr, &source, QFile::encodeName(file).constData(),
+                                    nullptr,
+                                    XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_BIG_LINES));
+    if (!document || !xmlDocGetRootElement(document.get())) {
+        return parserFailure(parser, tally);
+    }
+    return {std::move(document), QString(), 0};
+}
+
+NetworkBar::NetworkBar()
+    : m_pLoader(xmlGetExternalEntityLoader())
+{
+    xmlSetExternalEntityLoader(xmlNoNetExternalEntityLoader);
+}
+
+NetworkBar::~NetworkBar()
+{
+    xmlSetExternalEntityLoader(m_pLoader);
+}
+
+QString textOf(const xmlChar* text)
+{
+    return QString::fromUtf8(reinterpret_cast<const char*>(text));
+}
+
+QString qualifiedNameOf(const xmlNode* node)
+{
+    const QString name = textOf(node->name);
+    return node->ns && node->ns->prefix ? textOf(node->ns->prefix) + QLatin1Char(':') + name : name;
+}
+
+QString qualifiedNameOf(const xmlAttr* attribute)
+{
+    const QString name = textOf(attribute->name);
+    return attribute->ns && attribute->ns->prefix ? textOf(attribute->ns->prefix) + QLatin1Char(':') + name : name;
+}
+
+QString valueOf(const xmlAttr* attribute)
+{
+    QString value;
+    for (const xmlNode* piece = attribute->children; piece; piece = piece->next) {
+        if (piece->type == XML_TEXT_NODE) {
+            value += textOf(piece->content);
+        }
+    }
+    return value;
+}
+
+int lineOf(const xmlNode* node)
+{
+    return static_cast<int>(xmlGetLineNo(const_cast<xmlNode*>(node)));
+}
+
+} // namespace reportcheck

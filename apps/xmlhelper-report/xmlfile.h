@@ -1,0 +1,57 @@
+#ifndef REPORTCHECK_XMLFILE_H
+#define REPORTCHECK_XMLFILE_H
+
+#include <memory>
+
+#include <libxml/tree.h>
+
+#include <QString>
+
+/// Reading files with libxml2: within its limits and the ones below, without network, external entities or messages on
+/// the standard error output.
+namespace reportcheck {
+
+/// What the library lays out at most. A report with more is none of its own.
+constexpr int MaximumElements = 500000;
+constexpr int MaximumAttributes = 1000000;
+constexpr qint64 MaximumBytes = 100 * 1024 * 1024;
+
+struct DocumentDeleter
+{
+    void operator()(xmlDoc* document) const { xmlFreeDoc(document); }
+};
+using Document = std::unique_ptr<xmlDoc, DocumentDeleter>;
+
+struct ReadFile
+{
+    Document document; ///< null when the file cannot be read; otherwise it has a root element
+    QString reason; ///< why not, in a sentence
+    int line = 0; ///< where, when a line is at fault
+};
+
+ReadFile readXmlFile(const QString& file);
+
+/// While it lives, libxml2 fetches nothing from a network, whatever asks it to.
+class NetworkBar
+{
+public:
+    NetworkBar();
+    ~NetworkBar();
+    NetworkBar(const NetworkBar&) = delete;
+    NetworkBar& operator=(const NetworkBar&) = delete;
+
+private:
+    xmlExternalEntityLoader m_pLoader;
+};
+
+QString textOf(const xmlChar* text);
+QString qualifiedNameOf(const xmlNode* node);
+QString qualifiedNameOf(const xmlAttr* attribute);
+QString valueOf(const xmlAttr* attribute);
+
+/// The first line is 1; right behind line 65535, too.
+int lineOf(const xmlNode* node);
+
+} // namespace reportcheck
+
+#endif
