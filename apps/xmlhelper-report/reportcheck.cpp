@@ -46,8 +46,8 @@ SchemaLocation schemaLocationIn(const xmlNode* root, const QString& report, cons
 {
     SchemaLocation location;
     location.isGiven = !givenSchema.isEmpty();
-    if (const ReportAttribute* const attribute
-        = reportElement(root).Find(QStringLiteral("xsi:noNamespaceSchemaLocation"))) {
+    const ReportElement rootElement = reportElement(root);
+    if (const ReportAttribute* const attribute = rootElement.Find(QStringLiteral("xsi:noNamespaceSchemaLocation"))) {
         location.written = attribute->value;
         location.foundFile = findSchema(attribute->value, report);
     }

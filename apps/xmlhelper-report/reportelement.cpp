@@ -4,7 +4,7 @@
 
 namespace reportcheck {
 
-const ReportAttribute* ReportElement::Find(const QString& attribute) const
+const ReportAttribute* ReportElement::Find(const QString& attribute) const&
 {
     const auto found = std::find_if(attributes.begin(), attributes.end(),
                                     [&](const ReportAttribute& candidate) { return candidate.name == attribute; });

@@ -23,7 +23,8 @@ struct ReportElement
     std::vector<ReportAttribute> attributes; ///< in document order; declarations of namespaces are none
 
     bool IsWithoutContent() const { return !hasChildElements && text.trimmed().isEmpty(); }
-    const ReportAttribute* Find(const QString& attribute) const; ///< null when there is none
+    const ReportAttribute* Find(const QString& attribute) const&; ///< null when there is none
+    const ReportAttribute* Find(const QString& attribute) && = delete;
 };
 
 } // namespace reportcheck

@@ -1,0 +1,75 @@
+// Says what finished reports still lack, and validates them. The man page tells the rest.
+
+#include <cstdio>
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+#include "rendering.h"
+
+namespace {
+
+using namespace reportcheck;
+
+void print(FILE* stream, const QByteArray& text)
+{
+    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stream);
+}
+
+// Wrong usage ends like a file that cannot be read: nothing was checked.
+int refuse(const QString& reason)
+{
+    print(stderr, QStringLiteral("xmlhelper-report: %1\nTry --help.\n").arg(reason).toLocal8Bit());
+    return Unreadable;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("xmlhelper-report"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(XMLHELPER_VERSION));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Says what finished reports still lack, and validates them.\n\n"
+        "Exit status: 0 nothing to say, 1 warnings, 2 errors, 3 something cannot be read; of the worst report."));
+    const QCommandLineOption schema(QStringLiteral("schema"),
+                                    QStringLiteral("Validate by this schema, not by the one that the report names."),
+                                    QStringLiteral("file"));
+    const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON, for programs."));
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    parser.addOptions({schema, json});
+    parser.addPositionalArgument(QStringLiteral("report"), QStringLiteral("XML files, as reports are written."),
+                                 QStringLiteral("report..."));
+    if (!parser.parse(QCoreApplication::arguments())) {
+        return refuse(parser.errorText());
+    }
+    if (parser.isSet(help)) {
+        parser.showHelp();
+    }
+    if (parser.isSet(version)) {
+        parser.showVersion();
+    }
+    if (parser.positionalArguments().isEmpty()) {
+        return refuse(QStringLiteral("no report is given"));
+    }
+    if (parser.isSet(schema) && parser.value(schema).isEmpty()) {
+        return refuse(QStringLiteral("--schema needs a file"));
+    }
+
+    std::vector<Result> results;
+    const QStringList reports = parser.positionalArguments();
+    for (const QString& report : reports) {
+        results.push_back(checkReport(report, parser.value(schema)));
+        if (!parser.isSet(json)) {
+            print(stdout, textOf(results.back()).toLocal8Bit());
+        }
+    }
+    if (parser.isSet(json)) {
+        print(stdout, jsonOf(results));
+    }
+    return exitStatusOf(results);
+}

@@ -1,0 +1,123 @@
+#include "rendering.h"
+
+#include <algorithm>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStringList>
+
+namespace reportcheck {
+
+namespace {
+
+QString lineOf(const Finding& finding)
+{
+    const QString place = finding.line > 0 ? QStringLiteral("%1:%2").arg(finding.file).arg(finding.line) : finding.file;
+    const QString path = finding.path.isEmpty() ? QString() : finding.path + QStringLiteral(": ");
+    return place + QStringLiteral(": ") + nameOf(finding.severity) + QStringLiteral(": ") + path + finding.text
+        + QStringLiteral(" [") + finding.rule + QStringLiteral("]\n");
+}
+
+QString linesOf(const std::vector<Finding>& findings)
+{
+    QString lines;
+    for (const Finding& finding : findings) {
+        lines += lineOf(finding);
+        if (!finding.advice.isEmpty()) {
+            lines += QStringLiteral("    ") + finding.advice + QLatin1Char('\n');
+        }
+    }
+    return lines;
+}
+
+QString counted(std::ptrdiff_t count, const QString& thing)
+{
+    return count == 1 ? QStringLiteral("1 ") + thing : QStringLiteral("%1 %2s").arg(count).arg(thing);
+}
+
+QString countsOf(const Result& result)
+{
+    QStringList counts;
+    for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note}) {
+        const auto hasSeverity = [severity](const Finding& finding) { return finding.severity == severity; };
+        const auto count = std::count_if(result.findings.begin(), result.findings.end(), hasSeverity)
+            + std::count_if(result.validation.begin(), result.validation.end(), hasSeverity);
+        if (count > 0) {
+            counts.append(counted(count, nameOf(severity)));
+        }
+    }
+    return counts.isEmpty() ? QStringLiteral("nothing to say") : counts.join(QStringLiteral(", "));
+}
+
+QString validationOf(const Result& result)
+{
+    if (result.schema.isEmpty()) {
+        return QStringLiteral("not validated, no schema");
+    }
+    if (!result.isValidated) {
+        return QStringLiteral("not validated, the schema is no valid one: %1").arg(result.schema);
+    }
+    return (result.validation.empty() ? QStringLiteral("valid by %1") : QStringLiteral("validated by %1"))
+        .arg(result.schema);
+}
+
+QJsonArray jsonOf(const std::vector<Finding>& findings)
+{
+    QJsonArray array;
+    for (const Finding& finding : findings) {
+        array.append(QJsonObject {{QStringLiteral("severity"), nameOf(finding.severity)},
+                                  {QStringLiteral("rule"), finding.rule},
+                                  {QStringLiteral("file"), finding.file},
+                                  {QStringLiteral("line"), finding.line},
+                                  {QStringLiteral("path"), finding.path},
+                                  {QStringLiteral("text"), finding.text},
+                                  {QStringLiteral("advice"), finding.advice}});
+    }
+    return array;
+}
+
+QJsonObject jsonOf(const Result& result)
+{
+    return {{QStringLiteral("report"), result.report},
+            {QStringLiteral("exitStatus"), exitStatusOf(result)},
+            {QStringLiteral("readable"), result.IsReadable()},
+            {QStringLiteral("unreadableReason"), result.unreadableReason},
+            {QStringLiteral("schema"), result.schema},
+            {QStringLiteral("validated"), result.isValidated},
+            {QStringLiteral("findings"), jsonOf(result.findings)},
+            {QStringLiteral("validation"), jsonOf(result.validation)}};
+}
+
+} // namespace
+
+QString textOf(const Result& result)
+{
+    if (!result.IsReadable()) {
+        return QStringLiteral("%1: cannot be checked. %2\n").arg(result.report, result.unreadableReason);
+    }
+    return linesOf(result.findings) + linesOf(result.validation)
+        + QStringLiteral("%1: %2; %3\n").arg(result.report, countsOf(result), validationOf(result));
+}
+
+QByteArray jsonOf(const std::vector<Result>& results)
+{
+    QJsonArray reports;
+    for (const Result& result : results) {
+        reports.append(jsonOf(result));
+    }
+    return QJsonDocument(QJsonObject {{QStringLiteral("exitStatus"), exitStatusOf(results)},
+                                      {QStringLiteral("reports"), reports}})
+        .toJson();
+}
+
+ExitStatus exitStatusOf(const std::vector<Result>& results)
+{
+    ExitStatus worst = NothingToSay;
+    for (const Result& result : results) {
+        worst = std::max(worst, exitStatusOf(result));
+    }
+    return worst;
+}
+
+} // namespace reportcheck
