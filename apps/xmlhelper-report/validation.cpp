@@ -83,7 +83,7 @@ Schema readSchema(const QString& file, std::vector<Finding>& messages)
 
 Validation validate(xmlDoc* document, const QString& report, const QString& schema, ElementPaths& paths)
 {
-    const NetworkBar bar;
+    const Seclusion seclusion;
     Validation validation;
     const Schema parsed = readSchema(schema, validation.messages);
     if (!parsed) {

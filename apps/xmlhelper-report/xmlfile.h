@@ -3,7 +3,8 @@
 
 #include <memory>
 
-#include <libxml/tree.h>
+#include <libxml/parser.h>
+#include <libxml/xmlerror.h>
 
 #include <QString>
 
@@ -31,17 +32,20 @@ struct ReadFile
 
 ReadFile readXmlFile(const QString& file);
 
-/// While it lives, libxml2 fetches nothing from a network, whatever asks it to.
-class NetworkBar
+/// While it lives, libxml2 fetches nothing from a network and prints nothing, whatever asks it to. What the application
+/// has set comes back afterwards.
+class Seclusion
 {
 public:
-    NetworkBar();
-    ~NetworkBar();
-    NetworkBar(const NetworkBar&) = delete;
-    NetworkBar& operator=(const NetworkBar&) = delete;
+    Seclusion();
+    ~Seclusion();
+    Seclusion(const Seclusion&) = delete;
+    Seclusion& operator=(const Seclusion&) = delete;
 
 private:
     xmlExternalEntityLoader m_pLoader;
+    xmlStructuredErrorFunc m_pErrorHandler;
+    void* m_pErrorContext;
 };
 
 QString textOf(const xmlChar* text);
