@@ -1,5 +1,5 @@
 # The install rules: the libraries with their client headers, and what find_package() and pkg-config find them by.
-# Three components: runtime, development, and the tools, which are installed only by name:
+# Three components: runtime; development, with the companion programs; and the tools, which are installed only by name:
 #
 #   cmake --install <build> --prefix <folder>
 #   cmake --install <build> --prefix <folder> --component tools
@@ -74,6 +74,18 @@ function(xmlhelper_install_tool target)
     install(FILES ${arg_FILES} DESTINATION "${folder}" COMPONENT tools EXCLUDE_FROM_ALL)
 endfunction()
 
+# Installs a companion program and its man page, man/<target>.1 beside its sources, for the people who write schemas and
+# reports: with the development files.
+function(xmlhelper_install_app target)
+    if(UNIX AND NOT APPLE)
+        file(RELATIVE_PATH libraries "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
+        set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries}")
+    endif()
+    get_target_property(source_dir ${target} SOURCE_DIR)
+    install(TARGETS ${target} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT development)
+    install(FILES "${source_dir}/man/${target}.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT development)
+endfunction()
+
 # The stand-ins that are in use; the embedding project installs the libraries that it brings itself.
 get_property(stand_ins GLOBAL PROPERTY XMLHELPER_STAND_INS)
 foreach(stand_in IN LISTS stand_ins)
@@ -90,6 +102,11 @@ configure_file("${PROJECT_SOURCE_DIR}/cmake/xmlhelper.pc.in" "${PROJECT_BINARY_D
 install(FILES "${PROJECT_BINARY_DIR}/package/xmlhelper.pc"
     DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
 
+foreach(app IN ITEMS xmlhelper-report xmlhelper-schema)
+    if(TARGET ${app})
+        xmlhelper_install_app(${app})
+    endif()
+endforeach()
 if(TARGET fillreport)
     xmlhelper_install_tool(fillreport)
 endif()

@@ -1,7 +1,7 @@
 # The packages that cpack makes, on Debian one for each component:
 #
 #   libxmlhelper1    runtime: the library and the stand-ins for the suite's base libraries
-#   libxmlhelper-dev development: headers, CMake packages and pkg-config
+#   libxmlhelper-dev development: headers, CMake packages, pkg-config, and the companion programs
 #   xmlhelper-tools  the example programs that serve as tools
 #
 # Configure with -DCMAKE_INSTALL_PREFIX=/usr to have the libraries where Debian keeps its own, in the folder of the
@@ -65,13 +65,15 @@ This package contains the shared libraries.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libxmlhelper-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION}), ${qt_packages}")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
 "XML and measurement reports on Qt: development files
 XMLHelper reads XML as a stream of events, writes XML files, fills documents
 by an XSD schema, and writes measurement reports at the press of a button.
 
-This package contains the headers, the CMake packages and the pkg-config file.")
+This package contains the headers, the CMake packages and the pkg-config file,
+and the companion programs for the authors of schemas and reports.")
 
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME xmlhelper-tools)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)

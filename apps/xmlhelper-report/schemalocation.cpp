@@ -1,5 +1,6 @@
 #include "schemalocation.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QUrl>
 
@@ -23,7 +24,7 @@ QString findSchema(const QString& written, const QString& report)
     const QUrl url(written);
     const QString path = url.isLocalFile() ? url.toLocalFile() : written;
     if (QFileInfo(path).isRelative()) {
-        const QString besideReport = QFileInfo(report).path() + QLatin1Char('/') + path;
+        const QString besideReport = QDir::cleanPath(QFileInfo(report).path() + QLatin1Char('/') + path);
         if (isReadableFile(besideReport)) {
             return besideReport;
         }

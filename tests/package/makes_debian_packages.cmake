@@ -65,6 +65,7 @@ expect_package(libxmlhelper-dev FILES development_files DEPENDS "${runtime} \\(=
 
 set(installed ${runtime_files} ${development_files})
 list(TRANSFORM installed REPLACE "^usr/" "")
+take_apps(installed)
 compare_lists("The files of ${runtime} and libxmlhelper-dev" "${CASES_DIR}/installed-files.txt" LINES ${installed})
 
 set(library "\\.so\\.<(major|version)>$")

@@ -91,3 +91,18 @@ function(list_files variable folder)
     list(TRANSFORM files REPLACE "\\.so\\.${VERSION_MAJOR}$" ".so.<major>")
     set(${variable} "${files}" PARENT_SCOPE)
 endfunction()
+
+# Checks that a list of installed files has the companion programs that are built, with their man pages, and takes them
+# out of it.
+#   take_apps(<variable>)
+function(take_apps variable)
+    foreach(app IN LISTS APPS)
+        foreach(file IN ITEMS "bin/${app}" "share/man/man1/${app}.1")
+            if(NOT file IN_LIST ${variable})
+                message(SEND_ERROR "${file} is missing.")
+            endif()
+            list(REMOVE_ITEM ${variable} "${file}")
+        endforeach()
+    endforeach()
+    set(${variable} "${${variable}}" PARENT_SCOPE)
+endfunction()
