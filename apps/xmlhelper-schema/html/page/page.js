@@ -76,8 +76,12 @@ function update() {
 }
 
 // One row can be reached by the tabulator, the others from there by the arrow keys.
+function isShown(item) {
+    return !item.closest("[hidden]") && !item.parentElement.closest("details:not([open])");
+}
+
 function visibleRows() {
-    return items.filter((item) => item.offsetParent !== null).map(rowOf);
+    return items.filter(isShown).map(rowOf);
 }
 
 function keepOneTabStop(row) {
