@@ -1,0 +1,173 @@
+#include "laidouttreemodel.h"
+
+namespace schemadoctor {
+
+namespace {
+
+// What an index carries: one more than the element that holds the row, and 0 for the root.
+quintptr idBelow(int holder)
+{
+    return quintptr(holder + 1);
+}
+int holderOf(const QModelIndex& index)
+{
+    return int(index.internalId()) - 1;
+}
+
+QString limitsOf(const QVector<Facet>& facets, const QStringList& enumeration)
+{
+    QStringList limits;
+    for (const Facet& facet : facets) {
+        const QString words = facet.name + QLatin1Char(' ') + facet.value;
+        limits.append(facet.isChecked ? words : words + QStringLiteral(" (not checked)"));
+    }
+    if (!enumeration.isEmpty()) {
+        limits.append(enumeration.join(QStringLiteral(" | ")));
+    }
+    return limits.join(QStringLiteral(", "));
+}
+
+QString settersOf(Setters setters)
+{
+    const QStringList names = namesOf(setters);
+    return names.isEmpty() ? QStringLiteral("nothing can fill it") : names.join(QStringLiteral(", "));
+}
+
+QString textFor(const LaidOutElement& element, int column)
+{
+    switch (column) {
+    case LaidOutTreeModel::Name:
+        return element.name;
+    case LaidOutTreeModel::Type:
+        return element.type;
+    case LaidOutTreeModel::Limits: {
+        const QString limits = limitsOf(element.facets, element.enumeration);
+        if (element.defaultValue.isEmpty()) {
+            return limits;
+        }
+        const QString standard = QStringLiteral("default ") + element.defaultValue;
+        return limits.isEmpty() ? standard : limits + QStringLiteral(", ") + standard;
+    }
+    case LaidOutTreeModel::Occurs:
+        return element.choiceGroup == LaidOutElement::None
+            ? wordsForOccurs(element)
+            : QStringLiteral("%1, choice %2").arg(wordsForOccurs(element)).arg(element.choiceGroup);
+    case LaidOutTreeModel::Counts:
+        return wordsFor(element.counts);
+    case LaidOutTreeModel::Unfilled:
+        return wordsFor(element.fate);
+    case LaidOutTreeModel::SetBy:
+        return isContainer(element) ? QString() : settersOf(element.setters);
+    default:
+        return QString();
+    }
+}
+
+QString textFor(const DeclaredAttribute& attribute, int column)
+{
+    switch (column) {
+    case LaidOutTreeModel::Name:
+        return QLatin1Char('@') + attribute.name;
+    case LaidOutTreeModel::Type:
+        return attribute.type.isEmpty() ? QStringLiteral("no type") : attribute.type;
+    case LaidOutTreeModel::Limits:
+        return limitsOf(attribute.facets, attribute.enumeration);
+    case LaidOutTreeModel::SetBy:
+        return settersOf(attribute.setters);
+    default:
+        return QString();
+    }
+}
+
+} // namespace
+
+LaidOutTreeModel::LaidOutTreeModel(const LaidOutTree& tree, QObject* parent)
+    : QAbstractItemModel(parent)
+    , m_tree(tree)
+{
+}
+
+LaidOutTreeModel::Row LaidOutTreeModel::rowAt(const QModelIndex& index) const
+{
+    const int holder = holderOf(index);
+    if (holder == LaidOutElement::None) {
+        return {0, nullptr};
+    }
+    const LaidOutElement& above = element(holder);
+    const int attributeCount = int(above.attributes.size());
+    if (index.row() < attributeCount) {
+        return {LaidOutElement::None, &above.attributes.at(index.row())};
+    }
+    return {above.children[std::size_t(index.row() - attributeCount)], nullptr};
+}
+
+QModelIndex LaidOutTreeModel::IndexOf(int number) const
+{
+    if (number == LaidOutElement::None) {
+        return QModelIndex();
+    }
+    const LaidOutElement& wanted = element(number);
+    if (wanted.parent == LaidOutElement::None) {
+        return createIndex(0, 0, idBelow(LaidOutElement::None));
+    }
+    return createIndex(int(element(wanted.parent).attributes.size()) + wanted.row, 0, idBelow(wanted.parent));
+}
+
+Place LaidOutTreeModel::PlaceOf(const QModelIndex& index) const
+{
+    if (!index.isValid()) {
+        return Place();
+    }
+    const Row row = rowAt(index);
+    return row.pAttribute ? row.pAttribute->place : element(row.element).place;
+}
+
+QModelIndex LaidOutTreeModel::index(int row, int column, const QModelIndex& parent) const
+{
+    if (!hasIndex(row, column, parent)) {
+        return QModelIndex();
+    }
+    return createIndex(row, column, idBelow(parent.isValid() ? rowAt(parent).element : LaidOutElement::None));
+}
+
+QModelIndex LaidOutTreeModel::parent(const QModelIndex& child) const
+{
+    return child.isValid() ? IndexOf(holderOf(child)) : QModelIndex();
+}
+
+int LaidOutTreeModel::rowCount(const QModelIndex& parent) const
+{
+    if (!parent.isValid()) {
+        return m_tree.IsEmpty() ? 0 : 1;
+    }
+    const Row row = rowAt(parent);
+    if (row.pAttribute || parent.column() != 0) {
+        return 0;
+    }
+    return int(element(row.element).attributes.size()) + int(element(row.element).children.size());
+}
+
+int LaidOutTreeModel::columnCount(const QModelIndex&) const
+{
+    return ColumnCount;
+}
+
+QVariant LaidOutTreeModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
+        return QVariant();
+    }
+    const Row row = rowAt(index);
+    return row.pAttribute ? textFor(*row.pAttribute, index.column()) : textFor(element(row.element), index.column());
+}
+
+QVariant LaidOutTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    static const QStringList titles {QStringLiteral("Element"),      QStringLiteral("Type"),
+                                     QStringLiteral("Limits"),       QStringLiteral("Occurs"),
+                                     QStringLiteral("Counts taken"), QStringLiteral("Unfilled it"),
+                                     QStringLiteral("Set by")};
+    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? QVariant(titles.value(section)) : QVariant();
+}
+
+} // namespace schemadoctor

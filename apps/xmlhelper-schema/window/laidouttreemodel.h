@@ -1,0 +1,49 @@
+#ifndef SCHEMADOCTOR_LAIDOUTTREEMODEL_H
+#define SCHEMADOCTOR_LAIDOUTTREEMODEL_H
+
+#include <QAbstractItemModel>
+
+#include "model/laidouttree.h"
+
+namespace schemadoctor {
+
+/// The laid-out tree for a view: a row for each element, and before an element's children a row for each attribute.
+class LaidOutTreeModel : public QAbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { Name, Type, Limits, Occurs, Counts, Unfilled, SetBy, ColumnCount };
+
+    /// @param tree  is referred to and must outlive the model
+    explicit LaidOutTreeModel(const LaidOutTree& tree, QObject* parent = nullptr);
+
+    /// An invalid index for LaidOutElement::None.
+    QModelIndex IndexOf(int element) const;
+
+    /// Of the declaration behind a row, an attribute's too.
+    Place PlaceOf(const QModelIndex& index) const;
+
+    QModelIndex index(int row, int column, const QModelIndex& parent = QModelIndex()) const override;
+    QModelIndex parent(const QModelIndex& child) const override;
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+
+private:
+    // A row is known by the element that holds it, and its number there; the root is held by nothing.
+    struct Row
+    {
+        int element; ///< None for an attribute
+        const DeclaredAttribute* pAttribute; ///< null for an element
+    };
+    Row rowAt(const QModelIndex& index) const;
+    const LaidOutElement& element(int index) const { return m_tree.elements[std::size_t(index)]; }
+
+    const LaidOutTree& m_tree;
+};
+
+} // namespace schemadoctor
+
+#endif
