@@ -61,6 +61,10 @@ ReadFile parserFailure(const Parser& parser, const Tally& tally)
                               .arg(MaximumAttributes));
     }
     const xmlError* const error = xmlCtxtGetLastError(parser.get());
+    if (error && error->code == XML_ERR_DOCUMENT_EMPTY) {
+        return unreadable(QStringLiteral("It holds no element. The schema that it was made from gave none: "
+                                         "xmlhelper-schema says why."));
+    }
     const QString message = error ? QString::fromUtf8(error->message).trimmed() : QString();
     return unreadable(QStringLiteral("It is not well-formed XML: %1")
                           .arg(message.isEmpty() ? QStringLiteral("there is no root element") : message),

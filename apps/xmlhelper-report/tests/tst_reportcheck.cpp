@@ -105,9 +105,9 @@ void TestReportCheck::refusesWhatItCannotRead_data()
     QTest::addColumn<QString>("reason");
 
     QTest::newRow("missing-file") << QString() << QStringLiteral("There is no such file.");
-    QTest::newRow("empty-file") << QStringLiteral("") << QStringLiteral("not well-formed");
-    QTest::newRow("declaration-alone") << QStringLiteral("<?xml version='1.0'?>\n")
-                                       << QStringLiteral("not well-formed");
+    QTest::newRow("empty-file") << QStringLiteral("") << QStringLiteral("It holds no element.");
+    QTest::newRow("declaration-alone-is-what-an-unread-schema-leaves")
+        << QStringLiteral("<?xml version='1.0' encoding='UTF-8'?>\n") << QStringLiteral("xmlhelper-schema says why");
     QTest::newRow("fault-is-named-with-its-line") << QStringLiteral("<a>\n<b>\n</a>") << QStringLiteral("line 3: ");
     QTest::newRow("deeper-than-the-parser-reads")
         << QStringLiteral("<a>").repeated(2000) + QStringLiteral("</a>").repeated(2000)

@@ -46,7 +46,9 @@ void SchemaTextView::ShowLine(int line)
     if (line > 0) {
         QTextEdit::ExtraSelection mark;
         mark.cursor = cursor;
-        mark.format.setBackground(palette().alternateBase());
+        QColor colour = palette().color(QPalette::Highlight);
+        colour.setAlpha(70); // the text stays readable on it, in light and dark palettes
+        mark.format.setBackground(colour);
         mark.format.setProperty(QTextFormat::FullWidthSelection, true);
         marks.append(mark);
     }
