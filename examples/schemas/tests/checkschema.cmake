@@ -1,0 +1,48 @@
+# Compares what the doctor finds in SCHEMA with the table that DOCUMENT has for it, then fills a report by the MENDED
+# schema with VALUES and checks it.
+
+function(run expected_status output)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE text ERROR_VARIABLE errors)
+    if(NOT status EQUAL expected_status)
+        message(FATAL_ERROR "The exit status is ${status}, not ${expected_status}:\n${ARGN}\n${text}${errors}")
+    endif()
+    set(${output} "${text}" PARENT_SCOPE)
+endfunction()
+
+# The rows of the document that belong to the schema: | line | severity | rule | ... |
+file(READ "${DOCUMENT}" document)
+string(FIND "${document}" "`${SCHEMA}`" start)
+string(SUBSTRING "${document}" ${start} -1 section)
+string(FIND "${section}" "\n## " end)
+string(SUBSTRING "${section}" 0 ${end} section)
+string(REGEX MATCHALL "\n\\| [0-9]+ \\| [a-z]+ \\| `[a-z0-9-]+`" rows "${section}")
+list(TRANSFORM rows REPLACE "\n\\| ([0-9]+) \\| ([a-z]+) \\| `([a-z0-9-]+)`" "\\1 \\2 \\3")
+list(SORT rows)
+
+set(status 0)
+if(NOT rows STREQUAL "")
+    set(status 2)
+endif()
+run(${status} said "${DOCTOR}" "${SCHEMA}")
+string(REPLACE ";" "," said "${said}")    # both mean something in a list
+string(REPLACE "[" "<" said "${said}")
+string(REPLACE "]" ">" said "${said}")
+string(REGEX MATCHALL "\n[^\n:]+\\.xsd:[0-9]+: [a-z]+: [^\n]* <[a-z0-9-]+>" findings "${said}")
+list(TRANSFORM findings REPLACE "^.*\\.xsd:([0-9]+): ([a-z]+): .* <([a-z0-9-]+)>$" "\\1 \\2 \\3")
+list(SORT findings)
+if(NOT findings STREQUAL rows)
+    string(REPLACE ";" "\n  " rows "${rows}")
+    string(REPLACE ";" "\n  " findings "${findings}")
+    message(FATAL_ERROR "${DOCUMENT} says of ${SCHEMA}:\n  ${rows}\nthe doctor says:\n  ${findings}")
+endif()
+
+file(REMOVE_RECURSE "${RUN_FOLDER}")
+file(MAKE_DIRECTORY "${RUN_FOLDER}")
+file(STRINGS "${VALUES}" values REGEX "^[^#]")
+run(0 said "${DOCTOR}" "${MENDED}")
+run(0 said "${DOCTOR}" --fill "${VALUES}" "${MENDED}")
+run(0 said "${FILLREPORT}" "${MENDED}" "${RUN_FOLDER}/report.xml" ${values})
+run(0 said "${CHECKER}" --schema "${MENDED}" "${RUN_FOLDER}/report.xml")
+if(NOT said MATCHES "; valid by ")
+    message(FATAL_ERROR "The report was not validated.\n${said}")
+endif()
