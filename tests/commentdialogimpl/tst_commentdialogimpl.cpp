@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QDir>
 #include <QDomDocument>
@@ -14,6 +15,7 @@
 #include <QTemporaryDir>
 #include <QTextEdit>
 #include <QTimer>
+#include <QTranslator>
 
 #include <xmlhelper/commentdialogimpl.h>
 
@@ -47,7 +49,7 @@ public:
     }
     ~OpenReport() { delete m_dialog; }
 
-    CommentDialogImpl& Dialog() { return *m_dialog; }
+    CommentDialogImpl& Dialog() const { return *m_dialog; }
     bool IsOpen() const { return m_dialog->isVisible(); }
     void DeleteDialog() { delete m_dialog; }
     bool IsDialogDeleted() const { return m_dialog.isNull(); }
@@ -119,6 +121,27 @@ private:
     QMessageBox::Icon m_icon = QMessageBox::NoIcon;
 };
 
+/// The language of those who shout, as long as it lives.
+class UpperCase : public QTranslator
+{
+public:
+    UpperCase()
+    {
+        QCoreApplication::installTranslator(this);
+        QCoreApplication::sendPostedEvents(); // windows are told later
+    }
+    ~UpperCase() override { QCoreApplication::removeTranslator(this); }
+
+    QString translate(const char*, const char* sourceText, const char*, int) const override
+    {
+        return QString::fromUtf8(sourceText).toUpper();
+    }
+    bool isEmpty() const override { return false; }
+
+private:
+    Q_DISABLE_COPY(UpperCase)
+};
+
 QByteArray bytesOf(const QString& fileName)
 {
     QFile file(fileName);
@@ -146,6 +169,11 @@ private Q_SLOTS:
     void formStacksGridAboveButtons();
     void formKeepsTheButtonsRight();
     void startsWithEmptyValues();
+    void focusStartsInTheCommentAndTabGoesOverTheButtons();
+    void captionsAreTheBuddiesOfTheirValues_data();
+    void captionsAreTheBuddiesOfTheirValues();
+    void everyWidgetHasAnAccessibleName();
+    void aValueIsReadWithItsCaption();
 
     void showsTheSummary_data();
     void showsTheSummary();
@@ -158,6 +186,8 @@ private Q_SLOTS:
     void saveKeepsEveryCharacterOfTheComment();
     void saveWithoutATypedCommentEqualsNoComment();
     void noCommentIgnoresWhatWasTyped();
+    void ctrlEnterSaves_data();
+    void ctrlEnterSaves();
     void answersReplaceAnEarlierFile();
     void answersOpenPathsWithBackSlashes();
     void answersKeepTheDialogAlive();
@@ -181,6 +211,9 @@ private Q_SLOTS:
     void dialogMayBeDeletedWhileItAsks();
     void dialogDeletedUnansweredWritesNothing();
     void showsAndWritesNothingWithoutADocument();
+
+    void textsFollowTheLanguageAndValuesStay();
+    void questionIsTranslated();
 
 private:
     QString reportFile(const QString& name = QStringLiteral("report.xml")) const { return m_folder->filePath(name); }
@@ -363,6 +396,69 @@ void TestCommentDialogImpl::startsWithEmptyValues()
     }
 }
 
+void TestCommentDialogImpl::focusStartsInTheCommentAndTabGoesOverTheButtons()
+{
+    const OpenReport report(reportFile());
+    CommentDialogImpl& dialog = report.Dialog();
+    QApplication::setActiveWindow(&dialog);
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+
+    QStringList visited;
+    for (int i = 0; i < 4; ++i) {
+        visited.append(dialog.focusWidget()->objectName());
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    }
+    const QString text = QStringLiteral("m_pTextEdit");
+    QCOMPARE(visited,
+             (QStringList {text, QStringLiteral("m_pSaveButton"), QStringLiteral("m_pNoCommentButton"), text}));
+}
+
+void TestCommentDialogImpl::captionsAreTheBuddiesOfTheirValues_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::newRow("m_pTimeTextLabel") << QStringLiteral("m_pTimeLabel");
+    QTest::newRow("m_pFreqTextLabel") << QStringLiteral("m_pFrequencyLabel");
+    QTest::newRow("m_pBandwidthTextLabel") << QStringLiteral("m_pBandwidthLabel");
+    QTest::newRow("m_pLevelTextLabel") << QStringLiteral("m_pLevelLabel");
+    QTest::newRow("m_pAzimuthTextLabel") << QStringLiteral("m_pAzimuthLabel");
+    QTest::newRow("m_pCommentTextLabel") << QStringLiteral("m_pTextEdit");
+}
+
+void TestCommentDialogImpl::captionsAreTheBuddiesOfTheirValues()
+{
+    QFETCH(QString, value);
+    const CommentDialogImpl dialog;
+    const QWidget* const buddy = dialog.findChild<QLabel*>(QLatin1String(QTest::currentDataTag()))->buddy();
+    QVERIFY(buddy);
+    QCOMPARE(buddy->objectName(), value);
+}
+
+void TestCommentDialogImpl::everyWidgetHasAnAccessibleName()
+{
+    const OpenReport report(reportFile());
+    const QStringList names {
+        QStringLiteral("m_pTimeTextLabel"),      QStringLiteral("m_pTimeLabel"),
+        QStringLiteral("m_pFreqTextLabel"),      QStringLiteral("m_pFrequencyLabel"),
+        QStringLiteral("m_pBandwidthTextLabel"), QStringLiteral("m_pBandwidthLabel"),
+        QStringLiteral("m_pLevelTextLabel"),     QStringLiteral("m_pLevelLabel"),
+        QStringLiteral("m_pAzimuthTextLabel"),   QStringLiteral("m_pAzimuthLabel"),
+        QStringLiteral("m_pCommentTextLabel"),   QStringLiteral("m_pTextEdit"),
+        QStringLiteral("m_pSaveButton"),         QStringLiteral("m_pNoCommentButton"),
+    };
+    for (const QString& name : names) {
+        const QAccessibleInterface* const reader
+            = QAccessible::queryAccessibleInterface(report.Find<QWidget>(qPrintable(name)));
+        QVERIFY2(reader && !reader->text(QAccessible::Name).isEmpty(), qPrintable(name));
+    }
+}
+
+void TestCommentDialogImpl::aValueIsReadWithItsCaption()
+{
+    const OpenReport report(reportFile(), QStringLiteral("<R><Frequency Unit='MHz'>98.5</Frequency></R>"));
+    QCOMPARE(report.Find<QLabel>("m_pFrequencyLabel")->accessibleName(), QStringLiteral("Frequency: 98.5 MHz"));
+    QCOMPARE(report.Find<QLabel>("m_pLevelLabel")->accessibleName(), QStringLiteral("Level: ---"));
+}
+
 void TestCommentDialogImpl::showsTheSummary_data()
 {
     QTest::addColumn<QString>("xml");
@@ -510,6 +606,29 @@ void TestCommentDialogImpl::noCommentIgnoresWhatWasTyped()
     QVERIFY(!report.IsOpen());
     QVERIFY(report.IsWritten());
     QCOMPARE(report.WrittenComments(), QStringList());
+}
+
+void TestCommentDialogImpl::ctrlEnterSaves_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("enter") << int(Qt::Key_Return);
+    QTest::newRow("enter-of-the-number-pad") << int(Qt::Key_Enter);
+}
+
+void TestCommentDialogImpl::ctrlEnterSaves()
+{
+    QFETCH(int, key);
+    const OpenReport report(reportFile());
+    QApplication::setActiveWindow(&report.Dialog());
+    QVERIFY(QTest::qWaitForWindowActive(&report.Dialog()));
+
+    report.Type(QStringLiteral("first"));
+    QTest::keyClick(report.Find<QTextEdit>("m_pTextEdit"), Qt::Key(key)); // Enter alone is a new line.
+    QVERIFY(report.IsOpen());
+    report.Type(QStringLiteral("second"));
+    QTest::keyClick(report.Find<QTextEdit>("m_pTextEdit"), Qt::Key(key), Qt::ControlModifier);
+    QVERIFY(!report.IsOpen());
+    QCOMPARE(report.WrittenComments(), QStringList(QStringLiteral("first\nsecond")));
 }
 
 void TestCommentDialogImpl::answersReplaceAnEarlierFile()
@@ -791,6 +910,35 @@ void TestCommentDialogImpl::showsAndWritesNothingWithoutADocument()
     QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("m_pSaveButton")), Qt::LeftButton);
     QVERIFY(!dialog.isVisible());
     QVERIFY(!QFile::exists(reportFile()));
+}
+
+void TestCommentDialogImpl::textsFollowTheLanguageAndValuesStay()
+{
+    const OpenReport report(reportFile(), QStringLiteral("<R><Frequency Unit='MHz'>98.5</Frequency></R>"));
+    report.Type(QStringLiteral("fading"));
+    const QString time = report.Find<QLabel>("m_pTimeLabel")->text();
+
+    const UpperCase language;
+    QCOMPARE(report.Find<QLabel>("m_pFreqTextLabel")->text(), QStringLiteral("FREQUENCY:"));
+    QCOMPARE(report.Find<QLabel>("m_pFrequencyLabel")->text(), QStringLiteral("98.5 MHz"));
+    QCOMPARE(report.Find<QLabel>("m_pFrequencyLabel")->accessibleName(), QStringLiteral("FREQUENCY: 98.5 MHz"));
+    QCOMPARE(report.Find<QLabel>("m_pLevelLabel")->text(), QStringLiteral("---"));
+    QCOMPARE(report.Find<QLabel>("m_pTimeLabel")->text(), time);
+    QCOMPARE(report.Find<QTextEdit>("m_pTextEdit")->toPlainText(), QStringLiteral("fading"));
+    QCOMPARE(report.Find<QTextEdit>("m_pTextEdit")->accessibleName(), QStringLiteral("COMMENT"));
+    QCOMPARE(report.Find<QPushButton>("m_pSaveButton")->text(), QStringLiteral("SAVE"));
+    QCOMPARE(report.Dialog().windowTitle(), QStringLiteral("TOREPORT - ") + time);
+}
+
+void TestCommentDialogImpl::questionIsTranslated()
+{
+    const UpperCase language;
+    const OpenReport report(reportFile());
+    report.Type(QStringLiteral("fading"));
+    const Operator asked(QMessageBox::No);
+    report.Dialog().close();
+    QCOMPARE(asked.Title(), QStringLiteral("WARNING"));
+    QCOMPARE(asked.Text(), QStringLiteral("YOU HAVE ENTERD A COMMENT. WOULD YOU LIKE TO SAVE IT?"));
 }
 
 QTEST_MAIN(TestCommentDialogImpl)

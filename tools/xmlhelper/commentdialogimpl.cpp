@@ -1,9 +1,12 @@
 #include "commentdialogimpl.h"
 
+#include <vector>
+
 #include <QCloseEvent>
 #include <QDomDocument>
 #include <QMessageBox>
 #include <QPointer>
+#include <QShortcut>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextOption>
@@ -36,6 +39,11 @@ QMessageBox::StandardButton ask(QWidget* window, const QString& title, const QSt
     return answer;
 }
 
+QLabel& valueOf(const QLabel& caption)
+{
+    return *qobject_cast<QLabel*>(caption.buddy());
+}
+
 } // namespace
 
 CommentDialogImpl::CommentDialogImpl()
@@ -44,13 +52,16 @@ CommentDialogImpl::CommentDialogImpl()
     , m_bSaved(false)
 {
     setupUi(this);
-    setWindowTitle(tr("Comment"));
+    showTitle();
     setModal(false);
     setObjectName(QStringLiteral("ToReportCommentDialog"));
-    for (QLabel* label : {m_pTimeLabel, m_pFrequencyLabel, m_pBandwidthLabel, m_pLevelLabel, m_pAzimuthLabel}) {
-        label->clear();
+    for (const QLabel* caption : valueCaptions()) {
+        valueOf(*caption).clear();
     }
     connect(m_pTextEdit->document(), &QTextDocument::contentsChange, this, &CommentDialogImpl::wrapLongLines);
+    nameValues();
+    connectSaveKeys();
+    m_pTextEdit->setFocus();
 }
 
 void CommentDialogImpl::SetDocument(QDomDocument* document)
@@ -66,9 +77,9 @@ void CommentDialogImpl::SetFileName(QString fileName)
 void CommentDialogImpl::ShowReportSummary()
 {
     const Vorn::DateTime now(VornOS::Create()->GetCurrentTime());
-    const QString time = now.toString(QStringLiteral("yyyy/MM/dd hh:mm:ss"));
-    m_pTimeLabel->setText(time);
-    setWindowTitle(QStringLiteral("ToReport - ") + time);
+    m_sSummaryTime = now.toString(QStringLiteral("yyyy/MM/dd hh:mm:ss"));
+    m_pTimeLabel->setText(m_sSummaryTime);
+    showTitle();
 
     m_pFrequencyLabel->setText(textWithUnit(QStringLiteral("Frequency")));
     m_pBandwidthLabel->setText(textWithUnit(QStringLiteral("Bandwidth")));
@@ -76,6 +87,7 @@ void CommentDialogImpl::ShowReportSummary()
     m_pLevelLabel->setText(level.isNull() ? QString(NoValue) : level.text());
     const QDomElement azimuth = firstElement(QStringLiteral("Azimuth"), QStringLiteral("DFAzimuth"));
     m_pAzimuthLabel->setText(azimuth.isNull() ? QString(NoValue) : azimuth.text() + QStringLiteral(" °"));
+    nameValues();
     show();
 }
 
@@ -137,6 +149,59 @@ void CommentDialogImpl::wrapLongLines(int position, int, int added)
     if (block.length() > MaxWrappedLine && option.wrapMode() != QTextOption::WrapAnywhere) {
         option.setWrapMode(QTextOption::WrapAnywhere);
         document->setDefaultTextOption(option);
+    }
+}
+
+void CommentDialogImpl::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        translate();
+    }
+    QDialog::changeEvent(event);
+}
+
+/// The captions whose buddies are values.
+std::array<QLabel*, 5> CommentDialogImpl::valueCaptions() const
+{
+    return {m_pTimeTextLabel, m_pFreqTextLabel, m_pBandwidthTextLabel, m_pLevelTextLabel, m_pAzimuthTextLabel};
+}
+
+/// The text edit leaves these keys to shortcuts; Enter is that of the number pad.
+void CommentDialogImpl::connectSaveKeys()
+{
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* const shortcut = new QShortcut(QKeySequence(int(Qt::CTRL) | int(key)), this);
+        connect(shortcut, &QShortcut::activated, m_pSaveButton, &QPushButton::click);
+    }
+}
+
+/// The form's translation puts its sample values into the value labels: they are given back what they have shown.
+void CommentDialogImpl::translate()
+{
+    std::vector<QString> values;
+    for (const QLabel* caption : valueCaptions()) {
+        values.push_back(valueOf(*caption).text());
+    }
+    retranslateUi(this);
+    auto value = values.cbegin();
+    for (const QLabel* caption : valueCaptions()) {
+        valueOf(*caption).setText(*value++);
+    }
+    showTitle();
+    nameValues();
+}
+
+void CommentDialogImpl::showTitle()
+{
+    setWindowTitle(m_sSummaryTime.isEmpty() ? tr("Comment") : tr("ToReport - ") + m_sSummaryTime);
+}
+
+/// A value alone would tell a screen reader nothing, and a name alone would hide the value.
+void CommentDialogImpl::nameValues()
+{
+    for (const QLabel* caption : valueCaptions()) {
+        QLabel& value = valueOf(*caption);
+        value.setAccessibleName((caption->text() + QLatin1Char(' ') + value.text()).trimmed());
     }
 }
 

@@ -1,6 +1,8 @@
 #ifndef XMLHELPER_COMMENTDIALOGIMPL_H
 #define XMLHELPER_COMMENTDIALOGIMPL_H
 
+#include <array>
+
 #include <QDialog>
 #include <QDomElement>
 #include <QString>
@@ -15,6 +17,10 @@ class QDomDocument;
 /// shows it without blocking; several may be open at once. The file is written when the operator saves, with or
 /// without a comment, or closes the dialog; Escape does what closing the window does. Only a close that is answered
 /// with Cancel, or a dialog that is never answered, leaves the report unwritten.
+///
+/// The keyboard does everything: the focus starts in the comment, Tab goes on to "Save" and "No Comment", Ctrl+Enter
+/// saves. A screen reader reads each value with its caption. When the application changes its language, an open dialog
+/// changes with it.
 ///
 /// The dialog belongs to the builder and is hidden, not destroyed, when it has been answered. The document belongs to
 /// whoever made it and must outlive the dialog. A file that cannot be written is not reported; the next answer tries
@@ -44,11 +50,17 @@ public Q_SLOTS:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     Q_DISABLE_COPY(CommentDialogImpl)
 
     void wrapLongLines(int position, int removed, int added);
+    std::array<QLabel*, 5> valueCaptions() const;
+    void connectSaveKeys();
+    void translate();
+    void showTitle();
+    void nameValues();
     void appendComment(const QString& comment);
     void removeComment();
     void WriteReportFile();
@@ -60,6 +72,7 @@ private:
     QString m_sFileName;
     bool m_bSaved; ///< the file has been written
 
+    QString m_sSummaryTime; ///< empty until the summary is shown
     QDomElement m_comment; ///< what an answer put into the document; null when there is none
 };
 
