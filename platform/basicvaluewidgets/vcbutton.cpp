@@ -1,4 +1,5 @@
 #include <basicvaluewidgets/vcbutton.h>
+#include <QEvent>
 #include <QIcon>
 #include <QKeySequence>
 #include <QPixmap>
@@ -25,15 +26,28 @@ bool isUnderstood(const QKeySequence& sequence)
     return true;
 }
 
+/// The key sequence in brackets at the end of @p text; empty when there is none.
+QKeySequence shortcutIn(const QString& text)
+{
+    const QKeySequence shortcut = QKeySequence::fromString(bracketedEnd(text), QKeySequence::PortableText);
+    return isUnderstood(shortcut) ? shortcut : QKeySequence();
+}
+
+/// The first line of @p toolTip, without its shortcut.
+QString nameIn(const QString& toolTip)
+{
+    const QString firstLine = toolTip.section(QLatin1Char('\n'), 0, 0);
+    const bool hasShortcut = !shortcutIn(firstLine).isEmpty();
+    return hasShortcut ? firstLine.left(firstLine.lastIndexOf(QLatin1Char('('))).trimmed() : firstLine;
+}
+
 } // namespace
 
 VCButton::VCButton(QWidget* parent, const QString& text, bool /*recordUndo*/)
     : QToolButton(parent)
 {
     setToolTip(text);
-
-    const QKeySequence shortcut = QKeySequence::fromString(bracketedEnd(text), QKeySequence::PortableText);
-    if (isUnderstood(shortcut)) {
+    if (const QKeySequence shortcut = shortcutIn(text); !shortcut.isEmpty()) {
         setShortcut(shortcut);
     }
 }
@@ -48,4 +62,12 @@ void VCButton::SetDefaultPicture(const char* const* xpm)
 void VCButton::setEnabled(bool enabled)
 {
     QToolButton::setEnabled(enabled);
+}
+
+bool VCButton::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTipChange) {
+        setAccessibleName(nameIn(toolTip()));
+    }
+    return QToolButton::event(event);
 }

@@ -6,6 +6,9 @@
 #include <QToolButton>
 
 /// A tool button that shows a picture and explains itself in its tool tip.
+///
+/// The first line of the tool tip is the button's name, with its shortcut in brackets; lines behind it may explain
+/// more. Screen readers are told the name without the shortcut, whoever changes the tool tip.
 class BASICVALUEWIDGETS_EXPORT VCButton : public QToolButton, public UndoRecordingControlBase
 {
     Q_OBJECT
@@ -25,6 +28,9 @@ public Q_SLOTS:
     /// Hides the slot of QWidget, which is not virtual, so that buttons derived from this one can have a say. A call
     /// through a QWidget pointer passes it by.
     virtual void setEnabled(bool enabled);
+
+protected:
+    bool event(QEvent* event) override;
 
 private:
     Q_DISABLE_COPY(VCButton)

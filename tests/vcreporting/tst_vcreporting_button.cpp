@@ -129,6 +129,7 @@ private Q_SLOTS:
     void bearsTheObjectNameGiven();
     void holdsTheButtonWithoutMargins();
     void buttonIsTranslatedInTheContextOfTheClass();
+    void buttonFollowsTheLanguage();
     void buttonShowsTheBuiltInPicture();
     void buttonShowsTheGivenPicture();
     void withoutButtonIsHiddenAndStillWatches();
@@ -253,6 +254,31 @@ void TestVCReportingButton::buttonIsTranslatedInTheContextOfTheClass()
     const auto reporting = m_surroundings->MakeReporting();
     QCoreApplication::removeTranslator(&translator);
     QCOMPARE(reporting->GetReportButton()->toolTip(), QStringLiteral("VCReporting|To Report (Shift+F10)"));
+}
+
+void TestVCReportingButton::buttonFollowsTheLanguage()
+{
+    const auto reporting = m_surroundings->MakeReporting();
+    const QToolButton* const button = reporting->GetReportButton();
+    const QKeySequence shortcut(int(Qt::SHIFT) | int(Qt::Key_F10));
+    QCOMPARE(button->accessibleName(), QStringLiteral("To Report"));
+    QCOMPARE(button->shortcut(), shortcut);
+
+    ContextTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    QEvent languageChange(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(reporting.get(), &languageChange);
+    QCOMPARE(button->toolTip(), QStringLiteral("VCReporting|To Report (Shift+F10)"));
+    QCOMPARE(button->accessibleName(), QStringLiteral("VCReporting|To Report"));
+    QCOMPARE(button->shortcut(), shortcut);
+
+    QCoreApplication::removeTranslator(&translator);
+    QCoreApplication::sendEvent(reporting.get(), &languageChange);
+    QCOMPARE(button->toolTip(), QStringLiteral("To Report (Shift+F10)"));
+
+    const auto buttonless = m_surroundings->MakeReporting(false);
+    QCoreApplication::sendEvent(buttonless.get(), &languageChange);
+    QVERIFY(!buttonless->GetReportButton());
 }
 
 void TestVCReportingButton::buttonShowsTheBuiltInPicture()

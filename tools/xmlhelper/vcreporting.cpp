@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QTimer>
@@ -39,6 +40,11 @@ const QLatin1String SchemaSuffix(".xsd");
 const QLatin1String UnitAttribute("Unit");
 const QLatin1String DateTimeName("DateTime");
 const QLatin1String DFDateTimeName("DFDateTime");
+
+QString buttonText()
+{
+    return VCReporting::tr("To Report (Shift+F10)");
+}
 
 bool isTimeName(const QString& name)
 {
@@ -285,6 +291,14 @@ bool VCReporting::SlotToReport()
     return isSuccessful;
 }
 
+void VCReporting::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange && m_pReportButton) {
+        m_pReportButton->setToolTip(buttonText());
+    }
+    QWidget::changeEvent(event);
+}
+
 void VCReporting::SlotCheckFileAndDirectory()
 {
     const bool isAvailable = isThere(m_sSchemaPath) && isThere(m_sReportDirectory);
@@ -310,7 +324,7 @@ void VCReporting::SetInputPathToSchema(const QString& schema)
 
 void VCReporting::createReportButton()
 {
-    m_pReportButton = new VCButton(this, tr("To Report (Shift+F10)"), false);
+    m_pReportButton = new VCButton(this, buttonText(), false);
     auto* const buttonLayout = new QHBoxLayout(this);
     buttonLayout->setContentsMargins(0, 0, 0, 0);
     buttonLayout->addWidget(m_pReportButton);

@@ -152,6 +152,11 @@ public Q_SLOTS:
     ///         schema does not end in ".xsd". A file that cannot be written is not reported.
     bool SlotToReport();
 
+protected:
+    /// Translates the button anew when the application changes its language.
+    /// @param event  Qt's
+    void changeEvent(QEvent* event) override;
+
 private Q_SLOTS:
     void SlotCheckFileAndDirectory();
 

@@ -33,6 +33,8 @@ private Q_SLOTS:
     void theTextIsTheToolTipAndBindsAShortcut_data();
     void theTextIsTheToolTipAndBindsAShortcut();
     void theShortcutClicksTheButton();
+    void theFirstLineOfTheToolTipIsTheAccessibleName_data();
+    void theFirstLineOfTheToolTipIsTheAccessibleName();
     void enablingIsVirtual();
     void enablingIsVirtualAsASlot();
     void theDefaultPictureIsTheIcon();
@@ -90,6 +92,35 @@ void TestBasicValueWidgets::theShortcutClicksTheButton()
     button.setEnabled(false);
     QTest::keyClick(&window, Qt::Key_F10, Qt::ShiftModifier);
     QCOMPARE(clicked.count(), 1);
+}
+
+void TestBasicValueWidgets::theFirstLineOfTheToolTipIsTheAccessibleName_data()
+{
+    QTest::addColumn<QString>("toolTip");
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("shortcut-is-left-out") << "To Report (Shift+F10)"
+                                          << "To Report";
+    QTest::newRow("brackets-without-a-key-stay") << "Frequency (Hz)"
+                                                 << "Frequency (Hz)";
+    QTest::newRow("later-lines-are-left-out") << "To Report (Shift+F10)\nThe directory is missing."
+                                              << "To Report";
+    QTest::newRow("empty") << ""
+                           << "";
+}
+
+void TestBasicValueWidgets::theFirstLineOfTheToolTipIsTheAccessibleName()
+{
+    QFETCH(QString, toolTip);
+    QFETCH(QString, name);
+
+    const VCButton made(nullptr, toolTip, false);
+    QCOMPARE(made.accessibleName(), name);
+
+    VCButton changed(nullptr, QStringLiteral("Something else (F2)"), false);
+    changed.setToolTip(toolTip);
+    QCOMPARE(changed.accessibleName(), name);
+    QCOMPARE(changed.shortcut(), QKeySequence(Qt::Key_F2));
 }
 
 void TestBasicValueWidgets::enablingIsVirtual()
