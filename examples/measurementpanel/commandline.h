@@ -6,11 +6,13 @@
 #include <QString>
 #include <QStringList>
 
-/// What the program is asked to do. Paths are absolute, except for the name of the schema beside the program.
+/// What the program is asked to do; what is not there is left to the settings. Paths are absolute.
 struct CommandLine
 {
-    QString schema;
-    QString reportDirectory;
+    std::optional<QString> schema;
+    std::optional<QString> reportDirectory;
+    std::optional<QString> language;
+    std::optional<QString> settings; ///< the file of the operator's settings
     int presses = 0; ///< 0: a human operator presses
     std::optional<QString> comment;
     QString screenshot;

@@ -1,10 +1,13 @@
 #include <QApplication>
+#include <QDir>
 #include <QHashFunctions>
 #include <QTextStream>
 
 #include "commandline.h"
+#include "languages.h"
 #include "measurementtree.h"
 #include "operator.h"
+#include "panelsettings.h"
 #include "panelwindow.h"
 #include "simulatedreceiver.h"
 
@@ -33,10 +36,49 @@ bool isWithoutScreen()
 #endif
 }
 
+/// Lies beside the program.
+QString ownSchema()
+{
+    return QStringLiteral("measurementreport.xsd");
+}
+
 int refuse(const QString& reason, const QString& help)
 {
     QTextStream(stderr) << reason << "\n\n" << help;
     return WrongUsage;
+}
+
+/// What the robot does depends on nothing but its command line: it speaks English unless told otherwise.
+int workByItself(const CommandLine& commandLine, Languages& languages)
+{
+    languages.Use(commandLine.language.value_or(QString()));
+    const MeasurementTree tree;
+    SimulatedReceiver receiver(tree);
+    PanelWindow window(tree, receiver, commandLine.schema.value_or(ownSchema()), *commandLine.reportDirectory);
+    Operator robot(window, receiver, {commandLine.presses, commandLine.comment, commandLine.screenshot});
+    return robot.Work() ? Success : Failure;
+}
+
+/// The command line goes before what the operator has chosen last, for this session.
+int serveOperator(const CommandLine& commandLine, Languages& languages)
+{
+    PanelSettings settings(commandLine.settings.value_or(PanelSettings::DefaultFile()));
+    const auto chosen = [](const QString& remembered, const QString& otherwise) {
+        return remembered.isEmpty() ? otherwise : remembered;
+    };
+    languages.Use(commandLine.language.value_or(chosen(settings.GetLanguage(), languages.OfSystem())));
+
+    const MeasurementTree tree;
+    SimulatedReceiver receiver(tree);
+    PanelWindow window(
+        tree, receiver, commandLine.schema.value_or(chosen(settings.GetSchema(), ownSchema())),
+        commandLine.reportDirectory.value_or(chosen(settings.GetReportDirectory(), QDir::currentPath())));
+    window.AskForComment(settings.GetAskForComment());
+    window.OfferLanguages(languages);
+    window.Remember(settings);
+    receiver.Start();
+    window.show();
+    return QApplication::exec();
 }
 
 } // namespace
@@ -52,6 +94,8 @@ int main(int argc, char* argv[])
     QApplication::setApplicationName(QStringLiteral("measurementpanel"));
     QApplication::setStyle(QStringLiteral("Fusion"));
 
+    Languages languages(QDir(QApplication::applicationDirPath()).filePath(QStringLiteral("translations")));
+    languages.Use(languages.OfSystem());
     const CommandLine commandLine = readCommandLine(QApplication::arguments());
     if (commandLine.isHelpWanted) {
         QTextStream(stdout) << commandLine.help;
@@ -61,17 +105,7 @@ int main(int argc, char* argv[])
         return refuse(commandLine.fault, commandLine.help);
     }
     if (isOffscreen && commandLine.presses == 0) {
-        return refuse(QStringLiteral("There is no screen; use --press."), commandLine.help);
+        return refuse(QCoreApplication::translate("CommandLine", "There is no screen; use --press."), commandLine.help);
     }
-
-    const MeasurementTree tree;
-    SimulatedReceiver receiver(tree);
-    PanelWindow window(tree, receiver, commandLine.schema, commandLine.reportDirectory);
-    if (commandLine.presses > 0) {
-        Operator robot(window, receiver, {commandLine.presses, commandLine.comment, commandLine.screenshot});
-        return robot.Work() ? Success : Failure;
-    }
-    receiver.Start();
-    window.show();
-    return QApplication::exec();
+    return commandLine.presses > 0 ? workByItself(commandLine, languages) : serveOperator(commandLine, languages);
 }

@@ -11,11 +11,47 @@ constexpr int Once = 1;
 constexpr int Kilo = 3;
 constexpr int Mega = 6;
 
+/// The report's general format.
+constexpr int SignificantDigits = 12;
+
+/// A value with its unit, which is in the report and on the screen.
+struct Quantity
+{
+    QString element;
+    QString path;
+    QString unit;
+    int decimalExponent;
+};
+
+Quantity frequency()
+{
+    return {QStringLiteral("Frequency"), QStringLiteral("Receiver/Frequency"), QStringLiteral("MHz"), Mega};
+}
+
+Quantity level()
+{
+    return {QStringLiteral("Level"), QStringLiteral("Receiver/Level"), QStringLiteral("dBµV"), 0};
+}
+
+ReportedValue reported(const Quantity& quantity)
+{
+    const ReportData item(quantity.element, quantity.path, QString(), Once, QString(), quantity.decimalExponent,
+                          quantity.unit, false);
+    double number = 0.0;
+    item.GetDataValue(number);
+    return {number, QString::number(number, 'g', SignificantDigits), quantity.unit};
+}
+
 /// A value of the tree, by its path.
 void addValue(VCReporting& reporting, const QString& element, const QString& path, const QString& unit = QString(),
               int decimalExponent = 0)
 {
     reporting.AddReportData(element, path, QString(), Once, QString(), decimalExponent, unit);
+}
+
+void addQuantity(VCReporting& reporting, const Quantity& quantity)
+{
+    addValue(reporting, quantity.element, quantity.path, quantity.unit, quantity.decimalExponent);
 }
 
 void addText(VCReporting& reporting, const QString& element, const QString& text)
@@ -40,17 +76,17 @@ void addReceiver(VCReporting& reporting)
 
 void addSignal(VCReporting& reporting)
 {
-    addValue(reporting, QStringLiteral("Frequency"), QStringLiteral("Receiver/Frequency"), QStringLiteral("MHz"), Mega);
+    addQuantity(reporting, frequency());
     addValue(reporting, QStringLiteral("Bandwidth"), QStringLiteral("Receiver/Bandwidth"), QStringLiteral("kHz"), Kilo);
-    addValue(reporting, QStringLiteral("Level"), QStringLiteral("Receiver/Level"), QStringLiteral("dBµV"));
+    addQuantity(reporting, level());
     addValue(reporting, QStringLiteral("Modulation"), QStringLiteral("Receiver/Modulation"));
 }
 
 /// An element that repeats takes one item for each occurrence; each item says how many there are.
 void addLevelSamples(VCReporting& reporting, const std::deque<double>& levels)
 {
-    for (const double level : levels) {
-        reporting.AddReportData(QStringLiteral("LevelSample"), QString(), QString::number(level),
+    for (const double sample : levels) {
+        reporting.AddReportData(QStringLiteral("LevelSample"), QString(), QString::number(sample),
                                 static_cast<int>(levels.size()), QString(), 0, QStringLiteral("dBµV"));
     }
 }
@@ -82,4 +118,14 @@ void registerReportItems(VCReporting& reporting, const MeasurementTree& tree, co
 
     // Attributes come last: an attribute that is set before the item of its element counts as the element's value.
     addValue(reporting, QStringLiteral("Serial"), QStringLiteral("Receiver/Serial"));
+}
+
+ReportedValue reportedFrequency()
+{
+    return reported(frequency());
+}
+
+ReportedValue reportedLevel()
+{
+    return reported(level());
 }

@@ -33,6 +33,9 @@ constexpr std::array<Channel, 4> Channels {{
 constexpr int StepsPerChannel = 12;
 constexpr int IntervalMs = 250;
 constexpr std::size_t KeptLevels = 5;
+constexpr int SweepSteps = 100; ///< on each side of the tuned frequency
+constexpr double SweepWidth = 2.5; ///< on each side, in bandwidths
+constexpr double NoiseFloor = -8.0; ///< in dBµV
 constexpr double WeakestBearing = 30.0; ///< in percent
 
 /// One decimal is what such a receiver shows.
@@ -46,6 +49,13 @@ double wrapped(double degrees)
 {
     const double angle = rounded(std::fmod(degrees + 360.0, 360.0));
     return angle < 360.0 ? angle : 0.0;
+}
+
+/// Even noise of our own making: the standard's distributions give different numbers with different libraries.
+double evenNoise(std::minstd_rand& random, double amplitude)
+{
+    constexpr double greatest = std::minstd_rand::max();
+    return amplitude * (2.0 * static_cast<double>(random()) / greatest - 1.0);
 }
 
 } // namespace
@@ -76,6 +86,7 @@ void SimulatedReceiver::Step()
         tune(channel);
     }
     measure(channel);
+    sweep(channel);
     ++m_iSteps;
     Q_EMIT Measured();
 }
@@ -95,6 +106,11 @@ bool SimulatedReceiver::HasBearing() const
 const std::deque<double>& SimulatedReceiver::GetLevels() const
 {
     return m_levels;
+}
+
+const SimulatedReceiver::Spectrum& SimulatedReceiver::GetSpectrum() const
+{
+    return m_spectrum;
 }
 
 void SimulatedReceiver::tune(int channel)
@@ -119,9 +135,22 @@ void SimulatedReceiver::measure(int channel)
     m_tree.Quality().SetValue(std::clamp(std::round(2.0 * level), 0.0, 99.0));
 }
 
-/// Even noise of our own making: the standard's distributions give different numbers with different libraries.
+/// A signal that is flat in its middle, falls off within its bandwidth and drowns in the noise.
+void SimulatedReceiver::sweep(int channel)
+{
+    const Channel& swept = Channels[static_cast<std::size_t>(channel)];
+    const double level = m_tree.Level().GetNumericValue();
+    m_spectrum = {};
+    for (int step = -SweepSteps; step <= SweepSteps; ++step) {
+        const double distance = SweepWidth * step / SweepSteps; // in bandwidths
+        const double signal = NoiseFloor + (level - NoiseFloor) * std::exp(-8.0 * std::pow(distance, 4));
+        const double around = step == 0 ? 0.0 : evenNoise(m_sweepRandom, 1.5);
+        m_spectrum.frequencies.push_back(swept.frequency + distance * swept.bandwidth);
+        m_spectrum.levels.push_back(signal + around);
+    }
+}
+
 double SimulatedReceiver::noise(double amplitude)
 {
-    constexpr double greatest = std::minstd_rand::max();
-    return amplitude * (2.0 * static_cast<double>(m_random()) / greatest - 1.0);
+    return evenNoise(m_random, amplitude);
 }

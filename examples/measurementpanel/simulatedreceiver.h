@@ -3,6 +3,7 @@
 
 #include <deque>
 #include <random>
+#include <vector>
 
 #include <QObject>
 #include <QTimer>
@@ -39,6 +40,14 @@ public:
     /// The latest levels of this channel, the oldest first; five at most, one at least.
     const std::deque<double>& GetLevels() const;
 
+    /// The levels over the frequencies around the tuned one, as measured last.
+    struct Spectrum
+    {
+        std::vector<double> frequencies; ///< in Hz, ascending
+        std::vector<double> levels; ///< in dBµV; at the tuned frequency the level of the tree
+    };
+    const Spectrum& GetSpectrum() const;
+
 Q_SIGNALS:
     /// The values of the tree are new.
     void Measured();
@@ -48,12 +57,15 @@ private:
 
     void tune(int channel);
     void measure(int channel);
+    void sweep(int channel);
     double noise(double amplitude);
 
     const MeasurementTree& m_tree;
     QTimer m_timer;
     std::minstd_rand m_random;
     std::deque<double> m_levels;
+    std::minstd_rand m_sweepRandom; ///< of its own: the values must not depend on what else is shown
+    Spectrum m_spectrum;
     int m_iSteps = 0;
 };
 

@@ -2,41 +2,55 @@
 
 #include <array>
 
+#include <QEvent>
 #include <QFile>
 #include <QFontDatabase>
 #include <QRegularExpression>
 #include <QSyntaxHighlighter>
+
+#include "panelcolours.h"
 
 namespace {
 
 class XmlColours : public QSyntaxHighlighter
 {
 public:
-    using QSyntaxHighlighter::QSyntaxHighlighter;
+    explicit XmlColours(const QPlainTextEdit& view)
+        : QSyntaxHighlighter(view.document())
+        , m_view(view)
+    {
+    }
 
 protected:
     void highlightBlock(const QString& line) override;
+
+private:
+    Q_DISABLE_COPY(XmlColours)
+
+    const QPlainTextEdit& m_view;
 };
 
 struct Colour
 {
     QRegularExpression pattern;
-    QColor colour;
+    QRgb onLight;
+    QRgb onDark;
 };
 
 void XmlColours::highlightBlock(const QString& line)
 {
     static const std::array<Colour, 4> colours {{
-        {QRegularExpression(QStringLiteral("</?[\\w:]+|/?>")), QColor(0x1F, 0x6F, 0xB2)},
-        {QRegularExpression(QStringLiteral("[\\w:]+(?==[\"'])")), QColor(0x7A, 0x4E, 0x9F)},
-        {QRegularExpression(QStringLiteral("(?<==)(\"[^\"]*\"|'[^']*')")), QColor(0x2E, 0x7D, 0x32)},
-        {QRegularExpression(QStringLiteral("<\\?.*\\?>")), QColor(0x6E, 0x82, 0x96)},
+        {QRegularExpression(QStringLiteral("</?[\\w:]+|/?>")), 0x1F6FB2, 0x7FBCF0},
+        {QRegularExpression(QStringLiteral("[\\w:]+(?==[\"'])")), 0x7A4E9F, 0xCBA6E8},
+        {QRegularExpression(QStringLiteral("(?<==)(\"[^\"]*\"|'[^']*')")), 0x2E7D32, 0x81C784},
+        {QRegularExpression(QStringLiteral("<\\?.*\\?>")), 0x5A6B7B, 0xA3B4C5},
     }};
     for (const Colour& colour : colours) {
         QRegularExpressionMatchIterator matches = colour.pattern.globalMatch(line);
         while (matches.hasNext()) {
             const QRegularExpressionMatch match = matches.next();
-            setFormat(static_cast<int>(match.capturedStart()), static_cast<int>(match.capturedLength()), colour.colour);
+            setFormat(static_cast<int>(match.capturedStart()), static_cast<int>(match.capturedLength()),
+                      colourOn(m_view.palette(), colour.onLight, colour.onDark));
         }
     }
 }
@@ -49,7 +63,7 @@ XmlView::XmlView(QWidget* parent)
     setReadOnly(true);
     setLineWrapMode(NoWrap);
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    new XmlColours(document()); // the document's
+    m_pColours = new XmlColours(*this); // the document's
 }
 
 XmlView::~XmlView() = default;
@@ -58,4 +72,12 @@ void XmlView::ShowFile(const QString& path)
 {
     QFile file(path);
     setPlainText(file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString());
+}
+
+void XmlView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange && m_pColours) {
+        m_pColours->rehighlight();
+    }
+    QPlainTextEdit::changeEvent(event);
 }

@@ -3,6 +3,8 @@
 
 #include <QPlainTextEdit>
 
+class QSyntaxHighlighter;
+
 /// Shows an XML file as text, coloured, to read only.
 class XmlView : public QPlainTextEdit
 {
@@ -15,8 +17,13 @@ public:
     /// Shows the file as it is now; nothing when it cannot be read.
     void ShowFile(const QString& path);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     Q_DISABLE_COPY(XmlView)
+
+    QSyntaxHighlighter* m_pColours = nullptr; ///< the document's
 };
 
 #endif

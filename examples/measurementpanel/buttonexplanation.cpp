@@ -1,0 +1,36 @@
+#include "buttonexplanation.h"
+
+#include <QEvent>
+#include <QWidget>
+
+ButtonExplanation::ButtonExplanation(QWidget& button)
+    : QObject(&button)
+    , m_button(button)
+    , m_sOwnToolTip(button.toolTip())
+    , m_sShown(m_sOwnToolTip)
+{
+    m_button.installEventFilter(this);
+}
+
+ButtonExplanation::~ButtonExplanation() = default;
+
+void ButtonExplanation::Explain(const QString& explanation)
+{
+    m_sExplanation = explanation;
+    apply();
+}
+
+bool ButtonExplanation::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ToolTipChange && m_button.toolTip() != m_sShown) {
+        m_sOwnToolTip = m_button.toolTip();
+        apply();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void ButtonExplanation::apply()
+{
+    m_sShown = m_sExplanation.isEmpty() ? m_sOwnToolTip : m_sOwnToolTip + QLatin1Char('\n') + m_sExplanation;
+    m_button.setToolTip(m_sShown);
+}

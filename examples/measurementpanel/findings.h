@@ -1,0 +1,14 @@
+#ifndef MEASUREMENTPANEL_FINDINGS_H
+#define MEASUREMENTPANEL_FINDINGS_H
+
+#include <QString>
+
+/// The first thing that is wrong with a schema, as the schema doctor puts it; empty when it finds nothing, or when this
+/// program was built without it.
+QString firstFindingInSchema(const QString& schema);
+
+/// The first thing in a report that breaks its schema, as the report checker puts it; empty when it finds nothing, or
+/// when this program was built without it.
+QString firstFindingInReport(const QString& report, const QString& schema);
+
+#endif
