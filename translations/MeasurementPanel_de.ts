@@ -411,6 +411,10 @@
         <source>Have the disk of %1 looked at.</source>
         <translation>Lassen Sie den Datenträger von %1 prüfen.</translation>
     </message>
+    <message>
+        <source>The file is there, well-formed, and keeps to its schema.</source>
+        <translation>Die Datei ist da, wohlgeformt und hält sich an ihr Schema.</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>

@@ -411,6 +411,10 @@
         <source>Have the disk of %1 looked at.</source>
         <translation>Have the disk of %1 looked at.</translation>
     </message>
+    <message>
+        <source>The file is there, well-formed, and keeps to its schema.</source>
+        <translation>The file is there, well-formed, and keeps to its schema.</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>

@@ -411,6 +411,10 @@
         <source>Have the disk of %1 looked at.</source>
         <translation>Faites examiner le disque de %1.</translation>
     </message>
+    <message>
+        <source>The file is there, well-formed, and keeps to its schema.</source>
+        <translation>Le fichier est là, il est bien formé et respecte son schéma.</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>

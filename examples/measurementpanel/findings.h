@@ -7,8 +7,11 @@
 /// program was built without it.
 QString firstFindingInSchema(const QString& schema);
 
-/// The first thing in a report that breaks its schema, as the report checker puts it; empty when it finds nothing, or
-/// when this program was built without it.
+/// The first error of a report by its schema, as the report checker puts it, which speaks English only; empty when it
+/// finds none, or when this program was built without it.
 QString firstFindingInReport(const QString& report, const QString& schema);
+
+/// Whether this program was built with the report checker.
+bool areReportsChecked();
 
 #endif

@@ -46,7 +46,6 @@ LevelTrace::LevelTrace(QWidget* parent)
     }
     m_pPlot->xAxis->ticker()->setTickCount(4);
     m_pPlot->xAxis->setTickLabelPadding(TickLabelPadding);
-    m_pMarker->setGraph(m_pTrace);
     m_pMarker->setStyle(QCPItemTracer::tsCircle);
     m_pMarkerText->position->setParentAnchor(m_pMarker->position);
     m_pMarkerText->position->setCoords(0, -MarkerDistance);
@@ -65,9 +64,10 @@ void LevelTrace::Show(const std::vector<double>& frequencies, const std::vector<
     m_pTrace->setData(vectorOf(frequencies), vectorOf(levels), true);
     if (!frequencies.empty()) {
         m_pPlot->xAxis->setRange(frequencies.front(), frequencies.back());
+        m_pMarker->setGraph(m_pTrace); // asks for data, so only now
+        m_pMarker->setGraphKey(frequency.number);
+        m_pMarker->updatePosition();
     }
-    m_pMarker->setGraphKey(frequency.number);
-    m_pMarker->updatePosition();
     m_pMarkerText->setText(QStringLiteral("%1 %2, %3 %4").arg(frequency.text, frequency.unit, level.text, level.unit));
     Translate();
     m_pPlot->replot(QCustomPlot::rpQueuedReplot);

@@ -40,6 +40,7 @@ struct Press
     qint64 line = 0; ///< where a malformed file breaks off
     qint64 column = 0;
     QString finding; ///< what a check of the report or of its schema has found first; empty: nothing, or no check
+    bool isChecked = false; ///< the report was held against its schema
     QPointer<QWidget> dialog; ///< the comment dialog, also when it has been answered; null without one
 };
 

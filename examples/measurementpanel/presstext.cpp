@@ -103,7 +103,8 @@ QString PressText::Advice(const Press& press)
     case Press::State::WaitingForComment:
         return tr("Type the comment and press Ctrl+Enter. Nothing is on the disk before that.");
     case Press::State::Written:
-        return tr("The file is there, not empty and well-formed.");
+        return press.isChecked ? tr("The file is there, well-formed, and keeps to its schema.")
+                               : tr("The file is there, not empty and well-formed.");
     case Press::State::Doubtful:
         return sentences(press.finding, tr("Show the file to whoever keeps the schema."));
     case Press::State::Discarded:

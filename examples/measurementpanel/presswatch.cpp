@@ -105,6 +105,7 @@ void PressWatch::judgeReport(Press& press) const
         findReason(press, Press::State::Malformed);
         break;
     case FileVerdict::Kind::Sound:
+        press.isChecked = areReportsChecked();
         press.finding = firstFindingInReport(press.path, press.schema);
         press.state = press.finding.isEmpty() ? Press::State::Written : Press::State::Doubtful;
         break;
