@@ -18,7 +18,7 @@ QColor colourOn(const QPalette& palette, QRgb ifLight, QRgb ifDark)
 
 QColor goodColour(const QPalette& palette)
 {
-    return colourOn(palette, 0x2E7D32, 0x81C784);
+    return colourOn(palette, 0x276B2B, 0x81C784);
 }
 
 QColor badColour(const QPalette& palette)

@@ -24,7 +24,7 @@ QString reportName(qint64 time)
 FileVerdict judgeFile(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly)) {
         return {};
     }
     if (file.size() == 0) {

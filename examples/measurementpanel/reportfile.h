@@ -13,7 +13,7 @@ struct FileVerdict
     qint64 column = 0;
 };
 
-/// Reads the file from end to end. One that cannot be read counts as missing.
+/// Reads the file from end to end. One that cannot be read counts as missing, and so does no path at all.
 FileVerdict judgeFile(const QString& path);
 
 /// The report that was made between two moments of the platform's clock, in milliseconds: the report widget names a

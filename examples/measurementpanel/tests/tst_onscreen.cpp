@@ -1,0 +1,339 @@
+#include <QtTest>
+
+#include <cstdio>
+
+#include <QAction>
+#include <QLabel>
+#include <QProcess>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QTableView>
+#include <QTextEdit>
+#include <QToolButton>
+#include <QToolTip>
+
+#include "languages.h"
+#include "panelscene.h"
+
+/// An operator at a real screen: keys and the mouse are those of an X server, sent by xdotool from outside of the
+/// program.
+///
+/// The program starts a server of its own, so it can run beside others and needs no screen. There is no window manager:
+/// the operator points at the window that is to have the keyboard.
+class TestOnScreen : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+
+    void aClickWritesAReport();
+    void theShortcutBeatsTheContextMenu_data();
+    void theShortcutBeatsTheContextMenu();
+    void aCommentIsTypedAndSavedByKeys();
+    void tabGoesFromTheTextOverTheButtons();
+    void escapeAsksAboutATypedComment();
+    void quittingAsksForTheOpenDialogs();
+    void aRemovedDirectoryDisablesTheButtonAndExplains();
+    void aFullDiskIsTold();
+    void theLanguageIsChosenInTheMenu();
+};
+
+namespace {
+
+QString missingTool; ///< why nothing can be tested; empty when it can
+
+/// Runs the tool while the application lives: it shall see what the tool does.
+bool xdotool(const QStringList& arguments)
+{
+    QProcess tool;
+    tool.start(QStringLiteral("xdotool"), arguments);
+    return QTest::qWaitFor([&tool] { return tool.state() == QProcess::NotRunning; }, 20000) && tool.exitCode() == 0;
+}
+
+/// Gives the keyboard to a window, as a click on its frame does where there is a window manager.
+bool pointAt(const QWidget& window)
+{
+    return xdotool({QStringLiteral("windowfocus"), QStringLiteral("--sync"), QString::number(window.winId())})
+        && QTest::qWaitFor([&window] { return window.isActiveWindow(); });
+}
+
+bool pressKeys(const char* keys)
+{
+    return xdotool({QStringLiteral("key"), QString::fromLatin1(keys)});
+}
+
+bool typeText(const char* text)
+{
+    return xdotool({QStringLiteral("type"), QString::fromLatin1(text)});
+}
+
+bool pointTo(const QWidget& widget)
+{
+    const QPoint place = widget.mapToGlobal(widget.rect().center());
+    return xdotool({QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(place.x()),
+                    QString::number(place.y())});
+}
+
+bool clickOn(const QWidget& widget)
+{
+    return pointTo(widget) && xdotool({QStringLiteral("click"), QStringLiteral("1")});
+}
+
+/// The question that is open now.
+QMessageBox* question()
+{
+    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+}
+
+QAbstractButton* buttonOf(const QMessageBox& box, const char* text)
+{
+    const QList<QAbstractButton*> buttons = box.buttons();
+    const auto found = std::find_if(buttons.begin(), buttons.end(), [text](const QAbstractButton* button) {
+        return button->text().remove(QLatin1Char('&')) == QLatin1String(text);
+    });
+    return found == buttons.end() ? nullptr : *found;
+}
+
+/// A scene whose window is in the corner of the screen, drawn, and has the keyboard.
+class ScreenScene : public PanelScene
+{
+public:
+    ScreenScene()
+    {
+        Window().move(0, 0);
+        m_isReady = QTest::qWaitForWindowExposed(&Window()) && pointAt(Window());
+    }
+    bool IsReady() const { return m_isReady; }
+    int Rows() const { return Find<QTableView>("sessionLog")->model()->rowCount(); }
+
+    /// Opens a comment dialog by a click, beside the button.
+    QWidget* OpenDialog()
+    {
+        if (!Find<QWidget>("askForComment")->property("checked").toBool()
+            && !clickOn(*Find<QWidget>("askForComment"))) {
+            return nullptr;
+        }
+        const auto before = openDialogs().size();
+        if (!clickOn(Button()) || !QTest::qWaitFor([before] { return openDialogs().size() > before; })) {
+            return nullptr;
+        }
+        QWidget* const dialog = openDialogs().constLast();
+        dialog->move(950, 100 + 320 * static_cast<int>(before));
+        return QTest::qWaitForWindowExposed(dialog) && pointAt(*dialog) ? dialog : nullptr;
+    }
+
+private:
+    bool m_isReady = false;
+};
+
+} // namespace
+
+void TestOnScreen::initTestCase()
+{
+    if (!missingTool.isEmpty()) {
+        QSKIP(qPrintable(missingTool));
+    }
+    QCOMPARE(QGuiApplication::platformName(), QStringLiteral("xcb"));
+}
+
+void TestOnScreen::cleanup()
+{
+    forgetDialogs();
+}
+
+void TestOnScreen::aClickWritesAReport()
+{
+    ScreenScene scene;
+    QVERIFY(scene.IsReady());
+    QVERIFY(clickOn(scene.Button()));
+    QTRY_COMPARE(scene.Written().size(), 1);
+    QCOMPARE(scene.Verdict(0), QStringLiteral("written"));
+    QVERIFY(scene.LabelText("messageSentence").endsWith(scene.Written().constFirst()));
+
+    QVERIFY(clickOn(*scene.Find<QPushButton>("copyPath")));
+    QTRY_VERIFY(QGuiApplication::clipboard()->text().endsWith(scene.Written().constFirst()));
+}
+
+void TestOnScreen::theShortcutBeatsTheContextMenu_data()
+{
+    QTest::addColumn<QString>("focus");
+    for (const char* const widget : {"reportView", "sessionLog", "askForComment"}) {
+        QTest::newRow(widget) << QString::fromLatin1(widget);
+    }
+}
+
+void TestOnScreen::theShortcutBeatsTheContextMenu()
+{
+    QFETCH(QString, focus);
+    ScreenScene scene;
+    QVERIFY(scene.IsReady());
+    scene.Find<QWidget>(qPrintable(focus))->setFocus();
+    QVERIFY(pressKeys("shift+F10"));
+    QTRY_COMPARE(scene.Rows(), 1);
+    QVERIFY(!QApplication::activePopupWidget());
+    QCOMPARE(scene.Written().size(), 1);
+}
+
+void TestOnScreen::aCommentIsTypedAndSavedByKeys()
+{
+    ScreenScene scene;
+    QVERIFY(scene.IsReady());
+    QWidget* const dialog = scene.OpenDialog();
+    QVERIFY(dialog);
+    QCOMPARE(scene.Verdict(0), QStringLiteral("waiting for comment"));
+
+    QVERIFY(typeText("drifts")); // nobody has clicked into the text
+    QVERIFY(pressKeys("Return"));
+    QVERIFY(typeText("and fades"));
+    QVERIFY(pressKeys("ctrl+Return"));
+    QTRY_VERIFY(!dialog->isVisible());
+    QTRY_COMPARE(scene.Verdict(0), QStringLiteral("written"));
+    QVERIFY(readFile(scene.LabelText("messagePath")).contains(QLatin1String("<Comment>drifts\nand fades</Comment>")));
+}
+
+void TestOnScreen::tabGoesFromTheTextOverTheButtons()
+{
+    ScreenScene scene;
+    QVERIFY(scene.IsReady());
+    const QWidget* const dialog = scene.OpenDialog();
+    QVERIFY(dialog);
+    for (const char* const name : {"m_pTextEdit", "m_pSaveButton", "m_pNoCommentButton", "m_pTextEdit"}) {
+        QTRY_COMPARE(dialog->focusWidget()->objectName(), QLatin1String(name));
+        QVERIFY(pressKeys("Tab"));
+    }
+    QTRY_COMPARE(dialog->focusWidget()->objectName(), QStringLiteral("m_pSaveButton"));
+    QVERIFY(pressKeys("Tab"));
+    QVERIFY(pressKeys("space"));
+    QTRY_VERIFY(!dialog->isVisible());
+    QCOMPARE(scene.Written().size(), 1);
+}
+
+void TestOnScreen::escapeAsksAboutATypedComment()
+{
+    ScreenScene scene;
+    QVERIFY(scene.IsReady());
+    const QWidget* const dialog = scene.OpenDialog();
+    QVERIFY(dialog);
+    QVERIFY(typeText("drifts"));
+    QVERIFY(pressKeys("Escape"));
+    QTRY_VERIFY(question());
+    QVERIFY(clickOn(*question()->button(QMessageBox::Yes)));
+    QTRY_VERIFY(!dialog->isVisible());
+    QTRY_COMPARE(scene.Written().size(), 1);
+    QVERIFY(readFile(scene.LabelText("messagePath")).contains(QLatin1String("<Comment>drifts</Comment>")));
+}
+
+void TestOnScreen::quittingAsksForTheOpenDialogs()
+{
+    ScreenScene scene;
+    QVERIFY(scene.IsReady());
+    QVERIFY(scene.OpenDialog());
+    QVERIFY(scene.OpenDialog());
+    QVERIFY(pointAt(scene.Window()));
+    QVERIFY(pressKeys("ctrl+q"));
+    QTRY_VERIFY(question());
+    QVERIFY(clickOn(*buttonOf(*question(), "Stay")));
+    QTRY_VERIFY(!question());
+    QVERIFY(scene.Window().isVisible());
+    QCOMPARE(openDialogs().size(), 2);
+
+    QVERIFY(pointAt(scene.Window()));
+    QVERIFY(pressKeys("ctrl+q"));
+    QTRY_VERIFY(question());
+    QVERIFY(clickOn(*buttonOf(*question(), "Save all without comment")));
+    QTRY_VERIFY(!scene.Window().isVisible());
+    QCOMPARE(scene.Written().size(), 2);
+    QCOMPARE(openDialogs().size(), 0);
+}
+
+void TestOnScreen::aRemovedDirectoryDisablesTheButtonAndExplains()
+{
+    ScreenScene scene;
+    QVERIFY(scene.IsReady());
+    QVERIFY(scene.RemoveReports());
+    QTRY_VERIFY_WITH_TIMEOUT(!scene.Button().isEnabled(), 1000);
+    QVERIFY(pointTo(scene.Button()));
+    QTRY_VERIFY(QToolTip::isVisible());
+    QVERIFY(QToolTip::text().contains(scene.Reports()));
+
+    QVERIFY(pressKeys("shift+F10"));
+    QVERIFY(scene.RestoreReports());
+    QTRY_VERIFY_WITH_TIMEOUT(scene.Button().isEnabled(), 1000);
+    QCOMPARE(scene.Rows(), 0);
+    QVERIFY(pressKeys("shift+F10"));
+    QTRY_COMPARE(scene.Written().size(), 1);
+}
+
+void TestOnScreen::aFullDiskIsTold()
+{
+    ScreenScene scene;
+    QVERIFY(scene.IsReady());
+    QVERIFY(pointTo(scene.Button()));
+    const FullDisk disk;
+    QVERIFY(xdotool({QStringLiteral("click"), QStringLiteral("1")}));
+    QTRY_COMPARE(scene.Rows(), 1);
+    QCOMPARE(scene.Verdict(0), QStringLiteral("not saved: disk full"));
+}
+
+void TestOnScreen::theLanguageIsChosenInTheMenu()
+{
+    Languages languages(QStringLiteral(MEASUREMENTPANEL_TRANSLATIONS));
+    if (languages.GetAvailable().size() == 1) {
+        QSKIP("Built without lrelease: there are no translations.");
+    }
+    ScreenScene scene;
+    QVERIFY(scene.IsReady());
+    scene.Window().OfferLanguages(languages);
+    // The menu "Settings" by its letter; its last entry holds the languages, of which the first is German.
+    QVERIFY(pressKeys("alt+s"));
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    QVERIFY(pressKeys("l"));
+    QVERIFY(pressKeys("d"));
+    QTRY_COMPARE(scene.Window().windowTitle(), QStringLiteral("Messpult"));
+    languages.Use(QStringLiteral("en"));
+}
+
+namespace {
+
+/// Starts a server that chooses its own number and tells it; gives that number, empty when it has not started.
+QByteArray startServer(QProcess& server)
+{
+    server.start(QStringLiteral("Xvfb"),
+                 {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
+                  QStringLiteral("1400x1000x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+    return server.waitForStarted() && server.waitForReadyRead() ? server.readLine().trimmed() : QByteArray();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QProcess server;
+    for (const char* const tool : {"Xvfb", "xdotool"}) {
+        if (QStandardPaths::findExecutable(QString::fromLatin1(tool)).isEmpty()) {
+            missingTool = QStringLiteral("%1 is missing: there is no screen to drive.").arg(QLatin1String(tool));
+        }
+    }
+    if (missingTool.isEmpty()) {
+        const QByteArray display = startServer(server);
+        if (display.isEmpty()) {
+            std::fprintf(stderr, "Xvfb has not started.\n");
+            return 1;
+        }
+        qputenv("DISPLAY", ':' + display);
+        qputenv("QT_QPA_PLATFORM", "xcb");
+    }
+    int result = 0;
+    {
+        QApplication application(argc, argv);
+        TestOnScreen test;
+        result = QTest::qExec(&test, argc, argv);
+    }
+    server.terminate();
+    server.waitForFinished();
+    return result;
+}
+
+#include "tst_onscreen.moc"
