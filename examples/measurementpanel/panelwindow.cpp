@@ -273,6 +273,7 @@ void PanelWindow::createMenus()
     m_pChooseSchema = m_pSettingsMenu->addAction(QString(), this, &PanelWindow::chooseSchema);
     m_pChooseDirectory = m_pSettingsMenu->addAction(QString(), this, &PanelWindow::chooseReportDirectory);
     m_pLanguageMenu = m_pSettingsMenu->addMenu(QString());
+    m_pLanguageMenu->setObjectName(QStringLiteral("languageMenu"));
     m_pLanguageMenu->setEnabled(false);
     m_pLanguageActions = new QActionGroup(this);
 }
