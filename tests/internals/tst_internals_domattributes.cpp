@@ -41,11 +41,11 @@ void TestDomAttributes::listsInTheOrderOfTheMap()
     if (!oddName.isEmpty()) {
         element.setAttribute(oddName, QStringLiteral("odd"));
     }
-    const std::vector<QDomAttr> attributes = attributesOf(element);
+    const DomAttributes attributes = attributesOf(element);
     const QDomNamedNodeMap map = element.attributes();
-    QCOMPARE(static_cast<int>(attributes.size()), map.count());
+    QCOMPARE(int(attributes.size()), map.count());
     for (int i = 0; i < map.count(); ++i) {
-        QVERIFY(attributes[static_cast<std::size_t>(i)] == map.item(i));
+        QVERIFY(attributes[i] == map.item(i));
     }
 }
 

@@ -24,9 +24,19 @@ void useUtf8(QTextStream& stream)
     stream.setAutoDetectUnicode(true);
 }
 
+bool isForUtf8(const QDomDocument& document)
+{
+    const QString declaration = document.firstChild().toProcessingInstruction().data();
+    return !declaration.contains(QLatin1String("encoding")) || declaration.contains(QLatin1String("UTF-8"));
+}
+
 QByteArray serialised(const QDomDocument& document)
 {
     const TextsInPieces pieces(document);
+    if (isForUtf8(document)) {
+        return document.toString(SavedIndent).toUtf8(); // A stream that encodes does so line by line.
+    }
+    // Qt gives the stream the encoding that the document declares, if it knows that.
     QByteArray bytes;
     QTextStream stream(&bytes, QIODevice::WriteOnly);
     useUtf8(stream);

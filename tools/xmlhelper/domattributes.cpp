@@ -49,33 +49,33 @@ QStringList savedAttributeNames(const QDomElement& element)
     return reader.names;
 }
 
-std::vector<QDomAttr> countedAttributes(const QDomNamedNodeMap& map)
+DomAttributes countedAttributes(const QDomNamedNodeMap& map)
 {
-    std::vector<QDomAttr> attributes;
+    DomAttributes attributes;
     const int count = map.count();
-    attributes.reserve(static_cast<std::size_t>(count));
+    attributes.reserve(count);
     for (int i = 0; i < count; ++i) {
-        attributes.push_back(map.item(i).toAttr());
+        attributes.append(map.item(i).toAttr());
     }
     return attributes;
 }
 
 } // namespace
 
-std::vector<QDomAttr> attributesOf(const QDomElement& element)
+DomAttributes attributesOf(const QDomElement& element)
 {
     const QDomNamedNodeMap map = element.attributes();
     if (map.count() <= FewAttributes) {
         return countedAttributes(map);
     }
-    std::vector<QDomAttr> attributes;
+    DomAttributes attributes;
     const QStringList names = savedAttributeNames(element);
-    attributes.reserve(static_cast<std::size_t>(names.size()));
+    attributes.reserve(static_cast<int>(names.size()));
     for (const QString& name : names) {
-        attributes.push_back(map.namedItem(name).toAttr());
+        attributes.append(map.namedItem(name).toAttr());
     }
     // A name that XML does not allow is not read back as it was.
-    const bool isComplete = static_cast<int>(attributes.size()) == map.count()
+    const bool isComplete = attributes.size() == map.count()
         && std::none_of(attributes.begin(), attributes.end(), [](const QDomAttr& attr) { return attr.isNull(); });
     return isComplete ? attributes : countedAttributes(map);
 }

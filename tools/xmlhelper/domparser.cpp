@@ -21,9 +21,10 @@ namespace {
 
 QXmlAttributes saxAttributesOf(const QDomNode& node)
 {
+    const QString none = QStringLiteral("");
     QXmlAttributes attributes;
     for (const QDomAttr& attribute : attributesOf(node.toElement())) {
-        attributes.append(attribute.name(), QLatin1String(""), QLatin1String(""), attribute.value());
+        attributes.append(attribute.name(), none, none, attribute.value());
     }
     return attributes;
 }
@@ -51,17 +52,11 @@ DomParser::DomParser(IXMLHelper* pCallback, const OccursMap& occurs, const Choic
     if (!checkObserver(pCallback, "DomParser", "domparser", 37)) {
         return;
     }
-    m_limitedNames.reserve(static_cast<int>(occurs.size()));
-    m_occursCodes.reserve(static_cast<int>(occurs.size()));
-    for (const auto& [name, codes] : occurs) {
-        m_limitedNames.insert(name);
-        for (const auto& [code, owners] : codes) {
-            for (const QString& owner : owners) {
-                m_ownerNames.insert(owner);
-                if (!m_occursCodes.contains({name, owner}, code)) {
-                    m_occursCodes.insert({name, owner}, code);
-                }
-            }
+    m_declarations.reserve(static_cast<int>(occurs.size()));
+    for (const auto& [name, ownersOfCodes] : occurs) {
+        const Declarations& declarations = *m_declarations.insert(name, declarationsOf(ownersOfCodes));
+        for (const Declaration& declaration : declarations) {
+            m_ownerNames.insert(declaration.owner);
         }
     }
     for (const auto& alternative : choices) {
@@ -154,7 +149,11 @@ bool DomParser::IsBelowOwner(const QString& name, const QString& ownerName, cons
 bool DomParser::IsDeclaredAbove(const QString& name, const QString& tagName, const QDomNode& element,
                                 const std::function<bool(int)>& isWanted)
 {
-    const auto isOwner = [&](const QString& owner) { return isDeclaredBelow(name, owner, isWanted); };
+    const auto declarations = m_declarations.constFind(name);
+    if (declarations == m_declarations.constEnd()) {
+        return false;
+    }
+    const auto isOwner = [&](const QString& owner) { return isDeclaredBelow(*declarations, owner, isWanted); };
     if (!m_pOwners->Refresh()) {
         return std::any_of(m_ownerNames.begin(), m_ownerNames.end(), [&](const QString& owner) {
             return isOwner(owner) && isBelowAnyCalled(owner, tagName, element);
@@ -283,19 +282,35 @@ bool DomParser::checkCurrentElement()
 bool DomParser::isOptional()
 {
     const QString name = m_currentElement.tagName();
-    if (!m_limitedNames.contains(name)) {
+    if (!m_declarations.contains(name)) {
         deliver<ErrorEvent>(m_pCallback, IXMLHelper::VALUE_IS_NOT_VALID);
         return false;
     }
     return IsDeclaredAbove(name, name, m_currentElement, isOptionalCode);
 }
 
-bool DomParser::isDeclaredBelow(const QString& name, const QString& ownerName,
-                                const std::function<bool(int)>& isWanted) const
+DomParser::Declarations DomParser::declarationsOf(const std::map<int, std::list<QString>>& ownersOfCodes)
 {
-    const QPair<QString, QString> key(name, ownerName);
-    for (auto code = m_occursCodes.constFind(key); code != m_occursCodes.constEnd() && code.key() == key; ++code) {
-        if (isWanted(*code)) {
+    Declarations declarations;
+    for (const auto& [code, owners] : ownersOfCodes) {
+        for (const QString& owner : owners) {
+            declarations.append({owner, code});
+        }
+    }
+    std::stable_sort(declarations.begin(), declarations.end(),
+                     [](const Declaration& left, const Declaration& right) { return left.owner < right.owner; });
+    return declarations;
+}
+
+/// Whether one of the declarations under @p ownerName has a code that is wanted.
+bool DomParser::isDeclaredBelow(const Declarations& declarations, const QString& ownerName,
+                                const std::function<bool(int)>& isWanted)
+{
+    const auto isBefore
+        = [](const Declaration& declaration, const QString& owner) { return declaration.owner < owner; };
+    auto declaration = std::lower_bound(declarations.begin(), declarations.end(), ownerName, isBefore);
+    for (; declaration != declarations.end() && declaration->owner == ownerName; ++declaration) {
+        if (isWanted(declaration->occursCode)) {
             return true;
         }
     }

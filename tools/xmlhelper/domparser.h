@@ -3,15 +3,16 @@
 
 #include <functional>
 #include <list>
+#include <map>
 #include <memory>
 #include <vector>
 
 #include <QDomDocument>
 #include <QDomElement>
-#include <QMultiHash>
-#include <QPair>
+#include <QHash>
 #include <QSet>
 #include <QString>
+#include <QVarLengthArray>
 
 #include "ownerindex.h"
 #include "schemamodel.h"
@@ -87,6 +88,14 @@ public:
 private:
     Q_DISABLE_COPY(DomParser)
 
+    /// One occurs code with one owner under which it was declared.
+    struct Declaration
+    {
+        QString owner;
+        int occursCode;
+    };
+    using Declarations = QVarLengthArray<Declaration, 1>; // Few elements are declared twice.
+
     /// Where the walk stands among the children of one element.
     struct Level
     {
@@ -105,15 +114,17 @@ private:
     void removeCurrentElement();
     QDomNode removeAndKeep(const QDomNode& node);
     bool isBelowAnyCalled(const QString& ownerName, const QString& tagName, const QDomNode& element);
-    bool isDeclaredBelow(const QString& name, const QString& ownerName, const std::function<bool(int)>& isWanted) const;
+    static Declarations declarationsOf(const std::map<int, std::list<QString>>& ownersOfCodes);
+    static bool isDeclaredBelow(const Declarations& declarations, const QString& ownerName,
+                                const std::function<bool(int)>& isWanted);
 
     QDomDocument* m_pDocument;
     QDomNode m_resumeNode; ///< where the walk goes on after a notice or a removal
     QDomElement m_currentElement;
     QDomElement m_probationElement; ///< kept only if something inside it is filled; null when there is none
     IXMLHelper* m_pCallback;
-    QSet<QString> m_limitedNames; ///< that have an entry in the occurrence map
-    QMultiHash<QPair<QString, QString>, int> m_occursCodes; ///< of an element name and an owner name
+    /// Of each element name that has an entry in the occurrence map, in the order of the owners' names.
+    QHash<QString, Declarations> m_declarations;
     QSet<QString> m_ownerNames;
     QSet<QString> m_choiceNames;
     bool m_bResume; ///< a notice is pending

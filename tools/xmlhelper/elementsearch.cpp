@@ -4,10 +4,11 @@
 
 namespace {
 
-/// Whether a walk that starts at @p node has its start for a match.
+/// Whether a walk that starts at @p node, whose node name does not match, has its start for a match.
 bool isMatchingAsStart(const QDomNode& node, const QString& name)
 {
-    return node.isElement() && node.toElement().tagName() == name;
+    // Only documents read with namespace processing know local names.
+    return node.isElement() && !node.localName().isNull() && node.toElement().tagName() == name;
 }
 
 } // namespace

@@ -185,7 +185,8 @@ void XmlCreateReport::SetXmlValue(QString value)
     }
     const QString text = representableText(value, "XmlCreateReport::SetXmlValue");
     if (useEnumeration(text, isEnumerationOfElement)) {
-        removeAttribute(*m_pDomParser, TypeAttribute());
+        const OwnerIndex::OwnChange change = m_pDomParser->Change();
+        m_pCurrentElement->removeAttribute(TypeAttribute());
         CreateAndAppendTextNode(text);
     }
 }
@@ -199,7 +200,8 @@ void XmlCreateReport::SetXmlValue(double value)
     const bool isShort = m_pCurrentElement && TypeControl(wanted) == ShortType;
     const QString text = isShort ? QString::number(toInt32(value)) : toReportText(value);
     if (isTypeAccepted(wanted, IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE) && useRange(value)) {
-        removeAttribute(*m_pDomParser, TypeAttribute());
+        const OwnerIndex::OwnChange change = m_pDomParser->Change();
+        m_pCurrentElement->removeAttribute(TypeAttribute());
         CreateAndAppendTextNode(text);
     }
 }
@@ -219,7 +221,8 @@ void XmlCreateReport::SetXmlValue(int value)
 void XmlCreateReport::SetXmlValue(bool value)
 {
     if (isTypeAccepted(QStringLiteral("bool"), IXMLHelper::CURRENT_TYPE_IS_NOT_BOOLEAN)) {
-        removeAttribute(*m_pDomParser, TypeAttribute());
+        const OwnerIndex::OwnChange change = m_pDomParser->Change();
+        m_pCurrentElement->removeAttribute(TypeAttribute());
         CreateAndAppendTextNode(value ? QStringLiteral("true") : QStringLiteral("false"));
     }
 }
@@ -227,16 +230,18 @@ void XmlCreateReport::SetXmlValue(bool value)
 void XmlCreateReport::SetXmlValue(QDateTime value)
 {
     if (isTypeAccepted(QStringLiteral("dateTime"), IXMLHelper::CURRENT_TYPE_IS_NOT_DATETIME)) {
+        const OwnerIndex::OwnChange change = m_pDomParser->Change();
         CreateAndAppendTextNode(value.toString(Qt::ISODate));
-        removeAttribute(*m_pDomParser, TypeAttribute());
+        m_pCurrentElement->removeAttribute(TypeAttribute());
     }
 }
 
 void XmlCreateReport::SetXmlValue(QTime value)
 {
     if (isTypeAccepted(QStringLiteral("time"), IXMLHelper::CURRENT_TYPE_IS_NOT_TIME)) {
+        const OwnerIndex::OwnChange change = m_pDomParser->Change();
         CreateAndAppendTextNode(value.toString(Qt::ISODate));
-        removeAttribute(*m_pDomParser, TypeAttribute());
+        m_pCurrentElement->removeAttribute(TypeAttribute());
     }
 }
 
@@ -464,7 +469,7 @@ bool XmlCreateReport::isAttributeTypeAccepted(const QString& name, const QString
 template <class IsEnumerationName>
 bool XmlCreateReport::useEnumeration(const QString& value, IsEnumerationName isEnumerationName)
 {
-    const std::vector<QDomAttr> attributes = attributesOf(*m_pCurrentElement);
+    const DomAttributes attributes = attributesOf(*m_pCurrentElement);
     QStringList names;
     QString lastValue;
     bool isFound = false;

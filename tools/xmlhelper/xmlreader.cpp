@@ -10,6 +10,7 @@
 #include "elementsearch.h"
 #include "guardedsource.h"
 #include "nestingguard.h"
+#include "tagscanner.h"
 #include "tracing.h"
 #include "xmlcontenthandler.h"
 
@@ -39,6 +40,11 @@ bool isNestingWithinLimit(const QDomNode& node)
 /// Whether Qt can read the file into a document without running out of stack, memory or time.
 bool isWithinLimits(QFile& file)
 {
+    if (file.open(QIODevice::ReadOnly) && isSurelyNestedWithin(MaxElementNesting, file)) {
+        file.close();
+        return true;
+    }
+    file.close();
     QXmlDefaultHandler nobody;
     NestingGuard guard(&nobody);
     QXmlSimpleReader parser;
