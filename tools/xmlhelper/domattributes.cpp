@@ -14,7 +14,7 @@ QT_WARNING_DISABLE_DEPRECATED
 namespace {
 
 /// Up to here counting from the start is the fastest way.
-constexpr int FewAttributes = 64;
+constexpr int FewAttributes = 500;
 
 /// Takes the attribute names of the first tag and ends the parse.
 class FirstTagReader : public QXmlDefaultHandler

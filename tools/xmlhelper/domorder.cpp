@@ -4,12 +4,17 @@
 
 QDomNode nextBelow(const QDomNode& start, const QDomNode& node, bool isToSkipChildren)
 {
-    if (!isToSkipChildren && node.isElement() && node.hasChildNodes()) {
-        return node.firstChild();
+    if (!isToSkipChildren && node.isElement()) {
+        const QDomNode child = node.firstChild();
+        if (!child.isNull()) {
+            return child;
+        }
     }
-    QDomNode last = node;
-    while (last != start && last.nextSibling().isNull()) {
-        last = last.parentNode();
+    for (QDomNode last = node; last != start && !last.isNull(); last = last.parentNode()) {
+        const QDomNode next = last.nextSibling();
+        if (!next.isNull()) {
+            return next;
+        }
     }
-    return last == start ? QDomNode() : last.nextSibling();
+    return QDomNode();
 }

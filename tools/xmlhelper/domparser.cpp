@@ -1,7 +1,10 @@
 #include "domparser.h"
 
 #include <algorithm>
+#include <list>
+#include <map>
 #include <memory>
+#include <utility>
 
 #include <QXmlAttributes>
 
@@ -34,6 +37,37 @@ bool isValueElement(const QDomElement& element)
     return !element.attribute(TypeAttribute()).isEmpty();
 }
 
+/// Up to here a list of owners is looked through as it is.
+constexpr std::size_t FewOwners = 8;
+
+bool isLong(const std::map<int, std::list<QString>>& ownersOfCodes)
+{
+    return std::any_of(ownersOfCodes.begin(), ownersOfCodes.end(),
+                       [](const auto& ownersOfCode) { return ownersOfCode.second.size() > FewOwners; });
+}
+
+/// Whether @p owner is listed with a code that is wanted.
+bool isAmong(const std::map<int, std::list<QString>>& ownersOfCodes, const QString& owner,
+             const std::function<bool(int)>& isWanted)
+{
+    return std::any_of(ownersOfCodes.begin(), ownersOfCodes.end(), [&](const auto& ownersOfCode) {
+        const std::list<QString>& owners = ownersOfCode.second;
+        return isWanted(ownersOfCode.first) && std::find(owners.begin(), owners.end(), owner) != owners.end();
+    });
+}
+
+/// The same for declarations in the order of the owners' names.
+bool isAmong(const std::vector<std::pair<QString, int>>& declarations, const QString& owner,
+             const std::function<bool(int)>& isWanted)
+{
+    auto declaration = std::lower_bound(declarations.begin(), declarations.end(), owner,
+                                        [](const auto& left, const QString& name) { return left.first < name; });
+    while (declaration != declarations.end() && declaration->first == owner && !isWanted(declaration->second)) {
+        ++declaration;
+    }
+    return declaration != declarations.end() && declaration->first == owner;
+}
+
 /// Whether an occurs code is one of minOccurs 0.
 bool isOptionalCode(int occursCode)
 {
@@ -42,7 +76,7 @@ bool isOptionalCode(int occursCode)
 
 } // namespace
 
-DomParser::DomParser(IXMLHelper* pCallback, const OccursMap& occurs, const ChoiceMap& choices)
+DomParser::DomParser(IXMLHelper* pCallback, OccursMap occurs, const ChoiceMap& choices)
     : m_pDocument(nullptr)
     , m_pCallback(pCallback)
     , m_bResume(false)
@@ -52,13 +86,7 @@ DomParser::DomParser(IXMLHelper* pCallback, const OccursMap& occurs, const Choic
     if (!checkObserver(pCallback, "DomParser", "domparser", 37)) {
         return;
     }
-    m_declarations.reserve(static_cast<int>(occurs.size()));
-    for (const auto& [name, ownersOfCodes] : occurs) {
-        const Declarations& declarations = *m_declarations.insert(name, declarationsOf(ownersOfCodes));
-        for (const Declaration& declaration : declarations) {
-            m_ownerNames.insert(declaration.owner);
-        }
-    }
+    m_occurs = std::move(occurs);
     for (const auto& alternative : choices) {
         m_choiceNames.insert(alternative.second);
     }
@@ -80,7 +108,7 @@ bool DomParser::Walk()
     if (!m_pCallback || !m_pDocument || m_pDocument->documentElement().isNull()) {
         return false;
     }
-    m_pOwners = std::make_unique<OwnerIndex>(*m_pDocument, m_ownerNames);
+    m_pOwners.reset();
     deliver<DocBeginEvent>(m_pCallback);
     const QDomElement root = m_pDocument->documentElement();
     m_currentElement = root;
@@ -146,16 +174,28 @@ bool DomParser::IsBelowOwner(const QString& name, const QString& ownerName, cons
     return !start.isNull() && search.IsMatch(name, start, element);
 }
 
+bool DomParser::IsLimited(const QString& name) const
+{
+    return m_occurs.find(name) != m_occurs.end();
+}
+
 bool DomParser::IsDeclaredAbove(const QString& name, const QString& tagName, const QDomNode& element,
                                 const std::function<bool(int)>& isWanted)
 {
-    const auto declarations = m_declarations.constFind(name);
-    if (declarations == m_declarations.constEnd()) {
+    const auto limits = m_occurs.find(name);
+    if (limits == m_occurs.end() || !m_pDocument) {
         return false;
     }
-    const auto isOwner = [&](const QString& owner) { return isDeclaredBelow(*declarations, owner, isWanted); };
+    const Declarations* const sorted = isLong(limits->second) ? &sortedDeclarations(name, limits->second) : nullptr;
+    const auto isOwner = [&](const QString& owner) {
+        return sorted ? isAmong(*sorted, owner, isWanted) : isAmong(limits->second, owner, isWanted);
+    };
+    if (!m_pOwners) {
+        m_pOwners = std::make_unique<OwnerIndex>(*m_pDocument, ownerNames());
+    }
     if (!m_pOwners->Refresh()) {
-        return std::any_of(m_ownerNames.begin(), m_ownerNames.end(), [&](const QString& owner) {
+        const QSet<QString> owners = ownerNames();
+        return std::any_of(owners.begin(), owners.end(), [&](const QString& owner) {
             return isOwner(owner) && isBelowAnyCalled(owner, tagName, element);
         });
     }
@@ -186,12 +226,19 @@ bool DomParser::isBelowAnyCalled(const QString& ownerName, const QString& tagNam
 
 QDomNode DomParser::Remove(const QDomNode& node)
 {
-    return m_pOwners->Remove(node);
+    return m_pOwners ? m_pOwners->Remove(node) : node.parentNode().removeChild(node);
 }
 
 void DomParser::InsertCopies(const QDomElement& element, int copies)
 {
-    m_pOwners->InsertCopies(element, copies);
+    if (m_pOwners) {
+        m_pOwners->InsertCopies(element, copies);
+        return;
+    }
+    QDomNode parent = element.parentNode();
+    for (int copy = 0; copy < copies; ++copy) {
+        parent.insertAfter(element.cloneNode(true), element);
+    }
 }
 
 /// Announces the node on which the walk stands and moves on from it.
@@ -244,7 +291,7 @@ void DomParser::announce(const QDomNode& node, const QString& text)
     m_bAnnounced = true;
     const QString name = node.nodeName();
     deliver<ElemBeginEvent>(m_pCallback, node, name, saxAttributesOf(node), text);
-    if (node.nodeName() != name) {
+    if (m_pOwners && node.nodeName() != name) {
         m_pOwners->Invalidate();
     }
 }
@@ -282,39 +329,42 @@ bool DomParser::checkCurrentElement()
 bool DomParser::isOptional()
 {
     const QString name = m_currentElement.tagName();
-    if (!m_declarations.contains(name)) {
+    if (!IsLimited(name)) {
         deliver<ErrorEvent>(m_pCallback, IXMLHelper::VALUE_IS_NOT_VALID);
         return false;
     }
     return IsDeclaredAbove(name, name, m_currentElement, isOptionalCode);
 }
 
-DomParser::Declarations DomParser::declarationsOf(const std::map<int, std::list<QString>>& ownersOfCodes)
+QSet<QString> DomParser::ownerNames() const
 {
-    Declarations declarations;
-    for (const auto& [code, owners] : ownersOfCodes) {
-        for (const QString& owner : owners) {
-            declarations.append({owner, code});
+    QSet<QString> names;
+    QString last;
+    for (const auto& limits : m_occurs) {
+        for (const auto& ownersOfCode : limits.second) {
+            for (const QString& owner : ownersOfCode.second) {
+                if (owner != last) {
+                    last = owner;
+                    names.insert(owner);
+                }
+            }
         }
     }
-    std::stable_sort(declarations.begin(), declarations.end(),
-                     [](const Declaration& left, const Declaration& right) { return left.owner < right.owner; });
-    return declarations;
+    return names;
 }
 
-/// Whether one of the declarations under @p ownerName has a code that is wanted.
-bool DomParser::isDeclaredBelow(const Declarations& declarations, const QString& ownerName,
-                                const std::function<bool(int)>& isWanted)
+const DomParser::Declarations& DomParser::sortedDeclarations(const QString& name, const OwnersOfCodes& ownersOfCodes)
 {
-    const auto isBefore
-        = [](const Declaration& declaration, const QString& owner) { return declaration.owner < owner; };
-    auto declaration = std::lower_bound(declarations.begin(), declarations.end(), ownerName, isBefore);
-    for (; declaration != declarations.end() && declaration->owner == ownerName; ++declaration) {
-        if (isWanted(declaration->occursCode)) {
-            return true;
+    Declarations& declarations = m_sortedDeclarations[name];
+    if (declarations.empty()) {
+        for (const auto& [code, owners] : ownersOfCodes) {
+            for (const QString& owner : owners) {
+                declarations.push_back({owner, code});
+            }
         }
+        std::sort(declarations.begin(), declarations.end());
     }
-    return false;
+    return declarations;
 }
 
 bool DomParser::isChoiceAlternative() const

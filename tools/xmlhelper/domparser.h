@@ -3,8 +3,8 @@
 
 #include <functional>
 #include <list>
-#include <map>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include <QDomDocument>
@@ -12,7 +12,6 @@
 #include <QHash>
 #include <QSet>
 #include <QString>
-#include <QVarLengthArray>
 
 #include "ownerindex.h"
 #include "schemamodel.h"
@@ -40,9 +39,7 @@ class DomParser
 {
 public:
     /// @param pCallback  the observer, not owned
-    /// @param occurs     copied
-    /// @param choices    copied
-    DomParser(IXMLHelper* pCallback, const OccursMap& occurs, const ChoiceMap& choices);
+    DomParser(IXMLHelper* pCallback, OccursMap occurs, const ChoiceMap& choices);
 
     /// Takes the document to walk, not owned. Null is refused (false) and changes nothing.
     bool SetDocument(QDomDocument* document);
@@ -67,14 +64,17 @@ public:
     /// list. An empty owner name is nobody's.
     bool IsBelowOwner(const QString& name, const QString& ownerName, const QDomNode& element);
 
+    /// Whether the occurrence of elements called @p name is limited in any way.
+    bool IsLimited(const QString& name) const;
+
     /// Whether @p element, called @p tagName, is one of those that IsBelowOwner() accepts for some owner under which
     /// @p name was declared with an occurs code that @p isWanted accepts. What it costs depends on how deep the element
     /// stands, not on the number of owners or elements.
     bool IsDeclaredAbove(const QString& name, const QString& tagName, const QDomNode& element,
                          const std::function<bool(int)>& isWanted);
 
-    // The changes of the builder, which are to be made with these from the start of the walk on. Anything else that
-    // happens to the document is noticed, and costs a new look at all of it.
+    // The changes of the builder, which are to be made with these. Anything else that happens to the document is
+    // noticed, and costs a new look at all of it.
 
     /// Removes @p node from its parent; gives a null node when it could not be removed.
     QDomNode Remove(const QDomNode& node);
@@ -88,13 +88,10 @@ public:
 private:
     Q_DISABLE_COPY(DomParser)
 
-    /// One occurs code with one owner under which it was declared.
-    struct Declaration
-    {
-        QString owner;
-        int occursCode;
-    };
-    using Declarations = QVarLengthArray<Declaration, 1>; // Few elements are declared twice.
+    using OwnersOfCodes = OccursMap::mapped_type;
+
+    /// The owners of a name and the occurs codes that they go with, in the order of the owners' names.
+    using Declarations = std::vector<std::pair<QString, int>>;
 
     /// Where the walk stands among the children of one element.
     struct Level
@@ -114,18 +111,16 @@ private:
     void removeCurrentElement();
     QDomNode removeAndKeep(const QDomNode& node);
     bool isBelowAnyCalled(const QString& ownerName, const QString& tagName, const QDomNode& element);
-    static Declarations declarationsOf(const std::map<int, std::list<QString>>& ownersOfCodes);
-    static bool isDeclaredBelow(const Declarations& declarations, const QString& ownerName,
-                                const std::function<bool(int)>& isWanted);
+    QSet<QString> ownerNames() const;
+    const Declarations& sortedDeclarations(const QString& name, const OwnersOfCodes& ownersOfCodes);
 
     QDomDocument* m_pDocument;
     QDomNode m_resumeNode; ///< where the walk goes on after a notice or a removal
     QDomElement m_currentElement;
     QDomElement m_probationElement; ///< kept only if something inside it is filled; null when there is none
     IXMLHelper* m_pCallback;
-    /// Of each element name that has an entry in the occurrence map, in the order of the owners' names.
-    QHash<QString, Declarations> m_declarations;
-    QSet<QString> m_ownerNames;
+    OccursMap m_occurs;
+    QHash<QString, Declarations> m_sortedDeclarations; ///< of names with many owners that have been asked for
     QSet<QString> m_choiceNames;
     bool m_bResume; ///< a notice is pending
     bool m_bRevisit; ///< the notice asks to announce its element
@@ -136,7 +131,7 @@ private:
     /// Keeps alive what was removed: the walk goes on inside a container that was removed from further below, and the
     /// current element may stay there.
     std::list<QDomNode> m_removedNodes;
-    std::unique_ptr<OwnerIndex> m_pOwners; ///< from the start of the walk on
+    std::unique_ptr<OwnerIndex> m_pOwners; ///< from the first question on that it answers
 };
 
 #endif

@@ -72,14 +72,29 @@ GuardedSource::GuardedSource(const QByteArray& bytes)
 
 GuardedSource::~GuardedSource() = default;
 
+bool GuardedSource::IsNeededFor(const QString& text)
+{
+    return text.contains(QLatin1String("<!DOCTYPE"));
+}
+
 bool GuardedSource::Parse(QXmlSimpleReader& parser)
+{
+    Watch(parser);
+    const bool isParsed = parser.parse(this);
+    Leave(parser);
+    return isParsed;
+}
+
+void GuardedSource::Watch(QXmlSimpleReader& parser)
 {
     parser.setLexicalHandler(this);
     parser.setDeclHandler(this);
-    const bool isParsed = parser.parse(this);
+}
+
+void GuardedSource::Leave(QXmlSimpleReader& parser)
+{
     parser.setLexicalHandler(nullptr);
     parser.setDeclHandler(nullptr);
-    return isParsed;
 }
 
 QChar GuardedSource::next()

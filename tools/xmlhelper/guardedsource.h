@@ -56,9 +56,16 @@ public:
     explicit GuardedSource(const QByteArray& bytes);
     ~GuardedSource() override;
 
+    /// Whether @p text may have a document type at all; reading it through this class takes longer.
+    static bool IsNeededFor(const QString& text);
+
     /// Parses the content with @p parser, whose content and error handlers are the caller's, and gives its result.
     /// Once.
     bool Parse(QXmlSimpleReader& parser);
+
+    /// To be called before and after the content is parsed by other means than Parse().
+    void Watch(QXmlSimpleReader& parser);
+    void Leave(QXmlSimpleReader& parser);
 
     /// Which limit the content has exceeded, as a sentence to be traced; empty while it has exceeded none.
     const QString& GetRefusal() const { return m_sRefusal; }

@@ -26,25 +26,27 @@ bool OwnerIndex::Refresh()
     return m_bUsable;
 }
 
-bool OwnerIndex::IsFirst(const QDomNode& element, const QString& name) const
+bool OwnerIndex::IsFirst(const QDomNode& element, const QString& name)
 {
-    const auto found = m_bearers.constFind(name);
-    return found != m_bearers.constEnd() && found->first == element && !element.isNull();
+    const auto found = m_bearers.find(name);
+    if (found == m_bearers.end()) {
+        return false;
+    }
+    std::vector<QDomElement>& elements = found->elements;
+    while (!elements.empty() && !isInDocument(elements.back())) {
+        if (found->isCopied) {
+            make(); // A copy may be the first now; the new index has all of them.
+            return IsFirst(element, name);
+        }
+        elements.pop_back();
+    }
+    return !elements.empty() && elements.back() == element;
 }
 
 QDomNode OwnerIndex::Remove(const QDomNode& node)
 {
     const OwnChange change(this);
-    QDomNode parent = node.parentNode();
-    if (!m_bCurrent || !holdsBearers(node) || !isInDocument(parent)) {
-        return parent.removeChild(node);
-    }
-    const QDomNode following = nextBelow(m_document, node, true);
-    const QDomNode removed = parent.removeChild(node);
-    if (!removed.isNull()) {
-        forget(removed, following);
-    }
-    return removed;
+    return node.parentNode().removeChild(node);
 }
 
 void OwnerIndex::InsertCopies(const QDomElement& element, int copies)
@@ -54,15 +56,10 @@ void OwnerIndex::InsertCopies(const QDomElement& element, int copies)
     for (int copy = 0; copy < copies; ++copy) {
         parent.insertAfter(element.cloneNode(true), element);
     }
-    if (!m_bCurrent || !isInDocument(parent)) {
-        return;
-    }
-    for (QDomNode node = element; !node.isNull(); node = nextBelow(element, node, false)) {
+    for (QDomNode node = element; m_bCurrent && !node.isNull(); node = nextBelow(element, node, false)) {
         const auto bearers = m_bearers.find(node.nodeName());
         if (bearers != m_bearers.end()) {
-            bearers->count += copies;
             bearers->isCopied = true;
-            bearers->others.clear();
         }
     }
 }
@@ -111,18 +108,12 @@ void OwnerIndex::make()
     for (QDomNode node = root; !node.isNull(); node = nextBelow(root, node, false)) {
         const auto bearers = m_bearers.find(node.nodeName());
         if (bearers != m_bearers.end()) {
-            bearers->others.push_back(node.toElement());
+            bearers->elements.push_back(node.toElement());
         }
         m_bUsable = m_bUsable && isIndexable(node);
     }
     for (Bearers& bearers : m_bearers) {
-        std::vector<QDomElement>& others = bearers.others;
-        bearers.count = static_cast<int>(others.size());
-        std::reverse(others.begin(), others.end());
-        if (!others.empty()) {
-            bearers.first = others.back();
-            others.pop_back();
-        }
+        std::reverse(bearers.elements.begin(), bearers.elements.end());
     }
     m_bCurrent = true;
     m_changes.Reset();
@@ -132,62 +123,6 @@ void OwnerIndex::make()
 bool OwnerIndex::isIndexable(const QDomNode& node) const
 {
     return node.isElement() ? node.localName().isNull() : !m_bearers.contains(node.nodeName());
-}
-
-bool OwnerIndex::holdsBearers(const QDomNode& top) const
-{
-    QDomNode node = top;
-    while (!node.isNull() && !m_bearers.contains(node.nodeName())) {
-        node = nextBelow(top, node, false);
-    }
-    return !node.isNull();
-}
-
-/// @p removed has been taken out of the document in front of @p following.
-void OwnerIndex::forget(const QDomNode& removed, const QDomNode& following)
-{
-    QSet<QString> namesWithoutFirst;
-    for (QDomNode node = removed; !node.isNull(); node = nextBelow(removed, node, false)) {
-        const QString name = node.nodeName();
-        const auto bearers = m_bearers.find(name);
-        if (bearers != m_bearers.end()) {
-            --bearers->count;
-            if (bearers->first == node) {
-                namesWithoutFirst.insert(name);
-            }
-        }
-    }
-    for (const QString& name : namesWithoutFirst) {
-        findNext(name, m_bearers[name], following);
-    }
-}
-
-/// The next first one is one of those that the index was made from; behind copies, which these do not include, it is
-/// looked for.
-void OwnerIndex::findNext(const QString& name, Bearers& bearers, const QDomNode& following)
-{
-    bearers.first = QDomElement();
-    if (bearers.count == 0) {
-        return;
-    }
-    if (bearers.isCopied) {
-        QDomNode node = following;
-        while (!node.isNull() && node.nodeName() != name) {
-            node = nextBelow(m_document, node, false);
-        }
-        bearers.first = node.toElement();
-    } else {
-        std::vector<QDomElement>& others = bearers.others;
-        while (!others.empty() && !isInDocument(others.back())) {
-            others.pop_back();
-        }
-        if (!others.empty()) {
-            bearers.first = others.back();
-            others.pop_back();
-        }
-    }
-    // There must be one, unless somebody has renamed elements.
-    m_bCurrent = !bearers.first.isNull();
 }
 
 bool OwnerIndex::isInDocument(const QDomNode& node) const

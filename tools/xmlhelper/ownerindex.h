@@ -28,7 +28,7 @@ public:
 
     /// Whether @p element is the first in the document of all that are called @p name, which is its own name and one of
     /// the names of the index. To be asked after Refresh() has given true.
-    bool IsFirst(const QDomNode& element, const QString& name) const;
+    bool IsFirst(const QDomNode& element, const QString& name);
 
     /// Has the index made anew before it is used next.
     void Invalidate() { m_bCurrent = false; }
@@ -56,13 +56,12 @@ public:
 private:
     Q_DISABLE_COPY(OwnerIndex)
 
-    /// The elements of one name.
+    /// The elements of one name as they were when the index was made, in reverse order. Those that have been removed
+    /// since then are dropped when they are met.
     struct Bearers
     {
-        QDomElement first; ///< null when there is none
-        std::vector<QDomElement> others; ///< in reverse order, with some that are gone; not used once there are copies
-        int count = 0; ///< in the document
-        bool isCopied = false;
+        std::vector<QDomElement> elements;
+        bool isCopied = false; ///< since then there are others
     };
 
     void beginOwnChange();
@@ -70,9 +69,6 @@ private:
     void noticeChanges();
     void make();
     bool isIndexable(const QDomNode& node) const;
-    bool holdsBearers(const QDomNode& top) const;
-    void forget(const QDomNode& removed, const QDomNode& following);
-    void findNext(const QString& name, Bearers& bearers, const QDomNode& following);
     bool isInDocument(const QDomNode& node) const;
 
     QDomDocument m_document;

@@ -2,14 +2,26 @@
 
 #include <algorithm>
 
+namespace {
+
+bool isQualified(const QString& name)
+{
+    return name.contains(QLatin1Char('/'));
+}
+
+} // namespace
+
 ReportItems::ReportItems()
     : m_iNextIndex(0)
+    , m_iQualifiedNames(0)
 {
 }
 
 void ReportItems::Append(ReportData* item)
 {
-    m_indices[item->GetName()].push_back(m_iNextIndex);
+    const QString name = item->GetName();
+    m_iQualifiedNames += isQualified(name) ? 1 : 0;
+    m_indices[name].push_back(m_iNextIndex);
     m_items.emplace_hint(m_items.end(), m_iNextIndex, item);
     ++m_iNextIndex;
 }
@@ -20,6 +32,7 @@ void ReportItems::DeleteFirst(const QString& name)
     if (indices == m_indices.end()) {
         return;
     }
+    m_iQualifiedNames -= isQualified(name) ? 1 : 0;
     m_items.erase(indices->front());
     indices->pop_front();
     if (indices->empty()) {
@@ -32,6 +45,7 @@ void ReportItems::Clear()
     m_items.clear();
     m_indices.clear();
     m_iNextIndex = 0;
+    m_iQualifiedNames = 0;
 }
 
 const ReportData& ReportItems::At(int index) const

@@ -38,6 +38,9 @@ public:
     /// The first item called @p name; NO_INDEX when there is none.
     int First(const QString& name) const;
 
+    /// Whether the name of any item has a slash, as those have that name an element below its parent.
+    bool HasQualifiedNames() const { return m_iQualifiedNames > 0; }
+
     /// All items before @p end in their order; NO_INDEX is behind all.
     std::vector<int> Before(int end) const;
 
@@ -50,6 +53,7 @@ private:
     std::map<int, std::unique_ptr<const ReportData>> m_items;
     QHash<QString, std::list<int>> m_indices; ///< of the items of each name, in their order
     int m_iNextIndex;
+    int m_iQualifiedNames;
 };
 
 #endif

@@ -1,19 +1,10 @@
 #include "textsinpieces.h"
 
+#include "domorder.h"
+
 namespace {
 
 constexpr int PieceLength = 4096;
-
-QDomNode nextInDocument(QDomNode node)
-{
-    if (node.hasChildNodes()) {
-        return node.firstChild();
-    }
-    while (!node.isNull() && node.nextSibling().isNull()) {
-        node = node.parentNode();
-    }
-    return node.nextSibling();
-}
 
 /// Whether "]]>" stands across @p index. Qt escapes its last character only when it sees all three.
 bool isInsideSectionEnd(const QString& text, int index)
@@ -26,7 +17,7 @@ bool isInsideSectionEnd(const QString& text, int index)
 
 TextsInPieces::TextsInPieces(const QDomDocument& document)
 {
-    for (QDomNode node = document; !node.isNull(); node = nextInDocument(node)) {
+    for (QDomNode node = document.firstChild(); !node.isNull(); node = nextBelow(document, node, false)) {
         if (node.nodeType() == QDomNode::TextNode && node.nodeValue().size() > PieceLength) {
             split(node.toText());
         }

@@ -394,7 +394,7 @@ VCReporting::Match VCReporting::fillFromItems(const QString& name, const QXmlAtt
                                               const QDomNode& node)
 {
     const int direct = m_pItems->First(name);
-    const QString nameBelowParent = qualifiedName(node);
+    const QString nameBelowParent = m_pItems->HasQualifiedNames() ? qualifiedName(node) : QString();
     const int qualified = nameBelowParent.isEmpty() ? NO_INDEX : m_pItems->First(nameBelowParent);
     const bool isQualified = qualified != NO_INDEX && (direct == NO_INDEX || qualified <= direct);
     const int index = isQualified ? qualified : direct;

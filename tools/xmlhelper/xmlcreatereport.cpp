@@ -38,7 +38,7 @@ const QLatin1String SchemaInstanceNamespace("http://www.w3.org/2001/XMLSchema-in
 
 bool isEnumerationOfElement(const QString& attributeName)
 {
-    return attributeName.contains(EnumerationFacet) && attributeName.back().isDigit();
+    return !attributeName.isEmpty() && attributeName.back().isDigit() && attributeName.contains(EnumerationFacet);
 }
 
 /// A facet's number; one that does not convert counts as 0.
@@ -248,7 +248,8 @@ void XmlCreateReport::SetXmlValue(QTime value)
 void XmlCreateReport::SetAttributeValue(QString name, QString value)
 {
     const auto isEnumerationOfAttribute = [&name](const QString& attributeName) {
-        return attributeName.contains(EnumerationFacet) && attributeName.contains(name);
+        return attributeName.size() >= EnumerationFacet.size() && attributeName.contains(EnumerationFacet)
+            && attributeName.contains(name);
     };
     if (!refreshCurrentElement()
         || !isAttributeTypeAccepted(name, QStringLiteral("string"), IXMLHelper::CURRENT_TYPE_IS_NOT_STRING)) {
@@ -385,7 +386,7 @@ void XmlCreateReport::Error(int id)
 /// Whether the schema allows @p count occurrences of @p name under some owner below which @p element stands.
 bool XmlCreateReport::CheckOccursMap(QString name, QString tagName, int count, QDomElement* element)
 {
-    if (m_occurs.find(name) == m_occurs.end()) {
+    if (!m_pDomParser->IsLimited(name)) {
         Error(IXMLHelper::MAX_OCCURS_EXCEEDED);
         return false;
     }
@@ -412,7 +413,7 @@ void XmlCreateReport::createWalkers()
 {
     m_pContentHandler = new XmlContentHandler(m_pCallback, m_pDocument);
     m_pReader = new XMLReader(m_pCallback, m_pContentHandler);
-    m_pDomParser = new DomParser(m_pCallback, m_occurs, m_choices);
+    m_pDomParser = new DomParser(m_pCallback, std::move(m_occurs), m_choices);
     m_pDomParser->SetDocument(m_pDocument);
 }
 

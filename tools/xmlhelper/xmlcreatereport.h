@@ -220,7 +220,7 @@ private:
     [[maybe_unused]] bool m_bUnused; ///< copied with the builder, never read
     qint32 m_iDiscardedChoices;
     UnresolvedTypeMap m_unresolvedTypes;
-    OccursMap m_occurs;
+    OccursMap m_occurs; ///< the DOM parser's from the walk on
     TypeDefinitionMap m_typeDefinitions;
     ChoiceMap m_choices;
     std::list<CommentDialogImpl*> m_commentDialogs; ///< owned

@@ -2,6 +2,7 @@
 
 #include <QDomDocument>
 #include <QTextStream>
+#include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
 #include "constants.h"
@@ -37,14 +38,20 @@ bool isNestingWithinLimit(const QDomNode& node)
     return isWithinLimit;
 }
 
+/// Whether the file has nothing but elements and texts in it, and these within the limit.
+bool isPlainWithinLimit(QFile& file)
+{
+    const bool isPlain = file.open(QIODevice::ReadOnly) && isSurelyNestedWithin(MaxElementNesting, file);
+    file.close();
+    return isPlain;
+}
+
 /// Whether Qt can read the file into a document without running out of stack, memory or time.
 bool isWithinLimits(QFile& file)
 {
-    if (file.open(QIODevice::ReadOnly) && isSurelyNestedWithin(MaxElementNesting, file)) {
-        file.close();
+    if (isPlainWithinLimit(file)) {
         return true;
     }
-    file.close();
     QXmlDefaultHandler nobody;
     NestingGuard guard(&nobody);
     QXmlSimpleReader parser;
@@ -300,26 +307,43 @@ bool XMLReader::parseFile()
 {
     // The input source reads from where the file stands, and leaves it open.
     m_pFile->close();
+    const bool isPlain = isPlainWithinLimit(*m_pFile);
+    if (isPlain) {
+        return parse(QXmlInputSource(m_pFile));
+    }
     GuardedSource source(m_pFile);
-    return parse(source);
+    return parseGuarded(source);
 }
 
 bool XMLReader::parseText(const QString& text)
 {
-    GuardedSource source(text);
+    if (GuardedSource::IsNeededFor(text)) {
+        GuardedSource source(text);
+        return parseGuarded(source);
+    }
+    QXmlInputSource source;
+    source.setData(text);
     return parse(source);
 }
 
-bool XMLReader::parse(GuardedSource& source)
+bool XMLReader::parse(const QXmlInputSource& source)
 {
     m_bParsing = true;
-    const bool isParsed = source.Parse(*m_pParser);
+    const bool isParsed = m_pParser->parse(source);
     m_bParsing = false;
-    if (!source.GetRefusal().isEmpty()) {
-        trace(source.GetRefusal(), "xmlreader", __LINE__);
-    }
     if (m_pNestingGuard->IsExceeded()) {
         traceNesting();
+    }
+    return isParsed;
+}
+
+bool XMLReader::parseGuarded(GuardedSource& source)
+{
+    source.Watch(*m_pParser);
+    const bool isParsed = parse(source);
+    source.Leave(*m_pParser);
+    if (!source.GetRefusal().isEmpty()) {
+        trace(source.GetRefusal(), "xmlreader", __LINE__);
     }
     return isParsed;
 }

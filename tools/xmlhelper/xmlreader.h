@@ -15,6 +15,7 @@ class QDomDocumentFragment;
 class QDomElement;
 class QDomNode;
 class QFile;
+class QXmlInputSource;
 class QXmlSimpleReader;
 class XmlContentHandler;
 
@@ -121,7 +122,8 @@ private:
     void releaseDocument(QDomDocument* document);
     bool parseFile();
     bool parseText(const QString& text);
-    bool parse(GuardedSource& source);
+    bool parse(const QXmlInputSource& source);
+    bool parseGuarded(GuardedSource& source);
     QDomElement rootElement() const;
     QDomNode topNode() const;
     void renewResults();

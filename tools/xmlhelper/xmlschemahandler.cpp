@@ -6,6 +6,7 @@
 
 #include <QFileInfo>
 #include <QStringList>
+#include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
 #include "constants.h"
@@ -224,6 +225,7 @@ XmlSchemaHandler::XmlSchemaHandler(const std::shared_ptr<SchemaReading>& reading
     , m_pCurrentFragment(nullptr)
     , m_sDefinitionName(QLatin1String(""))
     , m_sSchemaPath(schemaPath)
+    , m_eRootUse(RootUse::Copied)
     , m_iNesting(0)
     , m_pReading(reading)
 {
@@ -254,11 +256,20 @@ bool XmlSchemaHandler::HandOver(UnresolvedTypeMap& unresolvedTypes, OccursMap& o
 bool XmlSchemaHandler::ReadFile(const QString& fileName, QXmlSimpleReader& parser)
 {
     ContentFile file(fileName);
-    GuardedSource source(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray());
+    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     // Qualified names are all that counts.
     parser.setFeature(QStringLiteral("http://xml.org/sax/features/namespaces"), false);
     parser.setContentHandler(this);
     parser.setErrorHandler(this);
+    if (m_eRootUse == RootUse::Copied) {
+        m_eRootUse = RootUse::Moved;
+    }
+    QXmlInputSource plainSource;
+    plainSource.setData(bytes);
+    if (!GuardedSource::IsNeededFor(plainSource.data())) {
+        return parser.parse(plainSource);
+    }
+    GuardedSource source(bytes);
     const bool isParsed = source.Parse(parser);
     if (!source.GetRefusal().isEmpty()) {
         refuse(source.GetRefusal());
@@ -376,6 +387,7 @@ void XmlSchemaHandler::readInclude()
                               included.m_choices);
     openFiles.append(identity);
     m_pReading->openTags += m_iNesting;
+    included.m_eRootUse = RootUse::Unused;
     QXmlSimpleReader parser;
     included.ReadFile(fileName, parser);
     m_pReading->openTags -= m_iNesting;
@@ -876,9 +888,13 @@ bool XmlSchemaHandler::chooseRoot()
         refuseElements();
         return false;
     }
+    if (m_eRootUse == RootUse::Unused) {
+        return true;
+    }
     m_pDocument->setContent(QString(SkeletonDeclaration));
     if (m_pCurrentFragment) {
-        m_pDocument->appendChild(m_pCurrentFragment->cloneNode(true));
+        m_pDocument->appendChild(m_eRootUse == RootUse::Moved ? *m_pCurrentFragment
+                                                              : m_pCurrentFragment->cloneNode(true));
     }
     return true;
 }

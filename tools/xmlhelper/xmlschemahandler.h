@@ -60,7 +60,7 @@ public:
                   ChoiceMap& choices) &&;
 
     /// Parses the file called @p fileName with @p parser, which gets the handler for its content and its errors. Gives
-    /// what the parse gives.
+    /// what the parse gives. The root's definition is left without content, which is the skeleton's then.
     bool ReadFile(const QString& fileName, QXmlSimpleReader& parser);
 
     /// The skeleton document itself; stays the handler's. Empty until the end of the schema has been reached.
@@ -77,6 +77,13 @@ private:
     Q_DISABLE_COPY(XmlSchemaHandler)
 
     struct ElementDeclaration;
+
+    /// What becomes of the content of the root's definition at the end of the document.
+    enum class RootUse {
+        Copied,
+        Moved, ///< into the skeleton: nobody looks at the definition again
+        Unused ///< the skeleton of an included file
+    };
 
     /// How many elements have been laid into a definition.
     struct ElementCount
@@ -164,6 +171,7 @@ private:
     QDomDocumentFragment* m_pCurrentFragment;
     QString m_sDefinitionName; ///< the definition being read
     QString m_sSchemaPath;
+    RootUse m_eRootUse;
 
     int m_iNesting; ///< of the tags of this file
     ElementCount m_fragmentElements; ///< laid into the current fragment

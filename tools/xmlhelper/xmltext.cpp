@@ -28,6 +28,12 @@ constexpr Range FurtherNameRanges[] = {
     {'-', '.'}, {'0', '9'}, {0xB7, 0xB7}, {0x300, 0x36F}, {0x203F, 0x2040},
 };
 
+/// Nearly every name is made of these.
+bool isAsciiLetter(uint character)
+{
+    return (character | 0x20) >= 'a' && (character | 0x20) <= 'z';
+}
+
 template <std::size_t Count> bool isInside(const Range (&ranges)[Count], uint character)
 {
     return std::any_of(std::begin(ranges), std::end(ranges),
@@ -73,6 +79,9 @@ bool isName(const QString& name)
     for (Index index = 0; index < name.size(); ++index) {
         uint character = name.at(index).unicode();
         const bool isFirst = index == 0;
+        if (isAsciiLetter(character) || (!isFirst && character >= '0' && character <= '9')) {
+            continue;
+        }
         if (isPairAt(name, index)) {
             character = QChar::surrogateToUcs4(name.at(index), name.at(index + 1));
             ++index;
