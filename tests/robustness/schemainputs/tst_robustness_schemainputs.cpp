@@ -10,6 +10,7 @@
 #include <xmlhelper/elembeginevent.h>
 #include <xmlhelper/xmlcreatereport.h>
 
+#include "confined.h"
 #include "domtext.h"
 #include "hostilecontent.h"
 #include "scriptedobserver.h"
@@ -439,13 +440,16 @@ void TestRobustnessSchemaInputs::readsTagsInAnyPlaceWithAnyAttributes()
                                   QStringLiteral(" type='later' minOccurs='2' name='n' base='xs:int'"),
                                   QStringLiteral(" base='xs:int' ref='later' type='later'"),
                                   QStringLiteral(" default='1' value='n' name='later'")};
-    for (const QString& ofOuter : attributes) {
-        for (const QString& ofInner : attributes) {
+    for (int i = 0; i < attributes.size(); ++i) {
+        for (int j = 0; j < attributes.size(); ++j) {
+            if (isSanitized() && i != j) {
+                continue; // Too many builders.
+            }
             const QString schema = QStringLiteral("<xs:%1%2><xs:%3%4/><xs:%3%4><xs:%3%2/></xs:%3></xs:%1>"
                                                   "<xs:element name='n'><xs:%1%4><xs:%3%2/></xs:%1></xs:element>"
                                                   "<xs:complexType name='later'><xs:element name='leaf'/>"
                                                   "</xs:complexType>")
-                                       .arg(outer, ofOuter, inner, ofInner);
+                                       .arg(outer, attributes.at(i), inner, attributes.at(j));
             const Outcome outcome = build(writeSchema(schema), pathOf(QStringLiteral("report.xml")));
             QVERIFY2(outcome.isReportThere, qPrintable(schema));
             // Whatever makes the schema fail is traced: all of it is sound XML.

@@ -62,7 +62,7 @@ QString outcomeText(const ConfinedOutcome& outcome)
     return outcome.hasEnded ? outcomeText(outcome.result, outcome.traces) : QStringLiteral("crashed or never ended");
 }
 
-bool isMeasuring()
+bool isSanitized()
 {
-    return !XMLHELPER_SANITIZED;
+    return XMLHELPER_SANITIZED;
 }

@@ -28,7 +28,9 @@ ConfinedOutcome buildConfined(const QString& schemaFileName, const QString& repo
 QString outcomeText(bool result, const QStringList& traces = QStringList());
 QString outcomeText(const ConfinedOutcome& outcome);
 
-/// Whether time and memory say something: sanitizers multiply both, by keeping freed memory and a shadow of all of it.
-bool isMeasuring();
+/// Whether the tests run under sanitizers. These multiply time and memory, since they keep what was freed and a shadow
+/// of all memory, so that limits of both say nothing; and the leak checker needs a time that grows with the square of
+/// what report builders keep on purpose.
+bool isSanitized();
 
 #endif
