@@ -161,6 +161,7 @@ void checkCosts(const ConfinedOutcome& outcome)
     if (isSanitized()) {
         return; // See there for the reason.
     }
+    qInfo("%lld ms, %lld MB", outcome.milliseconds, outcome.megabytes);
     QVERIFY2(outcome.milliseconds <= MostMilliseconds, qPrintable(QString::number(outcome.milliseconds)));
     QVERIFY2(outcome.megabytes <= MostMegabytes, qPrintable(QString::number(outcome.megabytes)));
 }
@@ -326,6 +327,15 @@ void TestRobustnessLimits::readsSchemas_data()
                 .arg(QStringLiteral("<xs:enumeration value='v'/>").repeated(100000))
             + rootOf(QStringLiteral("S"))
         << false << QStringLiteral("An enumeration has more than 10000 values!");
+    QString declaredAttributes;
+    for (int i = 0; i < 50000; ++i) {
+        declaredAttributes += QStringLiteral("<xs:attribute name='k%1' type='xs:int'/>").arg(i);
+    }
+    QTest::newRow("declared-attributes-50000") << global(QStringLiteral("root"), declaredAttributes) << true << none;
+    QTest::newRow("declared-attributes-50000-of-a-type")
+        << named(QStringLiteral("T"), QStringLiteral("<xs:extension base='xs:int'/>") + declaredAttributes)
+            + global(QStringLiteral("root"), QStringLiteral("<xs:element name='e' type='T'/>"))
+        << true << none;
     QTest::newRow("tag-of-50000-attributes")
         << QStringLiteral("<xs:element name='root'%1/>").arg(manyAttributes(50000)) << true << none;
     QTest::newRow("name-of-a-million-letters")
