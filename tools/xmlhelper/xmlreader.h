@@ -61,7 +61,8 @@ public:
     virtual ~XMLReader();
 
     /// Takes the content of a file. The file is read into a document now and parsed again by every ParseXml(). Content
-    /// nested deeper than 512 elements is not read into a document, and ParseXml() fails on it.
+    /// nested deeper than 512 elements, or whose document type asks for too much, is not read into a document, and
+    /// ParseXml() fails on it. Only regular files are opened; anything else counts as missing.
     ///
     /// @param fileName  the file; back slashes separate folders on every platform
     /// @return true, whatever becomes of the file: a missing or malformed one is noticed by ParseXml() only. False
@@ -93,8 +94,11 @@ public:
     /// Parses the content and delivers its events; for all forms but the file the content is serialised first, so that
     /// changes since the last parse are seen.
     ///
-    /// @return false when no content is set, when the content is nested deeper than 512 elements, or when the parser
-    ///         fails on it. Events delivered before the failure stand; no error event is sent.
+    /// @return false when no content is set, when the content is nested deeper than 512 elements, when its document
+    /// type
+    ///         declares more than 1,000 entities, lets them become more than 2,000,000 characters or nests more than
+    ///         512 parentheses, each with a trace, or when the parser fails on it. Events delivered before the failure
+    ///         stand; no error event is sent.
     bool ParseXml();
 
     /// Finds nodes by name, in document order. Matches inside a match are not reported. Where the root, or the start
