@@ -12,7 +12,7 @@ namespace {
 QDomDocument documentWith(const QString& text)
 {
     QDomDocument document = documentOf(QStringLiteral("<r k='v'><a/></r>"));
-    document.documentElement().insertBefore(document.createTextNode(text), document.documentElement().firstChild());
+    document.documentElement().insertBefore(createText(document, text), document.documentElement().firstChild());
     return document;
 }
 

@@ -16,6 +16,7 @@
 #include "elementsearch.h"
 #include "errorevent.h"
 #include "eventdelivery.h"
+#include "textsinpieces.h"
 #include "tracing.h"
 
 QT_WARNING_DISABLE_DEPRECATED
@@ -282,7 +283,7 @@ void DomParser::takeText(Level& level, bool isTopLevel)
     if (!isTopLevel && !defaultText.isEmpty()) {
         const OwnerIndex::OwnChange change = Change();
         m_currentElement.removeAttribute(DefaultAttribute());
-        m_currentElement.appendChild(m_pDocument->createTextNode(defaultText));
+        m_currentElement.appendChild(createText(*m_pDocument, defaultText));
     }
 }
 

@@ -1,10 +1,14 @@
 #include "textsinpieces.h"
 
+#include <atomic>
+
 #include "domorder.h"
 
 namespace {
 
 constexpr int PieceLength = 4096;
+
+std::atomic<bool> isLongTextKnown {false};
 
 /// Whether "]]>" stands across @p index. Qt escapes its last character only when it sees all three.
 bool isInsideSectionEnd(const QString& text, int index)
@@ -15,8 +19,19 @@ bool isInsideSectionEnd(const QString& text, int index)
 
 } // namespace
 
+QDomText createText(QDomDocument& document, const QString& text)
+{
+    if (text.size() > PieceLength) {
+        isLongTextKnown = true;
+    }
+    return document.createTextNode(text);
+}
+
 TextsInPieces::TextsInPieces(const QDomDocument& document)
 {
+    if (!isLongTextKnown) {
+        return;
+    }
     for (QDomNode node = document.firstChild(); !node.isNull(); node = nextBelow(document, node, false)) {
         if (node.nodeType() == QDomNode::TextNode && node.nodeValue().size() > PieceLength) {
             split(node.toText());

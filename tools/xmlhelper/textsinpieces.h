@@ -6,6 +6,10 @@
 #include <QDomDocument>
 #include <QString>
 
+/// A text node of @p document. All that the library puts into documents is made here: they are looked through for long
+/// texts when they are saved, which takes half as long as saving, only once there has been one.
+QDomText createText(QDomDocument& document, const QString& text);
+
 /// Stands the long texts of a document in pieces while it lives, so that Qt saves it in a time in proportion to their
 /// length: what it needs to escape one text grows with the square of its length, to an hour for ten million characters.
 /// Neighbouring texts are saved to the same bytes as one. In the end every text is whole again, in its own node.

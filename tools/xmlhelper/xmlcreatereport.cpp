@@ -18,6 +18,7 @@
 #include "eventdelivery.h"
 #include "numberconversion.h"
 #include "rangecheck.h"
+#include "textsinpieces.h"
 #include "tracing.h"
 #include "xmlcontenthandler.h"
 #include "xmlreader.h"
@@ -341,7 +342,7 @@ void XmlCreateReport::CreateAndAppendTextNode(QString text)
     if (first.nodeType() == QDomNode::TextNode) {
         m_pCurrentElement->removeChild(first);
     }
-    m_pCurrentElement->appendChild(m_pDocument->createTextNode(text));
+    m_pCurrentElement->appendChild(createText(*m_pDocument, text));
     m_pDomParser->ContinueAt(m_pCurrentElement, false);
 }
 

@@ -11,6 +11,7 @@
 #include "constants.h"
 #include "documentfile.h"
 #include "domextent.h"
+#include "textsinpieces.h"
 #include "tracing.h"
 #include "xmltext.h"
 
@@ -60,7 +61,7 @@ bool XMLWriter::CreateXmlElement(const QString& name, const QString& text, bool 
     m_pCurrentElement->appendChild(element);
     const QString writtenText = representableText(text, "XMLWriter::CreateXmlElement");
     if (!writtenText.isEmpty()) {
-        element.appendChild(m_pDocument->createTextNode(writtenText));
+        element.appendChild(createText(*m_pDocument, writtenText));
     }
     if (enter) {
         *m_pCurrentElement = m_pCurrentElement->lastChild().toElement();
