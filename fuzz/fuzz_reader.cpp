@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <list>
+#include <utility>
 #include <vector>
 
 #include <QDomDocument>
@@ -21,6 +23,8 @@ const Vocabulary vocabulary {
     {"a='1'", "b=''", "c='&lt;'", "xmlns='urn:x'", "xmlns:e='urn:e'", "e:a='x'"},
     {"text", " ", "\n", "<!--comment-->", "<?b data?>", "<![CDATA[data]]>", "&amp;", "&#x41;", "]]"},
 };
+
+constexpr std::size_t MaxSearches = 4;
 
 /// A search as it is told: by recursion.
 void searchPlainly(const QString& name, const QDomElement& element, const QDomNode& top, std::list<QDomNode>& found)
@@ -73,6 +77,7 @@ bool isPairable(const QDomElement& element, const QStringList& ancestors)
     return true;
 }
 
+/// Remembers the events, and searches the element of a begin event for what it holds first.
 class Observer : public IXMLHelper
 {
 public:
@@ -80,16 +85,36 @@ public:
     {
         types.push_back(event->GetType());
         if (event->GetType() == XmlEvent::EVENT_ELEM_BEGIN) {
-            names.append(static_cast<ElemBeginEvent*>(event)->GetElementName());
-            nodes.push_back(static_cast<ElemBeginEvent*>(event)->GetElementNode());
+            auto* const begin = static_cast<ElemBeginEvent*>(event);
+            names.append(begin->GetElementName());
+            nodes.push_back(begin->GetElementNode());
+            if (nodes.size() <= MaxSearches) {
+                searchBelow(nodes.back());
+            }
         }
     }
 
     auto Count(XmlEvent::type type) const { return std::count(types.begin(), types.end(), type); }
+    bool operator==(const Observer& other) const
+    {
+        return types == other.types && names == other.names && nodes == other.nodes;
+    }
 
+    XMLReader* reader = nullptr;
     std::vector<XmlEvent::type> types;
     QStringList names;
     std::vector<QDomNode> nodes;
+
+private:
+    void searchBelow(const QDomNode& node)
+    {
+        std::list<QDomNode> expected;
+        if (node.isElement()) {
+            searchPlainly(node.firstChild().nodeName(), node.toElement(), node.ownerDocument().lastChild(), expected);
+        }
+        require(*reader->SearchBelowCurrentElement(node.firstChild().nodeName()) == expected,
+                "a search below the current element finds what a plain recursion finds");
+    }
 };
 
 enum Form { File, Document, DocumentPointer, Fragment, Node, FormCount };
@@ -148,7 +173,22 @@ void checkSearches(XMLReader& reader, const Content& content, FuzzInput& input)
             searchPlainly(name, first, content.top, expected);
         }
         require(*reader.GetElement(name, start) == expected, "a search finds what a plain recursion finds");
-        reader.SearchBelowCurrentElement(name);
+    }
+}
+
+void checkEvents(const Observer& observer, int form)
+{
+    require(observer.Count(XmlEvent::EVENT_DOC_BEGIN) == 1 && observer.Count(XmlEvent::EVENT_DOC_END) == 1,
+            "a document begins and ends once");
+    require(form == Fragment || form == Node
+                || observer.Count(XmlEvent::EVENT_ELEM_BEGIN) == observer.Count(XmlEvent::EVENT_ELEM_END),
+            "every element that begins ends");
+}
+
+void checkPairs(const Observer& observer)
+{
+    for (std::size_t i = 0; i < observer.nodes.size(); ++i) {
+        require(observer.nodes[i].nodeName() == observer.names.at(int(i)), "a start tag is paired with its element");
     }
 }
 
@@ -158,39 +198,34 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     FuzzInput input(data, size);
     const QByteArray xml = xmlOf(input.Part(), vocabulary);
-    const int form = input.Choice(FormCount);
-    QDomDocument document;
-    const bool isXml = document.setContent(xml);
     writeScratchFile(QStringLiteral("content.xml"), xml);
+    QDomDocument document;
+    const bool isPaired
+        = document.setContent(xml) && document.doctype().isNull() && isPairable(document.documentElement(), {});
 
-    Observer first;
-    XMLReader reader(&first, nullptr);
+    Observer observer;
+    XMLReader reader(&observer, nullptr);
+    observer.reader = &reader;
+    const int form = input.Choice(FormCount);
     Content content = setContent(reader, form, document);
     const bool isParsed = reader.ParseXml();
     if (isParsed) {
-        require(first.Count(XmlEvent::EVENT_DOC_BEGIN) == 1 && first.Count(XmlEvent::EVENT_DOC_END) == 1,
-                "a document begins and ends once");
-        require(form == Fragment || form == Node
-                    || first.Count(XmlEvent::EVENT_ELEM_BEGIN) == first.Count(XmlEvent::EVENT_ELEM_END),
-                "every element that begins ends");
+        checkEvents(observer, form);
     }
-    if (form == File && !first.nodes.empty()) {
-        const QDomDocument own = first.nodes.front().ownerDocument();
+    if (isPaired && form <= DocumentPointer) {
+        checkPairs(observer);
+    }
+    if (form == File && !observer.nodes.empty()) {
+        const QDomDocument own = observer.nodes.front().ownerDocument();
         content = {own.lastChild(), own.documentElement()};
     }
-    if (isXml && form <= DocumentPointer && document.doctype().isNull() && isPairable(document.documentElement(), {})) {
-        for (std::size_t i = 0; i < first.nodes.size(); ++i) {
-            require(first.nodes[i].nodeName() == first.names.at(int(i)), "a start tag is paired with its element");
-        }
-    }
-    if (form != File || !content.root.isNull()) {
+    if (!content.root.isNull()) {
         checkSearches(reader, content, input);
     }
 
-    const Observer before = first;
-    first = Observer();
-    require(reader.ParseXml() == isParsed, "a second parse ends like the first");
-    require(first.types == before.types && first.names == before.names && first.nodes == before.nodes,
-            "a second parse gives the same events");
+    Observer again;
+    std::swap(observer, again);
+    observer.reader = &reader;
+    require(reader.ParseXml() == isParsed && observer == again, "a second parse gives the same events");
     return 0;
 }
