@@ -17,7 +17,8 @@
 #include "fuzzing.h"
 #include "fuzzinput.h"
 
-// Each item is a name, a kind, and a text or a number; a press of the report button follows.
+// Each item is a name, a kind, and a text or a number; a press of the report button follows, and gives XML whatever
+// they are.
 
 namespace {
 
@@ -110,8 +111,7 @@ VCReporting& reporting()
     return *widget;
 }
 
-/// Gives whether XML can carry what the item says.
-bool addItem(FuzzInput& input, Tree& tree)
+void addItem(FuzzInput& input, Tree& tree)
 {
     const QString name = QString::fromLatin1(input.Of(names));
     const int kind = input.Choice(8);
@@ -123,18 +123,14 @@ bool addItem(FuzzInput& input, Tree& tree)
     const QString path = QStringLiteral("%1").arg(tree.GetRoot()->GetTreeItems().size());
     switch (kind) {
     case 0:
-        reporting().AddExplicitReportData(name, text, maxOccurs, QString(), exponent, unit);
-        return isXmlText(unit);
+        return reporting().AddExplicitReportData(name, text, maxOccurs, QString(), exponent, unit);
     case 1:
-        reporting().AddExplicitReportData(name, number, maxOccurs, QString(), exponent, unit);
-        return isXmlText(unit);
+        return reporting().AddExplicitReportData(name, number, maxOccurs, QString(), exponent, unit);
     case 2:
-        reporting().AddExplicitReportData(name, number > 0, maxOccurs, QString(), exponent, unit);
-        return isXmlText(unit);
+        return reporting().AddExplicitReportData(name, number > 0, maxOccurs, QString(), exponent, unit);
     case 3:
-        reporting().AddExplicitReportData(name, std::lround(std::fmin(number, 1e9)), maxOccurs, QString(), exponent,
-                                          unit);
-        return isXmlText(unit);
+        return reporting().AddExplicitReportData(name, std::lround(std::fmin(number, 1e9)), maxOccurs, QString(),
+                                                 exponent, unit);
     case 4: {
         auto* const selection = new ValueSelection(path);
         selection->AddChoice(number, text);
@@ -150,11 +146,9 @@ bool addItem(FuzzInput& input, Tree& tree)
         break;
     default:
         checkFixedText(ReportData(name, QString(), text, 1, QString(), exponent, unit, false), text, exponent);
-        reporting().AddReportData(name, QString(), text, maxOccurs, QString(), exponent, unit);
-        return isXmlText(unit) && isXmlText(text);
+        return reporting().AddReportData(name, QString(), text, maxOccurs, QString(), exponent, unit);
     }
     reporting().AddReportData(name, path, text, maxOccurs, QString(), exponent, unit);
-    return isXmlText(unit) && isXmlText(text);
 }
 
 } // namespace
@@ -163,12 +157,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     FuzzInput input(data, size);
     Tree tree;
-    bool isXml = true;
     for (int items = 0; items < 20 && !input.IsAtEnd(); ++items) {
-        isXml = addItem(input, tree) && isXml;
+        addItem(input, tree);
     }
     require(reporting().SlotToReport(), "a report is made of any items");
-    readBack(scratchFile(QStringLiteral("2017-03-31_12-34-56-7.xml")), isXml);
+    readBack(scratchFile(QStringLiteral("2017-03-31_12-34-56-7.xml")), true);
     reporting().ClearReportData();
     return 0;
 }

@@ -1,5 +1,6 @@
 #include "fuzzing.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -82,23 +83,31 @@ QDomDocument readBack(const QString& fileName, bool isDue)
 
 bool isXmlName(const QString& name)
 {
-    static const QRegularExpression names(QStringLiteral("\\A[A-Za-z_][A-Za-z0-9_.-]*(:[A-Za-z_][A-Za-z0-9_.-]*)?\\z"));
+    static const QString letters = QStringLiteral("A-Z_a-z\\x{C0}-\\x{D6}\\x{D8}-\\x{F6}\\x{F8}-\\x{FF}");
+    static const QRegularExpression names(QStringLiteral("\\A[%1][%1.0-9-]*(:[%1][%1.0-9-]*)?\\z").arg(letters));
     return names.match(name).hasMatch();
 }
 
-bool isXmlText(const QString& text)
+bool isDisputedName(const QString& name)
 {
+    return std::any_of(name.begin(), name.end(), [](QChar character) {
+        return character == QLatin1Char(':') || character == QChar(0xB7) || character.unicode() > 0xFF;
+    });
+}
+
+QString xmlText(const QString& text)
+{
+    QString kept;
     for (int i = 0; i < text.size(); ++i) {
         const QChar character = text.at(i);
         if (character.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate()) {
-            ++i;
-        } else if (character.isSurrogate() || character.unicode() >= 0xFFFE
-                   || (character.unicode() < 0x20 && character != QLatin1Char('\t') && character != QLatin1Char('\n')
-                       && character != QLatin1Char('\r'))) {
-            return false;
+            kept += text.mid(i++, 2);
+        } else if (character.unicode() >= 0x20 ? !character.isSurrogate() && character.unicode() < 0xFFFE
+                                               : QStringLiteral("\t\n\r").contains(character)) {
+            kept += character;
         }
     }
-    return true;
+    return kept;
 }
 
 bool isXml(const QDomNode& node)
@@ -106,12 +115,13 @@ bool isXml(const QDomNode& node)
     if (node.isDocumentType()) {
         return false; // Qt writes the declarations in it in its own way, and no report has one.
     }
-    if (node.isElement() ? !isXmlName(node.nodeName()) : !isXmlText(node.nodeValue())) {
+    if (node.isElement() ? !isXmlName(node.nodeName()) : xmlText(node.nodeValue()) != node.nodeValue()) {
         return false;
     }
     const QDomNamedNodeMap attributes = node.attributes();
     for (int i = 0; i < attributes.count(); ++i) {
-        if (!isXmlName(attributes.item(i).nodeName()) || !isXmlText(attributes.item(i).nodeValue())) {
+        const QDomNode attribute = attributes.item(i);
+        if (!isXmlName(attribute.nodeName()) || xmlText(attribute.nodeValue()) != attribute.nodeValue()) {
             return false;
         }
     }
@@ -126,7 +136,8 @@ bool isXml(const QDomNode& node)
 bool isRepeatingMuch(const QByteArray& schema)
 {
     static const QRegularExpression greatNumber(QStringLiteral("Occurs\\s*=\\s*[\"'][^\"']{3,}[\"']"));
-    QRegularExpressionMatchIterator numbers = greatNumber.globalMatch(QString::fromLatin1(schema));
+    QRegularExpressionMatchIterator numbers
+        = greatNumber.globalMatch(QString(QLatin1String(schema.constData(), int(schema.size()))));
     while (numbers.hasNext()) {
         if (!numbers.next().captured().contains(QLatin1String("unbounded"))) {
             return true;

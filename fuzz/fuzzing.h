@@ -19,11 +19,13 @@ void writeScratchFile(const QString& name, const QByteArray& content);
 /// The document in a file that the library has written. Its content must be XML when @p isDue.
 QDomDocument readBack(const QString& fileName, bool isDue);
 
-/// Whether the names and texts at and below @p node are such that every parser takes them.
+/// Whether a schema or an observer has left names and texts at and below @p node that every parser takes.
 bool isXml(const QDomNode& node);
-/// Plain names only, with one prefix at most: parsers differ about the rest.
 bool isXmlName(const QString& name);
-bool isXmlText(const QString& text);
+/// Whether XML may allow the name and Qt's parsers still not read it: they know the names of earlier editions.
+bool isDisputedName(const QString& name);
+/// What XML can carry of @p text.
+QString xmlText(const QString& text);
 
 /// Whether a schema repeats elements so often that laying it out takes longer than a fuzzer should wait: the limits
 /// themselves are tested elsewhere.

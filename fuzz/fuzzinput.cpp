@@ -53,8 +53,10 @@ int FuzzInput::Choice(int count)
 QString FuzzInput::Line()
 {
     const int end = static_cast<int>(m_bytes.indexOf('\n', m_position));
-    QString line = QString::fromUtf8(m_bytes.mid(m_position, end < 0 ? -1 : end - m_position));
-    m_position = end < 0 ? static_cast<int>(m_bytes.size()) : end + 1;
+    const int behind = end < 0 ? static_cast<int>(m_bytes.size()) : end;
+    // Not from a byte array, which Qt 5 reads up to the first null character.
+    QString line = QString::fromUtf8(m_bytes.constData() + m_position, behind - m_position);
+    m_position = end < 0 ? behind : end + 1;
     for (QChar& character : line) {
         if (character.unicode() >= 0xE000 && character.unicode() < 0xE800) {
             character = QChar(character.unicode() - 0x800);
