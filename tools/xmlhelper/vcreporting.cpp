@@ -362,7 +362,7 @@ void VCReporting::CheckReportData(ReportData* item)
 {
     if (item && item->IsOpen()) {
         m_pItems->Append(item);
-    } else {
+    } else { // unreached: explicit data, which every item is given before, opens it
         delete item;
     }
 }

@@ -549,7 +549,7 @@ void XmlSchemaHandler::enterOccurs(QString name, const ElementDeclaration& decla
     if (declaration.HasOccursCode()) {
         const QString owner = m_bInsideGlobal ? m_currentElement.tagName() : m_sDefinitionName;
         const auto entry = m_occurs.try_emplace(name).first;
-        if (entry == m_occurs.end()) {
+        if (entry == m_occurs.end()) { // unreached: what was entered is there
             name = LostElementName;
         } else {
             entry->second[declaration.OccursCode()].push_back(owner);
