@@ -118,7 +118,8 @@ int main(int argc, char** argv)
     const std::vector<Row> rows = allRows(workspace);
     Harness harness(commandLine.Options());
     if (commandLine.parser.isSet(commandLine.list)) {
-        for (const QString& name : harness.Names(rows) + memoryNames(harness)) {
+        const QStringList names = harness.Names(rows) + memoryNames(harness);
+        for (const QString& name : names) {
             std::printf("%s\n", qPrintable(name));
         }
         return 0;

@@ -91,7 +91,8 @@ qint64 peakOfThisProcess()
     if (!status.open(QIODevice::ReadOnly)) {
         return 0;
     }
-    for (const QByteArray& line : status.readAll().split('\n')) {
+    const QList<QByteArray> lines = status.readAll().split('\n');
+    for (const QByteArray& line : lines) {
         if (line.startsWith("VmHWM:")) {
             return line.mid(6).trimmed().split(' ').front().toLongLong();
         }

@@ -43,7 +43,7 @@ private:
 enum class Filling { Unfilled, HalfFilled, Filled };
 
 /// Makes a report as a module would that knows its values by name: every value, every second one or none is filled.
-class ReportFiller : public CountingObserver
+class ReportFiller final : public CountingObserver
 {
 public:
     explicit ReportFiller(Filling filling = Filling::Filled)

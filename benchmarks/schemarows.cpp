@@ -102,7 +102,7 @@ std::nullptr_t changeOf(FloorWalk&)
 }
 
 /// Answers a walk by editing the document as the report builder does: what the walk costs without the builder's checks.
-template <class Walk> class WalkFiller : public CountingObserver
+template <class Walk> class WalkFiller final : public CountingObserver
 {
 public:
     explicit WalkFiller(Filling filling)

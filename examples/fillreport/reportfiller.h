@@ -13,7 +13,7 @@
 /// A value belongs to the element of its name, "Frequency", to an element below a certain parent, "Signal/Frequency",
 /// or to an attribute, "Frequency@Unit". Values of equal name go to repeated elements. Declared attributes without a
 /// value are removed.
-class ReportFiller : public IXMLHelper
+class ReportFiller final : public IXMLHelper
 {
 public:
     struct Value

@@ -64,8 +64,10 @@ QStringList Languages::GetAvailable() const
 QString Languages::NameOf(const QString& language)
 {
     const QString name = QLocale(language).nativeLanguageName();
+    // The name of a language that Qt does not know is empty.
+    const QString first = name.left(1); // clazy:exclude=qstring-left
     // Without its country: Qt names the English of the United States.
-    return language == English ? QStringLiteral("English") : name.left(1).toUpper() + name.mid(1);
+    return language == English ? QStringLiteral("English") : first.toUpper() + name.mid(1);
 }
 
 QString Languages::OfSystem() const

@@ -73,7 +73,8 @@ void typeInto(QWidget& widget, const QString& text)
 /// The open dialog; null when there is none. Answered ones are still there, hidden.
 QWidget* openCommentDialog()
 {
-    for (QWidget* const widget : QApplication::topLevelWidgets()) {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* const widget : windows) {
         if (widget->objectName() == QLatin1String("ToReportCommentDialog") && widget->isVisible()) {
             return widget;
         }

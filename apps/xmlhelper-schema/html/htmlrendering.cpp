@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include <QCryptographicHash>
 #include <QFile>
@@ -492,7 +493,7 @@ private:
     {
         m_writer.Start(QLatin1String("section"), {{QLatin1String("id"), QStringLiteral("texts")}});
         m_writer.Element(QLatin1String("h2"), QStringLiteral("Schema"));
-        for (const QString& file : m_shownTexts) {
+        for (const QString& file : std::as_const(m_shownTexts)) {
             writeText(m_textNumbers.value(file), file, m_examination.texts.at(file));
         }
         if (std::size_t(m_shownTexts.size()) < m_examination.texts.size()) {
