@@ -63,10 +63,12 @@ void PathWatch::watch()
     }
     const QStringList watchedNow = m_watcher.directories() + m_watcher.files();
     const QSet<QString> watched(watchedNow.begin(), watchedNow.end());
-    for (const QString& path : watched - wanted) {
+    const QSet<QString> surplus = watched - wanted;
+    const QSet<QString> missing = wanted - watched;
+    for (const QString& path : surplus) {
         m_watcher.removePath(path);
     }
-    for (const QString& path : wanted - watched) {
+    for (const QString& path : missing) {
         m_watcher.addPath(path);
     }
 }
