@@ -207,10 +207,8 @@ bool Harness::CountInstructions(const Row& row) const
 Measurement Harness::measure(const Row& row, int size) const
 {
     Measurement measurement;
-    const qint64 start = cpuTime();
     const Contest contest = row.contest(size);
     measurement.trouble = checked(contest);
-    measurement.secondsOfCheck = static_cast<double>(cpuTime() - start) / 1e9;
     if (!measurement.trouble.isEmpty()) {
         measurement.trouble.prepend(QStringLiteral("WRONG RESULT: "));
         return measurement;
@@ -221,6 +219,7 @@ Measurement Harness::measure(const Row& row, int size) const
     std::vector<double> library;
     std::vector<double> floor;
     std::vector<double> ratios;
+    const qint64 start = cpuTime();
     QElapsedTimer elapsed;
     elapsed.start();
     for (int pair = 0; pair < m_options.mostPairs; ++pair) {
@@ -236,6 +235,8 @@ Measurement Harness::measure(const Row& row, int size) const
         ratios.push_back(library.back() / floor.back());
     }
     measurement.pairs = static_cast<int>(ratios.size());
+    measurement.secondsOfRun
+        = static_cast<double>(cpuTime() - start) / 1e9 / (measurement.pairs * std::max(libraryRuns, floorRuns));
     measurement.libraryMs = quantile(library, 0.5);
     measurement.floorMs = quantile(floor, 0.5);
     measurement.ratio = quantile(ratios, 0.5);
@@ -244,15 +245,15 @@ Measurement Harness::measure(const Row& row, int size) const
     return measurement;
 }
 
-/// How long one check of @p size would presumably take, by the growth so far; 0 for the smallest.
+/// How long one run of both sides would presumably take for @p size, by the growth so far; 0 for the smallest.
 double Harness::expectedSeconds(const std::vector<Measurement>& smaller, int size) const
 {
     if (smaller.empty()) {
         return 0;
     }
     const Measurement& last = smaller.back();
-    const double exponent = smaller.size() < 2 ? 1 : std::max(1.0, exponentOf(smaller, &Measurement::secondsOfCheck));
-    return last.secondsOfCheck * std::pow(static_cast<double>(size) / last.size, exponent);
+    const double exponent = smaller.size() < 2 ? 1 : std::max(1.0, exponentOf(smaller, &Measurement::secondsOfRun));
+    return last.secondsOfRun * std::pow(static_cast<double>(size) / last.size, exponent);
 }
 
 void Harness::judgeGrowth(const Row& row, const std::vector<Measurement>& measured)

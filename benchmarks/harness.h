@@ -56,7 +56,7 @@ struct Measurement
     double ratio = 0; ///< median of the ratios of the pairs
     double lowerQuartile = 0;
     double upperQuartile = 0;
-    double secondsOfCheck = 0; ///< what it takes to set the case up, to run both sides once and to check them
+    double secondsOfRun = 0; ///< CPU time of a run of both sides, with what is made for it and taken away again
 };
 
 /// How the time of a row grows with the size of its input: t is about size to the power of the exponent.
