@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QIODevice>
 #include <QTextStream>
 
 namespace {
