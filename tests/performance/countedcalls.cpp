@@ -24,13 +24,25 @@ long reads = 0;
         return real_##function(node);                                                                                  \
     }
 
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+#define XMLHELPER_NAME_PARAMETERS const QString& name
+#define XMLHELPER_NAME_ARGUMENTS name
+#define XMLHELPER_NAME_MANGLED "ERK7QString"
+#else
+#define XMLHELPER_NAME_PARAMETERS const QString &name, const QString &namespaceUri
+#define XMLHELPER_NAME_ARGUMENTS name, namespaceUri
+#define XMLHELPER_NAME_MANGLED "ERK7QStringS2_"
+#endif
+
 #define XMLHELPER_COUNT_MOVE_BY_NAME(function, mangled)                                                                \
-    QDomElement real_##function(const QDomNode* node, const QString& name) __asm__("__real_" mangled);                 \
-    QDomElement counted_##function(const QDomNode* node, const QString& name) __asm__("__wrap_" mangled);              \
-    QDomElement counted_##function(const QDomNode* node, const QString& name)                                          \
+    QDomElement real_##function(const QDomNode* node,                                                                  \
+                                XMLHELPER_NAME_PARAMETERS) __asm__("__real_" mangled XMLHELPER_NAME_MANGLED);          \
+    QDomElement counted_##function(const QDomNode* node,                                                               \
+                                   XMLHELPER_NAME_PARAMETERS) __asm__("__wrap_" mangled XMLHELPER_NAME_MANGLED);       \
+    QDomElement counted_##function(const QDomNode* node, XMLHELPER_NAME_PARAMETERS)                                    \
     {                                                                                                                  \
         ++visits;                                                                                                      \
-        return real_##function(node, name);                                                                            \
+        return real_##function(node, XMLHELPER_NAME_ARGUMENTS);                                                        \
     }
 
 XMLHELPER_COUNT_MOVE(firstChild, "_ZNK8QDomNode10firstChildEv")
@@ -38,8 +50,8 @@ XMLHELPER_COUNT_MOVE(lastChild, "_ZNK8QDomNode9lastChildEv")
 XMLHELPER_COUNT_MOVE(nextSibling, "_ZNK8QDomNode11nextSiblingEv")
 XMLHELPER_COUNT_MOVE(previousSibling, "_ZNK8QDomNode15previousSiblingEv")
 XMLHELPER_COUNT_MOVE(parentNode, "_ZNK8QDomNode10parentNodeEv")
-XMLHELPER_COUNT_MOVE_BY_NAME(firstChildElement, "_ZNK8QDomNode17firstChildElementERK7QString")
-XMLHELPER_COUNT_MOVE_BY_NAME(nextSiblingElement, "_ZNK8QDomNode18nextSiblingElementERK7QString")
+XMLHELPER_COUNT_MOVE_BY_NAME(firstChildElement, "_ZNK8QDomNode17firstChildElement")
+XMLHELPER_COUNT_MOVE_BY_NAME(nextSiblingElement, "_ZNK8QDomNode18nextSiblingElement")
 
 QDomNodeList real_childNodes(const QDomNode* node) __asm__("__real__ZNK8QDomNode10childNodesEv");
 QDomNodeList counted_childNodes(const QDomNode* node) __asm__("__wrap__ZNK8QDomNode10childNodesEv");
