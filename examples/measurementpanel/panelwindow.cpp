@@ -27,6 +27,7 @@
 #include <xmlhelper/vcreporting.h>
 
 #include "buttonexplanation.h"
+#include "elidedlabel.h"
 #include "languages.h"
 #ifdef MEASUREMENTPANEL_HAS_PLOT
 #include "leveltrace.h"
@@ -44,7 +45,7 @@
 namespace {
 
 constexpr double ValueFontFactor = 1.7;
-constexpr int ListWidth = 430;
+constexpr int ListWidth = 520;
 constexpr int ListHeight = 170;
 constexpr QSize ButtonPicture(24, 24);
 
@@ -63,11 +64,10 @@ QLabel* createLabel(const QString& name, QWidget* parent)
     return label;
 }
 
-/// A label of the status line, whose text may be longer than the window.
-QLabel* createStatusLabel(const char* name, QStatusBar& line)
+ElidedLabel* createStatusLabel(const char* name, QStatusBar& line)
 {
-    QLabel* const label = createLabel(QLatin1String(name), &line);
-    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto* const label = new ElidedLabel(&line);
+    label->setObjectName(QLatin1String(name));
     return label;
 }
 
@@ -112,7 +112,7 @@ PanelWindow::PanelWindow(const MeasurementTree& tree, const SimulatedReceiver& r
     createMenus();
     createToolBar();
     createReporting();
-    resize(900, 780);
+    resize(980, 780);
 
     connect(&m_receiver, &SimulatedReceiver::Measured, this, &PanelWindow::showValues);
     connect(&m_presses, &PressWatch::Began, this,
@@ -212,8 +212,7 @@ void PanelWindow::createLiveRow()
     m_pLog->setSelectionMode(QAbstractItemView::SingleSelection);
     m_pLog->setTabKeyNavigation(false);
     m_pLog->verticalHeader()->hide();
-    m_pLog->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_pLog->horizontalHeader()->setSectionResizeMode(SessionLog::File, QHeaderView::Stretch);
+    m_pLog->horizontalHeader()->setStretchLastSection(true);
     m_pLog->setMinimumWidth(ListWidth);
     m_pLog->setMinimumHeight(ListHeight);
     row->addWidget(m_pLog, m_pTrace ? 0 : 1);
@@ -241,9 +240,9 @@ void PanelWindow::createStatusLine()
 {
     m_pLastPress = createStatusLabel("lastPress", *statusBar());
     m_pAvailability = createStatusLabel("availability", *statusBar());
-    m_pAvailability->setTextFormat(Qt::RichText);
-    statusBar()->addWidget(m_pLastPress, 1);
-    statusBar()->addPermanentWidget(m_pAvailability, 1);
+    // Of the two the paths are the longer ones, and the press is told in the message too.
+    statusBar()->addWidget(m_pLastPress, 2);
+    statusBar()->addPermanentWidget(m_pAvailability, 3);
 }
 
 void PanelWindow::createToolBar()
@@ -324,6 +323,7 @@ void PanelWindow::translate()
     m_pReportName->setText(m_sShownReport.isEmpty() ? tr("No report yet")
                                                     : tr("Last report: %1").arg(QFileInfo(m_sShownReport).fileName()));
     m_presses.GetLog().Translate();
+    fitColumns();
     m_pMessage->Translate();
     if (m_iLastPress > 0) {
         m_pLastPress->setText(PressText::Sentence(m_presses.GetLog().At(m_iLastPress - 1)));
@@ -357,9 +357,10 @@ void PanelWindow::showAvailability(bool isAvailable)
 {
     m_bAvailable = isAvailable;
     const QString text = isAvailable ? tr("Schema and report directory are available") : missingPaths();
-    const QColor colour = isAvailable ? goodColour(palette()) : badColour(palette());
-    m_pAvailability->setText(QStringLiteral("<font color=\"%1\">●</font> %2").arg(colour.name(), text.toHtmlEscaped()));
-    m_pAvailability->setToolTip(text);
+    m_pAvailability->setText(QStringLiteral("● ") + text);
+    QPalette coloured = palette();
+    coloured.setColor(QPalette::WindowText, isAvailable ? goodColour(palette()) : badColour(palette()));
+    m_pAvailability->setPalette(coloured);
     m_pExplanation->Explain(isAvailable ? QString() : text);
     m_pMessage->Translate();
     m_pFolder->Look();
@@ -397,12 +398,20 @@ void PanelWindow::showPress(const Press& press)
     m_iLastPress = press.number;
     m_sComplaint.clear();
     m_pLastPress->setText(PressText::Sentence(press));
-    m_pLastPress->setToolTip(m_pLastPress->text());
     m_pLog->selectRow(press.number - 1);
+    fitColumns();
     m_pMessage->ShowPress(press);
     m_pFolder->Look();
     if (press.IsFailed()) {
         Q_EMIT ReportFailed(PressText::Sentence(press));
+    }
+}
+
+/// The verdict is what has to be readable; the file's name takes what is left.
+void PanelWindow::fitColumns()
+{
+    for (const int column : {SessionLog::Number, SessionLog::Time, SessionLog::Verdict}) {
+        m_pLog->resizeColumnToContents(column);
     }
 }
 

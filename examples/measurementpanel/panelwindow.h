@@ -93,6 +93,7 @@ private:
     QString schemaFile() const;
     void showReport(const QString& path);
     void showPress(const Press& press);
+    void fitColumns();
     void showSelectedPress();
     void showPicture();
 

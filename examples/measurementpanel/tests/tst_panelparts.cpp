@@ -8,6 +8,7 @@
 #include <xmlhelper/vcreporting.h>
 
 #include "buttonexplanation.h"
+#include "elidedlabel.h"
 #include "languages.h"
 #ifdef MEASUREMENTPANEL_HAS_PLOT
 #include "leveltrace.h"
@@ -26,6 +27,8 @@ class TestPanelParts : public QObject
 private Q_SLOTS:
     void anExplanationStandsBelowTheToolTip();
     void anExplanationSurvivesAChangeOfTheToolTip();
+
+    void aLongLineKeepsItsEnds();
 
     void settingsAreEmptyAtFirst();
     void settingsOutliveTheProgram();
@@ -101,6 +104,18 @@ void TestPanelParts::anExplanationSurvivesAChangeOfTheToolTip()
     QCOMPARE(button.toolTip(), QStringLiteral("Zum Bericht\nEs fehlt."));
     explanation.Explain(QString());
     QCOMPARE(button.toolTip(), QStringLiteral("Zum Bericht"));
+}
+
+void TestPanelParts::aLongLineKeepsItsEnds()
+{
+    ElidedLabel label;
+    label.setText(QStringLiteral("The report directory is missing:\n/a/long/way/to/the/reports"));
+    label.resize(2000, 30);
+    QCOMPARE(label.GetShownText(), QStringLiteral("The report directory is missing: /a/long/way/to/the/reports"));
+    label.resize(250, 30);
+    QVERIFY(label.GetShownText().startsWith(QLatin1String("The ")));
+    QVERIFY(label.GetShownText().endsWith(QLatin1String("reports")));
+    QVERIFY(label.fontMetrics().horizontalAdvance(label.GetShownText()) <= label.width());
 }
 
 void TestPanelParts::settingsAreEmptyAtFirst()
