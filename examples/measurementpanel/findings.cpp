@@ -2,9 +2,48 @@
 
 #include <algorithm>
 
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QStandardPaths>
+
 #ifdef MEASUREMENTPANEL_HAS_REPORTCHECK
 #include <reportcheck.h>
 #endif
+
+namespace {
+
+/// An operator who waits for a message shall not wait for long.
+constexpr int DoctorsTimeMs = 5000;
+
+/// Beside this program, or where programs are.
+QString doctor()
+{
+    const QString name = QStringLiteral("xmlhelper-schema");
+    const QString beside = QStandardPaths::findExecutable(name, {QCoreApplication::applicationDirPath()});
+    return beside.isEmpty() ? QStandardPaths::findExecutable(name) : beside;
+}
+
+/// What the doctor says of a schema. A program of its own: it has the library's inner classes in it, which must not
+/// meet those of the library in one process. Empty when it is not there or has not ended in time.
+QJsonObject examine(const QString& schema)
+{
+    const QString program = doctor();
+    QProcess process;
+    if (!program.isEmpty()) {
+        process.start(program, {QStringLiteral("--json"), QStringLiteral("--"), schema});
+    }
+    if (program.isEmpty() || !process.waitForFinished(DoctorsTimeMs)) {
+        process.kill();
+        process.waitForFinished();
+        return {};
+    }
+    return QJsonDocument::fromJson(process.readAllStandardOutput()).object();
+}
+
+} // namespace
 
 #ifdef MEASUREMENTPANEL_HAS_REPORTCHECK
 
@@ -52,7 +91,10 @@ QString firstFindingInReport(const QString& /*report*/, const QString& /*schema*
 
 #endif
 
-QString firstFindingInSchema(const QString& /*schema*/)
+QString firstFindingInSchema(const QString& schema)
 {
-    return {};
+    const QJsonObject examination = examine(schema);
+    const QString unreadable = examination.value(QLatin1String("unreadable")).toString();
+    const QJsonObject finding = examination.value(QLatin1String("findings")).toArray().at(0).toObject();
+    return unreadable.isEmpty() ? finding.value(QLatin1String("what")).toString() : unreadable;
 }

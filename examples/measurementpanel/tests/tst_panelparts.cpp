@@ -9,6 +9,7 @@
 
 #include "buttonexplanation.h"
 #include "elidedlabel.h"
+#include "findings.h"
 #include "languages.h"
 #ifdef MEASUREMENTPANEL_HAS_PLOT
 #include "leveltrace.h"
@@ -43,6 +44,9 @@ private Q_SLOTS:
     void theSweepGoesThroughTheMeasuredLevel();
     void theSweepChangesNoMeasurement();
 
+    void theDoctorsFirstFindingIsTaken();
+    void withoutADoctorNothingIsFound();
+
     void picturesComeInSeveralSizes();
     void coloursAreReadableOnTheirWindows_data();
     void coloursAreReadableOnTheirWindows();
@@ -60,6 +64,23 @@ QPalette darkPalette()
     palette.setColor(QPalette::ButtonText, Qt::white);
     return palette;
 }
+
+/// The only folder where programs are, for as long as it lives.
+class ProgramFolder
+{
+public:
+    explicit ProgramFolder(const QString& folder)
+        : m_former(qgetenv("PATH"))
+    {
+        qputenv("PATH", QFile::encodeName(folder));
+    }
+    ~ProgramFolder() { qputenv("PATH", m_former); }
+
+private:
+    Q_DISABLE_COPY(ProgramFolder)
+
+    QByteArray m_former;
+};
 
 double linear(double channel)
 {
@@ -249,6 +270,36 @@ void TestPanelParts::theSweepChangesNoMeasurement()
     const SimulatedReceiver again(tree);
     QCOMPARE(again.GetSpectrum().levels, first);
     QCOMPARE(reportedLevel().text, level);
+}
+
+void TestPanelParts::theDoctorsFirstFindingIsTaken()
+{
+#ifndef Q_OS_UNIX
+    QSKIP("The stand-in for the doctor is a script for a Unix shell.");
+#endif
+    // A doctor that finds two things, and knows the name of the file that it was given.
+    const QTemporaryDir programs;
+    const QString doctor = programs.filePath(QStringLiteral("xmlhelper-schema"));
+    QVERIFY(writeFile(doctor,
+                      "#!/bin/sh\n"
+                      "[ \"$1 $2 $3\" = '--json -- /a b.xsd' ] || exit 1\n"
+                      "echo '{\"findings\": [{\"what\": \"It names no type.\"}, {\"what\": \"More.\"}]}'\n"
+                      "exit 2\n"));
+    QVERIFY(QFile::setPermissions(doctor, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    const ProgramFolder folder(programs.path());
+    QCOMPARE(firstFindingInSchema(QStringLiteral("/a b.xsd")), QStringLiteral("It names no type."));
+
+    QVERIFY(writeFile(doctor, "#!/bin/sh\necho '{\"findings\": [], \"unreadable\": \"It is no XML.\"}'\n"));
+    QCOMPARE(firstFindingInSchema(QStringLiteral("/a b.xsd")), QStringLiteral("It is no XML."));
+    QVERIFY(writeFile(doctor, "#!/bin/sh\necho Nonsense\n"));
+    QCOMPARE(firstFindingInSchema(QStringLiteral("/a b.xsd")), QString());
+}
+
+void TestPanelParts::withoutADoctorNothingIsFound()
+{
+    const QTemporaryDir empty;
+    const ProgramFolder folder(empty.path());
+    QCOMPARE(firstFindingInSchema(QStringLiteral("/a.xsd")), QString());
 }
 
 void TestPanelParts::picturesComeInSeveralSizes()
