@@ -106,6 +106,17 @@ bool FullDisk::IsPossible()
 
 #endif
 
+ProgramFolder::ProgramFolder(const QString& folder)
+    : m_former(qgetenv("PATH"))
+{
+    qputenv("PATH", QFile::encodeName(folder));
+}
+
+ProgramFolder::~ProgramFolder()
+{
+    qputenv("PATH", m_former);
+}
+
 Answer::Answer(const QString& button)
 {
     QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this, button] {

@@ -35,8 +35,20 @@ private:
     Q_DISABLE_COPY(FullDisk)
 };
 
-/// Answers the next question like an operator who sees it come up, by the button at a place in its row, and counts how
-/// often something was asked.
+/// Makes a folder the only one where programs are looked for, for as long as it lives.
+class ProgramFolder
+{
+public:
+    explicit ProgramFolder(const QString& folder);
+    ~ProgramFolder();
+
+private:
+    Q_DISABLE_COPY(ProgramFolder)
+
+    QByteArray m_former;
+};
+
+/// Answers questions like an operator who sees them come up, always by the button of that text, and counts them.
 class Answer
 {
 public:

@@ -65,23 +65,6 @@ QPalette darkPalette()
     return palette;
 }
 
-/// The only folder where programs are, for as long as it lives.
-class ProgramFolder
-{
-public:
-    explicit ProgramFolder(const QString& folder)
-        : m_former(qgetenv("PATH"))
-    {
-        qputenv("PATH", QFile::encodeName(folder));
-    }
-    ~ProgramFolder() { qputenv("PATH", m_former); }
-
-private:
-    Q_DISABLE_COPY(ProgramFolder)
-
-    QByteArray m_former;
-};
-
 double linear(double channel)
 {
     return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);

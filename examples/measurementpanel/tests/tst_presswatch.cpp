@@ -69,6 +69,7 @@ private Q_SLOTS:
     void saysWhyNothingIsWritten();
     void aFullDiskIsTold();
     void aSchemaThatIsNotUnderstoodIsTold();
+    void theDoctorSaysWhatIsWrongWithASchema();
     void aReportThatBreaksItsSchemaIsDoubtful();
 
     void anOpenDialogWaits();
@@ -158,6 +159,22 @@ void TestPressWatch::aSchemaThatIsNotUnderstoodIsTold()
     QVERIFY(writeFile(schema(), "<xs:schema><xs:element name='a'>"));
     WatchedReporting reporting(schema(), reports());
     QCOMPARE(reporting.PressButton().state, Press::State::SchemaNotUnderstood);
+}
+
+void TestPressWatch::theDoctorSaysWhatIsWrongWithASchema()
+{
+#ifdef MEASUREMENTPANEL_DOCTOR_FOLDER
+    const ProgramFolder folder(QStringLiteral(MEASUREMENTPANEL_DOCTOR_FOLDER));
+    QVERIFY(writeFile(schema(),
+                      "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>"
+                      "<xs:element name='Report' type='Nowhere'/></xs:schema>"));
+    WatchedReporting reporting(schema(), reports());
+    const Press& press = reporting.PressButton();
+    QCOMPARE(press.state, Press::State::SchemaNotUnderstood);
+    QVERIFY2(press.finding.contains(QLatin1String("Nowhere")), qPrintable(press.finding));
+#else
+    QSKIP("Built without the schema doctor.");
+#endif
 }
 
 void TestPressWatch::aReportThatBreaksItsSchemaIsDoubtful()
