@@ -72,8 +72,15 @@ QString Languages::NameOf(const QString& language)
 
 QString Languages::OfSystem() const
 {
-    const QString language = QLocale::system().name().section(QLatin1Char('_'), 0, 0);
-    return GetAvailable().contains(language) ? language : QString(English);
+    const QStringList available = GetAvailable();
+    const QStringList wanted = QLocale::system().uiLanguages();
+    for (const QString& language : wanted) {
+        const QString code = language.section(QLatin1Char('-'), 0, 0);
+        if (available.contains(code)) {
+            return code;
+        }
+    }
+    return English;
 }
 
 void Languages::Use(const QString& language)

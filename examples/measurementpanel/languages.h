@@ -21,7 +21,7 @@ public:
     QStringList GetAvailable() const;
     /// What a language calls itself, with the codes above.
     static QString NameOf(const QString& language);
-    /// The language of the user's system; English when there is no catalogue for it.
+    /// The first language of the user's system that has a catalogue; English when none has.
     QString OfSystem() const;
 
     /// Speaks a language from now on; English in place of one that is not available.

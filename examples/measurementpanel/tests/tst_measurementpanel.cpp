@@ -26,6 +26,9 @@ private Q_SLOTS:
     void explainsItsUsage();
     void showsHelp_data();
     void showsHelp();
+    void speaksTheLanguageAskedFor_data();
+    void speaksTheLanguageAskedFor();
+    void remembersNothingOfPressesByItself();
 };
 
 namespace {
@@ -48,8 +51,16 @@ struct Result
     }
 };
 
+/// In English, whoever's system this is.
+QProcessEnvironment plainEnvironment()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
+    return environment;
+}
+
 Result run(const QString& program, const QStringList& arguments,
-           const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment())
+           const QProcessEnvironment& environment = plainEnvironment())
 {
     QProcess process;
     process.setProcessEnvironment(environment);
@@ -63,8 +74,7 @@ Result run(const QString& program, const QStringList& arguments,
     return result;
 }
 
-Result runPanel(const QStringList& arguments,
-                const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment())
+Result runPanel(const QStringList& arguments, const QProcessEnvironment& environment = plainEnvironment())
 {
     return run(QStringLiteral(MEASUREMENTPANEL_PROGRAM), arguments, environment);
 }
@@ -344,6 +354,7 @@ void TestMeasurementPanel::explainsItsUsage_data()
     row("press-without-directory", "--press 1");
     row("empty-directory", "--press 1 --reports=");
     row("empty-schema", "--press 1 --reports . --schema=");
+    row("empty-settings", "--settings=");
     row("comment-without-press", "--comment x");
     row("screenshot-without-press", "--screenshot x.png");
 }
@@ -373,9 +384,78 @@ void TestMeasurementPanel::showsHelp()
     const Result result = runPanel({option});
     QVERIFY(result.isEndedNormally);
     QCOMPARE(result.exitCode, 0);
-    for (const char* const known : {"--press", "--reports", "--schema", "--comment", "--screenshot"}) {
+    for (const char* const known :
+         {"--press", "--reports", "--schema", "--language", "--settings", "--comment", "--screenshot"}) {
         QVERIFY2(result.output.contains(QLatin1String(known)), known);
     }
+}
+
+void TestMeasurementPanel::speaksTheLanguageAskedFor_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("systemLanguage");
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("complaint");
+
+    const QString none;
+    const QString unread = QStringLiteral("--schema=malformed.xsd");
+    const QString often = QStringLiteral("--press=often");
+    QTest::newRow("english-by-default") << none << "de" << unread << "could not be read";
+    QTest::newRow("german") << "de"
+                            << "en" << unread << "konnte nicht gelesen werden";
+    QTest::newRow("french") << "fr"
+                            << "en" << unread << QStringLiteral("n'a pas pu être lu");
+    QTest::newRow("unknown-language-is-english") << "xx"
+                                                 << "de" << unread << "could not be read";
+    QTest::newRow("usage-in-the-language-of-the-system")
+        << none << "xx:de" << often << QStringLiteral("„often“ ist keine Anzahl");
+}
+
+void TestMeasurementPanel::speaksTheLanguageAskedFor()
+{
+#ifndef Q_OS_LINUX
+    QSKIP("How a system says its language is of its own kind.");
+#endif
+    QFETCH(QString, language);
+    QFETCH(QString, systemLanguage);
+    QFETCH(QString, option);
+    QFETCH(QString, complaint);
+    const QFileInfo program(QStringLiteral(MEASUREMENTPANEL_PROGRAM));
+    if (!QFile::exists(program.dir().filePath(QStringLiteral("translations/MeasurementPanel_de.qm")))) {
+        QSKIP("Built without lrelease: there are no translations.");
+    }
+    const QTemporaryDir directory;
+    QVERIFY(writeFile(directory.filePath(QStringLiteral("malformed.xsd")), "<xs:schema><xs:element name='a'>"));
+    QProcessEnvironment environment = plainEnvironment();
+    environment.insert(QStringLiteral("LANGUAGE"), systemLanguage);
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+
+    QStringList arguments = pressing(1, directory.path());
+    arguments.append(option.contains(QLatin1String("--schema"))
+                         ? QStringLiteral("--schema=") + directory.filePath(QStringLiteral("malformed.xsd"))
+                         : option);
+    if (!language.isEmpty()) {
+        arguments.append(QStringLiteral("--language=") + language);
+    }
+    const Result result = runPanel(arguments, environment);
+    QVERIFY(result.isEndedNormally && result.exitCode != 0);
+    QVERIFY2(result.errors.contains(complaint), qPrintable(result.errors));
+}
+
+void TestMeasurementPanel::remembersNothingOfPressesByItself()
+{
+    const QTemporaryDir home;
+    const QTemporaryDir directory;
+    QProcessEnvironment environment = plainEnvironment();
+    for (const char* const variable : {"HOME", "XDG_CONFIG_HOME", "APPDATA", "LOCALAPPDATA"}) {
+        environment.insert(QLatin1String(variable), home.path());
+    }
+    const QString file = home.filePath(QStringLiteral("settings.ini"));
+    const QStringList options = withComment(QString()) + QStringList {QStringLiteral("--settings"), file};
+    const Result result = runPanel(pressing(1, directory.path(), options), environment);
+    QVERIFY2(result.exitCode == 0, qPrintable(result.errors));
+    QVERIFY(!QFile::exists(file));
+    QVERIFY(QDir(home.path()).entryList({QStringLiteral("measurementpanel*")}).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestMeasurementPanel)

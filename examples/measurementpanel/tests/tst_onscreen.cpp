@@ -332,7 +332,8 @@ QByteArray startServer(QProcess& server)
 {
     server.start(QStringLiteral("Xvfb"),
                  {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
-                  QStringLiteral("1400x1000x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+                  QStringLiteral("1400x1000x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp"),
+                  QStringLiteral("-terminate")}); // with its last client, however that ends
     return server.waitForStarted() && server.waitForReadyRead() ? server.readLine().trimmed() : QByteArray();
 }
 

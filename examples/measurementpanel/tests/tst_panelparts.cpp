@@ -1,5 +1,8 @@
 #include <QtTest>
 
+#include <algorithm>
+#include <cmath>
+
 #include <QDomDocument>
 #include <QLabel>
 #include <QTemporaryDir>
