@@ -9,7 +9,7 @@
 
 #include <QCoreApplication>
 
-#include "reportfiller.h"
+#include <reportfiller/reportfiller.h>
 
 namespace {
 
