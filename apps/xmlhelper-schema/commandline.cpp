@@ -1,0 +1,64 @@
+#include "commandline.h"
+
+#include <QCommandLineParser>
+
+namespace schemadoctor {
+
+CommandLine commandLineOf(const QStringList& arguments)
+{
+    const QCommandLineOption tree(QStringLiteral("tree"),
+                                  QStringLiteral("Print the tree and the findings as text (the default)."));
+    const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print them as JSON, for programs."));
+    const QCommandLineOption html(QStringLiteral("html"), QStringLiteral("Write them as a page of HTML into <file>."),
+                                  QStringLiteral("file"));
+    const QCommandLineOption window(QStringLiteral("window"), QStringLiteral("Show them in a window."));
+    const QCommandLineOption fill(
+        QStringLiteral("fill"),
+        QStringLiteral("Fill a report from the name=value lines of <file>, and print what happens."),
+        QStringLiteral("file"));
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Shows how XMLHelper understands an XML schema, and what its author should know.\n\n"
+                       "Exit status: 0 nothing to say, 1 warnings, 2 errors, 3 unreadable or wrong usage."));
+    parser.addOptions({tree, json, html, window, fill});
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("schema"), QStringLiteral("The schema to examine, an .xsd file."));
+
+    CommandLine line;
+    const auto wrong = [&line](const QString& message) {
+        line.show = CommandLine::Show::WrongUsage;
+        line.message = message;
+        return line;
+    };
+    if (!parser.parse(arguments)) {
+        return wrong(parser.errorText());
+    }
+    if (parser.isSet(help)) {
+        line.show = CommandLine::Show::Help;
+        line.message = parser.helpText();
+        return line;
+    }
+    if (parser.isSet(version)) {
+        line.show = CommandLine::Show::Version;
+        return line;
+    }
+    if (parser.positionalArguments().size() != 1) {
+        return wrong(QStringLiteral("Name one schema."));
+    }
+    line.schema = parser.positionalArguments().first();
+    if (int(parser.isSet(tree)) + int(parser.isSet(json)) + int(parser.isSet(html)) + int(parser.isSet(window))
+            + int(parser.isSet(fill))
+        > 1) {
+        return wrong(QStringLiteral("Give one of --tree, --json, --html, --window and --fill."));
+    }
+    line.show = parser.isSet(json) ? CommandLine::Show::Json
+        : parser.isSet(html)       ? CommandLine::Show::Html
+        : parser.isSet(window)     ? CommandLine::Show::Window
+        : parser.isSet(fill)       ? CommandLine::Show::Fill
+                                   : CommandLine::Show::Tree;
+    line.otherFile = parser.isSet(html) ? parser.value(html) : parser.value(fill);
+    return line;
+}
+
+} // namespace schemadoctor

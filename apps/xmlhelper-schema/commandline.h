@@ -1,0 +1,25 @@
+#ifndef SCHEMADOCTOR_COMMANDLINE_H
+#define SCHEMADOCTOR_COMMANDLINE_H
+
+#include <QString>
+#include <QStringList>
+
+namespace schemadoctor {
+
+/// What the program is asked for.
+struct CommandLine
+{
+    enum class Show { Tree, Json, Html, Window, Fill, Help, Version, WrongUsage };
+
+    Show show = Show::Tree;
+    QString schema;
+    QString otherFile; ///< the page to write, or the values to read
+    QString message; ///< the help, the version, or what is wrong
+};
+
+/// @param arguments  with the name of the program in front
+CommandLine commandLineOf(const QStringList& arguments);
+
+} // namespace schemadoctor
+
+#endif

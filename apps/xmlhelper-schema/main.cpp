@@ -1,0 +1,117 @@
+// Shows how the library understands an XML schema, and what its author should know. See the man page.
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+
+#include <QApplication>
+#include <QSaveFile>
+
+#include "commandline.h"
+#include "doctorwindow.h"
+#include "examine.h"
+#include "fill/dryrun.h"
+#include "htmlrendering.h"
+#include "render/jsonrendering.h"
+#include "render/textrendering.h"
+
+namespace {
+
+using namespace schemadoctor;
+
+void print(const QString& text)
+{
+    const QByteArray bytes = text.toUtf8();
+    std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), stdout);
+}
+
+int exitStatusOf(DryRunEnd end)
+{
+    switch (end) {
+    case DryRunEnd::Complete:
+        return NothingToSay;
+    case DryRunEnd::Incomplete:
+        return HasWarnings;
+    default:
+        return Unreadable;
+    }
+}
+
+int writePage(const QString& fileName, const Examination& examination)
+{
+    const QByteArray page = htmlOf(examination);
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly) || file.write(page) != page.size() || !file.commit()) {
+        std::fprintf(stderr, "xmlhelper-schema: %s: %s\n", qUtf8Printable(fileName),
+                     qUtf8Printable(file.errorString()));
+        return Unreadable;
+    }
+    return exitStatusOf(examination);
+}
+
+int showWindow(const Examination& examination)
+{
+    DoctorWindow window(examination);
+    window.show();
+    QApplication::exec();
+    return exitStatusOf(examination);
+}
+
+int run(const CommandLine& line)
+{
+    if (line.show == CommandLine::Show::Fill) {
+        return exitStatusOf(
+            dryRun(line.schema, line.otherFile, [](const QString& text) { print(text + QLatin1Char('\n')); }));
+    }
+    const Examination examination = examine(line.schema);
+    switch (line.show) {
+    case CommandLine::Show::Html:
+        return writePage(line.otherFile, examination);
+    case CommandLine::Show::Window:
+        return showWindow(examination);
+    case CommandLine::Show::Json:
+        print(QString::fromUtf8(jsonOf(examination)));
+        break;
+    default:
+        print(textOf(examination));
+        break;
+    }
+    return exitStatusOf(examination);
+}
+
+/// Everything but the window works without a screen.
+std::unique_ptr<QCoreApplication> applicationFor(int& argc, char** argv)
+{
+    const bool isForWindow = std::any_of(argv, argv + argc, [](const char* argument) {
+        return QByteArray(argument) == "--window" || QByteArray(argument) == "-window";
+    });
+    if (isForWindow) {
+        return std::make_unique<QApplication>(argc, argv);
+    }
+    return std::make_unique<QCoreApplication>(argc, argv);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // Reports of the same values come out the same each time.
+    qSetGlobalQHashSeed(0);
+    const std::unique_ptr<QCoreApplication> application = applicationFor(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("xmlhelper-schema"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(XMLHELPER_VERSION));
+    const CommandLine line = commandLineOf(QCoreApplication::arguments());
+    switch (line.show) {
+    case CommandLine::Show::WrongUsage:
+        std::fprintf(stderr, "xmlhelper-schema: %s Try --help.\n", qUtf8Printable(line.message));
+        return Unreadable;
+    case CommandLine::Show::Help:
+        print(line.message);
+        return NothingToSay;
+    case CommandLine::Show::Version:
+        print(QStringLiteral("xmlhelper-schema %1\n").arg(QCoreApplication::applicationVersion()));
+        return NothingToSay;
+    default:
+        return run(line);
+    }
+}

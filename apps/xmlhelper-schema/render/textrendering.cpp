@@ -1,0 +1,209 @@
+#include "textrendering.h"
+
+#include <algorithm>
+
+#include <QStringList>
+
+namespace schemadoctor {
+
+namespace {
+
+QString indent(int level)
+{
+    return QString(2 * level, QLatin1Char(' '));
+}
+
+QString fileNameOf(const QString& file)
+{
+    return file.section(QLatin1Char('/'), -1);
+}
+
+QString wordsFor(const Place& place)
+{
+    return place.line > 0 ? QStringLiteral("%1:%2").arg(place.file).arg(place.line) : place.file;
+}
+
+QString wordsFor(const QVector<Facet>& facets)
+{
+    QStringList words;
+    for (const Facet& facet : facets) {
+        words.append(QStringLiteral("%1 %2%3").arg(facet.name, facet.value,
+                                                   facet.isChecked ? QString() : QStringLiteral(" (not checked)")));
+    }
+    return words.join(QLatin1String(", "));
+}
+
+QString wordsForValues(const QStringList& enumeration)
+{
+    constexpr int shown = 8;
+    const QString words = enumeration.mid(0, shown).join(QLatin1String(" | "));
+    return enumeration.size() > shown ? QStringLiteral("%1 | ... (%2 values)").arg(words).arg(enumeration.size())
+                                      : words;
+}
+
+QString wordsFor(Setters setters)
+{
+    const QStringList names = namesOf(setters);
+    return names.isEmpty() ? QStringLiteral("no setter") : QStringLiteral("set by ") + names.join(QLatin1String(", "));
+}
+
+QString lineFor(const LaidOutElement& element)
+{
+    QStringList words;
+    if (isContainer(element)) {
+        words.append(element.children.empty() ? QStringLiteral("empty") : QStringLiteral("container"));
+    } else {
+        words.append(element.type);
+    }
+    if (!element.facets.isEmpty()) {
+        words.append(wordsFor(element.facets));
+    }
+    if (!element.enumeration.isEmpty()) {
+        words.append(wordsForValues(element.enumeration));
+    }
+    if (!element.defaultValue.isEmpty()) {
+        words.append(QStringLiteral("default %1").arg(element.defaultValue));
+    }
+    words.append(QStringLiteral("occurs %1, counts: %2").arg(wordsForOccurs(element), wordsFor(element.counts)));
+    if (element.isChoiceAlternative) {
+        words.append(element.choiceGroup == LaidOutElement::None
+                         ? QStringLiteral("alternative by name")
+                         : QStringLiteral("alternative of choice %1").arg(element.choiceGroup));
+    }
+    words.append(QStringLiteral("unfilled: ") + wordsFor(element.fate));
+    if (!isContainer(element)) {
+        words.append(wordsFor(element.setters));
+    }
+    return QStringLiteral("%1: %2  [%3:%4]")
+        .arg(element.name, words.join(QLatin1String("; ")), fileNameOf(element.place.file))
+        .arg(element.place.line);
+}
+
+QString lineFor(const DeclaredAttribute& attribute)
+{
+    QStringList words;
+    words.append(attribute.type.isEmpty() ? QStringLiteral("no type") : attribute.type);
+    if (!attribute.facets.isEmpty()) {
+        words.append(wordsFor(attribute.facets));
+    }
+    if (!attribute.enumeration.isEmpty()) {
+        words.append(wordsForValues(attribute.enumeration));
+    }
+    words.append(wordsFor(attribute.setters));
+    return QStringLiteral("@%1: %2").arg(attribute.name, words.join(QLatin1String("; ")));
+}
+
+QString treeText(const LaidOutTree& tree)
+{
+    QString text;
+    std::vector<int> levels(tree.elements.size(), 0);
+    for (std::size_t index = 0; index < tree.elements.size(); ++index) {
+        const LaidOutElement& element = tree.elements[index];
+        const int level = element.parent == LaidOutElement::None ? 0 : levels[std::size_t(element.parent)] + 1;
+        levels[index] = level;
+        text += indent(level) + lineFor(element) + QLatin1Char('\n');
+        for (const DeclaredAttribute& attribute : element.attributes) {
+            text += indent(level + 1) + lineFor(attribute) + QLatin1Char('\n');
+        }
+    }
+    return text;
+}
+
+QString includeText(const IncludedFile& file, int level)
+{
+    const QString state
+        = wordsFor(file.state) + (file.isOutsideOfFolder ? QStringLiteral(", outside of the folder") : QString());
+    QString text = QStringLiteral("%1%2 (%3)\n").arg(indent(level), file.written, state);
+    for (const IncludedFile& included : file.includes) {
+        text += includeText(included, level + 1);
+    }
+    return text;
+}
+
+QString indented(const QString& text, int level)
+{
+    QString result;
+    const QStringList lines = text.split(QLatin1Char('\n'));
+    for (const QString& line : lines) {
+        result += indent(level) + line + QLatin1Char('\n');
+    }
+    return result;
+}
+
+/// Two trees beside each other.
+QString besideText(const QString& left, const QString& right)
+{
+    const QString meant = QStringLiteral("as it is meant");
+    const QStringList leftLines = QStringList {meant} + left.split(QLatin1Char('\n'));
+    const QStringList rightLines = QStringList {QStringLiteral("as it is laid out")} + right.split(QLatin1Char('\n'));
+    int width = 0;
+    for (const QString& line : leftLines) {
+        width = std::max(width, int(line.size()));
+    }
+    QString text;
+    for (int i = 0; i < std::max(leftLines.size(), rightLines.size()); ++i) {
+        const QString line = leftLines.value(i).leftJustified(width) + QLatin1String("  |  ") + rightLines.value(i);
+        text += indent(2) + line + QLatin1Char('\n');
+    }
+    return text;
+}
+
+QString findingText(const Finding& finding)
+{
+    QString text = QStringLiteral("%1: %2: %3 [%4]\n")
+                       .arg(wordsFor(finding.place), nameOf(finding.severity), finding.what, finding.rule);
+    if (!finding.path.isEmpty()) {
+        text += indented(QStringLiteral("element: ") + finding.path, 2);
+    }
+    text += indented(QStringLiteral("effect:  ") + finding.effect, 2);
+    text += indented(QStringLiteral("instead: ") + finding.remedy, 2);
+    if (!finding.meantTree.isEmpty()) {
+        text += besideText(finding.meantTree, finding.laidOutTree);
+    }
+    return text;
+}
+
+QString countText(const Examination& examination)
+{
+    const ElementCount& count = examination.count;
+    return count.isBeyondLimit ? count.limit : QStringLiteral("%1 elements are laid out.").arg(count.elements);
+}
+
+QString summaryOf(const QVector<Finding>& findings)
+{
+    int counts[3] = {};
+    for (const Finding& finding : findings) {
+        ++counts[int(finding.severity)];
+    }
+    return findings.isEmpty() ? QStringLiteral("No findings.")
+                              : QStringLiteral("%1 errors, %2 warnings, %3 notes.")
+                                    .arg(counts[int(Severity::Error)])
+                                    .arg(counts[int(Severity::Warning)])
+                                    .arg(counts[int(Severity::Note)]);
+}
+
+} // namespace
+
+QString textOf(const Examination& examination)
+{
+    QString text;
+    if (examination.IsReadable()) {
+        text += countText(examination) + QLatin1Char('\n');
+        text += examination.tree.IsEmpty() ? examination.noTreeReason + QLatin1Char('\n') : treeText(examination.tree);
+        if (!examination.includes.includes.empty()) {
+            text += QLatin1String("\nFiles\n") + includeText(examination.includes, 1);
+        }
+    } else {
+        text += QStringLiteral("%1: %2\n").arg(examination.file, examination.unreadableReason);
+    }
+    if (examination.IsReadable() || !examination.findings.isEmpty()) {
+        text += QLatin1Char('\n');
+        for (const Finding& finding : examination.findings) {
+            text += findingText(finding);
+        }
+        text += summaryOf(examination.findings) + QLatin1Char('\n');
+    }
+    return text;
+}
+
+} // namespace schemadoctor

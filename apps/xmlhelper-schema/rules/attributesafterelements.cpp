@@ -1,0 +1,31 @@
+#include "rule.h"
+
+namespace schemadoctor {
+
+/// In simple content, and in an extension, the attributes go to a carrier, which hands them to every user of the type.
+void attributesAfterElements(const Schema& schema, Findings& findings)
+{
+    bool isBehindElements = false;
+    for (const TextNode* const tag : schema.Tags({"element", "attribute", "complexType", "simpleType"})) {
+        if (tag->IsGlobal()) {
+            isBehindElements = false;
+        }
+        isBehindElements = isBehindElements || tag->Is("element");
+        const TextNode* const type = tag->Is("attribute") ? namedTypeAround(*tag) : nullptr;
+        if (!type || tag->Around("extension") || tag->Around("restriction")) {
+            continue;
+        }
+        Finding& finding = findings.Add(
+            Severity::Error, *tag,
+            QStringLiteral("%1 belongs to the named type '%2'.").arg(described(*tag), type->Value("name")),
+            isBehindElements
+                ? QStringLiteral("It goes to the element that was declared last in the type, and not to the "
+                                 "element that is of the type.")
+                : QStringLiteral("The type has no element in front of it to go to: it is lost."),
+            QStringLiteral(
+                "Write the type inside of the element that has the attribute; only there it is understood."));
+        addTrees(schema, *type, finding);
+    }
+}
+
+} // namespace schemadoctor

@@ -1,0 +1,29 @@
+#include "rule.h"
+
+namespace schemadoctor {
+
+namespace {
+
+void look(const IncludedFile& file, Findings& findings)
+{
+    for (const IncludedFile& included : file.includes) {
+        if (included.state == IncludeState::Cyclic || included.state == IncludeState::TooDeep) {
+            findings.Add(Severity::Warning, included.place, included.written,
+                         included.state == IncludeState::Cyclic
+                             ? QStringLiteral("The file '%1' is included while it is being read.").arg(included.written)
+                             : QStringLiteral("The include of '%1' is too deep.").arg(included.written),
+                         QStringLiteral("It is skipped."),
+                         QStringLiteral("Include all files in the top file, and none in the others."));
+        }
+        look(included, findings);
+    }
+}
+
+} // namespace
+
+void cyclicInclude(const Schema& schema, Findings& findings)
+{
+    look(schema.GetPlan().GetIncludes(), findings);
+}
+
+} // namespace schemadoctor

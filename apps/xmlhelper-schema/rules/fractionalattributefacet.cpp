@@ -1,0 +1,22 @@
+#include "bounds.h"
+#include "rule.h"
+
+namespace schemadoctor {
+
+void fractionalAttributeFacet(const Schema& schema, Findings& findings)
+{
+    for (const TextNode* const tag : schema.Tags(RangeFacetTags)) {
+        bool isNumber = false;
+        bool isInteger = false;
+        tag->Value("value").toDouble(&isNumber);
+        tag->Value("value").toInt(&isInteger);
+        if (tag->Around("attribute") && isNumber && !isInteger) {
+            findings.Add(Severity::Error, *tag,
+                         QStringLiteral("%1 of an attribute is '%2'.").arg(tag->localName, tag->Value("value")),
+                         QStringLiteral("Bounds of attributes are read as integers: this one counts as 0."),
+                         QStringLiteral("Write an integer, or make the attribute an element."));
+        }
+    }
+}
+
+} // namespace schemadoctor

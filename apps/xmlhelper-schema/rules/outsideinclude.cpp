@@ -1,0 +1,28 @@
+#include "rule.h"
+
+namespace schemadoctor {
+
+namespace {
+
+void look(const IncludedFile& file, Findings& findings)
+{
+    for (const IncludedFile& included : file.includes) {
+        if (included.isOutsideOfFolder && included.state != IncludeState::Missing) {
+            findings.Add(
+                Severity::Note, included.place, included.written,
+                QStringLiteral("The file '%1' is not in the folder of the top file.").arg(included.written),
+                QStringLiteral("It is read as '%1'; whoever gets the folder alone does not get it.").arg(included.file),
+                QStringLiteral("Keep the files of a schema in one folder."));
+        }
+        look(included, findings);
+    }
+}
+
+} // namespace
+
+void outsideInclude(const Schema& schema, Findings& findings)
+{
+    look(schema.GetPlan().GetIncludes(), findings);
+}
+
+} // namespace schemadoctor

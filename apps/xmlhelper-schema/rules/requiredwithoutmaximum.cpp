@@ -1,0 +1,42 @@
+#include "rule.h"
+
+namespace schemadoctor {
+
+namespace {
+
+/// Whether a group around the element may occur more than once, so that the element is meant to.
+bool isInRepeatedGroup(const TextNode& tag)
+{
+    for (const TextNode* group = tag.parent; group && group->IsAnyOf({"sequence", "choice", "all"});
+         group = group->parent) {
+        const int maxOccurs = occursOf(*group, "maxOccurs", 1);
+        if (maxOccurs < 0 || maxOccurs > 1) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+/// For an element that occurs exactly once this is right; nobody asks for a count then.
+void requiredWithoutMaximum(const Schema& schema, Findings& findings)
+{
+    for (const TextNode* const tag : schema.Tags({"element"})) {
+        const int minOccurs = occursOf(*tag, "minOccurs", 1);
+        if (tag->IsGlobal() || tag->Has("maxOccurs") || minOccurs == 0
+            || (minOccurs == 1 && !isInRepeatedGroup(*tag))) {
+            continue;
+        }
+        findings.Add(
+            Severity::Warning, *tag,
+            minOccurs > 1
+                ? QStringLiteral("%1 is required %2 times, without maxOccurs.").arg(described(*tag)).arg(minOccurs)
+                : QStringLiteral("%1 is required without maxOccurs, in a group that may occur repeatedly.")
+                      .arg(described(*tag)),
+            QStringLiteral("It has no limits at all: every count is refused, also that of one."),
+            QStringLiteral("Write maxOccurs at the element."));
+    }
+}
+
+} // namespace schemadoctor

@@ -1,0 +1,22 @@
+#include "rule.h"
+
+namespace schemadoctor {
+
+/// Those inside of simple and complex content are told about as such.
+void restrictionOfUserType(const Schema& schema, Findings& findings)
+{
+    for (const TextNode* const tag : schema.Tags({"restriction"})) {
+        const QString base = tag->Value("base");
+        if (base.isEmpty() || isBuiltIn(base) || tag->parent->IsAnyOf({"simpleContent", "complexContent"})) {
+            continue;
+        }
+        findings.Add(Severity::Error, *tag, QStringLiteral("The restriction is one of the type '%1'.").arg(base),
+                     QStringLiteral("'%1' itself becomes the type: its own type and facets are not looked at, and no "
+                                    "setter takes a type of that name.")
+                         .arg(base),
+                     QStringLiteral("Restrict the type of XML Schema that '%1' stands on, and repeat its facets here.")
+                         .arg(base));
+    }
+}
+
+} // namespace schemadoctor

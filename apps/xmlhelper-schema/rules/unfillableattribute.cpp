@@ -1,0 +1,34 @@
+#include <QSet>
+
+#include "rule.h"
+#include "typeadvice.h"
+
+namespace schemadoctor {
+
+void unfillableAttribute(const Schema& schema, Findings& findings)
+{
+    QSet<QString> told;
+    const LaidOutTree& tree = schema.GetTree();
+    for (int index = 0; index < int(tree.elements.size()); ++index) {
+        for (const DeclaredAttribute& attribute : tree.elements[std::size_t(index)].attributes) {
+            const QString key = QStringLiteral("%1:%2:%3")
+                                    .arg(attribute.place.file)
+                                    .arg(attribute.place.line)
+                                    .arg(attribute.name + QLatin1Char(' ') + attribute.type);
+            if (attribute.setters != Setters() || told.contains(key)) {
+                continue;
+            }
+            told.insert(key);
+            findings.Add(
+                Severity::Warning, attribute.place, attribute.name,
+                attribute.type.isEmpty()
+                    ? QStringLiteral("The attribute '%1' has no type of its own.").arg(attribute.name)
+                    : QStringLiteral("The attribute '%1' is of the type '%2'.").arg(attribute.name, attribute.type),
+                QStringLiteral("No setter takes it: the attribute can be removed, and otherwise stays and holds '%1'.")
+                    .arg(attribute.type),
+                adviceForAttribute(attribute.type), index);
+        }
+    }
+}
+
+} // namespace schemadoctor

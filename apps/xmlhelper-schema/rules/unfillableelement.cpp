@@ -1,0 +1,67 @@
+#include <QSet>
+
+#include "rule.h"
+#include "typeadvice.h"
+
+namespace schemadoctor {
+
+namespace {
+
+/// Whether the schema says that nothing is inside: such an element is complete as it is laid out.
+bool isMeantToBeEmpty(const Schema& schema, const TextNode& declaration)
+{
+    if (schema.FindGlobal({"complexType"}, declaration.Value("type"))) {
+        return true;
+    }
+    for (const auto& child : declaration.children) {
+        if (child->Is("complexType")) {
+            return true;
+        }
+    }
+    return false;
+}
+
+QString keyOf(const Place& place)
+{
+    return place.file + QLatin1Char(':') + QString::number(place.line);
+}
+
+} // namespace
+
+void unfillableElement(const Schema& schema, Findings& findings)
+{
+    QHash<QString, const TextNode*> declarations;
+    for (const TextNode* const tag : schema.Tags({"element"})) {
+        declarations.insert(keyOf(tag->GetPlace()), tag);
+    }
+    QSet<QString> told;
+    const LaidOutTree& tree = schema.GetTree();
+    for (int index = 0; index < int(tree.elements.size()); ++index) {
+        const LaidOutElement& element = tree.elements[std::size_t(index)];
+        if (element.setters != Setters() || !element.children.empty()) {
+            continue;
+        }
+        const QString place = keyOf(element.place);
+        if (told.contains(place)) {
+            continue;
+        }
+        told.insert(place);
+        if (element.type.isEmpty()) {
+            const TextNode* const declaration = declarations.value(place);
+            if (!declaration || isMeantToBeEmpty(schema, *declaration)) {
+                continue;
+            }
+        }
+        findings.Add(
+            element.fate == Fate::Stays ? Severity::Error : Severity::Warning, element.place, element.name,
+            element.type.isEmpty()
+                ? QStringLiteral("The element '%1' has no type that is understood.").arg(element.name)
+                : QStringLiteral("The element '%1' is of the type '%2'.").arg(element.name, element.type),
+            element.fate == Fate::Stays
+                ? QStringLiteral("No setter takes it: the element stays empty in every report, with its annotations.")
+                : QStringLiteral("No setter takes it: the element is removed from every report."),
+            adviceForElement(element.type), index);
+    }
+}
+
+} // namespace schemadoctor

@@ -1,0 +1,422 @@
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <xmlhelper/xmlhelper.h>
+
+#include "examine.h"
+#include "fill/dryrun.h"
+#include "reading/treebuilder.h"
+#include "render/jsonrendering.h"
+#include "render/textrendering.h"
+
+using namespace schemadoctor;
+
+namespace {
+
+const char Head[] = "<?xml version='1.0' encoding='UTF-8'?>\n<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>\n";
+
+/// Fills the first element of a report by every setter, and finds out which of them is not refused.
+class SetterProbe : public IXMLHelper
+{
+public:
+    explicit SetterProbe(Setter setter)
+        : m_setter(setter)
+        , m_builder(this)
+    {
+    }
+
+    bool IsTaken(const QString& schema, const QString& report)
+    {
+        m_builder.CreateXmlFromSchema(schema, report, false);
+        return m_isCalled && !m_isRefused;
+    }
+
+    void XmlUpdate(XmlEvent* event) override
+    {
+        if (event->GetType() == XmlEvent::EVENT_ERROR && m_isCalling) {
+            m_isRefused = true;
+        } else if (event->GetType() == XmlEvent::EVENT_ELEM_BEGIN
+                   && static_cast<ElemBeginEvent*>(event)->GetElementName() == QLatin1String("Value")) {
+            m_isCalling = m_isCalled = true;
+            call();
+            m_isCalling = false;
+        }
+    }
+
+private:
+    void call()
+    {
+        switch (m_setter) {
+        case Setter::Text:
+            return m_builder.SetXmlValue(QStringLiteral("1"));
+        case Setter::Floating:
+            return m_builder.SetXmlValue(1.0);
+        case Setter::Integer:
+            return m_builder.SetXmlValue(1);
+        case Setter::Truth:
+            return m_builder.SetXmlValue(true);
+        case Setter::DateTime:
+            return m_builder.SetXmlValue(QDateTime::fromMSecsSinceEpoch(0));
+        case Setter::Time:
+            return m_builder.SetXmlValue(QTime(1, 2));
+        }
+    }
+
+    const Setter m_setter;
+    XmlCreateReport m_builder;
+    bool m_isCalling = false;
+    bool m_isCalled = false;
+    bool m_isRefused = false;
+};
+
+} // namespace
+
+class TestSchemaDoctorExamination : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void namesTheSettersThatTheBuilderTakes_data();
+    void namesTheSettersThatTheBuilderTakes();
+    void tellsOfAnElement();
+    void tellsOfAnAttribute();
+    void tellsWhichCountsAreAccepted_data();
+    void tellsWhichCountsAreAccepted();
+    void tellsWhatBecomesOfUnfilledElements();
+    void prunesWhatTheWalkPrunes();
+    void findsElementsByTheirPaths();
+    void tellsOfIncludedFiles();
+    void ofAMissingFileIsUnreadable();
+    void ofAMalformedFileIsUnreadable();
+    void endsWithTheWorstFinding_data();
+    void endsWithTheWorstFinding();
+    void printsEveryElementAndFinding();
+    void writesEveryElementAndFindingAsJson();
+    void fillsAReport();
+    void tellsOfRefusalsRetriesAndRemovals();
+    void refusesALineThatIsNoValue();
+    void hasNothingToSayAboutTheMeasurementPanel();
+
+private:
+    QString schema(const QByteArray& body);
+    Examination examined(const QByteArray& body) { return examine(schema(body)); }
+    QStringList dryRunOf(const QByteArray& body, const QByteArray& values, DryRunEnd expected);
+
+    QTemporaryDir m_folder;
+};
+
+QString TestSchemaDoctorExamination::schema(const QByteArray& body)
+{
+    QFile file(m_folder.filePath(QStringLiteral("schema.xsd")));
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(Head + body + "\n</xs:schema>\n");
+    }
+    return file.fileName();
+}
+
+QStringList TestSchemaDoctorExamination::dryRunOf(const QByteArray& body, const QByteArray& values, DryRunEnd expected)
+{
+    QFile file(m_folder.filePath(QStringLiteral("values.txt")));
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(values);
+        file.close();
+    }
+    QStringList lines;
+    const DryRunEnd end = dryRun(schema(body), file.fileName(), [&lines](const QString& line) { lines.append(line); });
+    return end == expected ? lines : QStringList {QStringLiteral("end %1").arg(int(end))} + lines;
+}
+
+void TestSchemaDoctorExamination::namesTheSettersThatTheBuilderTakes_data()
+{
+    QTest::addColumn<QString>("type");
+    for (const char* const type :
+         {"string", "double", "int", "integer", "short", "long", "boolean", "dateTime", "time", "decimal", "float",
+          "date", "token", "normalizedString", "unsignedShort", "unsignedInt", "nonNegativeInteger", "anyURI"}) {
+        QTest::newRow(type) << QString::fromLatin1(type);
+    }
+}
+
+void TestSchemaDoctorExamination::namesTheSettersThatTheBuilderTakes()
+{
+    QFETCH(QString, type);
+    const QString file = schema("<xs:element name='Report'><xs:complexType><xs:sequence>"
+                                "<xs:element name='Value' type='xs:"
+                                + type.toLatin1() + "'/></xs:sequence></xs:complexType></xs:element>");
+    for (const Setter setter :
+         {Setter::Text, Setter::Floating, Setter::Integer, Setter::Truth, Setter::DateTime, Setter::Time}) {
+        SetterProbe probe(setter);
+        const bool isTaken = probe.IsTaken(file, m_folder.filePath(QStringLiteral("report.xml")));
+        QVERIFY2(settersOfElement(type).testFlag(setter) == isTaken, qPrintable(QString::number(int(setter))));
+    }
+}
+
+void TestSchemaDoctorExamination::tellsOfAnElement()
+{
+    const Examination examination
+        = examined("<xs:element name='Report'><xs:complexType><xs:choice>\n"
+                   "<xs:element name='Mode' default='B' minOccurs='0' maxOccurs='3'>\n"
+                   "<xs:simpleType><xs:restriction base='xs:string'><xs:enumeration value='A'/>"
+                   "<xs:enumeration value='B'/><xs:maxLength value='1'/></xs:restriction>"
+                   "</xs:simpleType></xs:element></xs:choice></xs:complexType></xs:element>");
+    QCOMPARE(examination.count.elements, 2);
+    QCOMPARE(int(examination.tree.elements.size()), 2);
+    const LaidOutElement& mode = examination.tree.elements.at(1);
+    QCOMPARE(mode.name, QStringLiteral("Mode"));
+    QCOMPARE(mode.parent, 0);
+    QCOMPARE(mode.type, QStringLiteral("string"));
+    QCOMPARE(mode.defaultValue, QStringLiteral("B"));
+    QCOMPARE(mode.enumeration, QStringList({QStringLiteral("A"), QStringLiteral("B")}));
+    QCOMPARE(mode.facets.size(), 1);
+    QCOMPARE(mode.facets.first().name, QStringLiteral("maxLength"));
+    QVERIFY(!mode.facets.first().isChecked);
+    QCOMPARE(mode.minOccurs, 0);
+    QCOMPARE(mode.maxOccurs, 3);
+    QCOMPARE(mode.choiceGroup, 1);
+    QCOMPARE(mode.choiceNumber, 0);
+    QVERIFY(mode.isChoiceAlternative);
+    QCOMPARE(mode.setters, Setters(Setter::Text));
+    QCOMPARE(mode.place.line, 4);
+}
+
+void TestSchemaDoctorExamination::tellsOfAnAttribute()
+{
+    const Examination examination
+        = examined("<xs:element name='Report'><xs:complexType><xs:attribute ref='Level'/>\n"
+                   "<xs:attribute name='Site' type='xs:string'/></xs:complexType></xs:element>\n"
+                   "<xs:attribute name='Level'><xs:simpleType><xs:restriction base='xs:integer'>"
+                   "<xs:minInclusive value='1'/></xs:restriction></xs:simpleType></xs:attribute>");
+    const QVector<DeclaredAttribute>& attributes = examination.tree.elements.at(0).attributes;
+    QCOMPARE(attributes.size(), 2);
+    QCOMPARE(attributes.at(0).name, QStringLiteral("Level"));
+    QCOMPARE(attributes.at(0).type, QStringLiteral("integer"));
+    QCOMPARE(attributes.at(0).facets.size(), 1);
+    QCOMPARE(attributes.at(0).facets.first().value, QStringLiteral("1"));
+    QCOMPARE(attributes.at(0).setters, Setters(Setter::Integer));
+    QCOMPARE(attributes.at(1).type, QStringLiteral("xs:string"));
+    QCOMPARE(attributes.at(1).place.line, 4);
+}
+
+void TestSchemaDoctorExamination::tellsWhichCountsAreAccepted_data()
+{
+    QTest::addColumn<QByteArray>("occurs");
+    QTest::addColumn<QString>("words");
+    QTest::newRow("required-without-maximum") << QByteArray() << QStringLiteral("no count");
+    QTest::newRow("required-with-maximum") << QByteArray("maxOccurs='5'") << QStringLiteral("1 to 5");
+    QTest::newRow("required-unbounded") << QByteArray("maxOccurs='unbounded'") << QStringLiteral("1 or more");
+    QTest::newRow("optional-without-maximum") << QByteArray("minOccurs='0'") << QStringLiteral("0 only");
+    QTest::newRow("optional-with-maximum-takes-a-hundred-times-as-many")
+        << QByteArray("minOccurs='0' maxOccurs='3'") << QStringLiteral("0 to 300");
+    QTest::newRow("optional-unbounded") << QByteArray("minOccurs='0' maxOccurs='unbounded'") << QStringLiteral("any");
+}
+
+void TestSchemaDoctorExamination::tellsWhichCountsAreAccepted()
+{
+    QFETCH(QByteArray, occurs);
+    QFETCH(QString, words);
+    const Examination examination = examined("<xs:element name='Report'><xs:complexType><xs:sequence>"
+                                             "<xs:element name='Value' type='xs:double' "
+                                             + occurs + "/></xs:sequence></xs:complexType></xs:element>");
+    QCOMPARE(wordsFor(examination.tree.elements.at(1).counts), words);
+}
+
+void TestSchemaDoctorExamination::tellsWhatBecomesOfUnfilledElements()
+{
+    const Examination examination
+        = examined("<xs:element name='Report'><xs:complexType><xs:sequence>"
+                   "<xs:element name='Level' type='xs:double'/>"
+                   "<xs:element name='Site' type='xs:string' minOccurs='0'/>"
+                   "<xs:element name='Signal' minOccurs='0'><xs:complexType><xs:sequence>"
+                   "<xs:element name='Peak' type='xs:double'/></xs:sequence></xs:complexType></xs:element>"
+                   "</xs:sequence></xs:complexType></xs:element>");
+    QCOMPARE(examination.tree.elements.at(1).fate, Fate::Stays);
+    QCOMPARE(examination.tree.elements.at(2).fate, Fate::IsRemoved);
+    QCOMPARE(examination.tree.elements.at(3).fate, Fate::IsRemovedWithItsValues);
+    QCOMPARE(examination.tree.elements.at(4).fate, Fate::Stays);
+}
+
+/// An observer that fills nothing sees which elements are left.
+void TestSchemaDoctorExamination::prunesWhatTheWalkPrunes()
+{
+    const QString file = QStringLiteral(PROJECT_FOLDER "/examples/measurementpanel/measurementreport.xsd");
+    const QString report = m_folder.filePath(QStringLiteral("report.xml"));
+    class Silent : public IXMLHelper
+    {
+    public:
+        void XmlUpdate(XmlEvent*) override { }
+    } silent;
+    XmlCreateReport builder(&silent);
+    QVERIFY(builder.CreateXmlFromSchema(file, report, false));
+    QDomDocument document;
+    QFile device(report);
+    QVERIFY(document.setContent(&device));
+    const Examination examination = examine(file);
+    for (const LaidOutElement& element : examination.tree.elements) {
+        const LaidOutElement* container = &element;
+        bool isLeft = true;
+        while (container->parent != LaidOutElement::None) {
+            isLeft = isLeft && container->fate == Fate::Stays;
+            container = &examination.tree.elements.at(std::size_t(container->parent));
+        }
+        if (element.name != QLatin1String("Name")) { // both of the mandatory and of an optional container
+            QVERIFY2(document.elementsByTagName(element.name).isEmpty() != isLeft, qPrintable(element.name));
+        }
+    }
+}
+
+void TestSchemaDoctorExamination::findsElementsByTheirPaths()
+{
+    const Examination examination = examined("<xs:element name='Report'><xs:complexType><xs:sequence>"
+                                             "<xs:element name='Value' type='xs:double' minOccurs='3' maxOccurs='3'/>"
+                                             "<xs:element name='Site' type='xs:string'/>"
+                                             "</xs:sequence></xs:complexType></xs:element>");
+    QSet<QString> paths;
+    for (int index = 0; index < int(examination.tree.elements.size()); ++index) {
+        const QString path = pathOf(examination.tree, index);
+        QCOMPARE(findByPath(examination.tree, path), index);
+        paths.insert(path);
+    }
+    QVERIFY(paths.contains(QStringLiteral("/Report/Value[3]")));
+    QVERIFY(paths.contains(QStringLiteral("/Report/Site")));
+    QCOMPARE(findByPath(examination.tree, QStringLiteral("/Report/Value[4]")), int(LaidOutElement::None));
+    QCOMPARE(findByPath(examination.tree, QStringLiteral("/Other")), int(LaidOutElement::None));
+    QCOMPARE(findByPath(examination.tree, QString()), int(LaidOutElement::None));
+}
+
+void TestSchemaDoctorExamination::tellsOfIncludedFiles()
+{
+    const Examination examination
+        = examine(QStringLiteral(PROJECT_FOLDER "/examples/measurementpanel/measurementreport.xsd"));
+    QCOMPARE(int(examination.includes.includes.size()), 1);
+    const IncludedFile& types = examination.includes.includes.front();
+    QCOMPARE(types.written, QStringLiteral("measurementtypes.xsd"));
+    QCOMPARE(types.state, IncludeState::Read);
+    QVERIFY(!types.isOutsideOfFolder);
+    QCOMPARE(types.place.line, 7);
+    QVERIFY(examination.texts.at(types.file).contains(QLatin1String("FrequencyInMHz")));
+}
+
+void TestSchemaDoctorExamination::ofAMissingFileIsUnreadable()
+{
+    const Examination examination = examine(m_folder.filePath(QStringLiteral("nowhere.xsd")));
+    QVERIFY(!examination.IsReadable());
+    QCOMPARE(exitStatusOf(examination), Unreadable);
+    QVERIFY(textOf(examination).contains(examination.unreadableReason));
+}
+
+void TestSchemaDoctorExamination::ofAMalformedFileIsUnreadable()
+{
+    const Examination examination = examined("<xs:element name='Report'>");
+    QVERIFY(!examination.IsReadable());
+    QCOMPARE(exitStatusOf(examination), Unreadable);
+}
+
+void TestSchemaDoctorExamination::endsWithTheWorstFinding_data()
+{
+    QTest::addColumn<QVector<int>>("severities");
+    QTest::addColumn<int>("status");
+    QTest::newRow("nothing") << QVector<int>() << 0;
+    QTest::newRow("notes-count-as-nothing") << QVector<int> {0} << 0;
+    QTest::newRow("warnings") << QVector<int> {0, 1} << 1;
+    QTest::newRow("errors-behind-warnings") << QVector<int> {1, 2, 0} << 2;
+}
+
+void TestSchemaDoctorExamination::endsWithTheWorstFinding()
+{
+    QFETCH(QVector<int>, severities);
+    QFETCH(int, status);
+    Examination examination;
+    for (const int severity : severities) {
+        examination.findings.append(Finding());
+        examination.findings.last().severity = Severity(severity);
+    }
+    QCOMPARE(int(exitStatusOf(examination)), status);
+}
+
+void TestSchemaDoctorExamination::printsEveryElementAndFinding()
+{
+    const Examination examination = examined("<xs:element name='Report'><xs:complexType><xs:sequence>"
+                                             "<xs:element name='Cost' type='xs:decimal'/>"
+                                             "<xs:group ref='Rest'/></xs:sequence></xs:complexType></xs:element>"
+                                             "<xs:group name='Rest'><xs:sequence/></xs:group>");
+    const QString text = textOf(examination);
+    QVERIFY(text.contains(QLatin1String("Report: container")));
+    QVERIFY(text.contains(QLatin1String("  Cost: decimal")));
+    for (const Finding& finding : examination.findings) {
+        QVERIFY(text.contains(finding.effect));
+        QVERIFY(text.contains(finding.remedy));
+        QVERIFY(text.contains(QLatin1Char('[') + finding.rule + QLatin1Char(']')));
+    }
+    QVERIFY(text.contains(QLatin1String("as it is laid out")));
+}
+
+void TestSchemaDoctorExamination::writesEveryElementAndFindingAsJson()
+{
+    const Examination examination = examined("<xs:element name='Report'><xs:complexType><xs:sequence>"
+                                             "<xs:element name='Cost' type='xs:decimal' maxOccurs='unbounded'/>"
+                                             "</xs:sequence></xs:complexType></xs:element>");
+    const QJsonObject object = QJsonDocument::fromJson(jsonOf(examination)).object();
+    QCOMPARE(object[QStringLiteral("status")].toInt(), 2);
+    QCOMPARE(object[QStringLiteral("count")][QStringLiteral("elements")].toInt(), 2);
+    const QJsonArray elements = object[QStringLiteral("elements")].toArray();
+    QCOMPARE(elements.size(), 2);
+    QCOMPARE(elements.at(1)[QStringLiteral("name")].toString(), QStringLiteral("Cost"));
+    QCOMPARE(elements.at(1)[QStringLiteral("maxOccurs")].toString(), QStringLiteral("unbounded"));
+    QVERIFY(elements.at(0)[QStringLiteral("parent")].isNull());
+    const QJsonArray findings = object[QStringLiteral("findings")].toArray();
+    QCOMPARE(int(findings.size()), int(examination.findings.size()));
+    QCOMPARE(findings.at(0)[QStringLiteral("rule")].toString(), QStringLiteral("unfillable-element"));
+    QCOMPARE(findings.at(0)[QStringLiteral("path")].toString(), QStringLiteral("/Report/Cost"));
+}
+
+void TestSchemaDoctorExamination::fillsAReport()
+{
+    const QStringList lines = dryRunOf("<xs:element name='Report'><xs:complexType><xs:sequence>"
+                                       "<xs:element name='Level' type='xs:double'/>"
+                                       "</xs:sequence></xs:complexType></xs:element>",
+                                       "# a level\n\nLevel = 17.5\n", DryRunEnd::Complete);
+    QCOMPARE(lines.mid(0, 3),
+             QStringList({QStringLiteral("announced /Report"), QStringLiteral("announced /Report/Level type=double"),
+                          QStringLiteral("  call SetXmlValue(double 17.5)")}));
+    QVERIFY(lines.contains(QStringLiteral("    <Level>17.5</Level>")));
+}
+
+void TestSchemaDoctorExamination::tellsOfRefusalsRetriesAndRemovals()
+{
+    const QStringList lines = dryRunOf("<xs:element name='Report'><xs:complexType><xs:sequence>"
+                                       "<xs:element name='Cost' type='xs:decimal'/>"
+                                       "<xs:element name='Site' type='xs:string' minOccurs='0'/>"
+                                       "</xs:sequence></xs:complexType></xs:element>",
+                                       "Cost=17.5\n", DryRunEnd::Incomplete);
+    QVERIFY2(!lines.first().startsWith(QLatin1String("end")), qPrintable(lines.first()));
+    const int call = int(lines.indexOf(QStringLiteral("  call SetXmlValue(double 17.5)")));
+    QVERIFY(call > 0);
+    QVERIFY(lines.at(call + 1).startsWith(QLatin1String("    refused: ")));
+    QCOMPARE(lines.at(call + 2), QStringLiteral("  retry SetXmlValue(QString 17.5)"));
+    QVERIFY(lines.at(call + 3).startsWith(QLatin1String("    refused: ")));
+    QVERIFY(lines.contains(QStringLiteral("removed /Report/Site")));
+    QVERIFY(lines.contains(QStringLiteral("complaint: Cost=17.5: its type takes no floating-point number")));
+}
+
+void TestSchemaDoctorExamination::refusesALineThatIsNoValue()
+{
+    const QStringList lines
+        = dryRunOf("<xs:element name='Report' type='xs:string'/>", "Level 17.5\n", DryRunEnd::NoValues);
+    QCOMPARE(lines.size(), 1);
+    QVERIFY(lines.first().contains(QLatin1String("values.txt:1:")));
+}
+
+void TestSchemaDoctorExamination::hasNothingToSayAboutTheMeasurementPanel()
+{
+    const Examination examination
+        = examine(QStringLiteral(PROJECT_FOLDER "/examples/measurementpanel/measurementreport.xsd"));
+    QVERIFY(examination.IsReadable());
+    QVERIFY(!examination.tree.IsEmpty());
+    QVERIFY2(examination.findings.isEmpty(), qPrintable(textOf(examination)));
+}
+
+QTEST_GUILESS_MAIN(TestSchemaDoctorExamination)
+#include "tst_schemadoctor_examination.moc"
