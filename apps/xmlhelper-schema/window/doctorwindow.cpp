@@ -130,7 +130,6 @@ QWidget* DoctorWindow::makeTreePane()
     connect(m_pTree->selectionModel(), &QItemSelectionModel::currentChanged, this, &DoctorWindow::showElement);
 
     m_pFilter->setObjectName(QStringLiteral("filter"));
-    m_pFilter->setClearButtonEnabled(true);
     connect(m_pFilter, &QLineEdit::textChanged, this, [this](const QString& text) {
         m_pProxy->setFilterFixedString(text);
         if (!text.isEmpty()) {
