@@ -20,7 +20,7 @@ namespace schemadoctor {
 
 namespace {
 
-constexpr int shownElements = 20000;
+constexpr int shownElements = 10000;
 constexpr int shownFindings = 5000;
 constexpr int shownCharacters = 4 * 1024 * 1024;
 constexpr int unfoldedElements = 300; // a longer tree starts folded below its first level
