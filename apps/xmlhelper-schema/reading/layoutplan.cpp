@@ -484,7 +484,7 @@ void LayoutPlan::Reader::beginGlobal(const TextNode& tag)
     define(tag.FirstValue(), 0, tag);
     m_currentElement = createElement(tag.FirstValue(), m_currentFragment, tag);
     for (const TextNode::Attribute& attribute : tag.attributes) {
-        if (attribute.name != TypeAttribute || hasSchemaPrefix(attribute.value)) {
+        if (attribute.name != TypeAttribute() || hasSchemaPrefix(attribute.value)) {
             continue;
         }
         if (Definition* const definition = findUsableDefinition(attribute.value)) {

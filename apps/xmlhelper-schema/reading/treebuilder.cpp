@@ -218,8 +218,8 @@ int TreeBuilder::add(const QDomElement& element, int parent, int planNode)
 
 void TreeBuilder::annotate(LaidOutElement& laidOut, const QDomElement& element, const TextNode* declaration) const
 {
-    laidOut.type = element.attribute(TypeAttribute);
-    laidOut.defaultValue = element.attribute(DefaultAttribute);
+    laidOut.type = element.attribute(TypeAttribute());
+    laidOut.defaultValue = element.attribute(DefaultAttribute());
     laidOut.setters = settersOfElement(laidOut.type);
     const QStringList all = attributesOf(element);
     QStringList enumeration;
@@ -280,8 +280,8 @@ QStringList TreeBuilder::attributesOf(const QDomElement& element) const
                 }
             }
         }
-        appendIfThere(TypeAttribute);
-        appendIfThere(DefaultAttribute);
+        appendIfThere(TypeAttribute());
+        appendIfThere(DefaultAttribute());
     }
     names.sort();
     return names;

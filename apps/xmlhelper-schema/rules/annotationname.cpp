@@ -8,7 +8,7 @@ namespace {
 
 bool isAnnotation(const QString& name)
 {
-    return name == TypeAttribute || name == DefaultAttribute || name.contains(EnumerationFacet)
+    return name == TypeAttribute() || name == DefaultAttribute() || name.contains(EnumerationFacet)
         || name.contains(RangeFacetMark);
 }
 
