@@ -46,6 +46,7 @@ namespace schemadoctor {
     RULE("annotation-name", annotationName)                                                                            \
     RULE("optional-without-maximum", optionalWithoutMaximum)                                                           \
     RULE("optional-with-maximum", optionalWithMaximum)                                                                 \
+    RULE("optional-that-stays", optionalThatStays)                                                                     \
     RULE("required-without-maximum", requiredWithoutMaximum)                                                           \
     RULE("root", rootChoice)                                                                                           \
     RULE("root-attribute", rootAttribute)                                                                              \
