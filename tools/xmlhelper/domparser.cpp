@@ -25,7 +25,7 @@ namespace {
 
 QXmlAttributes saxAttributesOf(const QDomNode& node)
 {
-    const QString none = QStringLiteral("");
+    const QString none = QLatin1String("");
     QXmlAttributes attributes;
     for (const QDomAttr& attribute : attributesOf(node.toElement())) {
         attributes.append(attribute.name(), none, none, attribute.value());
