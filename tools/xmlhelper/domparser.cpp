@@ -184,12 +184,15 @@ bool DomParser::IsDeclaredAbove(const QString& name, const QString& tagName, con
                                 const std::function<bool(int)>& isWanted)
 {
     const auto limits = m_occurs.find(name);
-    if (limits == m_occurs.end() || !m_pDocument) {
-        return false;
-    }
-    const Declarations* const sorted = isLong(limits->second) ? &sortedDeclarations(name, limits->second) : nullptr;
+    return limits != m_occurs.end() && m_pDocument && isBelowOwnerOf(*limits, tagName, element, isWanted);
+}
+
+bool DomParser::isBelowOwnerOf(const Limits& limits, const QString& tagName, const QDomNode& element,
+                               const std::function<bool(int)>& isWanted)
+{
+    const Declarations* const sorted = isLong(limits.second) ? &sortedDeclarations(limits) : nullptr;
     const auto isOwner = [&](const QString& owner) {
-        return sorted ? isAmong(*sorted, owner, isWanted) : isAmong(limits->second, owner, isWanted);
+        return sorted ? isAmong(*sorted, owner, isWanted) : isAmong(limits.second, owner, isWanted);
     };
     if (!m_pOwners) {
         m_pOwners = std::make_unique<OwnerIndex>(*m_pDocument, ownerNames());
@@ -330,11 +333,12 @@ bool DomParser::checkCurrentElement()
 bool DomParser::isOptional()
 {
     const QString name = m_currentElement.tagName();
-    if (!IsLimited(name)) {
+    const auto limits = m_occurs.find(name);
+    if (limits == m_occurs.end()) {
         deliver<ErrorEvent>(m_pCallback, IXMLHelper::VALUE_IS_NOT_VALID);
         return false;
     }
-    return IsDeclaredAbove(name, name, m_currentElement, isOptionalCode);
+    return isBelowOwnerOf(*limits, name, m_currentElement, isOptionalCode);
 }
 
 QSet<QString> DomParser::ownerNames() const
@@ -354,11 +358,11 @@ QSet<QString> DomParser::ownerNames() const
     return names;
 }
 
-const DomParser::Declarations& DomParser::sortedDeclarations(const QString& name, const OwnersOfCodes& ownersOfCodes)
+const DomParser::Declarations& DomParser::sortedDeclarations(const Limits& limits)
 {
-    Declarations& declarations = m_sortedDeclarations[name];
+    Declarations& declarations = m_sortedDeclarations[limits.first];
     if (declarations.empty()) {
-        for (const auto& [code, owners] : ownersOfCodes) {
+        for (const auto& [code, owners] : limits.second) {
             for (const QString& owner : owners) {
                 declarations.push_back({owner, code});
             }

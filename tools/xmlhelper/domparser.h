@@ -88,7 +88,7 @@ public:
 private:
     Q_DISABLE_COPY(DomParser)
 
-    using OwnersOfCodes = OccursMap::mapped_type;
+    using Limits = OccursMap::value_type; ///< a name with what limits its occurrence
 
     /// The owners of a name and the occurs codes that they go with, in the order of the owners' names.
     using Declarations = std::vector<std::pair<QString, int>>;
@@ -112,7 +112,9 @@ private:
     QDomNode removeAndKeep(const QDomNode& node);
     bool isBelowAnyCalled(const QString& ownerName, const QString& tagName, const QDomNode& element);
     QSet<QString> ownerNames() const;
-    const Declarations& sortedDeclarations(const QString& name, const OwnersOfCodes& ownersOfCodes);
+    bool isBelowOwnerOf(const Limits& limits, const QString& tagName, const QDomNode& element,
+                        const std::function<bool(int)>& isWanted);
+    const Declarations& sortedDeclarations(const Limits& limits);
 
     QDomDocument* m_pDocument;
     QDomNode m_resumeNode; ///< where the walk goes on after a notice or a removal

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <QtTest>
 
 #include <memory>
@@ -135,6 +136,16 @@ QString missingTrace()
 const char SoundSchema[] = "<xs:schema><xs:element name='root'><xs:complexType>"
                            "<xs:element name='leaf' type='xs:string'/></xs:complexType></xs:element></xs:schema>";
 
+/// The traces but those of characters that XML cannot carry: what is dropped of an attribute is no fault of the file's.
+QString withoutDroppedCharacters(const QString& traces)
+{
+    QStringList lines = traces.split(QLatin1Char('\n'));
+    lines.erase(std::remove_if(lines.begin(), lines.end(),
+                               [](const QString& line) { return line.contains(QLatin1String("XML cannot carry")); }),
+                lines.end());
+    return lines.join(QLatin1Char('\n'));
+}
+
 } // namespace
 
 void TestRobustnessSchemaInputs::init()
@@ -172,7 +183,7 @@ void TestRobustnessSchemaInputs::readsWhatTheParserTakes()
     QCOMPARE(outcome.result, verdict == Verdict::Tolerated ? isTakenByTheParser(schema) : verdict == Verdict::Sound);
     QVERIFY(outcome.isReportThere);
     QVERIFY(outcome.report.documentElement().isNull());
-    QCOMPARE(outcome.traces, QString());
+    QCOMPARE(withoutDroppedCharacters(outcome.traces), QString());
 
     // The next builder knows nothing of it.
     const Outcome next = build(write(QStringLiteral("schema.xsd"), SoundSchema), pathOf(QStringLiteral("report.xml")));
@@ -195,7 +206,7 @@ void TestRobustnessSchemaInputs::goesOnWithoutABrokenIncludedFile()
     QVERIFY(outcome.result);
     QCOMPARE(outcome.report.documentElement().tagName(), QStringLiteral("root"));
     QCOMPARE(outcome.report.documentElement().text(), QStringLiteral("x"));
-    QCOMPARE(outcome.traces, QString());
+    QCOMPARE(withoutDroppedCharacters(outcome.traces), QString());
 }
 
 void TestRobustnessSchemaInputs::takesAnythingButARegularFileForMissing_data()
