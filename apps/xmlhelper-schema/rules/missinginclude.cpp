@@ -6,21 +6,31 @@ namespace schemadoctor {
 
 namespace {
 
-void look(const IncludedFile& file, Findings& findings)
+QString remedyFor(const IncludedFile& included, const QString& topFile)
+{
+    if (!topFile.contains(QLatin1Char('/'))) {
+        return QStringLiteral(
+                   "Name the schema with its folder, such as ./%1: a name without any counts as a folder. That "
+                   "goes for the path that an application gives to the library, too.")
+            .arg(topFile);
+    }
+    const QString beside = QFileInfo(included.place.file).path() + QLatin1Char('/') + included.written;
+    return QFileInfo::exists(beside)
+        ? QStringLiteral("Write the location as seen from the top file: includes of included files count from there, "
+                         "too.")
+        : QStringLiteral("Give the location as seen from the folder of the top file.");
+}
+
+void look(const IncludedFile& file, const QString& topFile, Findings& findings)
 {
     for (const IncludedFile& included : file.includes) {
         if (included.state == IncludeState::Missing) {
-            const QString beside = QFileInfo(included.place.file).path() + QLatin1Char('/') + included.written;
-            findings.Add(
-                Severity::Error, included.place, included.written,
-                QStringLiteral("The file '%1' is included and cannot be read.").arg(included.written),
-                QStringLiteral("It is looked for as '%1', and passed over without a word.").arg(included.file),
-                QFileInfo::exists(beside)
-                    ? QStringLiteral("Write the location as seen from the top file: includes of included files count "
-                                     "from there, too.")
-                    : QStringLiteral("Give the location as seen from the folder of the top file."));
+            findings.Add(Severity::Error, included.place, included.written,
+                         QStringLiteral("The file '%1' is included and cannot be read.").arg(included.written),
+                         QStringLiteral("It is looked for as '%1', and passed over without a word.").arg(included.file),
+                         remedyFor(included, topFile));
         }
-        look(included, findings);
+        look(included, topFile, findings);
     }
 }
 
@@ -28,7 +38,8 @@ void look(const IncludedFile& file, Findings& findings)
 
 void missingInclude(const Schema& schema, Findings& findings)
 {
-    look(schema.GetPlan().GetIncludes(), findings);
+    const IncludedFile& top = schema.GetPlan().GetIncludes();
+    look(top, top.written, findings);
 }
 
 } // namespace schemadoctor
