@@ -48,8 +48,8 @@ bool isLong(const std::map<int, std::list<QString>>& ownersOfCodes)
 }
 
 /// Whether @p owner is listed with a code that is wanted.
-bool isAmong(const std::map<int, std::list<QString>>& ownersOfCodes, const QString& owner,
-             const std::function<bool(int)>& isWanted)
+template <class IsWanted>
+bool isAmong(const std::map<int, std::list<QString>>& ownersOfCodes, const QString& owner, const IsWanted& isWanted)
 {
     return std::any_of(ownersOfCodes.begin(), ownersOfCodes.end(), [&](const auto& ownersOfCode) {
         const std::list<QString>& owners = ownersOfCode.second;
@@ -58,8 +58,8 @@ bool isAmong(const std::map<int, std::list<QString>>& ownersOfCodes, const QStri
 }
 
 /// The same for declarations in the order of the owners' names.
-bool isAmong(const std::vector<std::pair<QString, int>>& declarations, const QString& owner,
-             const std::function<bool(int)>& isWanted)
+template <class IsWanted>
+bool isAmong(const std::vector<std::pair<QString, int>>& declarations, const QString& owner, const IsWanted& isWanted)
 {
     auto declaration = std::lower_bound(declarations.begin(), declarations.end(), owner,
                                         [](const auto& left, const QString& name) { return left.first < name; });
@@ -180,15 +180,9 @@ bool DomParser::IsLimited(const QString& name) const
     return m_occurs.find(name) != m_occurs.end();
 }
 
-bool DomParser::IsDeclaredAbove(const QString& name, const QString& tagName, const QDomNode& element,
-                                const std::function<bool(int)>& isWanted)
-{
-    const auto limits = m_occurs.find(name);
-    return limits != m_occurs.end() && m_pDocument && isBelowOwnerOf(*limits, tagName, element, isWanted);
-}
-
+template <class IsWanted>
 bool DomParser::isBelowOwnerOf(const Limits& limits, const QString& tagName, const QDomNode& element,
-                               const std::function<bool(int)>& isWanted)
+                               const IsWanted& isWanted)
 {
     const Declarations* const sorted = isLong(limits.second) ? &sortedDeclarations(limits) : nullptr;
     const auto isOwner = [&](const QString& owner) {
@@ -218,6 +212,13 @@ bool DomParser::isBelowOwnerOf(const Limits& limits, const QString& tagName, con
         }
     }
     return false;
+}
+
+bool DomParser::IsDeclaredAbove(const QString& name, const QString& tagName, const QDomNode& element,
+                                const std::function<bool(int)>& isWanted)
+{
+    const auto limits = m_occurs.find(name);
+    return limits != m_occurs.end() && m_pDocument && isBelowOwnerOf(*limits, tagName, element, isWanted);
 }
 
 /// Asks for the names of the nodes that are found, because a search that starts at its owner finds the top node.

@@ -112,8 +112,9 @@ private:
     QDomNode removeAndKeep(const QDomNode& node);
     bool isBelowAnyCalled(const QString& ownerName, const QString& tagName, const QDomNode& element);
     QSet<QString> ownerNames() const;
+    template <class IsWanted>
     bool isBelowOwnerOf(const Limits& limits, const QString& tagName, const QDomNode& element,
-                        const std::function<bool(int)>& isWanted);
+                        const IsWanted& isWanted);
     const Declarations& sortedDeclarations(const Limits& limits);
 
     QDomDocument* m_pDocument;

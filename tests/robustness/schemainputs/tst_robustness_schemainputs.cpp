@@ -329,7 +329,8 @@ void TestRobustnessSchemaInputs::readsNamesOfAnyKind()
             const Outcome outcome = build(fileName, pathOf(QStringLiteral("report.xml")));
             QVERIFY(outcome.isReportThere);
             // What makes a schema fail that the parser takes is traced.
-            QCOMPARE(outcome.traces.isEmpty(), outcome.result || !isTakenByTheParser(fileName));
+            QCOMPARE(withoutDroppedCharacters(outcome.traces).isEmpty(),
+                     outcome.result || !isTakenByTheParser(fileName));
             QVERIFY(!isXmlName || !outcome.result || !outcome.report.documentElement().isNull());
         }
     }
@@ -375,7 +376,7 @@ void TestRobustnessSchemaInputs::readsFacetsOfAnyKind()
             + QStringLiteral("<xs:element name='root'><xs:complexType>%1</xs:complexType></xs:element>").arg(elements)),
         pathOf(QStringLiteral("report.xml")));
     QVERIFY(outcome.result);
-    QCOMPARE(outcome.traces, QString());
+    QCOMPARE(withoutDroppedCharacters(outcome.traces), QString());
     QCOMPARE(outcome.report.documentElement().elementsByTagName(QStringLiteral("e-double")).count(), 1);
 }
 
