@@ -72,16 +72,17 @@ bool typeText(const char* text)
     return xdotool({QStringLiteral("type"), QString::fromLatin1(text)});
 }
 
-bool pointTo(const QWidget& widget)
+/// The server does one after the other: a pointer that need not move is nothing to wait for.
+bool pointTo(const QWidget& widget, const QStringList& andThen = QStringList())
 {
     const QPoint place = widget.mapToGlobal(widget.rect().center());
-    return xdotool({QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(place.x()),
-                    QString::number(place.y())});
+    return xdotool(QStringList {QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())}
+                   + andThen);
 }
 
 bool clickOn(const QWidget& widget)
 {
-    return pointTo(widget) && xdotool({QStringLiteral("click"), QStringLiteral("1")});
+    return pointTo(widget, {QStringLiteral("click"), QStringLiteral("1")});
 }
 
 /// Clicks on a button of the next question. Questions keep the program inside of what has brought them up, so the click
@@ -113,8 +114,8 @@ private:
                 m_timer.stop();
                 const QPoint place = button->mapToGlobal(button->rect().center());
                 m_tool.start(QStringLiteral("xdotool"),
-                             {QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(place.x()),
-                              QString::number(place.y()), QStringLiteral("click"), QStringLiteral("1")});
+                             {QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y()),
+                              QStringLiteral("click"), QStringLiteral("1")});
             }
         }
     }
