@@ -78,6 +78,8 @@ private Q_SLOTS:
     void isSilent();
     void saysWhatHappensAndWhatToWrite_data() { addRules(); }
     void saysWhatHappensAndWhatToWrite();
+    void manPageNamesEveryRule_data() { addRules(); }
+    void manPageNamesEveryRule();
 };
 
 void TestSchemaDoctorRules::everyFolderIsOfARule()
@@ -115,6 +117,14 @@ void TestSchemaDoctorRules::saysWhatHappensAndWhatToWrite()
             QVERIFY2(!text.contains(QRegularExpression(QStringLiteral("%[1-9]"))), qPrintable(text));
         }
     }
+}
+
+void TestSchemaDoctorRules::manPageNamesEveryRule()
+{
+    QFETCH(QString, rule);
+    QFile page(QStringLiteral(RULES_FOLDER "/../../man/xmlhelper-schema.1"));
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    QVERIFY(page.readAll().contains(".B " + rule.toLatin1() + '\n'));
 }
 
 QTEST_GUILESS_MAIN(TestSchemaDoctorRules)
