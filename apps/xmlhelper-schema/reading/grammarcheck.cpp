@@ -21,7 +21,10 @@ namespace schemadoctor {
 
 namespace {
 
-constexpr int MaxMilliseconds = 800;
+constexpr rlim_t MaxProcessorSeconds = 1;
+
+/// Long enough for the second that the parser may use, on a machine that has other work.
+constexpr int MaxMilliseconds = 30000;
 constexpr rlim_t MaxMemory = 256u * 1024 * 1024;
 constexpr int MaxFaults = 100;
 
@@ -57,6 +60,8 @@ QByteArray checked(const QString& file)
     const rlimit memory {MaxMemory, MaxMemory};
     setrlimit(RLIMIT_DATA, &memory);
 #endif
+    const rlimit seconds {MaxProcessorSeconds, MaxProcessorSeconds};
+    setrlimit(RLIMIT_CPU, &seconds);
     const rlimit noCore {0, 0};
     setrlimit(RLIMIT_CORE, &noCore);
     const QByteArray result = checked(file);

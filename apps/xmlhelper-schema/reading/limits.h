@@ -10,13 +10,13 @@ constexpr int MaxSchemaBytes = 4 * 1024 * 1024;
 
 /// Elements of which a tree is shown. The library lays out more, but its documents need too much for every schema that
 /// is only looked at; the number is computed for those all the same.
-constexpr int MaxShownElements = 100000;
+constexpr int MaxShownElements = 30000;
 
 /// Elements of all definitions that the library is let to lay out for the doctor.
-constexpr int MaxLaidOutElements = 200000;
+constexpr int MaxLaidOutElements = 100000;
 
 /// Attributes of these elements: types, facets, enumeration values, declared attributes.
-constexpr int MaxLaidOutAnnotations = 1000000;
+constexpr int MaxLaidOutAnnotations = 300000;
 
 /// Findings of one rule; behind them only their number is told.
 constexpr int MaxFindingsOfARule = 100;
