@@ -9,12 +9,15 @@
 
 #include <xmlhelper/constants.h>
 #include <xmlhelper/documentfile.h>
+#include <xmlhelper/xmltext.h>
 
 #include "limits.h"
 
 namespace schemadoctor {
 
 namespace {
+
+const char Component[] = "LayoutPlan";
 
 bool hasSchemaPrefix(const QString& name)
 {
@@ -74,6 +77,8 @@ struct LayoutPlan::State
     int files = 0;
     qint64 bytes = 0;
     int elementsOfAllDefinitions = 0;
+    int elementsOfNamedTypes = 0;
+    std::set<int> fragmentsOfNamedTypes;
     qint64 annotations = 0; ///< of all elements
     int root = None;
     int elements = 0;
@@ -235,6 +240,13 @@ public:
     void Read();
 
 private:
+    /// How many elements have been laid into a definition.
+    struct TreeCount
+    {
+        int elements = 0;
+        bool isOfNamedType = false;
+    };
+
     struct Element
     {
         explicit Element(const TextNode& tag);
@@ -250,6 +262,7 @@ private:
     void end(const TextNode& tag);
     void readInclude(const TextNode& tag);
     QString includedFileName(const TextNode& tag) const;
+    void beginFragment(bool isOfNamedType, const TextNode& tag);
     void define(const QString& name, int usedFlag, const TextNode& tag);
     void beginGlobal(const TextNode& tag);
     void readElement(const TextNode& tag);
@@ -262,18 +275,19 @@ private:
     int lastChildOrCurrent() const;
     Definition* findDefinition(const QString& name);
     Definition* findUsableDefinition(const QString& name);
-    void layOut(Definition& definition, int owner, int anchor, int copies, int& treeElements);
+    void layOut(Definition& definition, int owner, int anchor, int copies, TreeCount& tree);
     void deferReference(const QString& name, int copies, const Reference& reference);
     void recordReference(const QString& name, int copies, const Reference& reference);
     Reference referenceFrom(const TextNode& tag, int owner, int anchor = None) const;
     bool resolveReferences();
     void expand(const QString& name, Definition& definition);
     void serve(Definition& definition, int copies, const Reference& reference);
-    int& treeElementsOf(const QString& definitionName);
+    TreeCount& treeCountOf(const QString& definitionName);
     void chooseRoot();
-    bool isWithinLimits(int elements, int levels, int owner, int& treeElements);
+    bool isWithinLimits(int elements, int levels, int owner, TreeCount& tree);
     void refuse(End end, const QString& reason);
     void refuseElements();
+    void checkName(const QString& name);
     void checkAnnotations();
 
     State& m_state;
@@ -290,8 +304,8 @@ private:
     QString m_definitionName;
     int m_nesting = 0;
     int m_enumerationValues = 0;
-    int m_fragmentElements = 0;
-    std::map<QString, int> m_treeElements;
+    TreeCount m_fragmentElements;
+    std::map<QString, TreeCount> m_treeElements;
 };
 
 LayoutPlan::Reader::Element::Element(const TextNode& tag)
@@ -466,10 +480,18 @@ QString LayoutPlan::Reader::includedFileName(const TextNode& tag) const
     return folder + tag.FirstValue();
 }
 
-void LayoutPlan::Reader::define(const QString& name, int usedFlag, const TextNode& tag)
+void LayoutPlan::Reader::beginFragment(bool isOfNamedType, const TextNode& tag)
 {
     m_currentFragment = m_state.Add(QString(), None, &tag);
-    m_fragmentElements = 0;
+    m_fragmentElements = TreeCount {0, isOfNamedType};
+    if (isOfNamedType) {
+        m_state.fragmentsOfNamedTypes.insert(m_currentFragment);
+    }
+}
+
+void LayoutPlan::Reader::define(const QString& name, int usedFlag, const TextNode& tag)
+{
+    beginFragment(usedFlag == 1, tag);
     m_definitionName = name;
     const auto earlier = m_state.definitions.find(name);
     if (earlier != m_state.definitions.end() && earlier->second.declaration != &tag) {
@@ -482,7 +504,10 @@ void LayoutPlan::Reader::beginGlobal(const TextNode& tag)
 {
     m_isInsideGlobal = true;
     define(tag.FirstValue(), 0, tag);
-    m_currentElement = createElement(tag.FirstValue(), m_currentFragment, tag);
+    m_currentElement = None;
+    if (isRepresentableName(tag.FirstValue(), Component)) {
+        m_currentElement = createElement(tag.FirstValue(), m_currentFragment, tag);
+    }
     for (const TextNode::Attribute& attribute : tag.attributes) {
         if (attribute.name != TypeAttribute() || hasSchemaPrefix(attribute.value)) {
             continue;
@@ -500,6 +525,7 @@ void LayoutPlan::Reader::readElement(const TextNode& tag)
 {
     const Element element(tag);
     if (!element.name.isEmpty()) {
+        checkName(element.name);
         readNamedElement(tag, element);
     } else if (!element.ref.isEmpty()) {
         if (Definition* const definition = findUsableDefinition(element.ref)) {
@@ -513,7 +539,12 @@ void LayoutPlan::Reader::readElement(const TextNode& tag)
 
 void LayoutPlan::Reader::readNamedElement(const TextNode& tag, const Element& element)
 {
-    for (int copy = 0; copy < std::max(1, element.minOccurs) && !m_state.isRefused; ++copy) {
+    const int copies = std::max(1, element.minOccurs);
+    if (m_fragmentElements.elements + qint64(copies) > MaxElements) {
+        refuseElements();
+        return;
+    }
+    for (int copy = 0; copy < copies && !m_state.isRefused; ++copy) {
         const int node = createElement(element.name, m_isInsideGlobal ? m_currentElement : m_currentFragment, tag);
         m_typeLevelElement = node;
         if (element.type.isEmpty() || hasSchemaPrefix(element.type)) {
@@ -535,8 +566,7 @@ void LayoutPlan::Reader::deferElement(const TextNode& tag, const Element& elemen
         return;
     }
     recordReference(element.name, element.minOccurs - 1, referenceFrom(tag, m_currentElement, first));
-    m_currentFragment = m_state.Add(QString(), None, &tag);
-    m_fragmentElements = 0;
+    beginFragment(true, tag);
     m_typeLevelElement = createElement(element.name, m_currentFragment, tag);
     m_state.definitions[element.name] = {1, 1, m_currentFragment, &tag};
     Reference reference = referenceFrom(tag, m_typeLevelElement);
@@ -563,7 +593,11 @@ void LayoutPlan::Reader::readAttribute(const TextNode& tag)
 {
     const QString ref = tag.Value("ref");
     m_state.Annotate(m_isInsideGlobal ? m_currentElement : m_typeLevelElement);
-    if (!tag.Value("name").isEmpty() || ref.isEmpty()) {
+    if (!tag.Value("name").isEmpty()) {
+        checkName(tag.Value("name"));
+        return;
+    }
+    if (ref.isEmpty()) {
         return;
     }
     if (Definition* const definition = findUsableDefinition(ref)) {
@@ -606,7 +640,7 @@ LayoutPlan::Definition* LayoutPlan::Reader::findUsableDefinition(const QString& 
     return definition && definition->pendingCount == 0 ? definition : nullptr;
 }
 
-void LayoutPlan::Reader::layOut(Definition& definition, int owner, int anchor, int copies, int& treeElements)
+void LayoutPlan::Reader::layOut(Definition& definition, int owner, int anchor, int copies, TreeCount& tree)
 {
     definition.usedFlag = 1;
     const int fragment = definition.fragment;
@@ -619,11 +653,15 @@ void LayoutPlan::Reader::layOut(Definition& definition, int owner, int anchor, i
         checkAnnotations();
         return;
     }
+    if (tree.elements + qint64(copies) * m_state.ExtentOf(fragment).first > MaxElements) {
+        refuseElements();
+        return;
+    }
     // Nothing is inserted behind an element that stands elsewhere.
     const bool isLost = anchor != None && m_state.At(anchor).parent != owner;
     for (int copy = 0; copy < copies; ++copy) {
         const auto [elements, levels] = m_state.ExtentOf(fragment);
-        if (!isWithinLimits(elements, levels, owner, treeElements)) {
+        if (!isWithinLimits(elements, levels, owner, tree)) {
             return;
         }
         if (isLost) {
@@ -720,7 +758,7 @@ void LayoutPlan::Reader::serve(Definition& definition, int copies, const Referen
     if (reference.isOfAttribute) {
         definition.usedFlag = 1;
     } else {
-        layOut(definition, reference.owner, reference.anchor, copies, treeElementsOf(reference.definitionName));
+        layOut(definition, reference.owner, reference.anchor, copies, treeCountOf(reference.definitionName));
     }
     Definition* const waiting = findDefinition(reference.definitionName);
     if (waiting && waiting->pendingCount > 0) {
@@ -728,12 +766,13 @@ void LayoutPlan::Reader::serve(Definition& definition, int copies, const Referen
     }
 }
 
-int& LayoutPlan::Reader::treeElementsOf(const QString& definitionName)
+LayoutPlan::Reader::TreeCount& LayoutPlan::Reader::treeCountOf(const QString& definitionName)
 {
-    const auto [counted, isNew] = m_treeElements.emplace(definitionName, 0);
+    const auto [counted, isNew] = m_treeElements.emplace(definitionName, TreeCount());
     const Definition* const definition = isNew ? findDefinition(definitionName) : nullptr;
     if (definition) {
-        counted->second = m_state.ExtentOf(definition->fragment).first;
+        counted->second.elements = m_state.ExtentOf(definition->fragment).first;
+        counted->second.isOfNamedType = m_state.fragmentsOfNamedTypes.count(definition->fragment) > 0;
     }
     return counted->second;
 }
@@ -766,7 +805,7 @@ void LayoutPlan::Reader::chooseRoot()
     m_state.elements = m_state.root == None ? 0 : m_state.ExtentOf(m_state.root).first;
 }
 
-bool LayoutPlan::Reader::isWithinLimits(int elements, int levels, int owner, int& treeElements)
+bool LayoutPlan::Reader::isWithinLimits(int elements, int levels, int owner, TreeCount& tree)
 {
     if (m_state.LevelOf(owner) + levels > MaxElementNesting) {
         refuse(End::LimitExceeded,
@@ -774,13 +813,17 @@ bool LayoutPlan::Reader::isWithinLimits(int elements, int levels, int owner, int
         return false;
     }
     int& total = m_state.elementsOfAllDefinitions;
-    if (treeElements + elements > MaxElements || total + elements > MaxElementsOfAllDefinitions) {
+    int& ofNamedTypes = m_state.elementsOfNamedTypes;
+    const int forNamedTypes = tree.isOfNamedType ? elements : 0;
+    if (tree.elements + elements > MaxElements || total + elements > MaxElementsOfAllDefinitions
+        || ofNamedTypes + forNamedTypes > MaxElementsOfNamedTypes) {
         refuseElements();
         return false;
     }
-    treeElements += elements;
+    tree.elements += elements;
     total += elements;
-    m_state.elements = std::max(m_state.elements, treeElements);
+    ofNamedTypes += forNamedTypes;
+    m_state.elements = std::max(m_state.elements, tree.elements);
     return true;
 }
 
@@ -796,6 +839,13 @@ void LayoutPlan::Reader::refuse(End end, const QString& reason)
 void LayoutPlan::Reader::refuseElements()
 {
     refuse(End::LimitExceeded, QStringLiteral("The schema lays out more than %1 elements.").arg(MaxElements));
+}
+
+void LayoutPlan::Reader::checkName(const QString& name)
+{
+    if (!isRepresentableName(name, Component)) {
+        refuse(End::LimitExceeded, QStringLiteral("XML does not allow the name '%1'.").arg(name));
+    }
 }
 
 void LayoutPlan::Reader::checkAnnotations()

@@ -1,8 +1,6 @@
 #include "libraryreading.h"
 
-#include <QFile>
-#include <QXmlDefaultHandler>
-#include <QXmlInputSource>
+#include <QXmlParseException>
 #include <QXmlSimpleReader>
 
 #include <xmlhelper/documentfile.h>
@@ -22,9 +20,20 @@ public:
     void XmlUpdate(XmlEvent*) override { }
 };
 
-class FaultRecorder : public QXmlDefaultHandler
+IXMLHelper* observer()
+{
+    static SilentObserver silent;
+    return &silent;
+}
+
+} // namespace
+
+/// A handler that remembers why its parse failed.
+class LibraryReading::Handler : public XmlSchemaHandler
 {
 public:
+    using XmlSchemaHandler::XmlSchemaHandler;
+
     bool fatalError(const QXmlParseException& exception) override
     {
         message = exception.message();
@@ -36,27 +45,17 @@ public:
     int line = 0;
 };
 
-IXMLHelper* observer()
-{
-    static SilentObserver silent;
-    return &silent;
-}
-
-} // namespace
-
 LibraryReading::LibraryReading(const QString& file)
 {
     const QString schemaPath = QString(file).replace(QLatin1Char('\\'), QLatin1Char('/'));
-    m_handler = std::make_unique<XmlSchemaHandler>(observer(), schemaPath);
-    FaultRecorder faults;
-    QFile device(openableFileName(file));
-    const QXmlInputSource source(&device);
-    QXmlSimpleReader reader;
-    reader.setContentHandler(m_handler.get());
-    reader.setErrorHandler(&faults);
-    m_isParsed = reader.parse(source);
-    m_fault = faults.message;
-    m_faultLine = faults.line;
+    m_handler = std::make_unique<Handler>(observer(), schemaPath);
+    QXmlSimpleReader parser;
+    m_isParsed = m_handler->ReadFile(openableFileName(file), parser);
+    m_fault = m_handler->message;
+    m_faultLine = m_handler->line;
+    if (!m_isParsed && m_fault.isEmpty()) {
+        m_fault = QStringLiteral("it is more than the library reads.");
+    }
     m_handler->HandOver(m_unresolvedTypes, m_occurs, m_definitions, m_choices);
 }
 

@@ -8,8 +8,6 @@
 
 #include <xmlhelper/schemamodel.h>
 
-class XmlSchemaHandler;
-
 namespace schemadoctor {
 
 /// A schema as the library itself reads it: the truth about what it understands.
@@ -30,8 +28,9 @@ public:
 
 private:
     Q_DISABLE_COPY(LibraryReading)
+    class Handler;
 
-    std::unique_ptr<XmlSchemaHandler> m_handler;
+    std::unique_ptr<Handler> m_handler;
     bool m_isParsed = false;
     QString m_fault;
     int m_faultLine = 0;

@@ -31,11 +31,11 @@ bool isEnumerationOfElement(const QString& attribute)
 
 int enumerationNumber(const QString& attribute)
 {
-    int end = EnumerationFacet.size();
+    int end = int(EnumerationFacet.size());
     while (end < attribute.size() && attribute.at(end).isDigit()) {
         ++end;
     }
-    return attribute.mid(EnumerationFacet.size(), end - EnumerationFacet.size()).toInt();
+    return attribute.mid(EnumerationFacet.size(), end - int(EnumerationFacet.size())).toInt();
 }
 
 /// What the text says about names, for the lines and for telling declared attributes from facets.
