@@ -21,7 +21,6 @@
 namespace {
 
 constexpr char TaskPrefix[] = "memory-task:";
-constexpr int Children = 5;
 
 bool stayIdle(const QString&)
 {
@@ -100,20 +99,14 @@ qint64 peakOfThisProcess()
     return 0;
 }
 
-/// The peak of a child in MB; 0 when it failed.
+/// The peak of a child in MB; 0 when it failed. One is enough: peaks hardly differ from run to run.
 double peakOfChild(const QString& task, const QString& path)
 {
-    std::vector<double> peaks;
-    for (int i = 0; i < Children; ++i) {
-        QProcess child;
-        child.start(QCoreApplication::applicationFilePath(), {QLatin1String(TaskPrefix) + task, path});
-        child.waitForFinished(-1);
-        if (child.exitStatus() != QProcess::NormalExit || child.exitCode() != 0) {
-            return 0;
-        }
-        peaks.push_back(child.readAllStandardOutput().trimmed().toDouble() / 1024);
-    }
-    return quantile(peaks, 0.5);
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(), {QLatin1String(TaskPrefix) + task, path});
+    child.waitForFinished(-1);
+    const bool isDone = child.exitStatus() == QProcess::NormalExit && child.exitCode() == 0;
+    return isDone ? child.readAllStandardOutput().trimmed().toDouble() / 1024 : 0;
 }
 
 struct MemoryRow
@@ -156,7 +149,7 @@ Measurement measured(const MemoryRow& row, const Workspace& workspace)
         measurement.trouble = QStringLiteral("WRONG RESULT: a child failed");
         return measurement;
     }
-    measurement.pairs = Children;
+    measurement.pairs = 1;
     measurement.libraryMs = library - idle;
     measurement.floorMs = floor - idle;
     measurement.ratio = measurement.libraryMs / measurement.floorMs;
