@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <QtTest>
 
 #include <memory>
@@ -62,9 +61,10 @@ namespace {
 struct Outcome
 {
     bool result = false;
-    QDomDocument report; ///< null when no parser reads it
+    QDomDocument report;
     bool isReportThere = false;
-    QString traces;
+    bool isReportReadable = false; ///< holds no element, or a parser reads it
+    QString traces; ///< but those of characters that were dropped
 };
 
 /// Offers every element a value of each kind, each of its attributes too, and a second occurrence.
@@ -92,6 +92,23 @@ void answer(XmlCreateReport& builder, ElemBeginEvent& event, int& copies)
     builder.SetXmlValue(QStringLiteral("x"));
 }
 
+bool isHoldingElements(const QString& fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) && file.readAll().count('<') > 1; // More than the declaration.
+}
+
+QString tracesOfFailures(const TraceCollector& traces)
+{
+    QStringList messages;
+    for (const TraceCollector::Trace& trace : traces.Traces()) {
+        if (!trace.message.contains(QStringLiteral("XML cannot carry"))) {
+            messages.append(trace.message);
+        }
+    }
+    return messages.join(QLatin1Char('\n'));
+}
+
 /// Builds a report from the file called @p schema, on a small stack.
 Outcome build(const QString& schema, const QString& report, bool isAnswering = true)
 {
@@ -107,9 +124,10 @@ Outcome build(const QString& schema, const QString& report, bool isAnswering = t
         }
         outcome.result = builder.CreateXmlFromSchema(schema, report, false);
     });
-    outcome.traces = traces.Messages();
+    outcome.traces = tracesOfFailures(traces);
     outcome.isReportThere = QFile::exists(report);
     outcome.report = documentInFile(report);
+    outcome.isReportReadable = !isHoldingElements(report) || !outcome.report.documentElement().isNull();
     return outcome;
 }
 
@@ -136,16 +154,6 @@ QString missingTrace()
 const char SoundSchema[] = "<xs:schema><xs:element name='root'><xs:complexType>"
                            "<xs:element name='leaf' type='xs:string'/></xs:complexType></xs:element></xs:schema>";
 
-/// The traces but those of characters that XML cannot carry: what is dropped of an attribute is no fault of the file's.
-QString withoutDroppedCharacters(const QString& traces)
-{
-    QStringList lines = traces.split(QLatin1Char('\n'));
-    lines.erase(std::remove_if(lines.begin(), lines.end(),
-                               [](const QString& line) { return line.contains(QLatin1String("XML cannot carry")); }),
-                lines.end());
-    return lines.join(QLatin1Char('\n'));
-}
-
 } // namespace
 
 void TestRobustnessSchemaInputs::init()
@@ -160,6 +168,7 @@ void TestRobustnessSchemaInputs::init()
 QString TestRobustnessSchemaInputs::write(const QString& name, const QByteArray& bytes) const
 {
     QFile file(pathOf(name));
+    file.remove(); // Some file systems wait for the disk when a file is written over.
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() ? file.fileName() : QString();
 }
 
@@ -183,7 +192,7 @@ void TestRobustnessSchemaInputs::readsWhatTheParserTakes()
     QCOMPARE(outcome.result, verdict == Verdict::Tolerated ? isTakenByTheParser(schema) : verdict == Verdict::Sound);
     QVERIFY(outcome.isReportThere);
     QVERIFY(outcome.report.documentElement().isNull());
-    QCOMPARE(withoutDroppedCharacters(outcome.traces), QString());
+    QCOMPARE(outcome.traces, QString());
 
     // The next builder knows nothing of it.
     const Outcome next = build(write(QStringLiteral("schema.xsd"), SoundSchema), pathOf(QStringLiteral("report.xml")));
@@ -206,7 +215,7 @@ void TestRobustnessSchemaInputs::goesOnWithoutABrokenIncludedFile()
     QVERIFY(outcome.result);
     QCOMPARE(outcome.report.documentElement().tagName(), QStringLiteral("root"));
     QCOMPARE(outcome.report.documentElement().text(), QStringLiteral("x"));
-    QCOMPARE(withoutDroppedCharacters(outcome.traces), QString());
+    QCOMPARE(outcome.traces, QString());
 }
 
 void TestRobustnessSchemaInputs::takesAnythingButARegularFileForMissing_data()
@@ -275,37 +284,33 @@ void TestRobustnessSchemaInputs::includesFilesOnly()
 void TestRobustnessSchemaInputs::readsNamesOfAnyKind_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("isXmlName"); // so that the report can be read back
-    const auto addRow
-        = [](const char* rule, const QString& name, bool isXmlName) { QTest::newRow(rule) << name << isXmlName; };
-    addRow("name-of-a-carrier", QStringLiteral("dummy"), true);
-    addRow("name-of-a-type-annotation", QStringLiteral("type"), true);
-    addRow("name-of-a-default-annotation", QStringLiteral("default"), true);
-    addRow("name-of-a-range-facet", QStringLiteral("minInclusive"), true);
-    addRow("name-of-an-enumeration-value", QStringLiteral("enumeration1"), true);
-    addRow("name-that-is-part-of-all-facets", QStringLiteral("clusive"), true);
-    addRow("name-of-the-lost", QStringLiteral("scheisse"), true);
-    addRow("name-of-one-letter", QStringLiteral("e"), true);
-    addRow("name-of-a-hundred-thousand-letters", QString(100000, QLatin1Char('x')), true);
-    addRow("name-beyond-ascii", QStringLiteral("\u00E4\u20AC").left(1), true);
-    addRow("name-with-a-prefix", QStringLiteral("p:name"), true);
-    addRow("name-of-a-schema-tag", QStringLiteral("xs:element"), true);
-    addRow("name-of-a-text", QStringLiteral("#text"), false);
-    addRow("name-with-colons-only", QStringLiteral("::"), false);
-    addRow("name-with-blanks", QStringLiteral("a b"), false);
-    addRow("blank", QStringLiteral(" "), false);
-    addRow("nothing", QString(), false);
-    addRow("name-that-begins-with-a-digit", QStringLiteral("1"), false);
-    addRow("markup", QStringLiteral("<a>&'\""), false);
-    addRow("name-with-a-control-character", QStringLiteral("a\u0001b"), false);
-    addRow("name-with-a-line-feed", QStringLiteral("a\nb"), false);
+    QTest::newRow("name-of-a-carrier") << QStringLiteral("dummy");
+    QTest::newRow("name-of-a-type-annotation") << QStringLiteral("type");
+    QTest::newRow("name-of-a-default-annotation") << QStringLiteral("default");
+    QTest::newRow("name-of-a-range-facet") << QStringLiteral("minInclusive");
+    QTest::newRow("name-of-an-enumeration-value") << QStringLiteral("enumeration1");
+    QTest::newRow("name-that-is-part-of-all-facets") << QStringLiteral("clusive");
+    QTest::newRow("name-of-the-lost") << QStringLiteral("scheisse");
+    QTest::newRow("name-of-one-letter") << QStringLiteral("e");
+    QTest::newRow("name-of-a-hundred-thousand-letters") << QString(100000, QLatin1Char('x'));
+    QTest::newRow("name-beyond-ascii") << QStringLiteral("\u00E4\u20AC").left(1);
+    QTest::newRow("name-with-a-prefix") << QStringLiteral("p:name");
+    QTest::newRow("name-of-a-schema-tag") << QStringLiteral("xs:element");
+    QTest::newRow("name-of-a-text") << QStringLiteral("#text");
+    QTest::newRow("name-with-colons-only") << QStringLiteral("::");
+    QTest::newRow("name-with-blanks") << QStringLiteral("a b");
+    QTest::newRow("blank") << QStringLiteral(" ");
+    QTest::newRow("nothing") << QString();
+    QTest::newRow("name-that-begins-with-a-digit") << QStringLiteral("1");
+    QTest::newRow("markup") << QStringLiteral("<a>&'\"");
+    QTest::newRow("name-with-a-control-character") << QStringLiteral("a\u0001b");
+    QTest::newRow("name-with-a-line-feed") << QStringLiteral("a\nb");
 }
 
 /// The name stands for a type, an attribute, a global and a local element at once, and is referred to as each of them.
 void TestRobustnessSchemaInputs::readsNamesOfAnyKind()
 {
     QFETCH(QString, name);
-    QFETCH(bool, isXmlName);
     const QString n = escaped(name);
     const QStringList definitions {
         QStringLiteral("<xs:element name='%1' type='xs:double' default='1'/>"),
@@ -329,9 +334,8 @@ void TestRobustnessSchemaInputs::readsNamesOfAnyKind()
             const Outcome outcome = build(fileName, pathOf(QStringLiteral("report.xml")));
             QVERIFY(outcome.isReportThere);
             // What makes a schema fail that the parser takes is traced.
-            QCOMPARE(withoutDroppedCharacters(outcome.traces).isEmpty(),
-                     outcome.result || !isTakenByTheParser(fileName));
-            QVERIFY(!isXmlName || !outcome.result || !outcome.report.documentElement().isNull());
+            QCOMPARE(outcome.traces.isEmpty(), outcome.result || !isTakenByTheParser(fileName));
+            QVERIFY(outcome.isReportReadable);
         }
     }
 }
@@ -376,7 +380,8 @@ void TestRobustnessSchemaInputs::readsFacetsOfAnyKind()
             + QStringLiteral("<xs:element name='root'><xs:complexType>%1</xs:complexType></xs:element>").arg(elements)),
         pathOf(QStringLiteral("report.xml")));
     QVERIFY(outcome.result);
-    QCOMPARE(withoutDroppedCharacters(outcome.traces), QString());
+    QCOMPARE(outcome.traces, QString());
+    QVERIFY(outcome.isReportReadable);
     QCOMPARE(outcome.report.documentElement().elementsByTagName(QStringLiteral("e-double")).count(), 1);
 }
 
@@ -463,7 +468,7 @@ void TestRobustnessSchemaInputs::readsTagsInAnyPlaceWithAnyAttributes()
                                                   "</xs:complexType>")
                                        .arg(outer, attributes.at(i), inner, attributes.at(j));
             const Outcome outcome = build(writeSchema(schema), pathOf(QStringLiteral("report.xml")));
-            QVERIFY2(outcome.isReportThere, qPrintable(schema));
+            QVERIFY2(outcome.isReportThere && outcome.isReportReadable, qPrintable(schema));
             // Whatever makes the schema fail is traced: all of it is sound XML.
             QVERIFY2(outcome.result || !outcome.traces.isEmpty(), qPrintable(schema));
         }
