@@ -49,14 +49,18 @@ TextsInPieces::~TextsInPieces()
     }
 }
 
-/// Cuts from the end, so that each cut moves no more than its piece.
+/// Not by QDomText::splitText(), whose pieces Qt 5 never frees.
 void TextsInPieces::split(QDomText text)
 {
     LongText& longText = m_texts.emplace_back(LongText {text, text.data(), {}});
-    const int lastIndex = int(longText.data.size()) - 1;
-    for (int cut = lastIndex - lastIndex % PieceLength; cut > 0; cut -= PieceLength) {
+    int end = int(longText.data.size());
+    for (int cut = (end - 1) / PieceLength * PieceLength; cut > 0; cut -= PieceLength) {
         if (!isInsideSectionEnd(longText.data, cut) && !longText.data.at(cut).isLowSurrogate()) {
-            longText.furtherPieces.push_back(text.splitText(cut));
+            const QDomText piece = text.ownerDocument().createTextNode(longText.data.mid(cut, end - cut));
+            text.parentNode().insertAfter(piece, text);
+            longText.furtherPieces.push_back(piece);
+            end = cut;
         }
     }
+    text.setData(longText.data.left(end));
 }
