@@ -404,6 +404,10 @@
         <translation>Lassen Sie sich das Recht geben, in %1 zu schreiben.</translation>
     </message>
     <message>
+        <source>Make room on the disk of %1.</source>
+        <translation>Schaffen Sie auf dem Datenträger von %1 Platz.</translation>
+    </message>
+    <message>
         <source>Make room on the disk of %1, and delete the incomplete file.</source>
         <translation>Schaffen Sie auf dem Datenträger von %1 Platz, und löschen Sie die unvollständige Datei.</translation>
     </message>

@@ -404,6 +404,10 @@
         <translation>Have the right to write given to you in %1.</translation>
     </message>
     <message>
+        <source>Make room on the disk of %1.</source>
+        <translation>Make room on the disk of %1.</translation>
+    </message>
+    <message>
         <source>Make room on the disk of %1, and delete the incomplete file.</source>
         <translation>Make room on the disk of %1, and delete the incomplete file.</translation>
     </message>

@@ -404,6 +404,10 @@
         <translation>Faites-vous donner le droit d&apos;écrire dans %1.</translation>
     </message>
     <message>
+        <source>Make room on the disk of %1.</source>
+        <translation>Libérez de la place sur le disque de %1.</translation>
+    </message>
+    <message>
         <source>Make room on the disk of %1, and delete the incomplete file.</source>
         <translation>Libérez de la place sur le disque de %1, et supprimez le fichier incomplet.</translation>
     </message>

@@ -128,8 +128,11 @@ QString PressText::Advice(const Press& press)
     case Press::State::DirectoryNotWritable:
         return tr("Have the right to write given to you in %1.").arg(directory) + QLatin1Char(' ') + tryAgain(press);
     case Press::State::DiskFull:
-        return tr("Make room on the disk of %1, and delete the incomplete file.").arg(directory) + QLatin1Char(' ')
-            + tryAgain(press);
+        // The library takes a file back that it could not write whole, if the disk lets it.
+        return (press.path.isEmpty() ? tr("Make room on the disk of %1.")
+                                     : tr("Make room on the disk of %1, and delete the incomplete file."))
+                   .arg(directory)
+            + QLatin1Char(' ') + tryAgain(press);
     case Press::State::Empty:
     case Press::State::Malformed:
     case Press::State::NotWritten:

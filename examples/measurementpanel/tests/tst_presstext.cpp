@@ -16,6 +16,7 @@ private Q_SLOTS:
     void everyFaultSaysWhatWasNotSavedAndWhatToDo_data();
     void everyFaultSaysWhatWasNotSavedAndWhatToDo();
     void aReportInItsDialogIsAnsweredAgain();
+    void onlyAFileThatIsThereIsToBeDeleted();
     void findingsAreTold();
 
     void theListHasARowForEachPress();
@@ -109,6 +110,14 @@ void TestPressText::aReportInItsDialogIsAnsweredAgain()
     QWidget dialog;
     press.dialog = &dialog;
     QVERIFY(PressText::Advice(press).contains(QLatin1String("open the comment dialog again")));
+}
+
+void TestPressText::onlyAFileThatIsThereIsToBeDeleted()
+{
+    Press press = pressIn(Press::State::DiskFull);
+    QVERIFY(!PressText::Advice(press).contains(QLatin1String("delete")));
+    press.path = QStringLiteral("/reports/r.xml");
+    QVERIFY(PressText::Advice(press).contains(QLatin1String("delete the incomplete file")));
 }
 
 void TestPressText::findingsAreTold()
