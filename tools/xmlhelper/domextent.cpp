@@ -14,19 +14,16 @@ DomExtent extentOf(const QDomNode& top)
             ++extent.elements;
             extent.levels = std::max(extent.levels, level + 1);
         }
-        if (node.hasChildNodes()) {
-            level += node.isElement() ? 1 : 0;
-            node = node.firstChild();
-            continue;
+        QDomNode next = node.firstChild();
+        level += !next.isNull() && node.isElement() ? 1 : 0;
+        while (next.isNull() && node != top) {
+            next = node.nextSibling();
+            if (next.isNull()) {
+                node = node.parentNode();
+                level -= node.isElement() ? 1 : 0;
+            }
         }
-        while (node != top && node.nextSibling().isNull()) {
-            node = node.parentNode();
-            level -= node.isElement() ? 1 : 0;
-        }
-        if (node == top) {
-            break;
-        }
-        node = node.nextSibling();
+        node = next;
     }
     return extent;
 }
