@@ -17,9 +17,10 @@ class QFile;
 /// leaves it. SaveXmlFile() may be called as often as the document changes.
 ///
 /// Operations report failure by false; a failed one leaves document and cursor as they were. Every file that is written
-/// can be read back: names that W3C XML does not allow and elements nested deeper than 512 levels are refused, and of
-/// texts the characters that it cannot carry (control characters, halves of surrogate pairs, U+FFFE, U+FFFF) are
-/// dropped. Both is traced.
+/// is well-formed W3C XML 1.0: names that it does not allow and elements nested deeper than 512 levels are refused, and
+/// of texts the characters that it cannot carry (control characters, halves of surrogate pairs, U+FFFE, U+FFFF) are
+/// dropped. Both is traced. Of the names that its fifth edition allows, Qt's own parsers, and so XMLReader, do not know
+/// all: those of the earlier editions are safe.
 ///
 /// The writer owns its document. Copies are shallow: of a writer and its copies exactly one may be destroyed.
 class XMLHELPER_EXPORT XMLWriter
