@@ -56,6 +56,8 @@ private:
     Press m_last;
 };
 
+Q_DECLARE_METATYPE(Press::State)
+
 class TestPressWatch : public QObject
 {
     Q_OBJECT
@@ -267,8 +269,6 @@ void TestPressWatch::severalDialogsAreToldApart()
     QCOMPARE(reporting.Last().number, 1);
     QVERIFY(reporting.Watch().GetLog().At(0).path != reporting.Watch().GetLog().At(1).path);
 }
-
-Q_DECLARE_METATYPE(Press::State)
 
 QTEST_MAIN(TestPressWatch)
 

@@ -9,6 +9,9 @@
 #include "reportfile.h"
 #include "storageprobe.h"
 
+Q_DECLARE_METATYPE(FileVerdict::Kind)
+Q_DECLARE_METATYPE(StorageFault)
+
 /// What stands at the place of a report, and why nothing does.
 class TestReportFile : public QObject
 {
@@ -135,9 +138,6 @@ void TestReportFile::aFullDiskIsFound()
     QCOMPARE(probeStorage(folder.path()), StorageFault::None);
     QVERIFY(QDir(folder.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
 }
-
-Q_DECLARE_METATYPE(FileVerdict::Kind)
-Q_DECLARE_METATYPE(StorageFault)
 
 QTEST_GUILESS_MAIN(TestReportFile)
 
