@@ -18,7 +18,9 @@ ConfinedOutcome run(const QStringList& arguments)
         return outcome;
     }
     outcome.hasEnded = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-    const QStringList lines = QString::fromUtf8(process.readAllStandardOutput()).split(QLatin1Char('\n'));
+    QString output = QString::fromUtf8(process.readAllStandardOutput());
+    output.remove(QLatin1Char('\r')); // which Windows puts in front of each line feed
+    const QStringList lines = output.split(QLatin1Char('\n'));
     for (const QString& line : lines) {
         const QString word = line.section(QLatin1Char(' '), 0, 0);
         const QString rest = line.section(QLatin1Char(' '), 1);
