@@ -39,6 +39,8 @@ class DomParser
 {
 public:
     /// @param pCallback  the observer, not owned
+    /// @param occurs     the parser's own from then on; move it in where the caller is done with it
+    /// @param choices    copied
     DomParser(IXMLHelper* pCallback, OccursMap occurs, const ChoiceMap& choices);
 
     /// Takes the document to walk, not owned. Null is refused (false) and changes nothing.
