@@ -101,7 +101,8 @@ QString xmlText(const QString& text)
     for (int i = 0; i < text.size(); ++i) {
         const QChar character = text.at(i);
         if (character.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate()) {
-            kept += text.mid(i++, 2);
+            kept += character;
+            kept += text.at(++i);
         } else if (character.unicode() >= 0x20 ? !character.isSurrogate() && character.unicode() < 0xFFFE
                                                : QStringLiteral("\t\n\r").contains(character)) {
             kept += character;

@@ -46,7 +46,7 @@ CommandLine commandLineOf(const QStringList& arguments)
     if (parser.positionalArguments().size() != 1) {
         return wrong(QStringLiteral("Name one schema."));
     }
-    line.schema = parser.positionalArguments().first();
+    line.schema = parser.positionalArguments().constFirst();
     if (int(parser.isSet(tree)) + int(parser.isSet(json)) + int(parser.isSet(html)) + int(parser.isSet(window))
             + int(parser.isSet(fill))
         > 1) {

@@ -25,7 +25,7 @@ QString withoutPrefix(const QString& name)
 bool isEnumerationOfElement(const QString& attribute)
 {
     bool isNumber = false;
-    attribute.mid(EnumerationFacet.size()).toInt(&isNumber);
+    attribute.mid(EnumerationFacet.size()).toInt(&isNumber); // clazy:exclude=qstring-ref, which Qt 6 lacks
     return isNumber && attribute.startsWith(EnumerationFacet);
 }
 
@@ -35,7 +35,8 @@ int enumerationNumber(const QString& attribute)
     while (end < attribute.size() && attribute.at(end).isDigit()) {
         ++end;
     }
-    return attribute.mid(EnumerationFacet.size(), end - int(EnumerationFacet.size())).toInt();
+    const QString number = attribute.mid(EnumerationFacet.size(), end - int(EnumerationFacet.size()));
+    return number.toInt();
 }
 
 /// What the text says about names, for the lines and for telling declared attributes from facets.

@@ -8,8 +8,8 @@ void fractionalAttributeFacet(const Schema& schema, Findings& findings)
     for (const TextNode* const tag : schema.Tags(RangeFacetTags)) {
         bool isNumber = false;
         bool isInteger = false;
-        tag->Value("value").toDouble(&isNumber);
-        tag->Value("value").toInt(&isInteger);
+        static_cast<void>(tag->Value("value").toDouble(&isNumber));
+        static_cast<void>(tag->Value("value").toInt(&isInteger));
         if (tag->Around("attribute") && isNumber && !isInteger) {
             findings.Add(Severity::Error, *tag,
                          QStringLiteral("%1 of an attribute is '%2'.").arg(tag->localName, tag->Value("value")),

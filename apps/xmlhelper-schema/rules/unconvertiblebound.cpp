@@ -34,9 +34,9 @@ void unconvertibleBound(const Schema& schema, Findings& findings)
         const QString value = tag->Value("value");
         bool isConverted = false;
         if (isInteger(type)) {
-            value.toInt(&isConverted);
+            static_cast<void>(value.toInt(&isConverted));
         } else {
-            value.toDouble(&isConverted);
+            static_cast<void>(value.toDouble(&isConverted));
         }
         const QString what = QStringLiteral("%1 of '%2' is '%3'.").arg(tag->localName, type, value);
         if (isUnbounded(type)) {

@@ -145,6 +145,17 @@ QString escaped(const QString& text)
     return text.toHtmlEscaped().replace(QLatin1Char('\''), QLatin1String("&#39;"));
 }
 
+/// Qt 6, unlike other parsers, reads no document with names that are very long or begin with a colon.
+bool isNameForTheReader(const QString& name)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    Q_UNUSED(name)
+    return true;
+#else
+    return name.size() < 4096 && !name.startsWith(QLatin1Char(':'));
+#endif
+}
+
 /// What is known to stop a schema that is sound XML.
 QString missingTrace()
 {
@@ -335,7 +346,7 @@ void TestRobustnessSchemaInputs::readsNamesOfAnyKind()
             QVERIFY(outcome.isReportThere);
             // What makes a schema fail that the parser takes is traced.
             QCOMPARE(outcome.traces.isEmpty(), outcome.result || !isTakenByTheParser(fileName));
-            QVERIFY(outcome.isReportReadable);
+            QVERIFY(outcome.isReportReadable || !isNameForTheReader(name));
         }
     }
 }
