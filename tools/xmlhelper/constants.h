@@ -7,8 +7,17 @@
 // Words that the skeleton document and its readers share.
 
 inline const QLatin1String SchemaPrefix("xs:");
-inline QString TypeAttribute() { return QStringLiteral("type"); } // as it is asked for most, without a conversion
-inline QString DefaultAttribute() { return QStringLiteral("default"); }
+
+// Asked for several times for each element, and so without a conversion.
+inline QString TypeAttribute()
+{
+    return QStringLiteral("type");
+}
+inline QString DefaultAttribute()
+{
+    return QStringLiteral("default");
+}
+
 inline const QLatin1String EnumerationFacet("enumeration");
 inline const QLatin1String MinInclusiveFacet("minInclusive");
 inline const QLatin1String MaxInclusiveFacet("maxInclusive");
