@@ -31,14 +31,15 @@ namespace {
 
 DomExtent recursiveExtentOf(const QDomNode& node)
 {
-    DomExtent below {0, 0};
+    DomExtent below {0, 0, 0};
     for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling()) {
         const DomExtent extent = recursiveExtentOf(child);
         below.elements += extent.elements;
         below.levels = std::max(below.levels, extent.levels);
+        below.attributes += extent.attributes;
     }
     const int own = node.isElement() ? 1 : 0;
-    return {below.elements + own, below.levels + own};
+    return {below.elements + own, below.levels + own, below.attributes + node.toElement().attributes().count()};
 }
 
 } // namespace
@@ -48,14 +49,17 @@ void TestDomExtent::measuresDocuments_data()
     QTest::addColumn<QString>("xml");
     QTest::addColumn<int>("elements");
     QTest::addColumn<int>("levels");
+    QTest::addColumn<int>("attributes");
 
-    QTest::newRow("root-alone-is-one-level") << QStringLiteral("<r/>") << 1 << 1;
-    QTest::newRow("siblings-share-their-level") << QStringLiteral("<r><a/><b/><c/></r>") << 4 << 2;
-    QTest::newRow("deepest-branch-counts") << QStringLiteral("<r><a/><b><c><d/></c></b><e><f/></e></r>") << 7 << 4;
+    QTest::newRow("root-alone-is-one-level") << QStringLiteral("<r/>") << 1 << 1 << 0;
+    QTest::newRow("siblings-share-their-level") << QStringLiteral("<r><a/><b/><c/></r>") << 4 << 2 << 0;
+    QTest::newRow("deepest-branch-counts") << QStringLiteral("<r><a/><b><c><d/></c></b><e><f/></e></r>") << 7 << 4 << 0;
+    QTest::newRow("attributes-of-all-elements-count")
+        << QStringLiteral("<r k='1'><a/><b k='1' l='2'><c m='3'/></b></r>") << 4 << 3 << 4;
     QTest::newRow("texts-comments-and-instructions-do-not-count")
-        << QStringLiteral("<!--c--><r>x<a>y<!--c--><?t d?><![CDATA[z]]></a></r><!--c-->") << 2 << 2;
+        << QStringLiteral("<!--c--><r>x<a>y<!--c--><?t d?><![CDATA[z]]></a></r><!--c-->") << 2 << 2 << 0;
     QTest::newRow("declaration-and-document-type-do-not-count")
-        << QStringLiteral("<?xml version='1.0'?><!DOCTYPE r [<!ENTITY e 'x'>]><r><a/></r>") << 2 << 2;
+        << QStringLiteral("<?xml version='1.0'?><!DOCTYPE r [<!ENTITY e 'x'>]><r><a/></r>") << 2 << 2 << 0;
 }
 
 void TestDomExtent::measuresDocuments()
@@ -63,9 +67,11 @@ void TestDomExtent::measuresDocuments()
     QFETCH(QString, xml);
     QFETCH(int, elements);
     QFETCH(int, levels);
+    QFETCH(int, attributes);
     const DomExtent extent = extentOf(documentOf(xml));
     QCOMPARE(extent.elements, elements);
     QCOMPARE(extent.levels, levels);
+    QCOMPARE(extent.attributes, attributes);
 }
 
 void TestDomExtent::measuresOnlyWhatIsBelowTheNode()
@@ -117,7 +123,9 @@ void TestDomExtent::agreesWithARecursion()
         for (const QDomNode& node : nodesOf(document)) {
             const DomExtent expected = recursiveExtentOf(node);
             const DomExtent extent = extentOf(node);
-            QVERIFY2(extent.elements == expected.elements && extent.levels == expected.levels, text.constData());
+            QVERIFY2(extent.elements == expected.elements && extent.levels == expected.levels
+                         && extent.attributes == expected.attributes,
+                     text.constData());
         }
     }
 }

@@ -6,13 +6,14 @@
 
 DomExtent extentOf(const QDomNode& top)
 {
-    DomExtent extent {0, 0};
+    DomExtent extent {0, 0, 0};
     int level = 0;
     QDomNode node = top;
     while (!node.isNull()) {
         if (node.isElement()) {
             ++extent.elements;
             extent.levels = std::max(extent.levels, level + 1);
+            extent.attributes += node.attributes().count();
         }
         QDomNode next = node.firstChild();
         level += !next.isNull() && node.isElement() ? 1 : 0;

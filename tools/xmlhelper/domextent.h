@@ -8,6 +8,7 @@ struct DomExtent
 {
     int elements; ///< how many elements
     int levels; ///< how deep they are nested
+    int attributes; ///< how many attributes they have
 };
 
 /// The extent of @p node and everything below it. Uses no recursion, so that any document can be measured.

@@ -137,6 +137,7 @@ XmlCreateReport::XmlCreateReport(IXMLHelper* pCallback)
     , m_bUnused(false)
     , m_iDiscardedChoices(0)
     , m_iElements(0)
+    , m_iAttributes(0)
     , m_iMultiplications(0)
     , m_iErrorDepth(0)
     , m_iNestedErrors(0)
@@ -404,7 +405,9 @@ bool XmlCreateReport::readSchema(const QString& schemaPath)
 
     m_pDocument = m_pSchemaHandler->GetDocument();
     std::move(*m_pSchemaHandler).HandOver(m_unresolvedTypes, m_occurs, m_typeDefinitions, m_choices);
-    m_iElements = extentOf(*m_pDocument).elements;
+    const DomExtent extent = extentOf(*m_pDocument);
+    m_iElements = extent.elements;
+    m_iAttributes = extent.attributes;
     return isParsed;
 }
 
@@ -537,13 +540,21 @@ bool XmlCreateReport::copyCurrentElement(int count)
     if (m_pCurrentElement->parentNode().toElement().isNull() || count <= 1) {
         return true;
     }
-    const qint64 added = qint64(extentOf(*m_pCurrentElement).elements) * (count - 1);
-    if (m_iElements + added > MaxElements) {
+    const DomExtent extent = extentOf(*m_pCurrentElement);
+    const qint64 elements = m_iElements + qint64(extent.elements) * (count - 1);
+    const qint64 attributes = m_iAttributes + qint64(extent.attributes) * (count - 1);
+    if (elements > MaxElements) {
         trace(QStringLiteral("Copies would give the report more than %1 elements!").arg(MaxElements), "xmlcreatereport",
               __LINE__);
         return false;
     }
-    m_iElements += static_cast<int>(added);
+    if (attributes > MaxAttributes) {
+        trace(QStringLiteral("Copies would give the report more than %1 attributes!").arg(MaxAttributes),
+              "xmlcreatereport", __LINE__);
+        return false;
+    }
+    m_iElements = static_cast<int>(elements);
+    m_iAttributes = static_cast<int>(attributes);
     m_pDomParser->InsertCopies(*m_pCurrentElement, count - 1);
     return true;
 }

@@ -228,6 +228,7 @@ private:
     std::list<QDomDocument*> m_dialogDocuments; ///< owned, one for each dialog
     std::list<QDomElement*> m_followers; ///< owned; the walk may still go on from them
     int m_iElements; ///< laid out by the schema and made by copying
+    int m_iAttributes; ///< the same of attributes
     int m_iMultiplications; ///< calls that multiplied an element, with or without copies
     int m_iErrorDepth; ///< error events that the observer is answering just now
     int m_iNestedErrors; ///< sent since the outermost of them

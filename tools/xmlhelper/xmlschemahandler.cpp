@@ -1,6 +1,7 @@
 #include "xmlschemahandler.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 #include <set>
 
@@ -28,11 +29,14 @@ struct SchemaReading
     std::list<QDomDocumentFragment> fragments;
     std::list<QDomElement> elements; ///< the handles of the reference records
     std::set<const QDomElement*> servedOwners;
+    std::set<QString> unusedGlobals; ///< the names of global declarations, until one is seen to be used
+    std::set<QString> openReferences; ///< names that somebody may wait for, until they are laid out
     QStringList openFiles;
     int openTags = 0; ///< of the files that include the one being read
     int files = 0;
     int elementsOfAllDefinitions = 0;
     int elementsOfNamedTypes = 0;
+    int attributesOfAllDefinitions = 0;
     std::set<const QDomDocumentFragment*> fragmentsOfNamedTypes;
     int choiceCounter = 0;
     bool isRefused = false;
@@ -113,18 +117,6 @@ void copyFacets(const QDomElement& from, QDomElement to, const QString& suffix =
         if (isFacet(attribute.name())) {
             to.setAttribute(attribute.name() + suffix, attribute.value());
         }
-    }
-}
-
-/// Gives @p owner the attribute that @p definition, a global attribute, declares, and its facets.
-void setDeclaredAttribute(TypeDefinition& definition, QDomElement owner)
-{
-    definition.usedFlag = 1;
-    // A clone, because a global attribute that refers to itself is its own owner.
-    const QDomElement declared = definition.fragment->firstChildElement().cloneNode(false).toElement();
-    if (!declared.isNull()) {
-        owner.setAttribute(declared.tagName(), declared.attribute(TypeAttribute()));
-        copyFacets(declared, owner, declared.tagName());
     }
 }
 
@@ -424,7 +416,7 @@ void XmlSchemaHandler::beginNamedType()
     beginFragment(true);
     m_typeLevelElement = QDomElement();
     m_sDefinitionName = firstValue();
-    m_typeDefinitions[m_sDefinitionName] = TypeDefinition {1, 0, m_pCurrentFragment};
+    define(m_sDefinitionName, TypeDefinition {1, 0, m_pCurrentFragment});
 }
 
 void XmlSchemaHandler::endType()
@@ -451,7 +443,7 @@ void XmlSchemaHandler::beginGlobalDeclaration()
     if (!m_sDefinitionName.isEmpty() && isRepresentableName(m_sDefinitionName, "XmlSchemaHandler")) {
         m_currentElement = createElement(m_sDefinitionName, currentFragment());
     }
-    m_typeDefinitions[m_sDefinitionName] = TypeDefinition {0, 0, m_pCurrentFragment};
+    define(m_sDefinitionName, TypeDefinition {0, 0, m_pCurrentFragment});
 
     for (int i = 0; i < m_attributes.count(); ++i) {
         const QString name = m_attributes.qName(i);
@@ -507,6 +499,10 @@ void XmlSchemaHandler::layOutNamedElement(const ElementDeclaration& declaration)
         refuseElements();
         return;
     }
+    const TypeDefinition* const type = declaration.Copies() > 1 ? findUsableDefinition(declaration.type) : nullptr;
+    if (type && !areAttributesWithinLimit(qint64(extentOf(*type->fragment).attributes) * declaration.Copies())) {
+        return;
+    }
     for (int copy = 0; copy < declaration.Copies() && !isRefused(); ++copy) {
         QDomElement element
             = createElement(declaration.name, m_bInsideGlobal ? QDomNode(m_currentElement) : currentFragment());
@@ -538,7 +534,7 @@ void XmlSchemaHandler::deferNamedElement(const ElementDeclaration& declaration, 
     recordReference(declaration.name, declaration.minOccurs - 1, recordOf(m_currentElement, first));
     beginFragment(true);
     m_typeLevelElement = createElement(declaration.name, currentFragment());
-    m_typeDefinitions[declaration.name] = TypeDefinition {1, 1, m_pCurrentFragment};
+    define(declaration.name, TypeDefinition {1, 1, m_pCurrentFragment});
     ElementPathRecord record = recordOf(m_typeLevelElement);
     record.definitionName = declaration.name;
     recordReference(declaration.type, 1, record);
@@ -616,6 +612,9 @@ void XmlSchemaHandler::extendDefinition(const QString& base)
         return;
     }
     definition->usedFlag = 1;
+    if (!countAttributes(extended.attributes().count())) {
+        return;
+    }
     if (extended.hasAttribute(TypeAttribute())) {
         target.setAttribute(TypeAttribute(), extended.attribute(TypeAttribute()));
     }
@@ -672,7 +671,7 @@ QDomNode XmlSchemaHandler::currentFragment() const
 /// Creates an element and appends it to @p owner; a null element when the limits do not allow it.
 QDomElement XmlSchemaHandler::createElement(const QString& name, QDomNode owner)
 {
-    if (!isWithinLimits(1, 1, owner, m_fragmentElements)) {
+    if (!isWithinLimits({1, 1, 0}, owner, m_fragmentElements)) {
         return QDomElement();
     }
     QDomElement element = m_pDocument->createElement(name);
@@ -709,6 +708,16 @@ QDomElement XmlSchemaHandler::attributedElement() const
     return m_bInsideGlobal ? m_currentElement : m_typeLevelElement;
 }
 
+/// Enters a definition; a later one of the same name takes its place.
+void XmlSchemaHandler::define(const QString& name, const TypeDefinition& definition)
+{
+    m_typeDefinitions[name] = definition;
+    m_pReading->openReferences.insert(name);
+    if (definition.usedFlag == 0) {
+        m_pReading->unusedGlobals.insert(name);
+    }
+}
+
 TypeDefinition* XmlSchemaHandler::findDefinition(const QString& name)
 {
     const auto found = m_typeDefinitions.find(name);
@@ -729,20 +738,26 @@ void XmlSchemaHandler::layOut(TypeDefinition& definition, QDomElement owner, con
     definition.usedFlag = 1;
     const QDomNode first = definition.fragment->firstChild();
     if (isCarrier(first)) {
-        copyAttributes(first.toElement(), owner);
+        if (countAttributes(first.attributes().count())) {
+            copyAttributes(first.toElement(), owner);
+        }
         return;
     }
     if (first.isNull() || owner.isNull()) {
         return;
     }
-    if (tree.elements + qint64(copies) * extentOf(*definition.fragment).elements > MaxElements) {
+    const DomExtent single = extentOf(*definition.fragment);
+    if (tree.elements + qint64(copies) * single.elements > MaxElements) {
         refuseElements();
+        return;
+    }
+    if (!areAttributesWithinLimit(qint64(copies) * single.attributes)) {
         return;
     }
     for (int copy = 0; copy < copies; ++copy) {
         // Measured for each copy: a definition that refers to itself grows under way.
         const DomExtent extent = extentOf(*definition.fragment);
-        if (!isWithinLimits(extent.elements, extent.levels, owner, tree)) {
+        if (!isWithinLimits(extent, owner, tree)) {
             return;
         }
         const QDomNode content = definition.fragment->cloneNode(true);
@@ -759,11 +774,24 @@ void XmlSchemaHandler::layOutNow(TypeDefinition& definition, const QDomElement& 
     layOut(definition, owner, QDomNode(), copies, m_fragmentElements);
 }
 
+/// Gives @p owner the attribute that @p definition, a global attribute, declares, and its facets.
+void XmlSchemaHandler::setDeclaredAttribute(TypeDefinition& definition, QDomElement owner)
+{
+    definition.usedFlag = 1;
+    // A clone, because a global attribute that refers to itself is its own owner.
+    const QDomElement declared = definition.fragment->firstChildElement().cloneNode(false).toElement();
+    if (!declared.isNull() && countAttributes(declared.attributes().count())) {
+        owner.setAttribute(declared.tagName(), declared.attribute(TypeAttribute()));
+        copyFacets(declared, owner, declared.tagName());
+    }
+}
+
 /// Records a reference that also keeps the definition being read from being usable.
 void XmlSchemaHandler::deferReference(const QString& name, int copies, const ElementPathRecord& record)
 {
     if (TypeDefinition* const definition = findDefinition(m_sDefinitionName)) {
         ++definition->pendingCount;
+        m_pReading->openReferences.insert(m_sDefinitionName);
     }
     recordReference(name, copies, record);
 }
@@ -771,6 +799,7 @@ void XmlSchemaHandler::deferReference(const QString& name, int copies, const Ele
 void XmlSchemaHandler::recordReference(const QString& name, int copies, const ElementPathRecord& record)
 {
     m_unresolvedTypes[name][copies].push_back(record);
+    m_pReading->openReferences.insert(name);
 }
 
 ElementPathRecord XmlSchemaHandler::recordOf(const QDomElement& owner, const QDomElement& anchor)
@@ -790,6 +819,7 @@ void XmlSchemaHandler::reviveExpandedDefinitions()
         TypeDefinition* const definition = unresolved.first.isEmpty() ? nullptr : findDefinition(unresolved.first);
         if (definition && definition->pendingCount == -1) {
             definition->pendingCount = 0;
+            m_pReading->openReferences.insert(unresolved.first);
         }
     }
 }
@@ -798,29 +828,34 @@ void XmlSchemaHandler::reviveExpandedDefinitions()
 /// when a pass gets nowhere because definitions refer to each other.
 bool XmlSchemaHandler::resolveReferences()
 {
+    std::set<QString>& names = m_pReading->openReferences;
     bool isAnotherPassNeeded = true;
     while (isAnotherPassNeeded) {
         isAnotherPassNeeded = false;
         bool isAnythingExpanded = false;
-        for (const auto& unresolved : m_unresolvedTypes) {
-            const QString& name = unresolved.first;
-            if (name.isEmpty()) {
+        for (auto name = names.begin(); name != names.end() && !isRefused();) {
+            if (name->isEmpty() || m_unresolvedTypes.count(*name) == 0) {
+                name = names.erase(name);
                 continue;
             }
-            TypeDefinition* const definition = findDefinition(name);
+            TypeDefinition* const definition = findDefinition(*name);
             if (!definition) {
                 traceMissingElement();
                 return false;
             }
             if (definition->pendingCount > 0) {
                 isAnotherPassNeeded = true;
-            } else if (definition->pendingCount == 0) {
-                expand(name, *definition);
+                ++name;
+                continue;
+            }
+            if (definition->pendingCount == 0) {
+                expand(*name, *definition);
                 isAnythingExpanded = true;
             }
-            if (isRefused()) {
-                return false;
-            }
+            name = names.erase(name);
+        }
+        if (isRefused()) {
+            return false;
         }
         if (isAnotherPassNeeded && !isAnythingExpanded) {
             traceMissingElement();
@@ -877,12 +912,14 @@ XmlSchemaHandler::ElementCount& XmlSchemaHandler::elementCountOf(const QString& 
 /// Gives false when it has grown beyond the limit, by references of other definitions that landed in it.
 bool XmlSchemaHandler::chooseRoot()
 {
-    for (auto& named : m_typeDefinitions) {
-        TypeDefinition& definition = named.second;
+    std::set<QString>& names = m_pReading->unusedGlobals;
+    for (auto name = names.begin(); name != names.end();) {
+        TypeDefinition& definition = m_typeDefinitions[*name];
         if (definition.usedFlag == 0 && definition.fragment->hasChildNodes()) {
             m_pCurrentFragment = definition.fragment;
             definition.usedFlag = 1;
         }
+        name = definition.usedFlag == 0 ? std::next(name) : names.erase(name);
     }
     if (extentOf(currentFragment()).elements > MaxElements) {
         refuseElements();
@@ -927,13 +964,14 @@ void XmlSchemaHandler::refuseElements()
     refuse(QStringLiteral("The schema lays out more than %1 elements!").arg(MaxElements));
 }
 
-/// Whether @p elements nested in @p levels may be laid below @p owner; counts them when they may and refuses when not.
-bool XmlSchemaHandler::isWithinLimits(int elements, int levels, const QDomNode& owner, ElementCount& tree)
+/// Whether so much may be laid below @p owner; counts it when it may and refuses when not.
+bool XmlSchemaHandler::isWithinLimits(const DomExtent& extent, const QDomNode& owner, ElementCount& tree)
 {
-    if (levelOf(owner) + levels > MaxElementNesting) {
+    if (levelOf(owner) + extent.levels > MaxElementNesting) {
         refuse(QStringLiteral("The schema lays out elements nested deeper than %1!").arg(MaxElementNesting));
         return false;
     }
+    const int elements = extent.elements;
     int& total = m_pReading->elementsOfAllDefinitions;
     int& ofNamedTypes = m_pReading->elementsOfNamedTypes;
     const int forNamedTypes = tree.isOfNamedType ? elements : 0;
@@ -942,8 +980,29 @@ bool XmlSchemaHandler::isWithinLimits(int elements, int levels, const QDomNode& 
         refuseElements();
         return false;
     }
+    if (!countAttributes(extent.attributes)) {
+        return false;
+    }
     tree.elements += elements;
     total += elements;
     ofNamedTypes += forNamedTypes;
     return true;
+}
+
+/// Whether so many attributes may be copied to other elements; refuses when not.
+bool XmlSchemaHandler::areAttributesWithinLimit(qint64 attributes)
+{
+    if (m_pReading->attributesOfAllDefinitions + attributes > MaxAttributes) {
+        refuse(QStringLiteral("The schema lays out more than %1 attributes!").arg(MaxAttributes));
+    }
+    return !isRefused();
+}
+
+/// The same, and counts them.
+bool XmlSchemaHandler::countAttributes(int attributes)
+{
+    if (areAttributesWithinLimit(attributes)) {
+        m_pReading->attributesOfAllDefinitions += attributes;
+    }
+    return !isRefused();
 }

@@ -13,6 +13,7 @@
 
 class IXMLHelper;
 class QXmlSimpleReader;
+struct DomExtent;
 struct SchemaReading;
 
 QT_WARNING_PUSH
@@ -129,10 +130,12 @@ private:
     QDomElement attributedElement() const;
 
     // Definitions and the references to them.
+    void define(const QString& name, const TypeDefinition& definition);
     TypeDefinition* findDefinition(const QString& name);
     TypeDefinition* findUsableDefinition(const QString& name);
     void layOut(TypeDefinition& definition, QDomElement owner, const QDomNode& anchor, int copies, ElementCount& tree);
     void layOutNow(TypeDefinition& definition, const QDomElement& owner, int copies = 1);
+    void setDeclaredAttribute(TypeDefinition& definition, QDomElement owner);
     void deferReference(const QString& name, int copies, const ElementPathRecord& record);
     void recordReference(const QString& name, int copies, const ElementPathRecord& record);
     ElementPathRecord recordOf(const QDomElement& owner, const QDomElement& anchor = QDomElement());
@@ -149,7 +152,9 @@ private:
     void refuse(const QString& reason);
     bool checkName(const QString& name);
     void refuseElements();
-    bool isWithinLimits(int elements, int levels, const QDomNode& owner, ElementCount& tree);
+    bool isWithinLimits(const DomExtent& extent, const QDomNode& owner, ElementCount& tree);
+    bool areAttributesWithinLimit(qint64 attributes);
+    bool countAttributes(int attributes);
 
     QXmlAttributes m_attributes;
     QString m_sCurrentName; ///< the qualified name of the last start tag

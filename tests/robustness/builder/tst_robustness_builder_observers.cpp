@@ -49,6 +49,7 @@ private Q_SLOTS:
     void countWithoutCopiesKeepsOneElement();
     void countBeyondTheLimitIsRefused_data();
     void countBeyondTheLimitIsRefused();
+    void countOfManyAttributesIsRefused();
     void namesThatTakeTurnsComeToAnEnd();
 
     void editsOfTheDocumentLeaveAFile_data();
@@ -383,6 +384,25 @@ void TestRobustnessBuilderObservers::countBeyondTheLimitIsRefused()
     QCOMPARE(errorsOfTheCall, 1);
     QCOMPARE(reportText().count(QStringLiteral("<Many")), 1);
     QCOMPARE(traces.Messages(), QStringLiteral("Copies would give the report more than 500000 elements!"));
+}
+
+/// An enumeration gives an element thousands of attributes; here the observer does.
+void TestRobustnessBuilderObservers::countOfManyAttributesIsRefused()
+{
+    const TraceCollector traces;
+    ScriptedObserver observer;
+    XmlCreateReport builder(&observer);
+    observer.OnElement(QStringLiteral("Many"), [&](ElemBeginEvent& event) {
+        for (int i = 0; i < 10; ++i) {
+            event.GetElementNode().toElement().setAttribute(QStringLiteral("k%1").arg(i), i);
+        }
+        builder.SetElementMaxOccurs(QStringLiteral("Many"), 200001);
+        QCOMPARE(observer.Errors().back(), int(IXMLHelper::MAX_OCCURS_EXCEEDED));
+        builder.SetXmlValue(QStringLiteral("x"));
+    });
+    QVERIFY(create(builder));
+    QCOMPARE(reportText().count(QStringLiteral("<Many")), 1);
+    QCOMPARE(traces.Messages(), QStringLiteral("Copies would give the report more than 2000000 attributes!"));
 }
 
 /// Each call is allowed, makes no copy and has the element announced again.

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void readsContent();
     void readsSchemas_data();
     void readsSchemas();
+    void countsWhatOneElementIsGivenAgainAndAgain_data();
+    void countsWhatOneElementIsGivenAgainAndAgain();
     void readsIncludes_data();
     void readsIncludes();
 
@@ -98,6 +100,11 @@ QString elementsTrace()
     return QStringLiteral("The schema lays out more than 500000 elements!");
 }
 
+QString attributesTrace()
+{
+    return QStringLiteral("The schema lays out more than 2000000 attributes!");
+}
+
 QString elementNestingTrace()
 {
     return QStringLiteral("The schema lays out elements nested deeper than 512!");
@@ -142,6 +149,12 @@ QString typeChain(int last, const QString& content, bool isBackwards = false)
 QString rootOf(const QString& type)
 {
     return QStringLiteral("<xs:element name='root' type='%1'/>").arg(type);
+}
+
+QString enumeration(int values)
+{
+    return QStringLiteral("<xs:restriction base='xs:string'>%1</xs:restriction>")
+        .arg(QStringLiteral("<xs:enumeration value='v'/>").repeated(values));
 }
 
 QString include(const QString& name)
@@ -329,11 +342,18 @@ void TestRobustnessLimits::readsSchemas_data()
     QTest::newRow("tags-nested-100000") << QStringLiteral("<xs:sequence>").repeated(100000) << false
                                         << schemaNestingTrace();
     QTest::newRow("enumeration-of-100000-values")
-        << QStringLiteral(
-               "<xs:simpleType name='S'><xs:restriction base='xs:string'>%1</xs:restriction></xs:simpleType>")
-                .arg(QStringLiteral("<xs:enumeration value='v'/>").repeated(100000))
+        << QStringLiteral("<xs:simpleType name='S'>%1</xs:simpleType>").arg(enumeration(100000))
             + rootOf(QStringLiteral("S"))
         << false << QStringLiteral("An enumeration has more than 10000 values!");
+    const QString tenThousand = QStringLiteral("<xs:simpleType name='S'>%1</xs:simpleType>").arg(enumeration(10000));
+    const QString valuesThatMultiply
+        = global(QStringLiteral("root"), QStringLiteral("<xs:element name='e' type='S' minOccurs='201'/>"));
+    QTest::newRow("values-that-multiply") << tenThousand + valuesThatMultiply << false << attributesTrace();
+    QTest::newRow("later-values-that-multiply") << valuesThatMultiply + tenThousand << false << attributesTrace();
+    QTest::newRow("elements-with-values-that-multiply")
+        << tenThousand + named(QStringLiteral("T"), QStringLiteral("<xs:element name='e' type='S'/>"))
+            + global(QStringLiteral("root"), QStringLiteral("<xs:element name='t' type='T' minOccurs='201'/>"))
+        << false << attributesTrace();
     QString declaredAttributes;
     for (int i = 0; i < 50000; ++i) {
         declaredAttributes += QStringLiteral("<xs:attribute name='k%1' type='xs:int'/>").arg(i);
@@ -365,6 +385,32 @@ void TestRobustnessLimits::readsSchemas()
     checkCosts(outcome);
 }
 
+void TestRobustnessLimits::countsWhatOneElementIsGivenAgainAndAgain_data()
+{
+    QTest::addColumn<QString>("declaration"); // of 10,000 values
+    QTest::addColumn<QString>("use");
+    QTest::newRow("declared-attribute") << QStringLiteral(
+        "<xs:attribute name='k'><xs:simpleType>%1</xs:simpleType></xs:attribute>")
+                                        << QStringLiteral("<xs:attribute ref='k'/>");
+    QTest::newRow("extension") << QStringLiteral("<xs:element name='S'><xs:simpleType>%1</xs:simpleType></xs:element>")
+                               << QStringLiteral("<xs:extension base='S'/>");
+}
+
+/// Giving takes time, even where it takes no memory.
+void TestRobustnessLimits::countsWhatOneElementIsGivenAgainAndAgain()
+{
+    QFETCH(QString, declaration);
+    QFETCH(QString, use);
+    const auto build = [&](int uses) {
+        const QString declarations
+            = declaration.arg(enumeration(10000)) + global(QStringLiteral("root"), use.repeated(uses));
+        return buildConfined(write(QStringLiteral("schema.xsd"), schemaOf(declarations)),
+                             pathOf(QStringLiteral("r.xml")));
+    };
+    QCOMPARE(outcomeText(build(190)), outcomeText(true, {}));
+    QCOMPARE(outcomeText(build(200)), outcomeText(false, {attributesTrace()}));
+}
+
 void TestRobustnessLimits::readsIncludes_data()
 {
     QTest::addColumn<QStringList>("files"); // file0.xsd and so on; the first one is the schema
@@ -384,6 +430,20 @@ void TestRobustnessLimits::readsIncludes_data()
     chain.first().append(root);
 
     QTest::newRow("chain-of-1100-is-cut-off") << chain << true << skippedTrace();
+    QStringList many;
+    for (int i = 1; i < 1000; ++i) {
+        many.append(include(fileName(i)));
+    }
+    many = QStringList {many.join(QString()) + root};
+    for (int i = 1; i < 1000; ++i) {
+        QString types;
+        for (int j = 0; j < 50; ++j) {
+            const QString type = QStringLiteral("T%1-%2").arg(i).arg(j);
+            types += rootOf(type) + QStringLiteral("<xs:simpleType name='%1'/>").arg(type);
+        }
+        many.append(types);
+    }
+    QTest::newRow("files-1000-with-50-later-types-each") << many << true << none;
     QTest::newRow("each-twice") << doubling << false << QStringLiteral("The schema consists of more than 1000 files!");
     QTest::newRow("itself") << QStringList {include(fileName(0)) + root} << true << skippedTrace();
     QTest::newRow("each-other") << QStringList {include(fileName(1)) + root, include(fileName(0))} << true
