@@ -40,6 +40,9 @@ private Q_SLOTS:
     void laysOutDefaultTexts();
     void continuesWhereTheNoticeSays_data();
     void continuesWhereTheNoticeSays();
+    void noticesARenamedOwner_data();
+    void noticesARenamedOwner();
+    void noticesThatTheFirstOwnerIsRenamed();
     void takesNoticesGivenInsideErrors_data();
     void takesNoticesGivenInsideErrors();
     void refusesANoticeWithoutElement();
@@ -570,6 +573,43 @@ void TestDomParser::continuesWhereTheNoticeSays()
     QVERIFY(walker.parser.Walk());
     QCOMPARE(walker.Log(), log);
     QCOMPARE(domText(walker.document), domTextOf(xml));
+}
+
+void TestDomParser::noticesARenamedOwner_data()
+{
+    QTest::addColumn<QString>("at");
+    QTest::addColumn<bool>("isInError");
+    QTest::newRow("inside-an-error") << "m" << true;
+    QTest::newRow("parent-inside-the-begin-of-its-child") << "a" << false;
+}
+
+/// What the element may miss is decided by the names at that moment, whoever has given them.
+void TestDomParser::noticesARenamedOwner()
+{
+    QFETCH(QString, at);
+    QFETCH(bool, isInError);
+    Walker walker(QStringLiteral("<r><m><a type='t'/></m></r>"), QStringLiteral("m 1 r, a 0 n"));
+    const auto rename = [&] { walker.Find(QStringLiteral("m")).setTagName(QStringLiteral("n")); };
+    if (isInError) {
+        walker.observer.OnError([&](int) { rename(); });
+    } else {
+        walker.observer.OnElement(at, [&](ElemBeginEvent&) { rename(); });
+    }
+    QVERIFY(walker.parser.Walk());
+    QCOMPARE(walker.Log(), QStringLiteral("r, m, error 16, a"));
+    QCOMPARE(domText(walker.document), domTextOf(QStringLiteral("<r><n/></r>")));
+}
+
+void TestDomParser::noticesThatTheFirstOwnerIsRenamed()
+{
+    Walker walker(QStringLiteral("<r><n><b type='t'/></n><n><a type='t'/></n></r>"),
+                  QStringLiteral("n 1 r, b 1 n, a 0 n"));
+    walker.observer.OnElement(QStringLiteral("a"), [&](ElemBeginEvent&) {
+        walker.document.documentElement().firstChild().toElement().setTagName(QStringLiteral("m"));
+    });
+    QVERIFY(walker.parser.Walk());
+    QCOMPARE(walker.Log(), QStringLiteral("r, n, error 16, b, error 16, n, error 16, a"));
+    QCOMPARE(domText(walker.document), domTextOf(QStringLiteral("<r><m><b type='t'/></m><n/></r>")));
 }
 
 void TestDomParser::takesNoticesGivenInsideErrors_data()

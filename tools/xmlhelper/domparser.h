@@ -76,7 +76,7 @@ public:
                          const std::function<bool(int)>& isWanted);
 
     // The changes of the builder, which are to be made with these. Anything else that happens to the document is
-    // noticed, and costs a new look at all of it.
+    // noticed, and costs a new look at all of it; only of the elements that are renamed some are not (see OwnerIndex).
 
     /// Removes @p node from its parent; gives a null node when it could not be removed.
     QDomNode Remove(const QDomNode& node);

@@ -33,12 +33,11 @@ bool OwnerIndex::IsFirst(const QDomNode& element, const QString& name)
         return false;
     }
     std::vector<QDomElement>& elements = found->elements;
-    while (!elements.empty() && !isInDocument(elements.back())) {
-        if (found->isCopied) {
-            make(); // A copy may be the first now; the new index has all of them.
-            return IsFirst(element, name);
-        }
+    while (!elements.empty() && !isInDocument(elements.back()) && !found->isCopied) {
         elements.pop_back();
+    }
+    if (isOutdated(*found, element, name)) {
+        make();
     }
     return !elements.empty() && elements.back() == element;
 }
@@ -117,6 +116,16 @@ void OwnerIndex::make()
     }
     m_bCurrent = true;
     m_changes.Reset();
+}
+
+/// Whether the first of @p bearers shows that the document is another one than when the index was made.
+bool OwnerIndex::isOutdated(const Bearers& bearers, const QDomNode& element, const QString& name) const
+{
+    if (bearers.elements.empty()) {
+        return isInDocument(element); // It has been given the name.
+    }
+    const QDomElement& first = bearers.elements.back();
+    return first.tagName() != name || !isInDocument(first); // A copy may be the first now.
 }
 
 /// A search stops at other nodes of the name, and compares some elements by their name without prefix.

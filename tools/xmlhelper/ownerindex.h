@@ -15,8 +15,9 @@
 /// find it from the root, without searching again for every question.
 ///
 /// The index is made when it is first asked. It is kept current through the changes that are made with its own
-/// operations, and made anew after any other change, except that a renamed element is only noticed when Invalidate()
-/// says so. Only elements of the searched names are stored; the document is not owned.
+/// operations, and made anew after any other change. Of elements that are renamed (QDomElement::setTagName), which
+/// nothing tells of, it notices the first one of a name when that is asked for, and one that is given a name that nobody
+/// had; for others Invalidate() must be called. Only elements of the searched names are stored; the document is not owned.
 class OwnerIndex
 {
 public:
@@ -68,6 +69,7 @@ private:
     void endOwnChange();
     void noticeChanges();
     void make();
+    bool isOutdated(const Bearers& bearers, const QDomNode& element, const QString& name) const;
     bool isIndexable(const QDomNode& node) const;
     bool isInDocument(const QDomNode& node) const;
 
