@@ -78,6 +78,7 @@ private Q_SLOTS:
 
     void copyIsShallow();
     void copyTakesTheStateByValue();
+    void copyMadeInsideAnErrorIsHeardInFull();
     void copyOfANewBuilderBuildsForItself();
     void assignmentIsShallow();
     void selfAssignmentChangesNothing();
@@ -778,6 +779,27 @@ void TestXmlCreateReportLifecycle::copyTakesTheStateByValue()
         QCOMPARE(observer.Errors().size(), before + 2);
         original = XmlCreateReport(&observer);
     }
+}
+
+void TestXmlCreateReportLifecycle::copyMadeInsideAnErrorIsHeardInFull()
+{
+    write(QStringLiteral("schema.xsd"), measurementSchema());
+    ScriptedObserver observer;
+    XmlCreateReport original(&observer);
+    std::unique_ptr<XmlCreateReport> copy;
+    observer.OnError([&](int) {
+        if (!copy) {
+            copy = std::make_unique<XmlCreateReport>(original);
+        }
+    });
+    QVERIFY(build(original));
+    QVERIFY(copy);
+    original = XmlCreateReport(&observer); // It owns nothing any more, so the copy is the one to be destroyed.
+    const std::size_t before = observer.Errors().size();
+    for (int refusal = 0; refusal < 300; ++refusal) {
+        copy->DiscardChoiceItem();
+    }
+    QCOMPARE(int(observer.Errors().size() - before), 300);
 }
 
 void TestXmlCreateReportLifecycle::copyOfANewBuilderBuildsForItself()

@@ -139,8 +139,6 @@ XmlCreateReport::XmlCreateReport(IXMLHelper* pCallback)
     , m_iElements(0)
     , m_iAttributes(0)
     , m_iMultiplications(0)
-    , m_iErrorDepth(0)
-    , m_iNestedErrors(0)
 {
     checkObserver(pCallback, "XmlCreateReport", "xmlcreatereport", 43);
 }
@@ -372,16 +370,16 @@ void XmlCreateReport::Error(int id)
     if (!m_pCallback) {
         return;
     }
-    if (m_iErrorDepth == 0) {
-        m_iNestedErrors = 0;
-    } else if (++m_iNestedErrors > MaxNestedErrors) {
-        if (m_iNestedErrors == MaxNestedErrors + 1) {
+    if (m_errorNesting.depth == 0) {
+        m_errorNesting.errors = 0;
+    } else if (++m_errorNesting.errors > MaxNestedErrors) {
+        if (m_errorNesting.errors == MaxNestedErrors + 1) {
             trace(QStringLiteral("More than %1 errors while one is being answered are not sent!").arg(MaxNestedErrors),
                   "xmlcreatereport", __LINE__);
         }
         return;
     }
-    const QScopedValueRollback<int> depth(m_iErrorDepth, m_iErrorDepth + 1);
+    const QScopedValueRollback<int> depth(m_errorNesting.depth, m_errorNesting.depth + 1);
     deliver<ErrorEvent>(m_pCallback, static_cast<IXMLHelper::ErrorID>(id));
 }
 

@@ -188,6 +188,17 @@ public:
     void DiscardChoiceItem();
 
 private:
+    /// The error events under way. A copy of a builder that is being answered has none itself.
+    struct ErrorNesting
+    {
+        ErrorNesting() = default;
+        ErrorNesting(const ErrorNesting&) {}
+        ErrorNesting& operator=(const ErrorNesting&) { return *this; }
+
+        int depth = 0; ///< events that the observer is answering just now
+        int errors = 0; ///< since the outermost of them
+    };
+
     void CreateAndAppendTextNode(QString text);
     QString TypeControl(QString wanted);
     void Error(int id);
@@ -230,8 +241,7 @@ private:
     int m_iElements; ///< laid out by the schema and made by copying
     int m_iAttributes; ///< the same of attributes
     int m_iMultiplications; ///< calls that multiplied an element, with or without copies
-    int m_iErrorDepth; ///< error events that the observer is answering just now
-    int m_iNestedErrors; ///< sent since the outermost of them
+    ErrorNesting m_errorNesting;
 };
 
 QT_WARNING_POP
