@@ -70,6 +70,7 @@ private Q_SLOTS:
     void mirrorsNodesBelowNodes();
     void mirrorsTheRootOfATree();
     void mirrorsBelowTheCurrentElement();
+    void mirrorsNothingBesideText();
     void writesANodeWithoutItemsAsAnEmptyElement();
     void writesAValueWithoutTextAsAnEmptyElement();
     void leavesOutItemsWithoutValue();
@@ -219,6 +220,10 @@ void TestXmlWriter::leavesAnInvalidRootOut_data()
     QTest::newRow("empty") << QString();
     QTest::newRow("digit-in-front") << QStringLiteral("1r");
     QTest::newRow("blank-within") << QStringLiteral("a b");
+    QTest::newRow("letter-that-is-none-in-names") << QString(QChar(0xB5));
+    QTest::newRow("superscript-within") << QStringLiteral("m") + QChar(0xB2);
+    QTest::newRow("two-elements") << QStringLiteral("a/><b");
+    QTest::newRow("unclosed-element") << QStringLiteral("a><b");
 }
 
 void TestXmlWriter::leavesAnInvalidRootOut()
@@ -583,6 +588,21 @@ void TestXmlWriter::mirrorsBelowTheCurrentElement()
     QVERIFY(writer.CreateElementsFromNode(&node));
     QVERIFY(writer.CreateElementsFromNode(&node));
     QCOMPARE(saved(writer), QStringLiteral("<r>\n    <a>\n        <n/>\n        <n/>\n    </a>\n</r>\n"));
+}
+
+void TestXmlWriter::mirrorsNothingBesideText()
+{
+    Node node(QStringLiteral("n"), nullptr);
+    addText(node, QStringLiteral("v"), QStringLiteral("1"));
+    new Node(QStringLiteral("in"), &node);
+    addText(node, QStringLiteral("w"), QStringLiteral("2"));
+    XMLWriter writer;
+    QVERIFY(begin(writer));
+    QVERIFY(writer.CreateXmlElement(QStringLiteral("a"), QStringLiteral("x"), true));
+    QVERIFY(!writer.CreateElementsFromNode(&node));
+    // The cursor is where it was.
+    QVERIFY(writer.SetXmlAttribute(QStringLiteral("k"), QStringLiteral("1")));
+    QCOMPARE(saved(writer), QStringLiteral("<r>\n    <a k=\"1\">x</a>\n</r>\n"));
 }
 
 void TestXmlWriter::writesANodeWithoutItemsAsAnEmptyElement()

@@ -74,25 +74,6 @@ Index endOfRepresentable(const QString& text, Index index)
     return index;
 }
 
-bool isName(const QString& name)
-{
-    for (Index index = 0; index < name.size(); ++index) {
-        uint character = name.at(index).unicode();
-        const bool isFirst = index == 0;
-        if (isAsciiLetter(character) || (!isFirst && character >= '0' && character <= '9')) {
-            continue;
-        }
-        if (isPairAt(name, index)) {
-            character = QChar::surrogateToUcs4(name.at(index), name.at(index + 1));
-            ++index;
-        }
-        if (!isInside(NameStartRanges, character) && (isFirst || !isInside(FurtherNameRanges, character))) {
-            return false;
-        }
-    }
-    return !name.isEmpty();
-}
-
 } // namespace
 
 QString representableText(const QString& text, const char* place)
@@ -122,6 +103,25 @@ QString representableText(const QString& text, const char* place)
 bool isRepresentableText(const QString& text)
 {
     return endOfRepresentable(text, 0) == text.size();
+}
+
+bool isName(const QString& name)
+{
+    for (Index index = 0; index < name.size(); ++index) {
+        uint character = name.at(index).unicode();
+        const bool isFirst = index == 0;
+        if (isAsciiLetter(character) || (!isFirst && character >= '0' && character <= '9')) {
+            continue;
+        }
+        if (isPairAt(name, index)) {
+            character = QChar::surrogateToUcs4(name.at(index), name.at(index + 1));
+            ++index;
+        }
+        if (!isInside(NameStartRanges, character) && (isFirst || !isInside(FurtherNameRanges, character))) {
+            return false;
+        }
+    }
+    return !name.isEmpty();
 }
 
 bool isRepresentableName(const QString& name, const char* place)

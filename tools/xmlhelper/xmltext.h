@@ -15,6 +15,9 @@ QString representableText(const QString& text, const char* place);
 /// Whether XML can carry all of @p text.
 bool isRepresentableText(const QString& text);
 
+/// Whether @p name is one that XML allows (section 2.3, Name).
+bool isName(const QString& name);
+
 /// Whether XML allows @p name for an element or an attribute (section 2.3, Name). Nothing can be kept of one that it
 /// does not, because a name that differs is another name: the caller refuses it. That is traced with @p place.
 bool isRepresentableName(const QString& name, const char* place);

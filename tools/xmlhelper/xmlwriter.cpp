@@ -43,10 +43,13 @@ bool XMLWriter::CreateXmlFile(const QString& fileName, const QString& rootName)
         return false;
     }
     m_pDocument = new QDomDocument;
-    // Which names are allowed is checked there, which characters are not.
+    // What stands for a name is checked there, but not every character, and what came before an error stays.
     const QString root = isRepresentableText(rootName) ? rootName : QString();
-    m_pDocument->setContent(QStringLiteral("<?xml version = '1.0' encoding = 'UTF-8'?><") + root
-                            + QStringLiteral("/>"));
+    const bool isParsed = m_pDocument->setContent(QStringLiteral("<?xml version = '1.0' encoding = 'UTF-8'?><") + root
+                                                  + QStringLiteral("/>"));
+    if (!isParsed || !isName(m_pDocument->documentElement().tagName())) {
+        m_pDocument->removeChild(m_pDocument->documentElement());
+    }
     *m_pCurrentElement = m_pDocument->documentElement();
     return true;
 }
@@ -98,11 +101,9 @@ bool XMLWriter::SaveXmlFile()
 
 bool XMLWriter::CreateElementsFromNode(Node* node)
 {
-    if (!node || !m_pDocument || !isPlaceForElement()
-        || !isRepresentableName(node->GetName(), "XMLWriter::CreateElementsFromNode")) {
+    if (!node || !CreateXmlElement(node->GetName(), QString(), true)) {
         return false;
     }
-    CreateXmlElement(node->GetName(), QString(), true);
     for (TreeItem* const item : node->GetTreeItems()) {
         const auto* const valueItem = dynamic_cast<const ValueItem*>(item);
         if (!valueItem) {

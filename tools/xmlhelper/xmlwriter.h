@@ -73,7 +73,8 @@ public:
     /// with its text for each value and one for each node below. Items without a value, items that are neither value
     /// nor node, and values and whole nodes whose name or nesting is refused are left out.
     /// @param node  not owned, only read
-    /// @return false for null, without a document, and for a node that is refused
+    /// @return false for null, without a document, when the current element ends with a text, and for a node that is
+    ///         refused
     bool CreateElementsFromNode(Node* node);
 
 private:
