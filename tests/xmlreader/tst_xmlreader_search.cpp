@@ -140,16 +140,17 @@ void TestXmlReaderSearch::findsNothingWithoutContent()
 {
     EventRecorder recorder;
     XMLReader reader(&recorder, nullptr);
-    const QString name = QStringLiteral("a");
-    const std::list<QDomNode>* results = reader.GetElement(name, QString());
-    QVERIFY(results);
-    QVERIFY(results->empty());
-    results = reader.GetElement(name, name);
-    QVERIFY(results);
-    QVERIFY(results->empty());
-    results = reader.SearchBelowCurrentElement(name);
-    QVERIFY(results);
-    QVERIFY(results->empty());
+    for (const QString& name : {QStringLiteral("a"), QStringLiteral(""), QString()}) {
+        const std::list<QDomNode>* results = reader.GetElement(name, QString());
+        QVERIFY(results);
+        QVERIFY(results->empty());
+        results = reader.GetElement(name, QStringLiteral("a"));
+        QVERIFY(results);
+        QVERIFY(results->empty());
+        results = reader.SearchBelowCurrentElement(name);
+        QVERIFY(results);
+        QVERIFY(results->empty());
+    }
 }
 
 void TestXmlReaderSearch::findsNothingInAMissingFile()

@@ -1,5 +1,7 @@
 #include "documentfile.h"
 
+#include <optional>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QTextStream>
@@ -32,7 +34,10 @@ bool isForUtf8(const QDomDocument& document)
 
 QByteArray serialised(const QDomDocument& document)
 {
-    const TextsInPieces pieces(document);
+    std::optional<TextsInPieces> pieces;
+    if (isLongTextKnown()) {
+        pieces.emplace(document);
+    }
     if (isForUtf8(document)) {
         return document.toString(SavedIndent).toUtf8(); // A stream that encodes does so line by line.
     }

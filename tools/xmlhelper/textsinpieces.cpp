@@ -8,7 +8,7 @@ namespace {
 
 constexpr int PieceLength = 4096;
 
-std::atomic<bool> isLongTextKnown {false};
+std::atomic<bool> hasMadeLongText {false};
 
 /// Whether "]]>" stands across @p index. Qt escapes its last character only when it sees all three.
 bool isInsideSectionEnd(const QString& text, int index)
@@ -21,19 +21,26 @@ bool isInsideSectionEnd(const QString& text, int index)
 
 QDomText createText(QDomDocument& document, const QString& text)
 {
-    if (text.size() > PieceLength) {
-        isLongTextKnown = true;
+    if (isLongText(int(text.size()))) {
+        hasMadeLongText = true;
     }
     return document.createTextNode(text);
 }
 
-TextsInPieces::TextsInPieces(const QDomDocument& document)
+bool isLongTextKnown()
 {
-    if (!isLongTextKnown) {
-        return;
-    }
-    for (QDomNode node = document.firstChild(); !node.isNull(); node = nextBelow(document, node, false)) {
-        if (node.nodeType() == QDomNode::TextNode && node.nodeValue().size() > PieceLength) {
+    return hasMadeLongText;
+}
+
+bool isLongText(int length)
+{
+    return length > PieceLength;
+}
+
+TextsInPieces::TextsInPieces(const QDomNode& top)
+{
+    for (QDomNode node = top.firstChild(); !node.isNull(); node = nextBelow(top, node, false)) {
+        if (node.nodeType() == QDomNode::TextNode && isLongText(int(node.nodeValue().size()))) {
             split(node.toText());
         }
     }

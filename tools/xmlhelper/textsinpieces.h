@@ -10,14 +10,20 @@
 /// texts when they are saved, which takes half as long as saving, only once there has been one.
 QDomText createText(QDomDocument& document, const QString& text);
 
-/// Stands the long texts of a document in pieces while it lives, so that Qt saves it in a time in proportion to their
+/// Whether createText() has ever made a long text.
+bool isLongTextKnown();
+
+/// Whether a text of so many code units is a long one.
+bool isLongText(int length);
+
+/// Stands the long texts below a node in pieces while it lives, so that Qt saves it in a time in proportion to their
 /// length: what it needs to escape one text grows with the square of its length, to an hour for ten million characters.
 /// Neighbouring texts are saved to the same bytes as one. In the end every text is whole again, in its own node.
 class TextsInPieces
 {
 public:
-    /// @param document  must not be changed by anybody else meanwhile
-    explicit TextsInPieces(const QDomDocument& document);
+    /// @param top  must not be changed by anybody else meanwhile, nor what is below it
+    explicit TextsInPieces(const QDomNode& top);
     ~TextsInPieces();
 
 private:

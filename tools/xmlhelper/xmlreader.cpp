@@ -1,6 +1,8 @@
 #include "xmlreader.h"
 
 #include <QDomDocument>
+#include <QScopedValueRollback>
+#include <QScopeGuard>
 #include <QTextStream>
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
@@ -12,6 +14,7 @@
 #include "guardedsource.h"
 #include "nestingguard.h"
 #include "tagscanner.h"
+#include "textsinpieces.h"
 #include "tracing.h"
 #include "xmlcontenthandler.h"
 
@@ -27,15 +30,6 @@ void traceNesting()
 {
     trace(QStringLiteral("XMLReader: The content is nested deeper than %1 elements!").arg(MaxElementNesting),
           "xmlreader", __LINE__);
-}
-
-bool isNestingWithinLimit(const QDomNode& node)
-{
-    const bool isWithinLimit = extentOf(node).levels <= MaxElementNesting;
-    if (!isWithinLimit) {
-        traceNesting();
-    }
-    return isWithinLimit;
 }
 
 /// Whether the file has nothing but elements and texts in it, and these within the limit.
@@ -62,6 +56,11 @@ bool isWithinLimits(QFile& file)
     return !guard.IsExceeded() && source.GetRefusal().isEmpty();
 }
 
+QString savedText(const QDomDocument& document)
+{
+    return document.toString(DocumentIndent);
+}
+
 QString savedText(const QDomNode& node)
 {
     QString text;
@@ -69,6 +68,21 @@ QString savedText(const QDomNode& node)
     node.save(stream, NodeIndent);
     stream.flush();
     return text;
+}
+
+/// The text of a document, a fragment or a node; nothing when it is nested too deeply.
+template <class Content> std::optional<QString> textOf(const Content& content)
+{
+    const DomExtent extent = extentOf(content);
+    if (extent.levels > MaxElementNesting) {
+        traceNesting();
+        return std::nullopt;
+    }
+    std::optional<TextsInPieces> pieces;
+    if (isLongText(extent.longestText)) {
+        pieces.emplace(content);
+    }
+    return savedText(content);
 }
 
 template <class Content> void release(Content*& content, bool& flag)
@@ -198,16 +212,16 @@ bool XMLReader::ParseXml()
         return false;
     }
     if (m_bDocument) {
-        return isNestingWithinLimit(*m_pDocument) && parseText(m_pDocument->toString(DocumentIndent));
+        return parseText(textOf(*m_pDocument));
     }
     if (m_bFile) {
         return parseFile();
     }
     if (m_bNode) {
-        return isNestingWithinLimit(*m_pNode) && parseText(savedText(*m_pNode));
+        return parseText(textOf(*m_pNode));
     }
     if (m_bFragment) {
-        return isNestingWithinLimit(*m_pFragment) && parseText(savedText(*m_pFragment));
+        return parseText(textOf(*m_pFragment));
     }
     return false;
 }
@@ -215,6 +229,9 @@ bool XMLReader::ParseXml()
 std::list<QDomNode>* XMLReader::GetElement(QString elementName, QString startElementName)
 {
     renewResults();
+    if (!m_bFile && !m_bDocument && !m_bFragment && !m_bNode) {
+        return m_pSearchResults; // The empty name is that of the null element, too.
+    }
     QDomElement start = rootElement();
     if (!startElementName.isEmpty()) {
         start = SearchStartNode(startElementName, start).toElement();
@@ -315,22 +332,24 @@ bool XMLReader::parseFile()
     return parseGuarded(source);
 }
 
-bool XMLReader::parseText(const QString& text)
+bool XMLReader::parseText(const std::optional<QString>& text)
 {
-    if (GuardedSource::IsNeededFor(text)) {
-        GuardedSource source(text);
+    if (!text) {
+        return false;
+    }
+    if (GuardedSource::IsNeededFor(*text)) {
+        GuardedSource source(*text);
         return parseGuarded(source);
     }
     QXmlInputSource source;
-    source.setData(text);
+    source.setData(*text);
     return parse(source);
 }
 
 bool XMLReader::parse(const QXmlInputSource& source)
 {
-    m_bParsing = true;
+    const QScopedValueRollback<bool> parsing(m_bParsing, true); // an observer may throw
     const bool isParsed = m_pParser->parse(source);
-    m_bParsing = false;
     if (m_pNestingGuard->IsExceeded()) {
         traceNesting();
     }
@@ -340,8 +359,8 @@ bool XMLReader::parse(const QXmlInputSource& source)
 bool XMLReader::parseGuarded(GuardedSource& source)
 {
     source.Watch(*m_pParser);
+    const auto leave = qScopeGuard([&] { source.Leave(*m_pParser); });
     const bool isParsed = parse(source);
-    source.Leave(*m_pParser);
     if (!source.GetRefusal().isEmpty()) {
         trace(source.GetRefusal(), "xmlreader", __LINE__);
     }

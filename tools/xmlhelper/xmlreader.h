@@ -2,6 +2,7 @@
 #define XMLHELPER_XMLREADER_H
 
 #include <list>
+#include <optional>
 
 #include <QString>
 
@@ -125,7 +126,7 @@ private:
     bool isRefusedWhileParsing() const;
     void releaseDocument(QDomDocument* document);
     bool parseFile();
-    bool parseText(const QString& text);
+    bool parseText(const std::optional<QString>& text);
     bool parse(const QXmlInputSource& source);
     bool parseGuarded(GuardedSource& source);
     QDomElement rootElement() const;

@@ -34,6 +34,8 @@ private Q_SLOTS:
     void readsWhatTheParserTakes_data();
     void readsWhatTheParserTakes();
     void readsATextOf10Megabytes();
+    void readsALongTextFromMemory_data();
+    void readsALongTextFromMemory();
     void readsAnAttributeOf1Megabyte();
     void reads50000Attributes();
     void answersForDocumentsThatAreNoXml_data();
@@ -140,6 +142,43 @@ void TestRobustnessXmlInputs::readsATextOf10Megabytes()
     QVERIFY(outcome->isSameAgain);
     QVERIFY(outcome->isNextRead);
     QCOMPARE(int(outcome->recorder.Nodes().front().toElement().text().size()), 10000000);
+}
+
+void TestRobustnessXmlInputs::readsALongTextFromMemory_data()
+{
+    QTest::addColumn<int>("form");
+    QTest::newRow("document") << 0;
+    QTest::newRow("fragment") << 1;
+    QTest::newRow("node") << 2;
+}
+
+/// What is in memory is saved before it is parsed, and Qt needs a time for a text of these that grows with the square
+/// of its length: minutes.
+void TestRobustnessXmlInputs::readsALongTextFromMemory()
+{
+    QFETCH(int, form);
+    const QString text = QStringLiteral("<&").repeated(1000000);
+    QDomDocument document;
+    QVERIFY(document.setContent(QStringLiteral("<r/>")));
+    QDomElement root = document.documentElement();
+    QDomText node = document.createTextNode(text);
+    root.appendChild(node);
+
+    EventRecorder recorder;
+    XMLReader reader(&recorder, nullptr);
+    if (form == 0) {
+        reader.SetXmlContent(document);
+    } else if (form == 1) {
+        QDomDocumentFragment fragment = document.createDocumentFragment();
+        fragment.appendChild(root);
+        reader.SetXmlContent(fragment);
+    } else {
+        reader.SetXmlContent(QDomNode(root));
+    }
+    QVERIFY(reader.ParseXml());
+    QCOMPARE(int(recorder.Nodes().size()), 1);
+    QCOMPARE(root.childNodes().size(), 1);
+    QCOMPARE(node.data(), text);
 }
 
 void TestRobustnessXmlInputs::readsAnAttributeOf1Megabyte()
