@@ -17,6 +17,12 @@
 #include "filesizelimit.h"
 #include "tracecollector.h"
 
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
 class TestDocumentFile : public QObject
 {
     Q_OBJECT
@@ -39,6 +45,7 @@ private Q_SLOTS:
     void tellsOfAFileThatCannotBeOpened_data();
     void tellsOfAFileThatCannotBeOpened();
     void tellsOfAFullDevice();
+    void opensAPipeOnlyForAReader();
     void keepsNoHalfOfAFile_data();
     void keepsNoHalfOfAFile();
 
@@ -213,6 +220,25 @@ void TestDocumentFile::tellsOfAFullDevice()
     }
     QVERIFY(QFile::link(fullDevice, path("full.xml")));
     QVERIFY(!saveDocument(documentOf(QStringLiteral("<r/>")), path("full.xml")));
+}
+
+void TestDocumentFile::opensAPipeOnlyForAReader()
+{
+#ifdef Q_OS_UNIX
+    const QDomDocument document = documentOf(QStringLiteral("<r/>"));
+    QCOMPARE(mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
+    QVERIFY(!saveDocument(document, path("pipe")));
+
+    const int reader = ::open(QFile::encodeName(path("pipe")).constData(), O_RDONLY | O_NONBLOCK);
+    QVERIFY(reader >= 0);
+    QVERIFY(saveDocument(document, path("pipe")));
+    char bytes[100] = {};
+    QCOMPARE(::read(reader, bytes, sizeof bytes), ssize_t(5));
+    QCOMPARE(QByteArray(bytes), QByteArray("<r/>\n"));
+    ::close(reader);
+#else
+    QSKIP("Pipes are no files here.");
+#endif
 }
 
 void TestDocumentFile::keepsNoHalfOfAFile_data()

@@ -8,6 +8,11 @@
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QTextCodec>
 #endif
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 #include "textsinpieces.h"
 #include "tracing.h"
@@ -50,6 +55,26 @@ QByteArray serialised(const QDomDocument& document)
     return bytes;
 }
 
+/// Whether opening the file for writing would wait until somebody reads it, which may be never.
+bool isPipeWithoutReader(const QString& fileName)
+{
+#ifdef Q_OS_UNIX
+    const QByteArray path = QFile::encodeName(fileName);
+    struct stat status = {};
+    if (::stat(path.constData(), &status) != 0 || !S_ISFIFO(status.st_mode)) {
+        return false;
+    }
+    const int descriptor = ::open(path.constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0) {
+        return true;
+    }
+    ::close(descriptor);
+#else
+    Q_UNUSED(fileName)
+#endif
+    return false;
+}
+
 /// Takes back what was written of a file: half a document is of no use to anybody. A device stays, and so does a link,
 /// over an empty file.
 void discard(QFile& file)
@@ -83,7 +108,7 @@ bool saveDocument(const QDomDocument& document, const QString& fileName)
     // complete before the earlier content of the file is lost.
     const QByteArray bytes = serialised(document);
     QFile file(openableFileName(fileName));
-    if (!file.open(QIODevice::WriteOnly)) {
+    if (isPipeWithoutReader(file.fileName()) || !file.open(QIODevice::WriteOnly)) {
         return false;
     }
     const bool isFlushed = file.write(bytes) == bytes.size() && file.flush();
