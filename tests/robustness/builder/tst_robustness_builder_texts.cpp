@@ -35,6 +35,7 @@ private Q_SLOTS:
     void localNamesThatXmlForbidsFailTheSchema_data();
     void localNamesThatXmlForbidsFailTheSchema();
     void globalNamesThatXmlForbidsAreLeftOut();
+    void whatALeftOutGlobalSaysGoesNowhere();
 
     void writerTextsKeepWhatXmlCanCarry_data() { addTexts(); }
     void writerTextsKeepWhatXmlCanCarry();
@@ -254,6 +255,17 @@ void TestRobustnessBuilderTexts::globalNamesThatXmlForbidsAreLeftOut()
     QCOMPARE(traces.Messages(),
              QStringLiteral("XmlSchemaHandler: XML does not allow the name \"z z\", it was refused!\n"
                             "XmlSchemaHandler: XML does not allow the name \"5\", it was refused!"));
+}
+
+void TestRobustnessBuilderTexts::whatALeftOutGlobalSaysGoesNowhere()
+{
+    // The last global in the order of names is the root.
+    QVERIFY(create(elementOfType("string"),
+                   QStringLiteral("<xs:element name='zebra'/>"
+                                  "<xs:element name='z z' type='xs:int' default='5'/>")));
+    QCOMPARE(root().tagName(), QStringLiteral("zebra"));
+    QVERIFY(!root().hasAttribute(QStringLiteral("type")));
+    QVERIFY(!root().hasAttribute(QStringLiteral("default")));
 }
 
 void TestRobustnessBuilderTexts::writerTextsKeepWhatXmlCanCarry()

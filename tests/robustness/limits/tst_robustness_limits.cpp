@@ -23,6 +23,7 @@ private Q_SLOTS:
     void readsSchemas();
     void countsWhatOneElementIsGivenAgainAndAgain_data();
     void countsWhatOneElementIsGivenAgainAndAgain();
+    void countsTheElementsOfAllDefinitions();
     void readsIncludes_data();
     void readsIncludes();
 
@@ -275,6 +276,10 @@ void TestRobustnessLimits::readsContent_data()
     QTest::newRow("content-model-of-100000-parentheses") << withDocumentType(
         QStringLiteral("<!ELEMENT r %1a%2>").arg(QString(100000, QLatin1Char('(')), QString(100000, QLatin1Char(')'))))
                                                          << false << contentModelTrace();
+    const QString closedBetween = QStringLiteral("((a),(b),").repeated(513);
+    QTest::newRow("content-model-with-closed-parentheses-between")
+        << withDocumentType(QStringLiteral("<!ELEMENT r %1c%2>").arg(closedBetween, QString(513, QLatin1Char(')'))))
+        << false << contentModelTrace();
     QTest::newRow("content-model-of-512-parentheses") << withDocumentType(
         QStringLiteral("<!ELEMENT r %1a%2>").arg(QString(512, QLatin1Char('(')), QString(512, QLatin1Char(')'))))
                                                       << true << none;
@@ -409,6 +414,22 @@ void TestRobustnessLimits::countsWhatOneElementIsGivenAgainAndAgain()
     };
     QCOMPARE(outcomeText(build(190)), outcomeText(true, {}));
     QCOMPARE(outcomeText(build(200)), outcomeText(false, {attributesTrace()}));
+}
+
+/// Global elements do not count as named types, so it takes more of them than a test of memory allows.
+void TestRobustnessLimits::countsTheElementsOfAllDefinitions()
+{
+    if (isSanitized()) {
+        QSKIP("Takes gigabytes under sanitizers.");
+    }
+    QString globals;
+    for (int i = 0; i < 4; ++i) {
+        globals += global(QStringLiteral("g%1").arg(i), QStringLiteral("<xs:element name='e' minOccurs='499999'/>"));
+    }
+    const QString report = pathOf(QStringLiteral("report.xml"));
+    const ConfinedOutcome outcome = buildConfined(
+        write(QStringLiteral("schema.xsd"), schemaOf(globals + QStringLiteral("<xs:element name='root'/>"))), report);
+    QCOMPARE(outcomeText(outcome), outcomeText(false, {elementsTrace()}));
 }
 
 void TestRobustnessLimits::readsIncludes_data()
