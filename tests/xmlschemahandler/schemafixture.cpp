@@ -73,6 +73,12 @@ bool SchemaFixture::ReadFile(const QString& fileName)
     return parse(m_handler, QXmlInputSource(&file));
 }
 
+bool SchemaFixture::ReadFileByHandler(const QString& fileName)
+{
+    QXmlSimpleReader reader;
+    return m_handler.ReadFile(fileName, reader);
+}
+
 bool SchemaFixture::Read(const QString& declarations)
 {
     return parseText(m_handler, schemaOf(declarations));

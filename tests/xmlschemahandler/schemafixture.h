@@ -7,15 +7,17 @@
 
 #include "eventrecorder.h"
 
-/// Reads one schema as the report builder does and shows what it leaves behind as text.
+/// Reads one schema and shows what it leaves behind as text.
 class SchemaFixture
 {
 public:
     /// @param schemaPath  what the handler is told to be the path of the schema
     explicit SchemaFixture(const QString& schemaPath = QStringLiteral("schema.xsd"));
 
-    /// Reads the file called @p fileName; gives whether the parse succeeded.
+    /// Reads the file called @p fileName with a parser that looks after namespaces; gives whether the parse succeeded.
     bool ReadFile(const QString& fileName);
+    /// Lets the handler read the file called @p fileName, as the report builder does; gives the same.
+    bool ReadFileByHandler(const QString& fileName);
     /// Reads a schema made of @p declarations; gives whether the parse succeeded.
     bool Read(const QString& declarations);
     /// Reads @p declarations and breaks off before the end of the schema, so that nothing is resolved yet.

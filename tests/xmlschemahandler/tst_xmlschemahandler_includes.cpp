@@ -129,6 +129,12 @@ void TestXmlSchemaHandlerIncludes::laysOut()
     QVERIFY(schema.ReadFile(main));
     COMPARE_WITH_FILE(schema.Skeleton(), folder + QStringLiteral("/main.skeleton"));
     QCOMPARE(schema.Events(), QStringList());
+
+    // The handler itself does without namespaces, which makes no difference.
+    SchemaFixture schemaByHandler(main);
+    QVERIFY(schemaByHandler.ReadFileByHandler(main));
+    QCOMPARE(schemaByHandler.Skeleton(), expectedText(folder + QStringLiteral("/main.skeleton")));
+    QCOMPARE(schemaByHandler.Events(), QStringList());
 }
 
 void TestXmlSchemaHandlerIncludes::findsIncludedFiles_data()
