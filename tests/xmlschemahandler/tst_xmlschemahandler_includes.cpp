@@ -33,6 +33,7 @@ private Q_SLOTS:
     void readsIncludedFilesWithFlagsOfTheirOwn();
     void entersOccurrencesOfAllFiles();
     void marksDefinitionsExpandedByAnIncludedFile();
+    void revivesExpandedDefinitionsAtTheEndOfIncludingFilesOnly();
     void countsServedReferencesOfTheIncludingFile();
     void tracesTypesThatAnIncludedFileMisses();
     void failsForATypeThatNoFileDefines();
@@ -375,6 +376,29 @@ void TestXmlSchemaHandlerIncludes::marksDefinitionsExpandedByAnIncludedFile()
     SchemaFixture schema(folder.Path(QStringLiteral("main.xsd")));
     QVERIFY(schema.Read(declarations));
     QCOMPARE(schema.Definitions(), QStringLiteral("Holder 1 0 [a]\nLater 1 -1 [leaf]\nroot 1 0 [root]\n"));
+}
+
+void TestXmlSchemaHandlerIncludes::revivesExpandedDefinitionsAtTheEndOfIncludingFilesOnly()
+{
+    const SchemaFolder folder;
+    folder.Write(QStringLiteral("part1.xsd"),
+                 QStringLiteral("<xs:complexType name='Holder'><xs:element name='a' type='Later'/></xs:complexType>")
+                     + type(QStringLiteral("Later")));
+    folder.Write(QStringLiteral("part2.xsd"),
+                 QStringLiteral("<xs:complexType name='Other'><xs:element name='b' type='Later'/></xs:complexType>"));
+    const QString declarations = include(QStringLiteral("part1.xsd")) + include(QStringLiteral("part2.xsd"));
+
+    // The second file includes none: what the first one has expanded does not serve its users at its own end.
+    SchemaFixture halfRead(folder.Path(QStringLiteral("main.xsd")));
+    halfRead.ReadWithoutEnd(declarations);
+    QCOMPARE(halfRead.Definitions(), QStringLiteral("Holder 1 0 [a]\nLater 1 -1 [leaf]\nOther 1 1 [b]\n"));
+
+    SchemaFixture schema(folder.Path(QStringLiteral("main.xsd")));
+    QVERIFY(schema.Read(declarations + QStringLiteral("<xs:element name='root' type='Other'/>")));
+    QCOMPARE(schema.Definitions(),
+             QStringLiteral("Holder 1 0 [a]\nLater 1 -1 [leaf]\nOther 1 -1 [b]\nroot 1 0 [root]\n"));
+    QCOMPARE(domText(schema.Handler().GetDocument()->documentElement()),
+             QStringLiteral("<root>\n  <b>\n    <leaf type=\"int\"/>\n  </b>\n</root>\n"));
 }
 
 void TestXmlSchemaHandlerIncludes::countsServedReferencesOfTheIncludingFile()
