@@ -174,6 +174,10 @@ void TestXmlSchemaHandlerModel::entersOwners_data()
         QStringLiteral("Type"),
         QStringLiteral("<xs:element name='b'><xs:complexType>") + a + QStringLiteral("</xs:complexType></xs:element>"))
                                                                              << QStringLiteral("a 2: Type\n");
+    QTest::newRow("owner-in-a-type-with-attributes-inside-a-global-is-the-current-element")
+        << QStringLiteral("<xs:element name='root'><xs:complexType mixed='true'><xs:element name='a' maxOccurs='3'/>"
+                          "</xs:complexType></xs:element>")
+        << QStringLiteral("a 3: root\n");
     QTest::newRow("owners-of-one-code-stand-in-reading-order")
         << named(QStringLiteral("Type"), a) + global(QStringLiteral("root"), a) + named(QStringLiteral("Other"), a)
         << QStringLiteral("a 2: Type, root, Other\n");
