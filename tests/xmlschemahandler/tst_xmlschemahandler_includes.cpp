@@ -25,6 +25,7 @@ private Q_SLOTS:
     void skipsFilesThatAreBeingRead_data();
     void skipsFilesThatAreBeingRead();
     void readsAChainOf64Files();
+    void reads1000Files_data();
     void reads1000Files();
     void refusesMoreThan1000Files_data();
     void refusesMoreThan1000Files();
@@ -247,21 +248,33 @@ void TestXmlSchemaHandlerIncludes::readsAChainOf64Files()
     QCOMPARE(traces.Messages(), skippedTrace());
 }
 
+void TestXmlSchemaHandlerIncludes::reads1000Files_data()
+{
+    QTest::addColumn<bool>("areThere");
+
+    QTest::newRow("included-files-that-are-there") << true;
+    QTest::newRow("missing-included-files") << false;
+}
+
 void TestXmlSchemaHandlerIncludes::reads1000Files()
 {
+    QFETCH(bool, areThere);
     const SchemaFolder folder;
     QString includes;
     for (int i = 2; i <= 1000; ++i) {
         const QString name = QStringLiteral("file%1.xsd").arg(i);
-        folder.Write(name, type(QStringLiteral("T%1").arg(i)));
+        if (areThere) {
+            folder.Write(name, type(QStringLiteral("T%1").arg(i)));
+        }
         includes += include(name);
     }
-    folder.Write(QStringLiteral("main.xsd"), includes);
+    folder.Write(QStringLiteral("main.xsd"), includes + type(QStringLiteral("Known")));
     TraceCollector traces;
     SchemaFixture schema(folder.Path(QStringLiteral("main.xsd")));
 
     QVERIFY(schema.ReadFile(folder.Path(QStringLiteral("main.xsd"))));
-    QCOMPARE(schema.Definitions().count(QLatin1Char('\n')), 999);
+    QVERIFY(schema.Definitions().startsWith(QStringLiteral("Known 1 0 [leaf]\n")));
+    QCOMPARE(schema.Definitions().count(QLatin1Char('\n')), areThere ? 1000 : 1);
     QCOMPARE(traces.Messages(), QString());
 }
 
@@ -273,6 +286,7 @@ void TestXmlSchemaHandlerIncludes::refusesMoreThan1000Files_data()
     QTest::newRow("includes-of-the-schema") << include(QStringLiteral("part.xsd")).repeated(1000) << QString();
     QTest::newRow("includes-of-included-files-count")
         << include(QStringLiteral("part.xsd")).repeated(11) << include(QStringLiteral("other.xsd")).repeated(100);
+    QTest::newRow("missing-included-files-count") << include(QStringLiteral("missing.xsd")).repeated(1000) << QString();
 }
 
 void TestXmlSchemaHandlerIncludes::refusesMoreThan1000Files()

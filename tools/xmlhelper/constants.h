@@ -127,7 +127,7 @@ constexpr int MaxEntities = 1000;
 /// Parentheses of a content model in a document type that are open at once. Qt recurses over them.
 constexpr int MaxContentModelNesting = MaxElementNesting;
 
-/// Schema files read for one report, repeated reads of a file included.
+/// Schema files read for one report, repeated reads of a file and missing ones included.
 constexpr int MaxSchemaFiles = 1000;
 
 /// Schema files that may be open at once, each included by the one before it.
