@@ -217,6 +217,13 @@ void TestXmlSchemaHandlerLimits::lays500000ElementsOut_data()
         << global(QStringLiteral("root"), QStringLiteral("<xs:element name='a' type='Later' %1/>").arg(copies))
             + named(QStringLiteral("Later"), unit + unit)
         << 166666;
+    QTest::newRow("copies-behind-those-of-a-later-type-do-not-count-as-a-named-type")
+        << named(QStringLiteral("Great"), QStringLiteral("<xs:element name='e' minOccurs='150000'/>"))
+            + global(QStringLiteral("root"),
+                     QStringLiteral("<xs:element name='a' type='Later' minOccurs='2'/><xs:element name='b' %1/>")
+                         .arg(copies))
+            + named(QStringLiteral("Later"), unit)
+        << 499995;
     QTest::newRow("known-references") << unit
             + global(QStringLiteral("root"), QStringLiteral("<xs:element ref='unit' %1/>").arg(copies))
                                       << 499999;

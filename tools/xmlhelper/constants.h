@@ -109,8 +109,8 @@ constexpr int MaxElementsOfAllDefinitions = 4 * MaxElements;
 /// one holds, before that reaches the limit of a document.
 constexpr int MaxElementsOfNamedTypes = MaxElements + MaxElements / 5;
 
-/// Attributes of one document, laid out by a schema or made by copying, and of all definitions of a schema together.
-/// Each takes as much memory as an element, and one enumeration can give an element thousands of them.
+/// Attributes that a schema gives to elements by copying, in all its definitions together, and those of one document
+/// when elements are copied. Each takes as much memory as an element, and one enumeration can give an element thousands.
 constexpr int MaxAttributes = 4 * MaxElements;
 
 /// Values of one enumeration. Each becomes an attribute, and Qt needs a time that grows with the square of their number

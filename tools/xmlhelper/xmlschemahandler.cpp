@@ -499,7 +499,8 @@ void XmlSchemaHandler::layOutNamedElement(const ElementDeclaration& declaration)
         refuseElements();
         return;
     }
-    const TypeDefinition* const type = declaration.Copies() > 1 ? findUsableDefinition(declaration.type) : nullptr;
+    const bool isTypeRepeated = declaration.Copies() > 1 && !hasSchemaPrefix(declaration.type);
+    const TypeDefinition* const type = isTypeRepeated ? findUsableDefinition(declaration.type) : nullptr;
     if (type && !areAttributesWithinLimit(qint64(extentOf(*type->fragment).attributes) * declaration.Copies())) {
         return;
     }
@@ -532,8 +533,12 @@ void XmlSchemaHandler::deferNamedElement(const ElementDeclaration& declaration, 
         return;
     }
     recordReference(declaration.name, declaration.minOccurs - 1, recordOf(m_currentElement, first));
+    const ElementCount ofGlobal = m_fragmentElements;
     beginFragment(true);
     m_typeLevelElement = createElement(declaration.name, currentFragment());
+    if (m_bInsideGlobal) {
+        m_fragmentElements = ofGlobal; // What follows still goes there.
+    }
     define(declaration.name, TypeDefinition {1, 1, m_pCurrentFragment});
     ElementPathRecord record = recordOf(m_typeLevelElement);
     record.definitionName = declaration.name;
@@ -699,7 +704,8 @@ QDomElement XmlSchemaHandler::annotatedElement() const
     if (m_bInsideGlobal) {
         return m_bGlobalIsAttribute ? m_currentElement : lastChildOrCurrent();
     }
-    return m_typeLevelElement.isNull() ? m_currentElement : m_typeLevelElement;
+    // None yet in a simple type whose restriction names no base: the current element is an earlier definition's.
+    return m_typeLevelElement;
 }
 
 /// Where declared attributes go.
@@ -914,12 +920,12 @@ bool XmlSchemaHandler::chooseRoot()
 {
     std::set<QString>& names = m_pReading->unusedGlobals;
     for (auto name = names.begin(); name != names.end();) {
-        TypeDefinition& definition = m_typeDefinitions[*name];
-        if (definition.usedFlag == 0 && definition.fragment->hasChildNodes()) {
-            m_pCurrentFragment = definition.fragment;
-            definition.usedFlag = 1;
+        TypeDefinition* const definition = findDefinition(*name);
+        if (definition && definition->usedFlag == 0 && definition->fragment->hasChildNodes()) {
+            m_pCurrentFragment = definition->fragment;
+            definition->usedFlag = 1;
         }
-        name = definition.usedFlag == 0 ? std::next(name) : names.erase(name);
+        name = definition && definition->usedFlag == 0 ? std::next(name) : names.erase(name);
     }
     if (extentOf(currentFragment()).elements > MaxElements) {
         refuseElements();
