@@ -104,6 +104,16 @@ void TestXmlContentHandler::announcesElementsWithTheirTextWithoutDocument_data()
     QTest::newRow("later-run-behind-a-comment-is-dropped")
         << QStringLiteral("<a>x<!-- c -->y</a>")
         << QStringList {QStringLiteral("begin a [] \"x\" -> null"), QStringLiteral("end a")};
+    QTest::newRow("section-is-a-run-of-its-own-before-text")
+        << QStringLiteral("<a><![CDATA[x]]>y</a>")
+        << QStringList {QStringLiteral("begin a [] \"x\" -> null"), QStringLiteral("end a")};
+    QTest::newRow("reference-belongs-to-the-run-and-a-section-behind-it-does-not")
+        << QStringLiteral("<a>x&amp;y<![CDATA[z]]></a>")
+        << QStringList {QStringLiteral("begin a [] \"x&y\" -> null"), QStringLiteral("end a")};
+    QTest::newRow("white-space-announces-its-element")
+        << QStringLiteral("<a> <b/></a>")
+        << QStringList {QStringLiteral("begin a [] \" \" -> null"), QStringLiteral("end b"), QStringLiteral("end a")};
+    QTest::newRow("empty-element-only-ends") << QStringLiteral("<a/>") << QStringList {QStringLiteral("end a")};
 }
 
 void TestXmlContentHandler::announcesElementsWithTheirTextWithoutDocument()
