@@ -51,6 +51,7 @@ private Q_SLOTS:
     void keepsTheCurrentElementAfterTheParse();
     void searchesBelowTheElementOfTheFirstDocument();
     void namesTheTopNodeOfTheContentSetLast();
+    void namesNoTopNodeWithoutContent();
     void searchesBelowTheElementOfAGivenHandler();
 
     void replacesTheResultsOfTheSearchBefore();
@@ -564,6 +565,18 @@ void TestXmlReaderSearch::namesTheTopNodeOfTheContentSetLast()
     QVERIFY(source.GiveTo(reader, ContentForm::File, QStringLiteral("<s id='second-top'/>")));
     QVERIFY(reader.ParseXml());
     QCOMPARE(observer.m_found, QList<QStringList> {words("second-top")});
+}
+
+void TestXmlReaderSearch::namesNoTopNodeWithoutContent()
+{
+    ContentSource source;
+    EventRecorder recorder;
+    XMLReader reader(&recorder, nullptr);
+    QVERIFY(source.GiveTo(reader, ContentForm::DocumentByValue, QStringLiteral("<r/>")));
+    QVERIFY(reader.ParseXml());
+    QVERIFY(reader.SetXmlContent(static_cast<QDomDocument*>(nullptr)));
+    // The current element is still there, but there is no content whose top node could stand for it.
+    QCOMPARE(described(reader.SearchBelowCurrentElement(QStringLiteral("r"))), words("null"));
 }
 
 void TestXmlReaderSearch::searchesBelowTheElementOfAGivenHandler()
