@@ -106,13 +106,15 @@ public:
     /// element, has that name itself, the content's top node is reported first.
     ///
     /// @param elementName       the name to find; "#text" finds texts
-    /// @param startElementName  search below the first element of this name; empty: in the whole content
+    /// @param startElementName  search below the first element of this name; empty: in the whole content; of a fragment
+    ///                          or a node only its first child is searched, if that is an element
     /// @return the reader's own list, never null: do not delete it. The next search on this reader, and the reader's
     ///         end, delete it; the nodes in it are handles that may be kept.
     std::list<QDomNode>* GetElement(QString elementName, QString startElementName);
 
-    /// Finds the nodes named @p elementName below the element of the begin event delivered last, as GetElement() does.
-    /// Called by an observer it searches the element that it is being told of.
+    /// Finds the nodes named @p elementName below the element of the begin event delivered last or, once an element
+    /// that began before it has ended, below the parent to which the walk has climbed, as GetElement() does. Called by
+    /// an observer it searches the element that it is being told of.
     /// @param elementName  the name to find
     /// @return the reader's own list, as for GetElement()
     std::list<QDomNode>* SearchBelowCurrentElement(QString elementName);
