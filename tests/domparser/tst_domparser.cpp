@@ -47,6 +47,7 @@ private Q_SLOTS:
     void takesNoticesGivenInsideErrors();
     void refusesANoticeWithoutElement();
     void reportsARemovalThatFails();
+    void reportsNothingOfAContainerThatIsGone();
     void announcesTheChildrenOfARootThatWasRemoved();
     void hasNoCurrentElementBeforeTheFirstAnnouncement();
     void givesOneCurrentElementForTheWholeWalk();
@@ -318,6 +319,18 @@ void TestDomParser::keepsWhatIsFilledAndPrunesWhatMayBeMissing_data()
     addRow("one-optional-code-of-several-is-enough", "<r><a type='t'/></r>", "a -1 r, a 0 r, a 3 r", "", "", //
            "r, a", "<r/>");
     addRow("one-owner-of-several-is-enough", "<r><a type='t'/></r>", "a 0 x, a 0 r, a 0 y", "", "", "r, a", "<r/>");
+    addRow("one-required-owner-behind-many-optional-ones", "<r><a type='t'/></r>",
+           "a 0 x1, a 0 x2, a 0 x3, a 0 x4, a 0 x5, a 0 x6, a 0 x7, a 0 x8, a 0 x9, a 1 r", "", "", "r, a, error 16",
+           "<r><a type='t'/></r>");
+    addRow("owner-with-two-codes-among-many", "<r><a type='t'/></r>",
+           "a 0 x1, a 0 x2, a 0 x3, a 0 x4, a 0 x5, a 0 x6, a 0 x7, a 0 x8, a 0 x9, a 1 r, a 0 r", "", "", "r, a",
+           "<r/>");
+    addRow("optional-code-behind-a-required-one-among-many", "<r><a type='t'/></r>",
+           "a 0 x1, a 0 x2, a 0 x3, a 0 x4, a 0 x5, a 0 x6, a 0 x7, a 0 x8, a 0 x9, a -1 r, a 0 r", "", "", "r, a",
+           "<r/>");
+    addRow("owner-that-is-not-among-many", "<r><a type='t'/></r>",
+           "a 0 x1, a 0 x2, a 0 x3, a 0 x4, a 0 x5, a 0 x6, a 0 x7, a 0 x8, a 0 x9, b 0 r", "", "", "r, a, error 16",
+           "<r><a type='t'/></r>");
     addRow("optional-below-an-owner-that-is-not-there", "<r><a type='t'/></r>", "a 0 x, a 1 r", "", "", //
            "r, a, error 16", "<r><a type='t'/></r>");
     addRow("optional-below-a-nameless-owner", "<r><a type='t'/></r>", "a 0 ", "", "", //
@@ -702,6 +715,19 @@ void TestDomParser::reportsARemovalThatFails()
     QCOMPARE(domText(walker.document), domTextOf(QStringLiteral("<r><b type='t'/></r>")));
 }
 
+void TestDomParser::reportsNothingOfAContainerThatIsGone()
+{
+    Walker walker(QStringLiteral("<r><c><v type='t'/></c><e type='t'/></r>"), QStringLiteral("c 0 r, v 1 c, e 1 r"));
+    walker.observer.OnElement(QStringLiteral("v"), [&walker](ElemBeginEvent&) {
+        const QDomElement container = walker.Find(QStringLiteral("c"));
+        container.parentNode().removeChild(container);
+    });
+    QVERIFY(walker.parser.Walk());
+    // Only a value that cannot be removed is an error; nothing follows a container without siblings.
+    QCOMPARE(walker.Log(), QStringLiteral("r, c, c, v"));
+    QCOMPARE(domText(walker.document), domTextOf(QStringLiteral("<r><e type='t'/></r>")));
+}
+
 void TestDomParser::announcesTheChildrenOfARootThatWasRemoved()
 {
     Walker walker(QStringLiteral("<r><a type='t'/><b type='t'/></r>"), QStringLiteral("a 1 r, b 1 r"));
@@ -1040,6 +1066,7 @@ void TestDomParser::tracesAMissingObserver()
     DomParser parser(nullptr, occursOf(QStringLiteral("a 0 r")), {});
     QVERIFY(traces.IsOnly(QStringLiteral("DomParser: pCallback is NULL!"), QStringLiteral("tools/xmlhelper/domparser"),
                           37));
+    QVERIFY(!parser.IsLimited(QStringLiteral("a")));
     QVERIFY(parser.SetDocument(&document));
     QVERIFY(!parser.Walk());
 }
