@@ -245,6 +245,11 @@ void TestXmlWriter::staysWithoutRootAfterAnInvalidOne()
     // There is a document, so the element is made, but nothing to append it to.
     QVERIFY(enter(writer, "a"));
     QVERIFY(!writer.GoToXmlParent());
+    Node node(QStringLiteral("n"), nullptr);
+    addText(node, QStringLiteral("v"), QStringLiteral("x"));
+    new Node(QStringLiteral("inner"), &node);
+    QVERIFY(writer.CreateElementsFromNode(&node));
+    QVERIFY(!writer.GoToXmlParent());
     QCOMPARE(saved(writer), QString());
 }
 
@@ -455,6 +460,10 @@ void TestXmlWriter::reportsNoFileThatCannotBeOpened()
     QVERIFY(writer.CreateXmlFile(m_folder->path(), QStringLiteral("r")));
     QVERIFY(writer.SaveXmlFile());
     QVERIFY(QDir(m_folder->path()).isEmpty());
+
+    XMLWriter nameless;
+    QVERIFY(nameless.CreateXmlFile(QString(), QStringLiteral("r")));
+    QVERIFY(nameless.SaveXmlFile());
 }
 
 void TestXmlWriter::makesNoFolder()
@@ -515,12 +524,31 @@ void TestXmlWriter::tracesNothing()
 {
     TraceCollector traces(~0u);
     XMLWriter writer;
+    Node node(QStringLiteral("n"), nullptr);
+    new TreeItem(QStringLiteral("neither value nor node"), &node);
+    Node invalidNode(QStringLiteral("not a name"), nullptr);
     QVERIFY(!append(writer, "a"));
+    QVERIFY(!writer.SetXmlAttribute(QStringLiteral("k"), QStringLiteral("v")));
+    // What is missing is asked for before the name is.
+    QVERIFY(!writer.SetXmlAttribute(QStringLiteral("not a name"), QStringLiteral("v")));
+    QVERIFY(!writer.CreateElementsFromNode(nullptr));
+    QVERIFY(!writer.CreateElementsFromNode(&node));
+    QVERIFY(!writer.CreateElementsFromNode(&invalidNode));
     QVERIFY(!writer.SaveXmlFile());
     QVERIFY(writer.CreateXmlFile(m_folder->path(), QString()));
     QVERIFY(!writer.CreateXmlFile(m_folder->path(), QString()));
     QVERIFY(writer.SaveXmlFile());
-    QVERIFY(traces.Traces().empty());
+
+    XMLWriter withRoot;
+    QVERIFY(begin(withRoot));
+    QVERIFY(!withRoot.GoToXmlParent());
+    QVERIFY(!withRoot.CreateElementsFromNode(nullptr));
+    QVERIFY(withRoot.CreateElementsFromNode(&node));
+    QVERIFY(withRoot.CreateXmlElement(QStringLiteral("a"), QStringLiteral("x"), true));
+    QVERIFY(!append(withRoot, "b"));
+    QVERIFY(!append(withRoot, "not a name")); // The text that is there is asked for first, too.
+    QCOMPARE(saved(withRoot), QStringLiteral("<r>\n    <n/>\n    <a>x</a>\n</r>\n"));
+    QCOMPARE(traces.Messages(), QString());
 }
 
 void TestXmlWriter::mirrorsANode()
