@@ -100,15 +100,17 @@ inline QString restrictedElement(const char* base, const QByteArray& facets)
     return QStringLiteral("<xs:element name='e'>%1</xs:element>").arg(simpleType(base, facets));
 }
 
-/// An element that declares the attributes "name=type name=type". A declared attribute holds its type until it is set,
-/// so this also makes elements that carry any other annotation, which a schema gives them by longer ways.
-inline QString elementWithAttributes(const QByteArray& attributes)
+/// An element that declares the attributes "name=type name=type", and @p content. A declared attribute holds its type
+/// until it is set, so this also makes elements that carry any other annotation, which a schema gives them by longer
+/// ways.
+inline QString elementWithAttributes(const QByteArray& attributes, const QString& content = QString())
 {
     QString declarations;
     for (const auto& [name, type] : pairsOf(attributes)) {
         declarations += QStringLiteral("<xs:attribute name='%1' type='%2'/>").arg(name, type);
     }
-    return QStringLiteral("<xs:element name='e'><xs:complexType>%1</xs:complexType></xs:element>").arg(declarations);
+    return QStringLiteral("<xs:element name='e'><xs:complexType>%1%2</xs:complexType></xs:element>")
+        .arg(declarations, content);
 }
 
 /// What a schema declares in its root, which is called "report", and beside it.

@@ -42,6 +42,7 @@ private Q_SLOTS:
     void doesNothingWithoutObserver();
     void changesNothingForAnAnnouncedText();
     void setsAttributesOfTheRoot();
+    void doesNotEndTheAnnouncement_data();
     void doesNotEndTheAnnouncement();
     void doesNotKeepAnOptionalElement();
     void keepsUnsetAttributesInTheFile();
@@ -565,6 +566,13 @@ void TestXmlCreateReportAttributes::setsAttributesBeforeAndAfterTheValue_data()
               R"(<e Level="xs:integer"> "1.5" </e>)");
     answerRow("after-a-refused-value", declared, oneAfterTheOther(value(true), attribute("Level", 5)),
               R"(<e Level="5" Mode="xs:string" type="double"/>)", {E::CURRENT_TYPE_IS_NOT_BOOLEAN});
+
+    // The type of a text element is an attribute that takes texts like any other.
+    answerRow("type-that-was-set-takes-the-value", elementOfType("string"),
+              oneAfterTheOther(attributeText("type", "double"), value(1.5)), R"(<e> "1.5" </e>)");
+    answerRow("type-that-was-set-refuses-what-the-declared-one-takes", elementOfType("string"),
+              oneAfterTheOther(attributeText("type", "double"), text("v")), R"(<e type="double"/>)",
+              {E::CURRENT_TYPE_IS_NOT_STRING});
 }
 
 void TestXmlCreateReportAttributes::setsAttributesBeforeAndAfterTheValue()
@@ -645,18 +653,55 @@ void TestXmlCreateReportAttributes::setsAttributesOfTheRoot()
     QCOMPARE(report.WrittenLine(), QStringLiteral(R"(<report Level="5"> <e> "v" </e> </report>)"));
 }
 
+void TestXmlCreateReportAttributes::doesNotEndTheAnnouncement_data()
+{
+    QTest::addColumn<QString>("element");
+    QTest::addColumn<Answer>("answer");
+    QTest::addColumn<QString>("refusal");
+    QTest::addColumn<QString>("startTag");
+    const auto row = [](const char* rule, const char* attributes, const Answer& answer, const char* refusal,
+                        const char* startTag) {
+        const QString content
+            = QStringLiteral("<xs:sequence><xs:element name='child' type='xs:string'/></xs:sequence>");
+        QTest::newRow(rule) << elementWithAttributes(attributes, content) << answer << QString::fromUtf8(refusal)
+                            << QString::fromUtf8(startTag);
+    };
+    row("text", "Level=xs:string", attributeText("Level", "A"), "", R"(<e Level="A">)");
+    row("date-and-time", "Level=xs:dateTime", attribute("Level", dateTime()), "", R"(<e Level="2017-03-31T12:34:56">)");
+    row("integer", "Level=xs:integer", attribute("Level", 5), "", R"(<e Level="5">)");
+    row("double", "Level=xs:double", attribute("Level", 2.5), "", R"(<e Level="2.5">)");
+    row("removal", "Level=xs:integer", removal("Level"), "", "<e>");
+
+    row("text-outside-of-the-enumeration", "Level=xs:string enumeration1Level=A", attributeText("Level", "B"),
+        "error 15 ", R"(<e Level="xs:string" enumeration1Level="A">)");
+    row("text-for-another-type", "Level=xs:integer", attributeText("Level", "A"), "error 9 ",
+        R"(<e Level="xs:integer">)");
+    row("date-and-time-for-another-type", "Level=xs:integer", attribute("Level", dateTime()), "error 12 ",
+        R"(<e Level="xs:integer">)");
+    row("integer-outside-of-the-range", "Level=xs:integer maxInclusiveLevel=5", attribute("Level", 6), "error 15 ",
+        R"(<e Level="xs:integer" maxInclusiveLevel="5">)");
+    row("integer-for-another-type", "Level=xs:double", attribute("Level", 6), "error 11 ", R"(<e Level="xs:double">)");
+    row("double-outside-of-the-range", "Level=xs:double maxInclusiveLevel=5", attribute("Level", 6.0), "error 15 ",
+        R"(<e Level="xs:double" maxInclusiveLevel="5">)");
+    row("double-for-another-type", "Level=xs:integer", attribute("Level", 6.0), "error 10 ",
+        R"(<e Level="xs:integer">)");
+    row("removal-of-a-missing-attribute", "Level=xs:integer", removal("Other"), "", R"(<e Level="xs:integer">)");
+}
+
 void TestXmlCreateReportAttributes::doesNotEndTheAnnouncement()
 {
-    AnsweredReport report(
-        QStringLiteral("<xs:element name='e'><xs:complexType><xs:attribute name='Level' type='xs:integer'/>"
-                       "<xs:sequence><xs:element name='child' type='xs:string'/></xs:sequence></xs:complexType>"
-                       "</xs:element>"));
-    report.OnNoted(attribute("Level", 5));
+    QFETCH(QString, element);
+    QFETCH(Answer, answer);
+    QFETCH(QString, refusal);
+    QFETCH(QString, startTag);
+    AnsweredReport report(element);
+    report.OnNoted(answer);
     report.On("child", text("v"));
     QVERIFY(report.Create());
     // The element is mandatory and got no value, which the walk reports; then it goes into the element.
-    QCOMPARE(report.Observer().Log().join(QLatin1Char(' ')), QStringLiteral("report e error 15 error 16 child"));
-    QCOMPARE(report.WrittenLine(), QStringLiteral(R"(<report> <e Level="5"> <child> "v" </child> </e> </report>)"));
+    QCOMPARE(report.Observer().Log().join(QLatin1Char(' ')),
+             QStringLiteral("report e %1error 15 error 16 child").arg(refusal));
+    QCOMPARE(report.WrittenLine(), QStringLiteral(R"(<report> %1 <child> "v" </child> </e> </report>)").arg(startTag));
 }
 
 void TestXmlCreateReportAttributes::doesNotKeepAnOptionalElement()
