@@ -29,6 +29,7 @@ private Q_SLOTS:
     void announcesTheElementAgainAndThenTheCopies();
     void swallowsTheNameGivenLast_data();
     void swallowsTheNameGivenLast();
+    void forgetsANameGivenBeforeTheReport();
     void asksForAnOwnerAboveTheElement_data();
     void asksForAnOwnerAboveTheElement();
     void takesTheLimitsOfTheNameForWhateverIsAnnounced();
@@ -40,6 +41,7 @@ private Q_SLOTS:
     void guardsTheLastAlternativeByTheRemainderOfItsNumber_data();
     void guardsTheLastAlternativeByTheRemainderOfItsNumber();
     void refusesToDiscardAnElementTwice();
+    void failedRemovalDoesNotCount();
     void discardsARootThatIsAnAlternative();
     void discardsFromInsideAnError();
 
@@ -224,6 +226,7 @@ void TestXmlCreateReportOccurrences::multipliesWithinTheLimitsOfTheSchema_data()
     addRow("code-of-minus-99-does-not-count-as-unbounded", "maxOccurs='-99'", 5, 1, Once);
 
     addRow("element-without-limits-is-refused-twice", "", 1, 1, Twice);
+    addRow("negative-count-of-an-element-without-limits-is-refused-twice", "", -1, 1, Twice);
     addRow("minimum-alone-is-no-limit-and-refused-twice", "minOccurs='2'", 2, 2, Twice);
     addRow("limit-that-is-no-number-is-0-and-refuses-1", "maxOccurs='many'", 1, 1, Once);
     addRow("limit-that-is-no-number-is-0-and-allows-0", "maxOccurs='many'", 0, 1, None);
@@ -329,6 +332,16 @@ void TestXmlCreateReportOccurrences::swallowsTheNameGivenLast()
     QVERIFY(building.Build(schemaOf(textElement("E", QStringLiteral("maxOccurs='3'")))));
     QVERIFY(sent == errors);
     QCOMPARE(building.Children(), children);
+}
+
+void TestXmlCreateReportOccurrences::forgetsANameGivenBeforeTheReport()
+{
+    RecordedBuilding building;
+    QVERIFY(building.Multiply("E", 2) == None); // does nothing without a current element
+    building.observer.OnElement(QStringLiteral("E"),
+                                [&](ElemBeginEvent&) { QVERIFY(building.Multiply("E", 2) == None); });
+    QVERIFY(building.Build(schemaOf(textElement("E", QStringLiteral("maxOccurs='3'")))));
+    QCOMPARE(building.Children(), QStringLiteral("E, E"));
 }
 
 void TestXmlCreateReportOccurrences::asksForAnOwnerAboveTheElement_data()
@@ -540,6 +553,21 @@ void TestXmlCreateReportOccurrences::refusesToDiscardAnElementTwice()
     // The second notice names no element, for nothing follows one that is gone: the level ends.
     QCOMPARE(building.Log(), QStringLiteral("R, a, error -1"));
     QCOMPARE(building.Children(), QStringLiteral("b, c"));
+}
+
+void TestXmlCreateReportOccurrences::failedRemovalDoesNotCount()
+{
+    RecordedBuilding building;
+    building.observer.OnElement(QStringLiteral("a"), [&](ElemBeginEvent&) {
+        QVERIFY(building.Discard() == None);
+        QVERIFY(building.Discard() == General);
+    });
+    building.observer.OnElement(QStringLiteral("c"), [&](ElemBeginEvent&) { QVERIFY(building.Discard() == None); });
+    QVERIFY(building.Build(
+        schemaOf(container("g", choice(textElement("a") + textElement("b"))) + choice(textElement("c")))));
+    // The last alternative has number 2: it goes because one element is gone, and would stay if two were.
+    QCOMPARE(building.Log(), QStringLiteral("R, g, error 15, error 16, a, error -1, c"));
+    QCOMPARE(building.Children(), QStringLiteral("g"));
 }
 
 void TestXmlCreateReportOccurrences::discardsARootThatIsAnAlternative()
