@@ -763,10 +763,25 @@ void TestXmlCreateReportLifecycle::copyIsShallow()
 
 void TestXmlCreateReportLifecycle::copyTakesTheStateByValue()
 {
-    write(QStringLiteral("schema.xsd"), measurementSchema());
+    // The siblings behind the choices take the place of those that are not announced behind a discarded alternative.
+    const auto choice = [](const char* alternative) {
+        return QStringLiteral("<xs:choice><xs:element name='%1' type='xs:string'/></xs:choice>")
+            .arg(QLatin1String(alternative));
+    };
+    const QString between = QStringLiteral("<xs:element name='between' type='xs:string'/>");
+    write(QStringLiteral("schema.xsd"),
+          reportSchema(choice("first") + between + choice("second") + between + choice("last")));
     ScriptedObserver observer;
     XmlCreateReport original(&observer);
+    QDomElement last;
+    observer.OnElement(QStringLiteral("first"), [&](ElemBeginEvent&) { original.DiscardChoiceItem(); });
+    observer.OnElement(QStringLiteral("second"), [&](ElemBeginEvent&) { original.DiscardChoiceItem(); });
+    observer.OnElement(QStringLiteral("last"), [&](ElemBeginEvent& event) {
+        last = event.GetElementNode().toElement();
+        original.SetXmlValue(QStringLiteral("x"));
+    });
     QVERIFY(build(original));
+    QCOMPARE(logOf(observer), QStringLiteral("Report, first, second, last"));
     original.SetElementMaxOccurs(QStringLiteral("first"), 1);
     {
         XmlCreateReport copy(original);
@@ -777,6 +792,9 @@ void TestXmlCreateReportLifecycle::copyTakesTheStateByValue()
         QCOMPARE(observer.Errors().size(), before + 2);
         original.SetElementMaxOccurs(QStringLiteral("first"), 1);
         QCOMPARE(observer.Errors().size(), before + 2);
+        copy.DiscardChoiceItem(); // refused: the last alternative has number 2, and two are gone
+        QCOMPARE(observer.Errors().size(), before + 3);
+        QVERIFY(!last.parentNode().isNull());
         original = XmlCreateReport(&observer);
     }
 }
