@@ -50,6 +50,9 @@ private Q_SLOTS:
     void countBeyondTheLimitIsRefused_data();
     void countBeyondTheLimitIsRefused();
     void countOfManyAttributesIsRefused();
+    void attributesUpToTheLimitAreCopied();
+    void refusedCopiesAreNotCounted_data();
+    void refusedCopiesAreNotCounted();
     void namesThatTakeTurnsComeToAnEnd();
 
     void editsOfTheDocumentLeaveAFile_data();
@@ -139,6 +142,36 @@ void runOnASmallStack(const std::function<void()>& work)
     thread->setStackSize(1024 * 1024);
     thread->start();
     QVERIFY(thread->wait());
+}
+
+/// Two elements without attributes. Their names are given by turns, because the one given last is swallowed.
+QString elementsWithoutAttributes()
+{
+    return QStringLiteral("<xs:element name='Many' maxOccurs='unbounded'/>"
+                          "<xs:element name='Other' maxOccurs='unbounded'/>");
+}
+
+/// Leaves @p element with @p count attributes.
+void setAttributeCount(QDomElement element, int count)
+{
+    const auto name = [](int number) { return QStringLiteral("k%1").arg(number); };
+    for (int number = element.attributes().count(); number > count; --number) {
+        element.removeAttribute(name(number));
+    }
+    for (int number = element.attributes().count() + 1; number <= count; ++number) {
+        element.setAttribute(name(number), number);
+    }
+}
+
+/// Removes the copies of @p element and gives their number.
+int removeCopies(const QDomElement& element)
+{
+    int copies = 0;
+    while (element.nextSibling().nodeName() == element.nodeName()) {
+        element.parentNode().removeChild(element.nextSibling());
+        ++copies;
+    }
+    return copies;
 }
 
 const QLatin1String NestedErrorsTrace("More than 100 errors while one is being answered are not sent!");
@@ -403,6 +436,84 @@ void TestRobustnessBuilderObservers::countOfManyAttributesIsRefused()
     QVERIFY(create(builder));
     QCOMPARE(reportText().count(QStringLiteral("<Many")), 1);
     QCOMPARE(traces.Messages(), QStringLiteral("Copies would give the report more than 2000000 attributes!"));
+}
+
+/// What has been copied counts, also when it is gone again: so this holds 100,000 attributes at a time, not 2,000,000.
+void TestRobustnessBuilderObservers::attributesUpToTheLimitAreCopied()
+{
+    const TraceCollector traces;
+    AnsweredReport report(elementsWithoutAttributes());
+    bool isFirst = true;
+    report.Observer().OnElement(QStringLiteral("Many"), [&](ElemBeginEvent& event) {
+        if (!std::exchange(isFirst, false)) {
+            return;
+        }
+        const QDomElement element = event.GetElementNode().toElement();
+        int copies = 0;
+        setAttributeCount(element, 1000);
+        for (int turn = 0; turn < 20; ++turn) {
+            report.Builder().SetElementMaxOccurs(turn % 2 == 0 ? QStringLiteral("Many") : QStringLiteral("Other"), 101);
+            copies += removeCopies(element);
+        }
+        QCOMPARE(copies, 2000);
+        QVERIFY(report.Observer().Errors().empty());
+
+        setAttributeCount(element, 1);
+        report.Builder().SetElementMaxOccurs(QStringLiteral("Many"), 2);
+        QCOMPARE(removeCopies(element), 0);
+        QVERIFY(report.Observer().Errors() == std::vector<int>({IXMLHelper::MAX_OCCURS_EXCEEDED}));
+
+        setAttributeCount(element, 0);
+        report.Builder().SetElementMaxOccurs(QStringLiteral("Other"), 2);
+        QCOMPARE(removeCopies(element), 1);
+    });
+    QVERIFY(report.Create());
+    QVERIFY(!isFirst);
+    QCOMPARE(traces.Messages(), QStringLiteral("Copies would give the report more than 2000000 attributes!"));
+}
+
+void TestRobustnessBuilderObservers::refusedCopiesAreNotCounted_data()
+{
+    QTest::addColumn<int>("refusedAttributes");
+    QTest::addColumn<int>("refusedCount");
+    QTest::addColumn<int>("allowedAttributes");
+    QTest::addColumn<int>("allowedCount");
+    QTest::addColumn<QString>("trace");
+    const QString trace = QStringLiteral("Copies would give the report more than %1!");
+    // Little would be left of the other limit if what is refused for the one were counted for it.
+    QTest::newRow("elements-refused-for-their-attributes")
+        << 5 << 499991 << 0 << 1001 << trace.arg(QStringLiteral("2000000 attributes"));
+    QTest::newRow("attributes-refused-with-their-elements")
+        << 3 << 666001 << 300 << 11 << trace.arg(QStringLiteral("500000 elements"));
+}
+
+void TestRobustnessBuilderObservers::refusedCopiesAreNotCounted()
+{
+    QFETCH(int, refusedAttributes);
+    QFETCH(int, refusedCount);
+    QFETCH(int, allowedAttributes);
+    QFETCH(int, allowedCount);
+    const TraceCollector traces;
+    AnsweredReport report(elementsWithoutAttributes());
+    bool isFirst = true;
+    report.Observer().OnElement(QStringLiteral("Many"), [&](ElemBeginEvent& event) {
+        if (!std::exchange(isFirst, false)) {
+            return;
+        }
+        const QDomElement element = event.GetElementNode().toElement();
+        setAttributeCount(element, refusedAttributes);
+        report.Builder().SetElementMaxOccurs(QStringLiteral("Many"), refusedCount);
+        QCOMPARE(removeCopies(element), 0);
+        QVERIFY(report.Observer().Errors() == std::vector<int>({IXMLHelper::MAX_OCCURS_EXCEEDED}));
+
+        setAttributeCount(element, allowedAttributes);
+        report.Builder().SetElementMaxOccurs(QStringLiteral("Other"), allowedCount);
+        QCOMPARE(removeCopies(element), allowedCount - 1);
+        QCOMPARE(int(report.Observer().Errors().size()), 1);
+    });
+    QVERIFY(report.Create());
+    QVERIFY(!isFirst);
+    QTEST(traces.Messages(), "trace");
 }
 
 /// Each call is allowed, makes no copy and has the element announced again.
