@@ -296,7 +296,7 @@ void XmlCreateReport::RemoveAttribute(QString name)
 
 void XmlCreateReport::SetElementMaxOccurs(QString name, int count)
 {
-    if (!refreshCurrentElement() || name == m_sLastMultipliedName) {
+    if (name == m_sLastMultipliedName || !refreshCurrentElement()) {
         return;
     }
     m_sLastMultipliedName = name; // also a name that is refused: it is not tried again
