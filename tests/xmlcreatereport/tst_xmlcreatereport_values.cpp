@@ -39,6 +39,7 @@ private Q_SLOTS:
     void formatsADoubleByTheFollowerOfADiscardedElement_data();
     void formatsADoubleByTheFollowerOfADiscardedElement();
     void asksAMissingFollowerForItsTypeOnce();
+    void asksAFollowerWithoutTypeOnce();
     void replacesATextThatComesFirst_data();
     void replacesATextThatComesFirst();
     void keepsASectionThatComesFirst();
@@ -617,6 +618,19 @@ void TestXmlCreateReportValues::asksAMissingFollowerForItsTypeOnce()
         + elementOfType("short"));
     report.On("first", text("taken"));
     report.On("last", discard);
+    report.OnNotedWithoutEarlierAnswer(value(1.9));
+    QVERIFY(report.Create());
+    QCOMPARE(report.Element(), QStringLiteral(R"(<e> "1.9" </e>)"));
+    QCOMPARE(report.Errors(), errorText({E::CURRENT_TYPE_IS_UNKNOWN}));
+}
+
+void TestXmlCreateReportValues::asksAFollowerWithoutTypeOnce()
+{
+    AnsweredReport report(
+        QStringLiteral(
+            "<xs:choice><xs:element name='first' type='xs:string'/><xs:element name='follower'/></xs:choice>")
+        + elementOfType("short"));
+    report.On("first", discard);
     report.OnNotedWithoutEarlierAnswer(value(1.9));
     QVERIFY(report.Create());
     QCOMPARE(report.Element(), QStringLiteral(R"(<e> "1.9" </e>)"));
