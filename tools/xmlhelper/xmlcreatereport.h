@@ -98,8 +98,12 @@ public:
     /// The type must contain "double" and the value must satisfy the range facets. On success the element loses the
     /// facets that were used and its type. 65535 as a facet counts as no facet.
     ///
+    /// The format is chosen before the announced element is looked at. As the first operation of all, the number is not
+    /// truncated; right after DiscardChoiceItem(), the type of the sibling behind the discarded element decides.
+    ///
     /// Sends as for texts, with CURRENT_TYPE_IS_NOT_DOUBLE, and CURRENT_TYPE_IS_UNKNOWN twice, but once when it is the
-    /// first operation of all.
+    /// first operation of all. Right after DiscardChoiceItem() a sibling that is missing or has no type costs one
+    /// CURRENT_TYPE_IS_UNKNOWN, even when the value is taken.
     ///
     /// @param value  NaN is on neither side of a bound
     void SetXmlValue(double value);
@@ -172,12 +176,12 @@ public:
     /// announcement.
     ///
     /// @param name   the name under which the schema limits the occurrence
-    /// @param count  0 and 1 make no copy; negative ones are always allowed. An element with minOccurs 0 and
+    /// @param count  0 and 1 make no copy; negative ones are allowed by every limit. An element with minOccurs 0 and
     ///               maxOccurs n takes up to n * 100.
     ///
-    /// Sends MAX_OCCURS_EXCEEDED when the count is not allowed, when the document would exceed 500,000 elements or
-    /// the call is the 500,001st to multiply one, and twice for a name without occurrence limits. Does nothing without
-    /// a current element.
+    /// Sends MAX_OCCURS_EXCEEDED when the count is not allowed or the element stands below no owner for which it is,
+    /// when the document would exceed 500,000 elements or 2,000,000 attributes or the call is the 500,001st to multiply
+    /// an element, and twice for a name without occurrence limits. Does nothing without a current element.
     void SetElementMaxOccurs(QString name, int count);
 
     /// Removes the current element as an unwanted alternative of a choice. The walk goes on behind the sibling that
