@@ -109,6 +109,8 @@ QString textOf(const ReportData& item)
 
 } // namespace
 
+Q_DECLARE_METATYPE(ExplicitReportData)
+
 class TestReportData : public QObject
 {
     Q_OBJECT
@@ -143,9 +145,12 @@ private Q_SLOTS:
     void readsAText();
     void followsTheLivingValue();
     void hasNoTextWithoutASource();
+    void valueMovedToAnotherPlaceIsReadAsNone();
 
     void givesExplicitBoolsAndLongsByKindOnly_data();
     void givesExplicitBoolsAndLongsByKindOnly();
+    void readsTheFixedTextBesideExplicitData_data();
+    void readsTheFixedTextBesideExplicitData();
     void hidesExplicitTextsAndDoublesFromTheReaders_data();
     void hidesExplicitTextsAndDoublesFromTheReaders();
 
@@ -509,46 +514,76 @@ void TestReportData::hasNoTextWithoutASource()
     QCOMPARE(text, QStringLiteral("before"));
 }
 
+void TestReportData::valueMovedToAnotherPlaceIsReadAsNone()
+{
+    const ReceiverTree tree;
+    const ReportData frequency = itemAt(QStringLiteral("Receiver/Frequency"));
+    const ReportData mode = itemAt(QStringLiteral("Receiver/Mode"));
+    auto* const spare = new Node(QStringLiteral("Spare"), Tree::Instance()->GetRoot());
+    new ValueItem(tree.frequency, spare);
+    new ValueItem(tree.mode, spare);
+
+    QVERIFY(!numberOf(frequency));
+    QCOMPARE(textOf(mode), QStringLiteral("(none)"));
+    QVERIFY(mode.IsOpen());
+    QCOMPARE(textOf(itemAt(QStringLiteral("Spare/Mode"))), QStringLiteral("FM"));
+
+    // What stands under the path is asked at every read.
+    auto* const receiver = dynamic_cast<Node*>(Tree::Instance()->GetTreeItem(QStringLiteral("Receiver")));
+    new ValueItem(tree.frequency, receiver);
+    new ValueItem(tree.mode, receiver);
+    QCOMPARE(*numberOf(frequency), 98500000.0);
+    QCOMPARE(textOf(mode), QStringLiteral("FM"));
+}
+
 void TestReportData::givesExplicitBoolsAndLongsByKindOnly_data()
 {
-    QTest::addColumn<int>("kind");
-    QTest::newRow("text") << int(ExplicitReportData::EXPLICIT_STRING);
-    QTest::newRow("bool") << int(ExplicitReportData::EXPLICIT_BOOL);
-    QTest::newRow("double") << int(ExplicitReportData::EXPLICIT_DOUBLE);
-    QTest::newRow("long") << int(ExplicitReportData::EXPLICIT_LONG);
-    QTest::newRow("none") << int(ExplicitReportData::EXPLICIT_NONE);
+    QTest::addColumn<ExplicitReportData>("data");
+    QTest::newRow("text") << ExplicitReportData(QStringLiteral("1"));
+    QTest::newRow("bool-true") << ExplicitReportData(true);
+    QTest::newRow("bool-false") << ExplicitReportData(false);
+    QTest::newRow("double") << ExplicitReportData(1.0);
+    QTest::newRow("long") << ExplicitReportData(1L);
+    QTest::newRow("none") << ExplicitReportData();
 }
 
 void TestReportData::givesExplicitBoolsAndLongsByKindOnly()
 {
-    QFETCH(int, kind);
-    ExplicitReportData data;
-    switch (kind) {
-    case ExplicitReportData::EXPLICIT_STRING:
-        data = ExplicitReportData(QStringLiteral("1"));
-        break;
-    case ExplicitReportData::EXPLICIT_BOOL:
-        data = ExplicitReportData(true);
-        break;
-    case ExplicitReportData::EXPLICIT_DOUBLE:
-        data = ExplicitReportData(1.0);
-        break;
-    case ExplicitReportData::EXPLICIT_LONG:
-        data = ExplicitReportData(1L);
-        break;
-    default:
-        break;
-    }
+    QFETCH(ExplicitReportData, data);
     const ReportData item = itemWithExplicit(data);
 
-    bool flag = false;
-    const bool isBool = kind == ExplicitReportData::EXPLICIT_BOOL;
-    QCOMPARE(item.GetDataValue(flag), isBool);
-    QCOMPARE(flag, isBool);
+    const bool isBool = data.GetType() == ExplicitReportData::EXPLICIT_BOOL;
+    for (const bool before : {false, true}) {
+        bool flag = before;
+        QCOMPARE(item.GetDataValue(flag), isBool);
+        QCOMPARE(flag, isBool ? data.GetBool() : before);
+    }
     long integer = -7;
-    const bool isLong = kind == ExplicitReportData::EXPLICIT_LONG;
+    const bool isLong = data.GetType() == ExplicitReportData::EXPLICIT_LONG;
     QCOMPARE(item.GetDataValue(integer), isLong);
     QCOMPARE(integer, isLong ? 1L : -7L);
+}
+
+void TestReportData::readsTheFixedTextBesideExplicitData_data()
+{
+    QTest::addColumn<ExplicitReportData>("data");
+    QTest::newRow("text") << ExplicitReportData(QStringLiteral("FM"));
+    QTest::newRow("bool") << ExplicitReportData(true);
+    QTest::newRow("double") << ExplicitReportData(17.5);
+    QTest::newRow("long") << ExplicitReportData(42L);
+    QTest::newRow("none") << ExplicitReportData();
+}
+
+void TestReportData::readsTheFixedTextBesideExplicitData()
+{
+    QFETCH(ExplicitReportData, data);
+    ReportData item = itemWithText(QStringLiteral("12.5"));
+    item.SetExplicitData(data);
+    double number = Untouched;
+    QVERIFY(item.GetDataValue(number));
+    QCOMPARE(number, 12.5);
+    QCOMPARE(textOf(item), QStringLiteral("12.5"));
+    QCOMPARE(item.GetExplicitData().GetType(), data.GetType());
 }
 
 void TestReportData::hidesExplicitTextsAndDoublesFromTheReaders_data()
@@ -570,18 +605,35 @@ void TestReportData::hidesExplicitTextsAndDoublesFromTheReaders()
 void TestReportData::isCopiedWhole_data()
 {
     QTest::addColumn<bool>("byAssignment");
-    QTest::newRow("constructed") << false;
-    QTest::newRow("assigned") << true;
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("fixedText");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isNumber");
+
+    for (const bool byAssignment : {false, true}) {
+        const char* const way = byAssignment ? "assigned" : "constructed";
+        const QString none;
+        QTest::addRow("%s-with-a-value", way)
+            << byAssignment << QStringLiteral("Receiver/Frequency") << none << QStringLiteral("98500000 Hz") << true;
+        QTest::addRow("%s-with-an-entry-of-the-tree", way)
+            << byAssignment << QStringLiteral("Receiver/State") << none << QStringLiteral("locked") << false;
+        QTest::addRow("%s-with-a-fixed-text", way)
+            << byAssignment << none << QStringLiteral("98500000") << QStringLiteral("98500000") << true;
+    }
 }
 
 void TestReportData::isCopiedWhole()
 {
     QFETCH(bool, byAssignment);
+    QFETCH(QString, path);
+    QFETCH(QString, fixedText);
+    QFETCH(QString, text);
+    QFETCH(bool, isNumber);
     const ReceiverTree tree;
-    const QString path = QStringLiteral("Receiver/Frequency");
-    auto source = std::make_unique<ReportData>(QStringLiteral("Frequency"), path, QString(), 3, QStringLiteral("%.1f"),
+    auto source = std::make_unique<ReportData>(QStringLiteral("Frequency"), path, fixedText, 3, QStringLiteral("%.1f"),
                                                6, QStringLiteral("MHz"), false);
     source->SetExplicitData(ExplicitReportData(5L));
+    ValueBase* const value = source->GetVTObject();
     ReportData copy = byAssignment ? itemWithText(QStringLiteral("other")) : *source;
     if (byAssignment) {
         copy = *source;
@@ -592,9 +644,11 @@ void TestReportData::isCopiedWhole()
     QCOMPARE(copy.GetMaxOccurs(), 3);
     QCOMPARE(copy.GetUnit(), QStringLiteral("MHz"));
     QVERIFY(copy.IsOpen());
-    QCOMPARE(copy.GetVTObject(), tree.frequency);
-    QCOMPARE(*numberOf(copy), 98.5);
-    QCOMPARE(textOf(copy), QStringLiteral("98500000 Hz"));
+    QCOMPARE(copy.GetVTObject(), value);
+    double number = Untouched;
+    QCOMPARE(copy.GetDataValue(number), isNumber);
+    QCOMPARE(number, isNumber ? 98.5 : Untouched);
+    QCOMPARE(textOf(copy), text);
     QCOMPARE(copy.GetExplicitData().GetLong(), 5L);
 }
 
