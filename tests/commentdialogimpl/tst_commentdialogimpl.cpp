@@ -24,6 +24,8 @@
 
 namespace {
 
+using Answer = void (*)(QMessageBox&);
+
 QString plainReport()
 {
     return QStringLiteral("<Report><Frequency>98.5</Frequency></Report>");
@@ -142,6 +144,12 @@ private:
     Q_DISABLE_COPY(UpperCase)
 };
 
+/// Answers a question by one of its buttons.
+template <QMessageBox::StandardButton Button> void press(QMessageBox& question)
+{
+    QTest::mouseClick(question.button(Button), Qt::LeftButton);
+}
+
 QByteArray bytesOf(const QString& fileName)
 {
     QFile file(fileName);
@@ -149,6 +157,8 @@ QByteArray bytesOf(const QString& fileName)
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(Answer)
 
 class TestCommentDialogImpl : public QObject
 {
@@ -189,12 +199,14 @@ private Q_SLOTS:
     void ctrlEnterSaves_data();
     void ctrlEnterSaves();
     void answersReplaceAnEarlierFile();
+    void answersReplaceTheCommentOfAnEarlierOne();
     void answersOpenPathsWithBackSlashes();
     void answersKeepTheDialogAlive();
 
     void closeWritesSilentlyWithoutATypedComment();
     void closeAsksAboutATypedComment_data();
     void closeAsksAboutATypedComment();
+    void closeAsksAboutACommentOfBlanks();
     void closeAfterSavingDoesNothing_data();
     void closeAfterSavingDoesNothing();
     void closeCancelledLeavesTheReportOpen();
@@ -211,6 +223,7 @@ private Q_SLOTS:
     void dialogMayBeDeletedWhileItAsks();
     void dialogDeletedUnansweredWritesNothing();
     void showsAndWritesNothingWithoutADocument();
+    void commentHasNoPlaceWithoutARoot();
 
     void textsFollowTheLanguageAndValuesStay();
     void questionIsTranslated();
@@ -643,6 +656,19 @@ void TestCommentDialogImpl::answersReplaceAnEarlierFile()
     QCOMPARE(bytesOf(reportFile()), QByteArray("<Report>\n    <Frequency>98.5</Frequency>\n</Report>\n"));
 }
 
+void TestCommentDialogImpl::answersReplaceTheCommentOfAnEarlierOne()
+{
+    const OpenReport report(reportFile());
+    report.Type(QStringLiteral("first"));
+    report.Dialog().SlotSaveWithComment();
+    QCOMPARE(report.WrittenComments(), QStringList(QStringLiteral("first")));
+    report.Find<QTextEdit>("m_pTextEdit")->setPlainText(QStringLiteral("second"));
+    report.Dialog().SlotSaveWithComment();
+    QCOMPARE(report.WrittenComments(), QStringList(QStringLiteral("second")));
+    report.Dialog().SlotSaveWithoutComment();
+    QCOMPARE(bytesOf(reportFile()), QByteArray("<Report>\n    <Frequency>98.5</Frequency>\n</Report>\n"));
+}
+
 void TestCommentDialogImpl::answersOpenPathsWithBackSlashes()
 {
     QString path = reportFile();
@@ -671,24 +697,29 @@ void TestCommentDialogImpl::closeWritesSilentlyWithoutATypedComment()
 
 void TestCommentDialogImpl::closeAsksAboutATypedComment_data()
 {
-    QTest::addColumn<int>("answer");
+    QTest::addColumn<Answer>("answer");
     QTest::addColumn<bool>("isWritten");
     QTest::addColumn<QStringList>("comments");
 
     QTest::newRow("yes-writes-the-comment")
-        << int(QMessageBox::Yes) << true << QStringList(QStringLiteral("Strong fading"));
-    QTest::newRow("no-writes-without-the-comment") << int(QMessageBox::No) << true << QStringList();
-    QTest::newRow("cancel-closes-and-writes-nothing") << int(QMessageBox::Cancel) << false << QStringList();
+        << Answer(press<QMessageBox::Yes>) << true << QStringList(QStringLiteral("Strong fading"));
+    QTest::newRow("no-writes-without-the-comment") << Answer(press<QMessageBox::No>) << true << QStringList();
+    QTest::newRow("cancel-closes-and-writes-nothing") << Answer(press<QMessageBox::Cancel>) << false << QStringList();
+    QTest::newRow("escape-is-cancel") << Answer([](QMessageBox& question) {
+        QTest::keyClick(&question, Qt::Key_Escape);
+    }) << false << QStringList();
+    QTest::newRow("closed-question-is-cancel")
+        << Answer([](QMessageBox& question) { question.close(); }) << false << QStringList();
 }
 
 void TestCommentDialogImpl::closeAsksAboutATypedComment()
 {
-    QFETCH(int, answer);
+    QFETCH(Answer, answer);
     QFETCH(bool, isWritten);
     QFETCH(QStringList, comments);
     OpenReport report(reportFile());
     report.Type(QStringLiteral("Strong fading"));
-    const Operator asked(static_cast<QMessageBox::StandardButton>(answer));
+    const Operator asked(answer);
 
     QVERIFY(report.Dialog().close());
     QVERIFY(asked.WasAsked());
@@ -699,6 +730,18 @@ void TestCommentDialogImpl::closeAsksAboutATypedComment()
     QVERIFY(!report.IsOpen());
     QCOMPARE(report.IsWritten(), isWritten);
     QCOMPARE(report.WrittenComments(), comments);
+}
+
+void TestCommentDialogImpl::closeAsksAboutACommentOfBlanks()
+{
+    OpenReport report(reportFile());
+    report.Type(QStringLiteral("  "));
+    const Operator asked(QMessageBox::Yes);
+    QVERIFY(report.Dialog().close());
+    QVERIFY(asked.WasAsked());
+    // A parser drops a text of blanks.
+    QCOMPARE(bytesOf(reportFile()),
+             QByteArray("<Report>\n    <Frequency>98.5</Frequency>\n    <Comment>  </Comment>\n</Report>\n"));
 }
 
 void TestCommentDialogImpl::closeAfterSavingDoesNothing_data()
@@ -909,6 +952,29 @@ void TestCommentDialogImpl::showsAndWritesNothingWithoutADocument()
     QTest::keyClicks(dialog.findChild<QTextEdit*>(QStringLiteral("m_pTextEdit")), QStringLiteral("fading"));
     QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("m_pSaveButton")), Qt::LeftButton);
     QVERIFY(!dialog.isVisible());
+    QVERIFY(!QFile::exists(reportFile()));
+}
+
+void TestCommentDialogImpl::commentHasNoPlaceWithoutARoot()
+{
+    // What a schema that fails leaves of a report.
+    QDomDocument document;
+    document.setContent(QStringLiteral("<?xml version='1.0' encoding='UTF-8'?>"));
+    CommentDialogImpl dialog;
+    dialog.SetDocument(&document);
+    dialog.SetFileName(reportFile());
+    dialog.ShowReportSummary();
+    QTest::keyClicks(dialog.findChild<QTextEdit*>(QStringLiteral("m_pTextEdit")), QStringLiteral("fading"));
+    QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("m_pSaveButton")), Qt::LeftButton);
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(bytesOf(reportFile()), QByteArray("<?xml version='1.0' encoding='UTF-8'?>\n"));
+
+    // It counts as saved: closing asks and writes no more.
+    QVERIFY(QFile::remove(reportFile()));
+    dialog.show();
+    const Operator asked(QMessageBox::Yes);
+    QVERIFY(dialog.close());
+    QVERIFY(!asked.WasAsked());
     QVERIFY(!QFile::exists(reportFile()));
 }
 
