@@ -1,5 +1,6 @@
 #include <QtTest>
 
+#include <limits>
 #include <memory>
 
 #include <valueframework/node.h>
@@ -93,6 +94,15 @@ void TestVCReportingItems::tracesWhatIsAdded_data()
         reporting.AddExplicitReportData(QStringLiteral("Channel"), -42L, 1, QStringLiteral("f"), 3,
                                         QStringLiteral("u"));
     }) << QStringLiteral("VCReporting::AddExplicitReportData(Channel, -42, f, 3, u)");
+    // As the report shows it. Where long has 32 bits its limits are these limits themselves.
+    QTest::newRow("greatest-long-shows-the-upper-limit") << AddItem([](VCReporting& reporting) {
+        reporting.AddExplicitReportData(QStringLiteral("Channel"), std::numeric_limits<long>::max(), 1,
+                                        QStringLiteral("f"), 3, QStringLiteral("u"));
+    }) << QStringLiteral("VCReporting::AddExplicitReportData(Channel, 2147483647, f, 3, u)");
+    QTest::newRow("least-long-shows-the-lower-limit") << AddItem([](VCReporting& reporting) {
+        reporting.AddExplicitReportData(QStringLiteral("Channel"), std::numeric_limits<long>::min(), 1,
+                                        QStringLiteral("f"), 3, QStringLiteral("u"));
+    }) << QStringLiteral("VCReporting::AddExplicitReportData(Channel, -2147483648, f, 3, u)");
 }
 
 void TestVCReportingItems::tracesWhatIsAdded()

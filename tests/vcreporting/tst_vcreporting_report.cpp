@@ -60,6 +60,11 @@ void announce(VCReporting& reporting, const QDomElement& element, const std::vec
     reporting.XmlUpdate(&event);
 }
 
+void addText(VCReporting& reporting, const char* name, const char* text)
+{
+    reporting.AddReportData(QLatin1String(name), QString(), QLatin1String(text), 1, QString(), 0, QString());
+}
+
 void sendError(VCReporting& reporting, IXMLHelper::ErrorID id)
 {
     ErrorEvent event(id);
@@ -72,6 +77,24 @@ bool isSince(const QDateTime& start, const QString& text)
     const QDateTime time = QDateTime::fromString(text, Qt::ISODate);
     return time.isValid() && time.toSecsSinceEpoch() >= start.toSecsSinceEpoch()
         && time <= QDateTime::currentDateTime();
+}
+
+/// The body of @p report, in which "now" stands for every time since @p start.
+QString timedBodyText(const QDomDocument& report, const QDateTime& start)
+{
+    const QString now = QStringLiteral("now");
+    QDomElement child = report.documentElement().firstChildElement();
+    for (; !child.isNull(); child = child.nextSiblingElement()) {
+        for (const QString& name : {QStringLiteral("DateTime"), QStringLiteral("DFDateTime")}) {
+            if (isSince(start, child.attribute(name))) {
+                child.setAttribute(name, now);
+            }
+        }
+        if (isSince(start, child.text())) {
+            child.firstChild().setNodeValue(now);
+        }
+    }
+    return bodyText(report);
 }
 
 /// The comment dialogs that are open, in the order of their titles.
@@ -110,6 +133,13 @@ QString declaredValue(const char* valueType)
     return declaredElement(QStringLiteral("Value"), QLatin1String(valueType));
 }
 
+/// An element "Value" with an attribute for the time.
+QString declaredTimedValue(const char* timeName, const char* timeType)
+{
+    return declaredElement(QStringLiteral("Value"), QStringLiteral("string"),
+                           declaredAttribute(QLatin1String(timeName), QLatin1String(timeType)));
+}
+
 /// A text element "Value" with an attribute "Quality" of that type.
 QString declaredQuality(const char* attributeType)
 {
@@ -141,6 +171,8 @@ private Q_SLOTS:
     void fillsAnAttributeOfAnUnmatchedElement();
     void fillsAnAttributeOfAMatchedElement_data();
     void fillsAnAttributeOfAMatchedElement();
+    void fillsAnAttributeWithTheIdleNumberForASelectionWithoutNumber_data();
+    void fillsAnAttributeWithTheIdleNumberForASelectionWithoutNumber();
     void forgetsThePendingNumberAfterEachValue();
     void explicitValuesReachAttributesAsEmptyText();
 
@@ -152,13 +184,19 @@ private Q_SLOTS:
     void itemsOfOtherElementsAreLeftAlone();
 
     void attributeSetBeforeCountsAsTheValue();
+    void timeAttributeSetBeforeCountsAsTheValue();
+    void timeAttributeRefusedBeforeCountsAsTheValue();
     void attributeSetBeforeDoesNotStopExplicitValues();
     void eachItemSetsOneAttributeAtMost();
     void timeAttributeEndsTheSearchOfAnItem();
     void timeAttributeIsSetForAnyItem();
+    void timeAttributeIsOfferedForEveryItem();
+    void everyItemOfTheNameIsOfferedToAnUnmatchedElementsAttribute();
     void itemForATimeAttributeComesFirst();
     void matchedElementHandlesItsAttributes();
     void firstItemOfTheNameFillsAMatchedElementsAttribute();
+    void firstItemDecidesAboutTimeAndDefaultOfAMatchedElement_data();
+    void firstItemDecidesAboutTimeAndDefaultOfAMatchedElement();
     void defaultIsRemovedFromMatchedElementsOnly_data();
     void defaultIsRemovedFromMatchedElementsOnly();
 
@@ -168,14 +206,17 @@ private Q_SLOTS:
     void refusedUnitIsTraced();
 
     void repeatsAnElementAsOftenAsItsItemSays();
+    void qualifiedItemRepeatsAnElementByTheElementsName();
     void repeatedTooOftenIsWrittenOnce();
     void maxOccursOfOneIsNotAsked();
 
     void consumedItemServesOneReport();
     void consumedItemServesOneElement();
+    void consumedItemOfSeveralOccurrencesServesTheFirst();
     void consumedItemIsTheOneThatMatched();
     void consumedQualifiedItemGoesByItsFullName();
     void consumedAlsoWhenItsValueWasNotWritten();
+    void consumedAlsoWhenATimeAttributeCountedAsItsValue();
     void attributeItemsAreNotConsumed();
     void itemsStayWithoutConsuming();
 
@@ -183,8 +224,10 @@ private Q_SLOTS:
     void timeElementReceivesTheCurrentTime();
     void timeElementKeepsTheValueOfItsItem();
     void timeElementOfAnotherTypeIsRefused();
+    void timeElementLeavesItsTimeAttributeAlone();
     void timeAttributeReceivesTheCurrentTimeWithoutItems();
     void timeAttributeOfAnotherTypeIsLeftAlone();
+    void timeAttributeIsJudgedByTheTypeAnnounced();
 
     void errorWithoutItemIsTraced_data();
     void errorWithoutItemIsTraced();
@@ -475,6 +518,37 @@ void TestVCReportingReport::fillsAnAttributeOfAMatchedElement()
     QCOMPARE(scene.Reporting().Refusals(), refusals);
 }
 
+void TestVCReportingReport::fillsAnAttributeWithTheIdleNumberForASelectionWithoutNumber_data()
+{
+    QTest::addColumn<QString>("attributeType");
+    QTest::addColumn<bool>("isMatched");
+    QTest::addColumn<QString>("refusals");
+
+    QTest::newRow("double-of-an-unmatched-element") << QStringLiteral("double") << false << QString();
+    QTest::newRow("double-of-a-matched-element") << QStringLiteral("double") << true << QString();
+    QTest::newRow("integer-of-a-matched-element") << QStringLiteral("integer") << true << QStringLiteral("double");
+}
+
+void TestVCReportingReport::fillsAnAttributeWithTheIdleNumberForASelectionWithoutNumber()
+{
+    QFETCH(QString, attributeType);
+    QFETCH(bool, isMatched);
+    QFETCH(QString, refusals);
+    const Tree tree;
+    auto* const selection = new ValueSelection(QStringLiteral("Quality"));
+    selection->AddChoice(7.0, QStringLiteral("wide kHz"));
+    new ValueItem(selection, tree.GetRoot());
+    ReportingScene scene(declaredQuality(qPrintable(attributeType)));
+    if (isMatched) {
+        scene.AddText(QStringLiteral("Value"), QStringLiteral("FM"));
+    }
+    scene.Reporting().AddReportData(tree.GetRoot());
+    QCOMPARE(scene.MakeReport(),
+             bodyText(isMatched ? QStringLiteral("<Value Quality='65535'>FM</Value>")
+                                : QStringLiteral("<Value type='string' Quality='65535'/>")));
+    QCOMPARE(scene.Reporting().Refusals(), refusals);
+}
+
 void TestVCReportingReport::forgetsThePendingNumberAfterEachValue()
 {
     // Whatever number was written before, the attribute of an unmatched element is retried with the idle number.
@@ -601,6 +675,28 @@ void TestVCReportingReport::attributeSetBeforeCountsAsTheValue()
              bodyText(QStringLiteral("<Value type='string' Quality='good' Other='xs:string' Unit='kHz'/>")));
 }
 
+void TestVCReportingReport::timeAttributeSetBeforeCountsAsTheValue()
+{
+    // Any item before the element's own meets the time attribute and sets it.
+    ReportingScene scene(declaredTimedValue("DFDateTime", "dateTime"));
+    scene.AddText(QStringLiteral("Unrelated"), QStringLiteral("17"));
+    scene.AddText(QStringLiteral("Value"), QStringLiteral("FM"));
+    const QDateTime start = QDateTime::currentDateTime();
+    scene.MakeReport();
+    QCOMPARE(timedBodyText(scene.Report(), start), bodyText(QStringLiteral("<Value type='string' DFDateTime='now'/>")));
+    QCOMPARE(scene.Reporting().Refusals(), QString());
+}
+
+void TestVCReportingReport::timeAttributeRefusedBeforeCountsAsTheValue()
+{
+    // Nobody tells the button whether the time has been taken.
+    ReportingScene scene(declaredTimedValue("DateTime", "string"));
+    scene.AddText(QStringLiteral("Unrelated"), QStringLiteral("17"));
+    scene.AddText(QStringLiteral("Value"), QStringLiteral("FM"));
+    QCOMPARE(scene.MakeReport(), bodyText(QStringLiteral("<Value type='string' DateTime='xs:string'/>")));
+    QCOMPARE(scene.Reporting().Refusals(), QStringLiteral("dateTime"));
+}
+
 void TestVCReportingReport::attributeSetBeforeDoesNotStopExplicitValues()
 {
     ReportingScene scene(declaredElement(QStringLiteral("Locked"), QStringLiteral("boolean"),
@@ -663,6 +759,27 @@ void TestVCReportingReport::timeAttributeIsSetForAnyItem()
     QCOMPARE(value.attribute(QStringLiteral("type")), QStringLiteral("string"));
 }
 
+void TestVCReportingReport::timeAttributeIsOfferedForEveryItem()
+{
+    ReportingScene scene(declaredTimedValue("DFDateTime", "dateTime"));
+    scene.AddText(QStringLiteral("Unrelated"), QStringLiteral("17"));
+    scene.AddText(QStringLiteral("Other"), QStringLiteral("18"));
+    const QDateTime start = QDateTime::currentDateTime();
+    scene.MakeReport();
+    QCOMPARE(timedBodyText(scene.Report(), start), bodyText(QStringLiteral("<Value type='string' DFDateTime='now'/>")));
+    // The attribute that the first has set is no declared type any more.
+    QCOMPARE(scene.Reporting().Refusals(), QStringLiteral("dateTime"));
+}
+
+void TestVCReportingReport::everyItemOfTheNameIsOfferedToAnUnmatchedElementsAttribute()
+{
+    ReportingScene scene(declaredQuality("string"));
+    scene.AddText(QStringLiteral("Quality"), QStringLiteral("good"));
+    scene.AddText(QStringLiteral("Quality"), QStringLiteral("bad"));
+    QCOMPARE(scene.MakeReport(), bodyText(QStringLiteral("<Value type='string' Quality='good'/>")));
+    QCOMPARE(scene.Reporting().Refusals(), QStringLiteral("string dateTime"));
+}
+
 void TestVCReportingReport::itemForATimeAttributeComesFirst()
 {
     ReportingScene scene(declaredElement(QStringLiteral("Value"), QStringLiteral("string"),
@@ -698,6 +815,82 @@ void TestVCReportingReport::firstItemOfTheNameFillsAMatchedElementsAttribute()
     scene.AddText(QStringLiteral("Quality"), QStringLiteral("second"));
     QCOMPARE(scene.MakeReport(), bodyText(QStringLiteral("<Value Quality='first'>FM</Value>")));
     QCOMPARE(scene.Reporting().Refusals(), QString());
+}
+
+void TestVCReportingReport::firstItemDecidesAboutTimeAndDefaultOfAMatchedElement_data()
+{
+    QTest::addColumn<QString>("declaration");
+    QTest::addColumn<AddItem>("add");
+    QTest::addColumn<QString>("expected");
+    QTest::addColumn<QString>("refusals");
+
+    const auto row = [](const char* rule, const QString& declaration, AddItem add, const char* expected,
+                        const char* refusals) {
+        QTest::newRow(rule) << declaration << add << QString::fromLatin1(expected) << QString::fromLatin1(refusals);
+    };
+    const QString timedFlag
+        = declaredElement(QStringLiteral("Locked"), QStringLiteral("boolean"),
+                          declaredAttribute(QStringLiteral("DFDateTime"), QStringLiteral("dateTime")));
+    const QString flag = QStringLiteral("<xs:element name='Value' type='xs:boolean' default='true'/>");
+    const QString integer = QStringLiteral("<xs:element name='Value' type='xs:integer' default='7'/>");
+
+    row(
+        "time-takes-the-current-time-with-its-item-behind-another", declaredTimedValue("DFDateTime", "dateTime"),
+        [](VCReporting& reporting) {
+            addText(reporting, "Value", "FM");
+            addText(reporting, "DFDateTime", "2001-02-03T04:05:06");
+        },
+        "<Value DFDateTime='now'>FM</Value>", "");
+    // An explicit value is written although the attribute has been set before, and the attribute is offered again.
+    row(
+        "time-is-offered-its-item-when-that-is-the-first", timedFlag,
+        [](VCReporting& reporting) {
+            addText(reporting, "DFDateTime", "2001-02-03T04:05:06");
+            reporting.AddExplicitReportData(QStringLiteral("Locked"), true, 1, QString(), 0, QString());
+        },
+        "<Locked DFDateTime='2001-02-03T04:05:06'>true</Locked>", "string string dateTime");
+    row(
+        "default-stays-when-its-item-is-the-first", flag,
+        [](VCReporting& reporting) {
+            addText(reporting, "default", "x");
+            reporting.AddExplicitReportData(QStringLiteral("Value"), false, 1, QString(), 0, QString());
+        },
+        "<Value default='true'>false</Value>", "string dateTime string dateTime");
+    row(
+        "default-goes-with-its-item-behind-another", flag,
+        [](VCReporting& reporting) {
+            reporting.AddExplicitReportData(QStringLiteral("Value"), false, 1, QString(), 0, QString());
+            addText(reporting, "default", "x");
+        },
+        "<Value>false</Value>", "");
+    row(
+        "default-of-an-integer-stays-when-its-item-is-the-first", integer,
+        [](VCReporting& reporting) {
+            addText(reporting, "default", "x");
+            reporting.AddExplicitReportData(QStringLiteral("Value"), 42L, 1, QString(), 0, QString());
+        },
+        "<Value default='7'>42</Value>", "string dateTime string dateTime");
+    row(
+        "default-of-an-integer-goes-with-its-item-behind-another", integer,
+        [](VCReporting& reporting) {
+            reporting.AddExplicitReportData(QStringLiteral("Value"), 42L, 1, QString(), 0, QString());
+            addText(reporting, "default", "x");
+        },
+        "<Value>42</Value>", "");
+}
+
+void TestVCReportingReport::firstItemDecidesAboutTimeAndDefaultOfAMatchedElement()
+{
+    QFETCH(QString, declaration);
+    QFETCH(AddItem, add);
+    QFETCH(QString, expected);
+    QFETCH(QString, refusals);
+    ReportingScene scene(declaration);
+    add(scene.Reporting());
+    const QDateTime start = QDateTime::currentDateTime();
+    scene.MakeReport();
+    QCOMPARE(timedBodyText(scene.Report(), start), bodyText(expected));
+    QCOMPARE(scene.Reporting().Refusals(), refusals);
 }
 
 void TestVCReportingReport::defaultIsRemovedFromMatchedElementsOnly_data()
@@ -784,6 +977,15 @@ void TestVCReportingReport::repeatsAnElementAsOftenAsItsItemSays()
     QCOMPARE(scene.Reporting().Refusals(), QString());
 }
 
+void TestVCReportingReport::qualifiedItemRepeatsAnElementByTheElementsName()
+{
+    // The limits of a schema know no "Report/Value".
+    ReportingScene scene(QStringLiteral("<xs:element name='Value' type='xs:double' maxOccurs='3'/>"));
+    scene.AddText(QStringLiteral("Report/Value"), QStringLiteral("17.5"), QString(), 3);
+    QCOMPARE(scene.MakeReport(), bodyText(QStringLiteral("<Value>17.5</Value><Value>17.5</Value><Value>17.5</Value>")));
+    QCOMPARE(scene.Reporting().Refusals(), QString());
+}
+
 void TestVCReportingReport::repeatedTooOftenIsWrittenOnce()
 {
     ReportingScene scene(QStringLiteral("<xs:element name='Value' type='xs:double' maxOccurs='3'/>"));
@@ -820,6 +1022,15 @@ void TestVCReportingReport::consumedItemServesOneElement()
     QCOMPARE(scene.MakeReport(), bodyText(QStringLiteral("<Value>first</Value><Value>second</Value>")));
 }
 
+void TestVCReportingReport::consumedItemOfSeveralOccurrencesServesTheFirst()
+{
+    ReportingScene scene(QStringLiteral("<xs:element name='Value' type='xs:double' maxOccurs='3'/>"), true);
+    scene.AddText(QStringLiteral("Value"), QStringLiteral("17.5"), QString(), 3);
+    QCOMPARE(scene.MakeReport(),
+             bodyText(QStringLiteral("<Value>17.5</Value><Value type='double'/><Value type='double'/>")));
+    QCOMPARE(scene.Reporting().Refusals(), QString());
+}
+
 void TestVCReportingReport::consumedItemIsTheOneThatMatched()
 {
     ReportingScene scene(declaredValue("string"), true);
@@ -849,6 +1060,19 @@ void TestVCReportingReport::consumedAlsoWhenItsValueWasNotWritten()
     QCOMPARE(scene.MakeReport(), bodyText(QStringLiteral("<Value type='string' Quality='good'/>")));
     scene.Reporting().DeleteReportData(QStringLiteral("Quality"));
     QCOMPARE(scene.MakeReport(), bodyText(QStringLiteral("<Value type='string' Quality='xs:string'/>")));
+}
+
+void TestVCReportingReport::consumedAlsoWhenATimeAttributeCountedAsItsValue()
+{
+    ReportingScene scene(declaredTimedValue("DFDateTime", "dateTime"), true);
+    scene.AddText(QStringLiteral("Unrelated"), QStringLiteral("17"));
+    scene.AddText(QStringLiteral("Value"), QStringLiteral("FM"));
+    const QDateTime start = QDateTime::currentDateTime();
+    scene.MakeReport();
+    QCOMPARE(timedBodyText(scene.Report(), start), bodyText(QStringLiteral("<Value type='string' DFDateTime='now'/>")));
+    // Alone it would be written now.
+    scene.Reporting().DeleteReportData(QStringLiteral("Unrelated"));
+    QCOMPARE(scene.MakeReport(), bodyText(QStringLiteral("<Value type='string' DFDateTime='xs:dateTime'/>")));
 }
 
 void TestVCReportingReport::attributeItemsAreNotConsumed()
@@ -911,6 +1135,17 @@ void TestVCReportingReport::timeElementOfAnotherTypeIsRefused()
     QCOMPARE(scene.Reporting().Refusals(), QStringLiteral("dateTime"));
 }
 
+void TestVCReportingReport::timeElementLeavesItsTimeAttributeAlone()
+{
+    ReportingScene scene(declaredElement(QStringLiteral("DateTime"), QStringLiteral("dateTime"),
+                                         declaredAttribute(QStringLiteral("DateTime"), QStringLiteral("dateTime"))));
+    const QDateTime start = QDateTime::currentDateTime();
+    scene.MakeReport();
+    QCOMPARE(timedBodyText(scene.Report(), start),
+             bodyText(QStringLiteral("<DateTime DateTime='xs:dateTime'>now</DateTime>")));
+    QCOMPARE(scene.Reporting().Refusals(), QString());
+}
+
 void TestVCReportingReport::timeAttributeReceivesTheCurrentTimeWithoutItems()
 {
     ReportingScene scene(
@@ -931,6 +1166,17 @@ void TestVCReportingReport::timeAttributeOfAnotherTypeIsLeftAlone()
                                          declaredAttribute(QStringLiteral("DateTime"), QStringLiteral("string"))));
     QCOMPARE(scene.MakeReport(), bodyText(QStringLiteral("<Value type='string' DateTime='xs:string'/>")));
     QCOMPARE(scene.Reporting().Refusals(), QString());
+}
+
+void TestVCReportingReport::timeAttributeIsJudgedByTheTypeAnnounced()
+{
+    ReportingScene scene(declaredTimedValue("DateTime", "dateTime"));
+    scene.AddText(QStringLiteral("Value"), QStringLiteral("FM"));
+    const QDateTime start = QDateTime::currentDateTime();
+    scene.MakeReport();
+    QCOMPARE(timedBodyText(scene.Report(), start), bodyText(QStringLiteral("<Value DateTime='now'>FM</Value>")));
+    // Set with the element's value; offered again by what the element was announced with, and refused.
+    QCOMPARE(scene.Reporting().Refusals(), QStringLiteral("dateTime"));
 }
 
 void TestVCReportingReport::errorWithoutItemIsTraced_data()
