@@ -728,6 +728,7 @@ void TestCommentDialogImpl::closeAsksAboutATypedComment()
     QCOMPARE(asked.Buttons(), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
     QCOMPARE(asked.Icon(), QMessageBox::Warning);
     QVERIFY(!report.IsOpen());
+    QVERIFY(report.Dialog().findChildren<QMessageBox*>().isEmpty());
     QCOMPARE(report.IsWritten(), isWritten);
     QCOMPARE(report.WrittenComments(), comments);
 }

@@ -86,6 +86,8 @@ void TestXmlText::dropsWhatXmlCannotCarryAndKeepsTheRest_data()
     QTest::newRow("first-half-of-a-pair-at-the-end") << textOf({'a', 'b', 0xD83D}) << ab;
     QTest::newRow("two-first-halves") << textOf({'a', 0xD83D, 0xD83D, 'b'}) << ab;
     QTest::newRow("halves-in-the-wrong-order") << textOf({'a', 0xDE00, 0xD83D, 'b'}) << ab;
+    static const QChar pairOfTwo[] = {QChar(0xD83D), QChar(0xDE00)};
+    QTest::newRow("pair-across-the-end-of-raw-data") << QString::fromRawData(pairOfTwo, 1) << QString();
     QTest::newRow("half-before-a-pair") << textOf({0xD83D, 0x1F600}) << textOf({0x1F600});
     QTest::newRow("half-behind-a-pair") << textOf({0x1F600, 0xDE00}) << textOf({0x1F600});
 }

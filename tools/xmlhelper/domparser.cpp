@@ -188,12 +188,9 @@ bool DomParser::isBelowOwnerOf(const Limits& limits, const QString& tagName, con
     const auto isOwner = [&](const QString& owner) {
         return sorted ? isAmong(*sorted, owner, isWanted) : isAmong(limits.second, owner, isWanted);
     };
-    if (!m_pOwners) {
-        m_pOwners = std::make_unique<OwnerIndex>(*m_pDocument, ownerNames());
-    }
-    if (!m_pOwners->Refresh()) {
-        const QSet<QString> owners = ownerNames();
-        return std::any_of(owners.begin(), owners.end(), [&](const QString& owner) {
+    if (!owners().Refresh()) {
+        const QSet<QString> names = ownerNames();
+        return std::any_of(names.begin(), names.end(), [&](const QString& owner) {
             return isOwner(owner) && isBelowAnyCalled(owner, tagName, element);
         });
     }
@@ -236,14 +233,7 @@ QDomNode DomParser::Remove(const QDomNode& node)
 
 void DomParser::InsertCopies(const QDomElement& element, int copies)
 {
-    if (m_pOwners) {
-        m_pOwners->InsertCopies(element, copies);
-        return;
-    }
-    QDomNode parent = element.parentNode();
-    for (int copy = 0; copy < copies; ++copy) {
-        parent.insertAfter(element.cloneNode(true), element);
-    }
+    owners().InsertCopies(element, copies);
 }
 
 /// Announces the node on which the walk stands and moves on from it.
@@ -340,6 +330,14 @@ bool DomParser::isOptional()
         return false;
     }
     return isBelowOwnerOf(*limits, name, m_currentElement, isOptionalCode);
+}
+
+OwnerIndex& DomParser::owners()
+{
+    if (!m_pOwners) {
+        m_pOwners = std::make_unique<OwnerIndex>(*m_pDocument, ownerNames());
+    }
+    return *m_pOwners;
 }
 
 QSet<QString> DomParser::ownerNames() const

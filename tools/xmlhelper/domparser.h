@@ -113,6 +113,7 @@ private:
     void removeCurrentElement();
     QDomNode removeAndKeep(const QDomNode& node);
     bool isBelowAnyCalled(const QString& ownerName, const QString& tagName, const QDomNode& element);
+    OwnerIndex& owners();
     QSet<QString> ownerNames() const;
     template <class IsWanted>
     bool isBelowOwnerOf(const Limits& limits, const QString& tagName, const QDomNode& element,

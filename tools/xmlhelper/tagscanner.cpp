@@ -41,9 +41,9 @@ public:
             if (byte == m_quote) {
                 m_place = Place::StartTag;
             }
-            return true;
+            break;
         }
-        return false;
+        return true;
     }
 
 private:

@@ -280,6 +280,9 @@ void TestRobustnessLimits::readsContent_data()
     QTest::newRow("content-model-with-closed-parentheses-between")
         << withDocumentType(QStringLiteral("<!ELEMENT r %1c%2>").arg(closedBetween, QString(513, QLatin1Char(')'))))
         << false << contentModelTrace();
+    QTest::newRow("parenthesis-that-closes-none-does-not-count")
+        << withDocumentType(entity(QStringLiteral("e"), QLatin1Char(')') + QString(512, QLatin1Char('(')))) << true
+        << none;
     QTest::newRow("content-model-of-512-parentheses") << withDocumentType(
         QStringLiteral("<!ELEMENT r %1a%2>").arg(QString(512, QLatin1Char('(')), QString(512, QLatin1Char(')'))))
                                                       << true << none;
@@ -315,6 +318,15 @@ void TestRobustnessLimits::readsSchemas_data()
         << typeChain(3, QStringLiteral("<xs:element name='e' type='T%1' minOccurs='1024'/>"))
             + rootOf(QStringLiteral("T3"))
         << false << elementsTrace();
+    const auto repeated = [](int elements) {
+        return QStringLiteral("<xs:element name='e' minOccurs='%1'/>").arg(elements);
+    };
+    QTest::newRow("named-types-of-600-thousand-elements-together") << named(QStringLiteral("A"), repeated(300000))
+            + named(QStringLiteral("B"), repeated(300000))
+            + QStringLiteral("<xs:element name='root'/>") << true << none;
+    QTest::newRow("named-types-of-more-than-600-thousand-elements-together")
+        << named(QStringLiteral("A"), repeated(300000)) + named(QStringLiteral("B"), repeated(300001)) << false
+        << elementsTrace();
     QTest::newRow("minimum-of-10-to-the-9")
         << global(QStringLiteral("root"), QStringLiteral("<xs:element name='e' type='xs:int' minOccurs='1000000000'/>"))
         << false << elementsTrace();
@@ -422,14 +434,17 @@ void TestRobustnessLimits::countsTheElementsOfAllDefinitions()
     if (isSanitized()) {
         QSKIP("Takes gigabytes under sanitizers.");
     }
-    QString globals;
-    for (int i = 0; i < 4; ++i) {
-        globals += global(QStringLiteral("g%1").arg(i), QStringLiteral("<xs:element name='e' minOccurs='499999'/>"));
-    }
-    const QString report = pathOf(QStringLiteral("report.xml"));
-    const ConfinedOutcome outcome = buildConfined(
-        write(QStringLiteral("schema.xsd"), schemaOf(globals + QStringLiteral("<xs:element name='root'/>"))), report);
-    QCOMPARE(outcomeText(outcome), outcomeText(false, {elementsTrace()}));
+    const auto repeated = [](const char* name, int elements) {
+        return global(QLatin1String(name), QStringLiteral("<xs:element name='e' minOccurs='%1'/>").arg(elements));
+    };
+    const QString most = repeated("a", 499999) + repeated("b", 499999) + repeated("c", 499999);
+    const auto build = [&](const QString& globals) {
+        return outcomeText(buildConfined(write(QStringLiteral("schema.xsd"), schemaOf(globals)),
+                                         pathOf(QStringLiteral("report.xml"))));
+    };
+    const QString root = QStringLiteral("<xs:element name='root'/>");
+    QCOMPARE(build(most + repeated("d", 499998) + root), outcomeText(true));
+    QCOMPARE(build(most + repeated("d", 499999) + root), outcomeText(false, {elementsTrace()}));
 }
 
 void TestRobustnessLimits::readsIncludes_data()
