@@ -206,6 +206,8 @@ private Q_SLOTS:
     void closeWritesSilentlyWithoutATypedComment();
     void closeAsksAboutATypedComment_data();
     void closeAsksAboutATypedComment();
+    void wrapsLongLinesAnywhere_data();
+    void wrapsLongLinesAnywhere();
     void closeAsksAboutACommentOfBlanks();
     void closeAfterSavingDoesNothing_data();
     void closeAfterSavingDoesNothing();
@@ -731,6 +733,36 @@ void TestCommentDialogImpl::closeAsksAboutATypedComment()
     QVERIFY(report.Dialog().findChildren<QMessageBox*>().isEmpty());
     QCOMPARE(report.IsWritten(), isWritten);
     QCOMPARE(report.WrittenComments(), comments);
+}
+
+void TestCommentDialogImpl::wrapsLongLinesAnywhere_data()
+{
+    QTest::addColumn<QString>("comment");
+    QTest::addColumn<bool>("isWrappedAnywhere");
+    const QString longWord(5001, QLatin1Char('x'));
+    const QString shortLine = QStringLiteral("Strong fading\n");
+    QTest::newRow("lines-of-words") << shortLine.repeated(1000) << false;
+    QTest::newRow("word-of-4000-characters") << longWord.left(4000) << false;
+    QTest::newRow("word-of-5001-characters") << longWord << true;
+    QTest::newRow("long-word-in-the-last-line") << shortLine + shortLine + longWord << true;
+    QTest::newRow("long-word-in-the-first-line") << longWord + QLatin1Char('\n') + shortLine << true;
+}
+
+void TestCommentDialogImpl::wrapsLongLinesAnywhere()
+{
+    QFETCH(QString, comment);
+    QFETCH(bool, isWrappedAnywhere);
+    CommentDialogImpl dialog;
+    auto* const text = dialog.findChild<QTextEdit*>();
+    const QTextOption::WrapMode ordinary = text->document()->defaultTextOption().wrapMode();
+    QVERIFY(ordinary != QTextOption::WrapAnywhere);
+    text->insertPlainText(comment);
+    const QTextOption::WrapMode mode = text->document()->defaultTextOption().wrapMode();
+    QCOMPARE(mode == QTextOption::WrapAnywhere, isWrappedAnywhere);
+    QVERIFY(isWrappedAnywhere || mode == ordinary);
+    // It stays so when more is typed.
+    text->insertPlainText(QStringLiteral("\nx"));
+    QCOMPARE(text->document()->defaultTextOption().wrapMode(), mode);
 }
 
 void TestCommentDialogImpl::closeAsksAboutACommentOfBlanks()

@@ -1,11 +1,15 @@
 #include "schemafixture.h"
 
+#include <algorithm>
+
 #include <QDir>
 #include <QFile>
 #include <QStringList>
 #include <QtTest>
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
+
+#include <xmlhelper/domextent.h>
 
 #include "domtext.h"
 
@@ -129,6 +133,16 @@ QString SchemaFixture::Definitions()
                     .arg(topElements(*definition.fragment));
     }
     return text;
+}
+
+int SchemaFixture::LevelsOfDefinitions()
+{
+    const Model model(m_handler);
+    int levels = 0;
+    for (const auto& named : model.definitions) {
+        levels = std::max(levels, extentOf(*named.second.fragment).levels);
+    }
+    return levels;
 }
 
 QString SchemaFixture::References()

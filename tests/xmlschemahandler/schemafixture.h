@@ -35,6 +35,8 @@ public:
     QString Choices();
     /// A line for each definition: "name used pending [names of the top elements of its fragment]".
     QString Definitions();
+    /// How deep the elements of the definition that has the most levels are nested.
+    int LevelsOfDefinitions();
     /// A line for each record: "name copies: owner in definition", with " behind anchor" and ", attribute".
     QString References();
 
