@@ -145,6 +145,7 @@ std::vector<Row> jobRows(const Workspace& workspace)
                       {50, 500, 5000, 50000},
                       writeByQt});
     std::vector<Row> rows;
+    rows.reserve(opponents.size());
     for (const Peer& opponent : opponents) {
         rows.push_back({QStringLiteral("job/") + opponent.name, opponent.description, opponent.reach, opponent.sizes,
                         [=, &workspace](int size) { return job(workspace, size, opponent.write); }});

@@ -164,7 +164,7 @@ void checkSearches(XMLReader& reader, const Content& content, FuzzInput& input)
 {
     const QStringList names = someNames(content.root);
     for (int search = 0; search < 3; ++search) {
-        const QString name = names.at(input.Choice(int(names.size())));
+        const QString& name = names.at(input.Choice(int(names.size())));
         const QString start = (QStringList(names) << QString()).at(input.Choice(int(names.size()) + 1));
         const QDomElement first
             = start.isEmpty() ? content.root : findStartPlainly(start, content.root, content.top).toElement();

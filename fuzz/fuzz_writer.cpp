@@ -140,7 +140,8 @@ void Script::growTree(Node* node, int levels, bool isWritten)
 {
     for (int items = m_input.Choice(4); items > 0; --items) {
         if (m_input.Choice(3) == 0 && levels > 0) {
-            auto* const branch = new Node(name(), node);
+            auto* const branch
+                = new Node(name(), node); // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): owned by node
             const bool isBranchWritten = isWritten && isXmlName(branch->GetName());
             if (isBranchWritten) {
                 m_lines << lineOf(branch->GetName(), QString());

@@ -15,7 +15,7 @@ namespace reportcheck {
 /// What the library lays out at most. A report with more is none of its own.
 constexpr int MaximumElements = 500000;
 constexpr int MaximumAttributes = 1000000;
-constexpr qint64 MaximumBytes = 100 * 1024 * 1024;
+constexpr qint64 MaximumBytes = 100LL * 1024 * 1024;
 
 struct DocumentDeleter
 {

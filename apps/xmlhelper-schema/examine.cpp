@@ -5,10 +5,10 @@
 
 #include <xmlhelper/documentfile.h>
 
+#include "reading/doctorlimits.h"
 #include "reading/grammarcheck.h"
 #include "reading/layoutplan.h"
 #include "reading/libraryreading.h"
-#include "reading/limits.h"
 #include "reading/schematext.h"
 #include "reading/treebuilder.h"
 #include "rules/rule.h"

@@ -29,7 +29,10 @@ constexpr int PatienceMs = 10000;
 void letApplicationLive(int milliseconds)
 {
     QEventLoop loop;
-    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    QTimer timer;
+    timer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
+    timer.start(milliseconds);
     loop.exec();
 }
 

@@ -22,6 +22,11 @@ private Q_SLOTS:
     void laysOut512NestedElements();
     void lays500000ElementsOut_data();
     void lays500000ElementsOut();
+    void countsAttributesThatAreCopied_data();
+    void countsAttributesThatAreCopied();
+    void refusesCopiesThatHaveTooManyAttributes_data();
+    void refusesCopiesThatHaveTooManyAttributes();
+    void refusesADocumentTypeOfManyEntities();
     void refusesSchemasThatGrowWithoutEnd_data();
     void refusesSchemasThatGrowWithoutEnd();
     void endsWhenNothingIsLaidOutCountlessTimes_data();
@@ -249,6 +254,74 @@ void TestXmlSchemaHandlerLimits::lays500000ElementsOut()
     SchemaFixture schema;
     QVERIFY(!schema.Read(declarations.arg(copies + 1)));
     QCOMPARE(traces.Messages(), elementsTrace());
+}
+
+void TestXmlSchemaHandlerLimits::countsAttributesThatAreCopied_data()
+{
+    QTest::addColumn<QString>("declaration"); // of 10,000 values
+    QTest::addColumn<QString>("use");
+    const QString simpleType = QStringLiteral("<xs:simpleType name='S'>%1</xs:simpleType>");
+    QTest::newRow("declared-attribute") << QStringLiteral(
+        "<xs:attribute name='k'><xs:simpleType>%1</xs:simpleType></xs:attribute>")
+                                        << QStringLiteral("<xs:attribute ref='k'/>");
+    QTest::newRow("extension-of-an-element")
+        << QStringLiteral("<xs:element name='S'><xs:simpleType>%1</xs:simpleType></xs:element>")
+        << QStringLiteral("<xs:extension base='S'/>");
+    QTest::newRow("extension-of-a-type") << simpleType << QStringLiteral("<xs:extension base='S'/>");
+}
+
+/// One element is given them again and again, which takes time and no memory.
+void TestXmlSchemaHandlerLimits::countsAttributesThatAreCopied()
+{
+    QFETCH(QString, declaration);
+    QFETCH(QString, use);
+    const QString values = QStringLiteral("<xs:restriction base='xs:string'>%1</xs:restriction>")
+                               .arg(QStringLiteral("<xs:enumeration value='v'/>").repeated(10000));
+    const auto schema
+        = [&](int uses) { return declaration.arg(values) + global(QStringLiteral("root"), use.repeated(uses)); };
+    const TraceCollector traces;
+    QVERIFY(SchemaFixture().Read(schema(10)));
+    QCOMPARE(traces.Messages(), QString());
+    QVERIFY(!SchemaFixture().Read(schema(200)));
+    QCOMPARE(traces.Messages(), QStringLiteral("The schema lays out more than 2000000 attributes!"));
+}
+
+void TestXmlSchemaHandlerLimits::refusesCopiesThatHaveTooManyAttributes_data()
+{
+    QTest::addColumn<QString>("schema"); // %1 stands for values
+    const QString simpleType = QStringLiteral("<xs:simpleType name='S'>%1</xs:simpleType>");
+    const QString elements
+        = global(QStringLiteral("root"), QStringLiteral("<xs:element name='e' type='S' minOccurs='201'/>"));
+    QTest::newRow("elements-of-a-known-type") << simpleType + elements;
+    QTest::newRow("elements-of-a-later-type") << elements + simpleType;
+    QTest::newRow("known-references") << QStringLiteral(
+                                             "<xs:element name='e'><xs:simpleType>%1</xs:simpleType></xs:element>")
+            + global(QStringLiteral("root"), QStringLiteral("<xs:element ref='e' minOccurs='201'/>"));
+}
+
+void TestXmlSchemaHandlerLimits::refusesCopiesThatHaveTooManyAttributes()
+{
+    QFETCH(QString, schema);
+    const TraceCollector traces;
+    QVERIFY(!SchemaFixture().Read(schema.arg(QStringLiteral("<xs:restriction base='xs:string'>%1</xs:restriction>")
+                                                 .arg(QStringLiteral("<xs:enumeration value='v'/>").repeated(10000)))));
+    QCOMPARE(traces.Messages(), QStringLiteral("The schema lays out more than 2000000 attributes!"));
+}
+
+void TestXmlSchemaHandlerLimits::refusesADocumentTypeOfManyEntities()
+{
+    QString entities;
+    for (int i = 0; i <= 1000; ++i) {
+        entities += QStringLiteral("<!ENTITY e%1 'x'>").arg(i);
+    }
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("schema.xsd")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(QStringLiteral("<!DOCTYPE s [%1]><s/>").arg(entities).toUtf8());
+    file.close();
+    const TraceCollector traces;
+    QVERIFY(!SchemaFixture(file.fileName()).ReadFileByHandler(file.fileName()));
+    QCOMPARE(traces.Messages(), QStringLiteral("The content declares more than 1000 entities!"));
 }
 
 void TestXmlSchemaHandlerLimits::refusesSchemasThatGrowWithoutEnd_data()

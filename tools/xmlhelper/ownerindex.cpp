@@ -28,15 +28,12 @@ bool OwnerIndex::Refresh()
 
 bool OwnerIndex::IsFirst(const QDomNode& element, const QString& name)
 {
-    const auto found = m_bearers.find(name);
-    if (found == m_bearers.end()) {
-        return false;
-    }
-    std::vector<QDomElement>& elements = found->elements;
-    while (!elements.empty() && !isInDocument(elements.back()) && !found->isCopied) {
+    Bearers& bearers = m_bearers[name];
+    std::vector<QDomElement>& elements = bearers.elements;
+    while (!elements.empty() && !isInDocument(elements.back()) && !bearers.isCopied) {
         elements.pop_back();
     }
-    if (isOutdated(*found, element, name)) {
+    if (isOutdated(bearers, element, name)) {
         make();
     }
     return !elements.empty() && elements.back() == element;

@@ -51,21 +51,17 @@ bool isTimeName(const QString& name)
     return name == DateTimeName || name == DFDateTimeName;
 }
 
-/// The name "parent/child" of an item that fills @p node below its parent; an item's name is split at its first slash,
-/// so that there is none (empty) for a parent whose own name has one.
+/// The name "parent/child" of an item that fills @p node below its parent.
 QString qualifiedName(const QDomNode& node)
 {
-    const QString parentName = node.parentNode().nodeName();
-    if (parentName.isEmpty() || parentName.contains(QLatin1Char('/'))) {
-        return QString();
-    }
-    return parentName + QLatin1Char('/') + node.nodeName();
+    return node.parentNode().nodeName() + QLatin1Char('/') + node.nodeName();
 }
 
 /// The items before @p end that may set an attribute. An attribute for the time is set for every one of them.
 std::vector<int> itemsForAttributes(const ReportItems& items, const QXmlAttributes& attributes, int end)
 {
     std::vector<QString> names;
+    names.reserve(std::size_t(attributes.count()));
     for (int i = 0; i < attributes.count(); ++i) {
         names.push_back(attributes.qName(i));
     }

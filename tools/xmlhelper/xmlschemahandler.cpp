@@ -676,7 +676,7 @@ QDomNode XmlSchemaHandler::currentFragment() const
 /// Creates an element and appends it to @p owner; a null element when the limits do not allow it.
 QDomElement XmlSchemaHandler::createElement(const QString& name, QDomNode owner)
 {
-    if (!isWithinLimits({1, 1, 0, 0}, owner, m_fragmentElements)) {
+    if (!isWithinLimits({1, 1, 0, 0}, 1, owner, m_fragmentElements)) {
         return QDomElement();
     }
     QDomElement element = m_pDocument->createElement(name);
@@ -752,18 +752,9 @@ void XmlSchemaHandler::layOut(TypeDefinition& definition, QDomElement owner, con
     if (first.isNull() || owner.isNull()) {
         return;
     }
-    const DomExtent single = extentOf(*definition.fragment);
-    if (tree.elements + qint64(copies) * single.elements > MaxElements) {
-        refuseElements();
-        return;
-    }
-    if (!areAttributesWithinLimit(qint64(copies) * single.attributes)) {
-        return;
-    }
-    for (int copy = 0; copy < copies; ++copy) {
+    for (; copies > 0; --copies) {
         // Measured for each copy: a definition that refers to itself grows under way.
-        const DomExtent extent = extentOf(*definition.fragment);
-        if (!isWithinLimits(extent, owner, tree)) {
+        if (!isWithinLimits(extentOf(*definition.fragment), copies, owner, tree)) {
             return;
         }
         const QDomNode content = definition.fragment->cloneNode(true);
@@ -970,28 +961,29 @@ void XmlSchemaHandler::refuseElements()
     refuse(QStringLiteral("The schema lays out more than %1 elements!").arg(MaxElements));
 }
 
-/// Whether so much may be laid below @p owner; counts it when it may and refuses when not.
-bool XmlSchemaHandler::isWithinLimits(const DomExtent& extent, const QDomNode& owner, ElementCount& tree)
+/// Whether @p copies of so much may be laid below @p owner; counts one of them when they may and refuses when not.
+bool XmlSchemaHandler::isWithinLimits(const DomExtent& extent, int copies, const QDomNode& owner, ElementCount& tree)
 {
     if (levelOf(owner) + extent.levels > MaxElementNesting) {
         refuse(QStringLiteral("The schema lays out elements nested deeper than %1!").arg(MaxElementNesting));
         return false;
     }
-    const int elements = extent.elements;
     int& total = m_pReading->elementsOfAllDefinitions;
     int& ofNamedTypes = m_pReading->elementsOfNamedTypes;
-    const int forNamedTypes = tree.isOfNamedType ? elements : 0;
+    const qint64 elements = qint64(copies) * extent.elements;
+    const qint64 forNamedTypes = tree.isOfNamedType ? elements : 0;
     if (tree.elements + elements > MaxElements || total + elements > MaxElementsOfAllDefinitions
         || ofNamedTypes + forNamedTypes > MaxElementsOfNamedTypes) {
         refuseElements();
         return false;
     }
-    if (!countAttributes(extent.attributes)) {
+    if (!areAttributesWithinLimit(qint64(copies) * extent.attributes)) {
         return false;
     }
-    tree.elements += elements;
-    total += elements;
-    ofNamedTypes += forNamedTypes;
+    tree.elements += extent.elements;
+    total += extent.elements;
+    ofNamedTypes += tree.isOfNamedType ? extent.elements : 0;
+    m_pReading->attributesOfAllDefinitions += extent.attributes;
     return true;
 }
 

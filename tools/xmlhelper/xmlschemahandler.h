@@ -152,7 +152,7 @@ private:
     void refuse(const QString& reason);
     bool checkName(const QString& name);
     void refuseElements();
-    bool isWithinLimits(const DomExtent& extent, const QDomNode& owner, ElementCount& tree);
+    bool isWithinLimits(const DomExtent& extent, int copies, const QDomNode& owner, ElementCount& tree);
     bool areAttributesWithinLimit(qint64 attributes);
     bool countAttributes(int attributes);
 

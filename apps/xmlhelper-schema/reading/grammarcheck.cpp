@@ -25,7 +25,7 @@ constexpr rlim_t MaxProcessorSeconds = 1;
 
 /// Long enough for the second that the parser may use, on a machine that has other work.
 constexpr int MaxMilliseconds = 30000;
-constexpr rlim_t MaxMemory = 256u * 1024 * 1024;
+constexpr rlim_t MaxMemory = rlim_t(256) * 1024 * 1024;
 constexpr int MaxFaults = 100;
 
 void collect(void* userData, xmlError* error)

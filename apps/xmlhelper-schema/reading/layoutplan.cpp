@@ -11,7 +11,7 @@
 #include <xmlhelper/documentfile.h>
 #include <xmlhelper/xmltext.h>
 
-#include "limits.h"
+#include "doctorlimits.h"
 
 namespace schemadoctor {
 

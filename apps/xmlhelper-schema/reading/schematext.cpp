@@ -8,7 +8,7 @@
 #include <libxml/parser.h>
 #include <libxml/tree.h>
 
-#include "limits.h"
+#include "doctorlimits.h"
 
 namespace schemadoctor {
 

@@ -1,4 +1,4 @@
-#include "reading/limits.h"
+#include "reading/doctorlimits.h"
 #include "rule.h"
 
 namespace schemadoctor {

@@ -4,7 +4,7 @@
 
 #include <xmlhelper/constants.h>
 
-#include "reading/limits.h"
+#include "reading/doctorlimits.h"
 
 namespace schemadoctor {
 

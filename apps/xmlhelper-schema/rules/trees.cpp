@@ -3,7 +3,7 @@
 #include <QSet>
 #include <QStringList>
 
-#include "reading/limits.h"
+#include "reading/doctorlimits.h"
 #include "rule.h"
 
 namespace schemadoctor {

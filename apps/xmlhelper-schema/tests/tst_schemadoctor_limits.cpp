@@ -7,7 +7,7 @@
 #include <QTest>
 
 #include "examine.h"
-#include "reading/limits.h"
+#include "reading/doctorlimits.h"
 #include "render/jsonrendering.h"
 #include "render/textrendering.h"
 

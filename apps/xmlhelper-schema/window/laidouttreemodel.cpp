@@ -7,7 +7,8 @@ namespace {
 // What an index carries: one more than the element that holds the row, and 0 for the root.
 quintptr idBelow(int holder)
 {
-    return quintptr(holder + 1);
+    const int above = holder + 1;
+    return quintptr(above);
 }
 int holderOf(const QModelIndex& index)
 {

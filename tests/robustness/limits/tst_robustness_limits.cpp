@@ -21,8 +21,6 @@ private Q_SLOTS:
     void readsContent();
     void readsSchemas_data();
     void readsSchemas();
-    void countsWhatOneElementIsGivenAgainAndAgain_data();
-    void countsWhatOneElementIsGivenAgainAndAgain();
     void countsTheElementsOfAllDefinitions();
     void readsIncludes_data();
     void readsIncludes();
@@ -318,9 +316,8 @@ void TestRobustnessLimits::readsSchemas_data()
         << typeChain(3, QStringLiteral("<xs:element name='e' type='T%1' minOccurs='1024'/>"))
             + rootOf(QStringLiteral("T3"))
         << false << elementsTrace();
-    const auto repeated = [](int elements) {
-        return QStringLiteral("<xs:element name='e' minOccurs='%1'/>").arg(elements);
-    };
+    const auto repeated
+        = [](int elements) { return QStringLiteral("<xs:element name='e' minOccurs='%1'/>").arg(elements); };
     QTest::newRow("named-types-of-600-thousand-elements-together") << named(QStringLiteral("A"), repeated(300000))
             + named(QStringLiteral("B"), repeated(300000))
             + QStringLiteral("<xs:element name='root'/>") << true << none;
@@ -400,32 +397,6 @@ void TestRobustnessLimits::readsSchemas()
     // After a schema that failed the builder goes on with what there is, and leaves a file.
     QVERIFY(QFile::exists(report));
     checkCosts(outcome);
-}
-
-void TestRobustnessLimits::countsWhatOneElementIsGivenAgainAndAgain_data()
-{
-    QTest::addColumn<QString>("declaration"); // of 10,000 values
-    QTest::addColumn<QString>("use");
-    QTest::newRow("declared-attribute") << QStringLiteral(
-        "<xs:attribute name='k'><xs:simpleType>%1</xs:simpleType></xs:attribute>")
-                                        << QStringLiteral("<xs:attribute ref='k'/>");
-    QTest::newRow("extension") << QStringLiteral("<xs:element name='S'><xs:simpleType>%1</xs:simpleType></xs:element>")
-                               << QStringLiteral("<xs:extension base='S'/>");
-}
-
-/// Giving takes time, even where it takes no memory.
-void TestRobustnessLimits::countsWhatOneElementIsGivenAgainAndAgain()
-{
-    QFETCH(QString, declaration);
-    QFETCH(QString, use);
-    const auto build = [&](int uses) {
-        const QString declarations
-            = declaration.arg(enumeration(10000)) + global(QStringLiteral("root"), use.repeated(uses));
-        return buildConfined(write(QStringLiteral("schema.xsd"), schemaOf(declarations)),
-                             pathOf(QStringLiteral("r.xml")));
-    };
-    QCOMPARE(outcomeText(build(190)), outcomeText(true, {}));
-    QCOMPARE(outcomeText(build(200)), outcomeText(false, {attributesTrace()}));
 }
 
 /// Global elements do not count as named types, so it takes more of them than a test of memory allows.
