@@ -40,6 +40,7 @@ private Q_SLOTS:
     void laysOutDefaultTexts();
     void continuesWhereTheNoticeSays_data();
     void continuesWhereTheNoticeSays();
+    void keepsRemovedNodesAliveUntilTheWalkHasEnded();
     void noticesARenamedOwner_data();
     void noticesARenamedOwner();
     void noticesThatTheFirstOwnerIsRenamed();
@@ -586,6 +587,31 @@ void TestDomParser::continuesWhereTheNoticeSays()
     QVERIFY(walker.parser.Walk());
     QCOMPARE(walker.Log(), log);
     QCOMPARE(domText(walker.document), domTextOf(xml));
+}
+
+void TestDomParser::keepsRemovedNodesAliveUntilTheWalkHasEnded()
+{
+    // A recorder would keep the nodes itself.
+    struct Observer : IXMLHelper
+    {
+        void XmlUpdate(XmlEvent* event) override
+        {
+            if (event->GetType() == XmlEvent::EVENT_ELEM_BEGIN) {
+                auto* const begin = static_cast<ElemBeginEvent*>(event);
+                value = begin->GetElementName() == QLatin1String("v") ? begin->GetElementNode() : value;
+            } else if (event->GetType() == XmlEvent::EVENT_DOC_END) {
+                ownerName = value.parentNode().nodeName();
+            }
+        }
+        QDomNode value;
+        QString ownerName;
+    } observer;
+    QDomDocument document = documentOf(QStringLiteral("<r><c><v type='t'/></c><y type='t'/></r>"));
+    DomParser parser(&observer, occursOf(QStringLiteral("c 0 r, v 1 r, y 1 r")), ChoiceMap());
+    QVERIFY(parser.SetDocument(&document));
+    QVERIFY(parser.Walk());
+    QCOMPARE(domText(document), domTextOf(QStringLiteral("<r><y type='t'/></r>")));
+    QCOMPARE(observer.ownerName, QStringLiteral("c")); // which has gone with its value
 }
 
 void TestDomParser::noticesARenamedOwner_data()
