@@ -90,8 +90,6 @@ private Q_SLOTS:
 
     void refusesContentFromWithinAnEvent_data();
     void refusesContentFromWithinAnEvent();
-    void goesOnBehindAnObserverThatThrows_data();
-    void goesOnBehindAnObserverThatThrows();
     void refusesAParseFromWithinAnEvent();
     void takesContentAgainAfterTheParse();
 
@@ -913,31 +911,6 @@ void TestXmlReader::refusesContentFromWithinAnEvent()
     QCOMPARE(observer.Log(), names("r a b"));
     QVERIFY(reader.ParseXml());
     QCOMPARE(observer.Log(), names("r a b r a b"));
-}
-
-void TestXmlReader::goesOnBehindAnObserverThatThrows_data()
-{
-    addRowForEachForm();
-}
-
-void TestXmlReader::goesOnBehindAnObserverThatThrows()
-{
-    QFETCH(ContentForm, form);
-    ContentSource source;
-    ScriptedObserver observer;
-    XMLReader reader(&observer, nullptr);
-    bool isToThrow = true;
-    observer.OnElement(QStringLiteral("a"), [&](ElemBeginEvent&) {
-        if (isToThrow) {
-            throw std::runtime_error("observer");
-        }
-    });
-    QVERIFY(source.GiveTo(reader, form, QStringLiteral("<r><a/><b/></r>")));
-    QVERIFY_EXCEPTION_THROWN(reader.ParseXml(), std::runtime_error);
-    isToThrow = false;
-    QVERIFY(source.GiveTo(reader, form, QStringLiteral("<s><a/></s>")));
-    QVERIFY(reader.ParseXml());
-    QCOMPARE(observer.Log(), names("r a s a"));
 }
 
 void TestXmlReader::refusesAParseFromWithinAnEvent()

@@ -348,7 +348,7 @@ bool XMLReader::parseText(const std::optional<QString>& text)
 
 bool XMLReader::parse(const QXmlInputSource& source)
 {
-    const QScopedValueRollback<bool> parsing(m_bParsing, true); // an observer may throw
+    const QScopedValueRollback<bool> parsing(m_bParsing, true); // memory may run out
     const bool isParsed = m_pParser->parse(source);
     if (m_pNestingGuard->IsExceeded()) {
         traceNesting();
