@@ -197,6 +197,7 @@ private:
     {
         ErrorNesting() = default;
         ErrorNesting(const ErrorNesting&) {}
+        // cppcheck-suppress operatorEqVarError ; what is under way stays
         ErrorNesting& operator=(const ErrorNesting&) { return *this; }
 
         int depth = 0; ///< events that the observer is answering just now
