@@ -196,7 +196,7 @@ private:
     struct ErrorNesting
     {
         ErrorNesting() = default;
-        ErrorNesting(const ErrorNesting&) {}
+        ErrorNesting(const ErrorNesting&) { }
         // cppcheck-suppress operatorEqVarError ; what is under way stays
         ErrorNesting& operator=(const ErrorNesting&) { return *this; }
 
