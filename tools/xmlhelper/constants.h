@@ -110,7 +110,8 @@ constexpr int MaxElementsOfAllDefinitions = 4 * MaxElements;
 constexpr int MaxElementsOfNamedTypes = MaxElements + MaxElements / 5;
 
 /// Attributes that a schema gives to elements by copying, in all its definitions together, and those of one document
-/// when elements are copied. Each takes as much memory as an element, and one enumeration can give an element thousands.
+/// when elements are copied. Each takes as much memory as an element, and one enumeration can give an element
+/// thousands.
 constexpr int MaxAttributes = 4 * MaxElements;
 
 /// Values of one enumeration. Each becomes an attribute, and Qt needs a time that grows with the square of their number

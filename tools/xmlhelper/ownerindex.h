@@ -16,8 +16,9 @@
 ///
 /// The index is made when it is first asked. It is kept current through the changes that are made with its own
 /// operations, and made anew after any other change. Of elements that are renamed (QDomElement::setTagName), which
-/// nothing tells of, it notices the first one of a name when that is asked for, and one that is given a name that nobody
-/// had; for others Invalidate() must be called. Only elements of the searched names are stored; the document is not owned.
+/// nothing tells of, it notices the first one of a name when that is asked for, and one that is given a name that
+/// nobody had; for others Invalidate() must be called. Only elements of the searched names are stored; the document is
+/// not owned.
 class OwnerIndex
 {
 public:
