@@ -138,10 +138,10 @@ void Script::writeTree()
 /// Items whose names XML does not allow are left out, with what is below them.
 void Script::growTree(Node* node, int levels, bool isWritten)
 {
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): each item is owned by the node it is made for
     for (int items = m_input.Choice(4); items > 0; --items) {
         if (m_input.Choice(3) == 0 && levels > 0) {
-            auto* const branch
-                = new Node(name(), node); // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): owned by node
+            auto* const branch = new Node(name(), node);
             const bool isBranchWritten = isWritten && isXmlName(branch->GetName());
             if (isBranchWritten) {
                 m_lines << lineOf(branch->GetName(), QString());
