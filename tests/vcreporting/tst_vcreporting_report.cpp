@@ -926,6 +926,9 @@ void TestVCReportingReport::unitIsWrittenWhereDeclared_data()
                                              declaredAttribute(QStringLiteral("Unit"), QStringLiteral("string")));
     QTest::newRow("declared-and-given") << withUnit << QStringLiteral("MHz")
                                         << QStringLiteral("<Value Unit='MHz'>98.5</Value>");
+    QTest::newRow("declared-and-given-with-a-default-that-goes")
+        << QString(withUnit).replace(QStringLiteral("name='Value'"), QStringLiteral("name='Value' default='7'"))
+        << QStringLiteral("MHz") << QStringLiteral("<Value Unit='MHz'>98.5</Value>");
     QTest::newRow("declared-and-not-given")
         << withUnit << QString() << QStringLiteral("<Value Unit='xs:string'>98.5</Value>");
     QTest::newRow("given-and-not-declared")
