@@ -21,7 +21,12 @@ function(xmlhelper_set_test_environment name)
             "LSAN_OPTIONS=suppressions=${suppressions}:print_suppressions=0")
     endif()
 
-    set_tests_properties(${name} PROPERTIES ENVIRONMENT "${environment}" TIMEOUT 300)
+    # An emulator takes long to start a program, and some tests start hundreds.
+    set(timeout 300)
+    if(CMAKE_CROSSCOMPILING_EMULATOR)
+        set(timeout 900)
+    endif()
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "${environment}" TIMEOUT ${timeout})
 endfunction()
 
 function(xmlhelper_add_test name)
