@@ -1,5 +1,7 @@
 #include "hostilecontent.h"
 
+#include <random>
+
 #include <QString>
 #include <QtTest>
 
@@ -38,10 +40,9 @@ QByteArray utf32(const QByteArray& text, bool isLittleEndian)
 QByteArray noise()
 {
     QByteArray result;
-    quint32 number = 1;
+    std::minstd_rand number;
     for (int i = 0; i < 65536; ++i) {
-        number = number * 1664525 + 1013904223;
-        result += static_cast<char>(number >> 24);
+        result += static_cast<char>(number() >> 16);
     }
     return result;
 }
