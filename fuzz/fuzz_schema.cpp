@@ -4,9 +4,9 @@
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
-#include <xmlhelper/constants.h>
 #include <xmlhelper/domextent.h>
 #include <xmlhelper/ixmlhelper.h>
+#include <xmlhelper/limits_p.h>
 #include <xmlhelper/xmlschemahandler.h>
 
 #include "fuzzing.h"
@@ -41,7 +41,8 @@ Result readSchema(const QString& fileName)
     const bool isRead = parser.parse(QXmlInputSource(&file));
 
     const DomExtent extent = extentOf(*handler.GetDocument());
-    require(extent.levels <= MaxElementNesting && extent.elements <= MaxElements, "a skeleton is within the limits");
+    require(extent.levels <= limits().elementNesting && extent.elements <= limits().elements,
+            "a skeleton is within the limits");
     UnresolvedTypeMap unresolved;
     OccursMap occurs;
     TypeDefinitionMap definitions;

@@ -6,7 +6,7 @@
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
-#include <xmlhelper/constants.h>
+#include <xmlhelper/limits_p.h>
 #include <xmlhelper/nestingguard.h>
 
 QT_WARNING_DISABLE_DEPRECATED
@@ -89,10 +89,10 @@ void TestNestingGuard::handsOverNothingBeyondTheLimit()
 {
     LoggingHandler handler;
     NestingGuard guard(&handler);
-    QVERIFY(!parse(guard, nested(MaxElementNesting + 5)));
+    QVERIFY(!parse(guard, nested(limits().elementNesting + 5)));
     QVERIFY(guard.IsExceeded());
-    QCOMPARE(handler.m_log.count(QStringLiteral("start||e|e|")), MaxElementNesting);
-    QCOMPARE(handler.m_log.size(), 1 + MaxElementNesting);
+    QCOMPARE(handler.m_log.count(QStringLiteral("start||e|e|")), limits().elementNesting);
+    QCOMPARE(handler.m_log.size(), 1 + limits().elementNesting);
 }
 
 void TestNestingGuard::passesTheAnswersOfTheHandlerOn_data()
@@ -148,13 +148,13 @@ void TestNestingGuard::startsAnewWithEachDocument()
     QXmlDefaultHandler nobody;
     NestingGuard guard(&nobody);
     QVERIFY(!guard.IsExceeded());
-    QVERIFY(!parse(guard, nested(MaxElementNesting + 1)));
+    QVERIFY(!parse(guard, nested(limits().elementNesting + 1)));
     QVERIFY(guard.IsExceeded());
-    QVERIFY(parse(guard, nested(MaxElementNesting)));
+    QVERIFY(parse(guard, nested(limits().elementNesting)));
     QVERIFY(!guard.IsExceeded());
     // A parse that broke off leaves its levels open.
     QVERIFY(!parse(guard, QStringLiteral("<a><b><c>")));
-    QVERIFY(parse(guard, nested(MaxElementNesting)));
+    QVERIFY(parse(guard, nested(limits().elementNesting)));
 }
 
 void TestNestingGuard::isNotExceededByMalformedContent()

@@ -4,14 +4,17 @@
 
 #include <QXmlSimpleReader>
 
-#include "constants.h"
+#include "limits_p.h"
 
 QT_WARNING_DISABLE_DEPRECATED
 
 namespace {
 
 /// Stands for every size beyond the limit, so that sums stay in range.
-constexpr int TooManyCharacters = MaxExpandedCharacters + 1;
+int tooManyCharacters()
+{
+    return limits().expandedCharacters + 1;
+}
 
 bool isCharacterReference(const QString& name)
 {
@@ -22,7 +25,7 @@ bool isContentModelTooDeep(const QString& text)
 {
     ParenthesisCounter parentheses;
     return std::any_of(text.begin(), text.end(),
-                       [&parentheses](QChar c) { return parentheses.Take(c) > MaxContentModelNesting; });
+                       [&parentheses](QChar c) { return parentheses.Take(c) > limits().contentModelNesting; });
 }
 
 } // namespace
@@ -128,8 +131,8 @@ bool GuardedSource::endDTD()
 bool GuardedSource::internalEntityDecl(const QString& name, const QString& value)
 {
     m_entities.emplace(name, value);
-    if (m_entities.size() > MaxEntities) {
-        refuse(QStringLiteral("The content declares more than %1 entities!").arg(MaxEntities));
+    if (int(m_entities.size()) > limits().entities) {
+        refuse(QStringLiteral("The content declares more than %1 entities!").arg(limits().entities));
     }
     // A value may bring parentheses that were written as numbers, and were not seen as such on their way in.
     if (isContentModelTooDeep(value)) {
@@ -143,16 +146,16 @@ bool GuardedSource::internalEntityDecl(const QString& name, const QString& value
 
 void GuardedSource::watch(QChar c)
 {
-    if (m_bInsideDocumentType && m_parentheses.Take(c) > MaxContentModelNesting) {
+    if (m_bInsideDocumentType && m_parentheses.Take(c) > limits().contentModelNesting) {
         refuseContentModel();
     }
     if (!m_references.Ends(c)) {
         return;
     }
     m_iExpandedCharacters += expandedSize(m_references.Name());
-    if (m_iExpandedCharacters > MaxExpandedCharacters) {
+    if (m_iExpandedCharacters > limits().expandedCharacters) {
         refuse(QStringLiteral("The entities of the content expand to more than %1 characters!")
-                   .arg(MaxExpandedCharacters));
+                   .arg(limits().expandedCharacters));
     }
 }
 
@@ -167,7 +170,7 @@ int GuardedSource::expandedSize(const QString& name)
         return 0;
     }
     // What is found by an entity that refers to itself.
-    const auto [size, isNew] = m_expandedSizes.emplace(name, TooManyCharacters);
+    const auto [size, isNew] = m_expandedSizes.emplace(name, tooManyCharacters());
     if (isNew) {
         size->second = expandedSizeOfValue(entity->second);
     }
@@ -182,10 +185,10 @@ int GuardedSource::expandedSizeOfValue(const QString& value)
     ReferenceFinder references;
     for (const QChar c : value) {
         if (references.Ends(c) && !isCharacterReference(references.Name())) {
-            size += isDeclaringEntities ? TooManyCharacters : expandedSize(references.Name());
+            size += isDeclaringEntities ? tooManyCharacters() : expandedSize(references.Name());
         }
     }
-    return static_cast<int>(std::min<qint64>(size, TooManyCharacters));
+    return static_cast<int>(std::min<qint64>(size, tooManyCharacters()));
 }
 
 void GuardedSource::refuse(const QString& reason)
@@ -197,5 +200,5 @@ void GuardedSource::refuse(const QString& reason)
 
 void GuardedSource::refuseContentModel()
 {
-    refuse(QStringLiteral("A content model is nested deeper than %1 parentheses!").arg(MaxContentModelNesting));
+    refuse(QStringLiteral("A content model is nested deeper than %1 parentheses!").arg(limits().contentModelNesting));
 }

@@ -1,6 +1,6 @@
 #include "nestingguard.h"
 
-#include "constants.h"
+#include "limits_p.h"
 
 QT_WARNING_DISABLE_DEPRECATED
 
@@ -26,7 +26,7 @@ bool NestingGuard::endDocument()
 bool NestingGuard::startElement(const QString& namespaceURI, const QString& localName, const QString& qName,
                                 const QXmlAttributes& attributes)
 {
-    if (++m_iNesting > MaxElementNesting) {
+    if (++m_iNesting > limits().elementNesting) {
         m_bExceeded = true;
         return false;
     }

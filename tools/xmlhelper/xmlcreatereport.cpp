@@ -16,6 +16,7 @@
 #include "domparser.h"
 #include "errorevent.h"
 #include "eventdelivery.h"
+#include "limits_p.h"
 #include "numberconversion.h"
 #include "rangecheck.h"
 #include "textsinpieces.h"
@@ -372,9 +373,10 @@ void XmlCreateReport::Error(int id)
     }
     if (m_errorNesting.depth == 0) {
         m_errorNesting.errors = 0;
-    } else if (++m_errorNesting.errors > MaxNestedErrors) {
-        if (m_errorNesting.errors == MaxNestedErrors + 1) {
-            trace(QStringLiteral("More than %1 errors while one is being answered are not sent!").arg(MaxNestedErrors),
+    } else if (++m_errorNesting.errors > limits().nestedErrors) {
+        if (m_errorNesting.errors == limits().nestedErrors + 1) {
+            trace(QStringLiteral("More than %1 errors while one is being answered are not sent!")
+                      .arg(limits().nestedErrors),
                   "xmlcreatereport", __LINE__);
         }
         return;
@@ -530,8 +532,8 @@ void XmlCreateReport::setCheckedAttribute(const QString& name, const QString& te
 /// the element is announced again after each.
 bool XmlCreateReport::copyCurrentElement(int count)
 {
-    if (++m_iMultiplications > MaxMultiplications) {
-        trace(QStringLiteral("Elements are multiplied more than %1 times!").arg(MaxMultiplications), "xmlcreatereport",
+    if (++m_iMultiplications > limits().elements) {
+        trace(QStringLiteral("Elements are multiplied more than %1 times!").arg(limits().elements), "xmlcreatereport",
               __LINE__);
         return false;
     }
@@ -541,13 +543,13 @@ bool XmlCreateReport::copyCurrentElement(int count)
     const DomExtent extent = extentOf(*m_pCurrentElement);
     const qint64 elements = m_iElements + qint64(extent.elements) * (count - 1);
     const qint64 attributes = m_iAttributes + qint64(extent.attributes) * (count - 1);
-    if (elements > MaxElements) {
-        trace(QStringLiteral("Copies would give the report more than %1 elements!").arg(MaxElements), "xmlcreatereport",
-              __LINE__);
+    if (elements > limits().elements) {
+        trace(QStringLiteral("Copies would give the report more than %1 elements!").arg(limits().elements),
+              "xmlcreatereport", __LINE__);
         return false;
     }
-    if (attributes > MaxAttributes) {
-        trace(QStringLiteral("Copies would give the report more than %1 attributes!").arg(MaxAttributes),
+    if (attributes > limits().attributes) {
+        trace(QStringLiteral("Copies would give the report more than %1 attributes!").arg(limits().attributes),
               "xmlcreatereport", __LINE__);
         return false;
     }

@@ -7,11 +7,11 @@
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
-#include "constants.h"
 #include "contentfile.h"
 #include "domextent.h"
 #include "elementsearch.h"
 #include "guardedsource.h"
+#include "limits_p.h"
 #include "nestingguard.h"
 #include "tagscanner.h"
 #include "textsinpieces.h"
@@ -28,14 +28,14 @@ constexpr int NodeIndent = 0;
 
 void traceNesting()
 {
-    trace(QStringLiteral("XMLReader: The content is nested deeper than %1 elements!").arg(MaxElementNesting),
+    trace(QStringLiteral("XMLReader: The content is nested deeper than %1 elements!").arg(limits().elementNesting),
           "xmlreader", __LINE__);
 }
 
 /// Whether the file has nothing but elements and texts in it, and these within the limit.
 bool isPlainWithinLimit(QFile& file)
 {
-    const bool isPlain = file.open(QIODevice::ReadOnly) && isSurelyNestedWithin(MaxElementNesting, file);
+    const bool isPlain = file.open(QIODevice::ReadOnly) && isSurelyNestedWithin(limits().elementNesting, file);
     file.close();
     return isPlain;
 }
@@ -74,7 +74,7 @@ QString savedText(const QDomNode& node)
 template <class Content> std::optional<QString> textOf(const Content& content)
 {
     const DomExtent extent = extentOf(content);
-    if (extent.levels > MaxElementNesting) {
+    if (extent.levels > limits().elementNesting) {
         traceNesting();
         return std::nullopt;
     }

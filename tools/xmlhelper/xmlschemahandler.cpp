@@ -16,6 +16,7 @@
 #include "domattributes.h"
 #include "domextent.h"
 #include "guardedsource.h"
+#include "limits_p.h"
 #include "tracing.h"
 #include "xmltext.h"
 
@@ -299,10 +300,11 @@ bool XmlSchemaHandler::startElement(const QString&, const QString&, const QStrin
     }
     m_sCurrentName = qName;
     m_attributes = usableAttributes(attributes);
-    if (++m_iNesting > MaxElementNesting) {
-        refuse(QStringLiteral("The schema is nested deeper than %1 elements!").arg(MaxElementNesting));
-    } else if (m_pReading->openTags + m_iNesting > MaxOpenTags) {
-        refuse(QStringLiteral("The schema and its includes are nested deeper than %1 elements!").arg(MaxOpenTags));
+    if (++m_iNesting > limits().elementNesting) {
+        refuse(QStringLiteral("The schema is nested deeper than %1 elements!").arg(limits().elementNesting));
+    } else if (m_pReading->openTags + m_iNesting > limits().openTags) {
+        refuse(
+            QStringLiteral("The schema and its includes are nested deeper than %1 elements!").arg(limits().openTags));
     } else if (m_bInsideRestriction) {
         readFacet();
     } else {
@@ -363,12 +365,12 @@ void XmlSchemaHandler::readInclude()
     const QString fileName = openableFileName(includedFileName());
     const QString identity = identityOfFile(fileName);
     QStringList& openFiles = m_pReading->openFiles;
-    if (openFiles.contains(identity) || openFiles.size() >= MaxIncludeDepth) {
+    if (openFiles.contains(identity) || openFiles.size() >= limits().includeDepth) {
         trace(QStringLiteral("Include was skipped, it is already being read!"), Component, __LINE__);
         return;
     }
-    if (++m_pReading->files > MaxSchemaFiles) {
-        refuse(QStringLiteral("The schema consists of more than %1 files!").arg(MaxSchemaFiles));
+    if (++m_pReading->files > limits().schemaFiles) {
+        refuse(QStringLiteral("The schema consists of more than %1 files!").arg(limits().schemaFiles));
         return;
     }
 
@@ -495,7 +497,7 @@ void XmlSchemaHandler::layOutReference(const ElementDeclaration& declaration)
 
 void XmlSchemaHandler::layOutNamedElement(const ElementDeclaration& declaration)
 {
-    if (qint64(m_fragmentElements.elements) + declaration.Copies() > MaxElements) {
+    if (qint64(m_fragmentElements.elements) + declaration.Copies() > limits().elements) {
         refuseElements();
         return;
     }
@@ -576,8 +578,8 @@ void XmlSchemaHandler::readFacet()
 {
     QString facet = withoutSchemaPrefix(m_sCurrentName);
     if (facet.contains(EnumerationFacet)) {
-        if (m_iEnumerationCounter > MaxEnumerationValues) {
-            refuse(QStringLiteral("An enumeration has more than %1 values!").arg(MaxEnumerationValues));
+        if (m_iEnumerationCounter > limits().enumerationValues) {
+            refuse(QStringLiteral("An enumeration has more than %1 values!").arg(limits().enumerationValues));
             return;
         }
         facet += QString::number(m_iEnumerationCounter++);
@@ -918,7 +920,7 @@ bool XmlSchemaHandler::chooseRoot()
         }
         name = definition && definition->usedFlag == 0 ? std::next(name) : names.erase(name);
     }
-    if (extentOf(currentFragment()).elements > MaxElements) {
+    if (extentOf(currentFragment()).elements > limits().elements) {
         refuseElements();
         return false;
     }
@@ -958,22 +960,22 @@ bool XmlSchemaHandler::checkName(const QString& name)
 
 void XmlSchemaHandler::refuseElements()
 {
-    refuse(QStringLiteral("The schema lays out more than %1 elements!").arg(MaxElements));
+    refuse(QStringLiteral("The schema lays out more than %1 elements!").arg(limits().elements));
 }
 
 /// Whether @p copies of so much may be laid below @p owner; counts one of them when they may and refuses when not.
 bool XmlSchemaHandler::isWithinLimits(const DomExtent& extent, int copies, const QDomNode& owner, ElementCount& tree)
 {
-    if (levelOf(owner) + extent.levels > MaxElementNesting) {
-        refuse(QStringLiteral("The schema lays out elements nested deeper than %1!").arg(MaxElementNesting));
+    if (levelOf(owner) + extent.levels > limits().elementNesting) {
+        refuse(QStringLiteral("The schema lays out elements nested deeper than %1!").arg(limits().elementNesting));
         return false;
     }
     int& total = m_pReading->elementsOfAllDefinitions;
     int& ofNamedTypes = m_pReading->elementsOfNamedTypes;
     const qint64 elements = qint64(copies) * extent.elements;
     const qint64 forNamedTypes = tree.isOfNamedType ? elements : 0;
-    if (tree.elements + elements > MaxElements || total + elements > MaxElementsOfAllDefinitions
-        || ofNamedTypes + forNamedTypes > MaxElementsOfNamedTypes) {
+    if (tree.elements + elements > limits().elements || total + elements > limits().elementsOfAllDefinitions
+        || ofNamedTypes + forNamedTypes > limits().elementsOfNamedTypes) {
         refuseElements();
         return false;
     }
@@ -990,8 +992,8 @@ bool XmlSchemaHandler::isWithinLimits(const DomExtent& extent, int copies, const
 /// Whether so many attributes may be copied to other elements; refuses when not.
 bool XmlSchemaHandler::areAttributesWithinLimit(qint64 attributes)
 {
-    if (m_pReading->attributesOfAllDefinitions + attributes > MaxAttributes) {
-        refuse(QStringLiteral("The schema lays out more than %1 attributes!").arg(MaxAttributes));
+    if (m_pReading->attributesOfAllDefinitions + attributes > limits().attributes) {
+        refuse(QStringLiteral("The schema lays out more than %1 attributes!").arg(limits().attributes));
     }
     return !isRefused();
 }

@@ -8,9 +8,9 @@
 #include <valueframework/valuebase.h>
 #include <valueframework/valueitem.h>
 
-#include "constants.h"
 #include "documentfile.h"
 #include "domextent.h"
+#include "limits_p.h"
 #include "textsinpieces.h"
 #include "tracing.h"
 #include "xmltext.h"
@@ -119,9 +119,9 @@ bool XMLWriter::CreateElementsFromNode(Node* node)
 /// Whether the current element is not nested too deep to have a child. Traces when it is.
 bool XMLWriter::isPlaceForElement() const
 {
-    const bool isPlace = levelOf(*m_pCurrentElement) < MaxElementNesting;
+    const bool isPlace = levelOf(*m_pCurrentElement) < limits().elementNesting;
     if (!isPlace) {
-        trace(QStringLiteral("XMLWriter: Elements nested deeper than %1 are refused!").arg(MaxElementNesting),
+        trace(QStringLiteral("XMLWriter: Elements nested deeper than %1 are refused!").arg(limits().elementNesting),
               "xmlwriter", __LINE__);
     }
     return isPlace;

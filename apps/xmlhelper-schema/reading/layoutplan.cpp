@@ -9,6 +9,7 @@
 
 #include <xmlhelper/constants.h>
 #include <xmlhelper/documentfile.h>
+#include <xmlhelper/limits_p.h>
 #include <xmlhelper/xmltext.h>
 
 #include "doctorlimits.h"
@@ -358,21 +359,22 @@ void LayoutPlan::Reader::readTree(const TextNode& tag)
 
 void LayoutPlan::Reader::begin(const TextNode& tag)
 {
-    if (++m_nesting > MaxElementNesting) {
-        refuse(End::LimitExceeded, QStringLiteral("The schema is nested deeper than %1 tags.").arg(MaxElementNesting));
+    if (++m_nesting > limits().elementNesting) {
+        refuse(End::LimitExceeded,
+               QStringLiteral("The schema is nested deeper than %1 tags.").arg(limits().elementNesting));
         return;
     }
-    if (m_state.openTags + m_nesting > MaxOpenTags) {
+    if (m_state.openTags + m_nesting > limits().openTags) {
         refuse(End::LimitExceeded,
-               QStringLiteral("The schema and its includes are nested deeper than %1 tags.").arg(MaxOpenTags));
+               QStringLiteral("The schema and its includes are nested deeper than %1 tags.").arg(limits().openTags));
         return;
     }
     const QString& name = tag.qName;
     if (m_isInsideRestriction) {
         m_state.Annotate(m_isInsideGlobal ? lastChildOrCurrent() : m_typeLevelElement);
-        if (name.contains(EnumerationFacet) && ++m_enumerationValues > MaxEnumerationValues) {
+        if (name.contains(EnumerationFacet) && ++m_enumerationValues > limits().enumerationValues) {
             refuse(End::LimitExceeded,
-                   QStringLiteral("An enumeration has more than %1 values.").arg(MaxEnumerationValues));
+                   QStringLiteral("An enumeration has more than %1 values.").arg(limits().enumerationValues));
         }
     } else if (name == QLatin1String("xs:include")) {
         readInclude(tag);
@@ -432,12 +434,13 @@ void LayoutPlan::Reader::readInclude(const TextNode& tag)
         included.state = IncludeState::Cyclic;
         return;
     }
-    if (m_state.openFiles.size() >= MaxIncludeDepth) {
+    if (m_state.openFiles.size() >= limits().includeDepth) {
         included.state = IncludeState::TooDeep;
         return;
     }
-    if (++m_state.files > MaxSchemaFiles) {
-        refuse(End::LimitExceeded, QStringLiteral("The schema consists of more than %1 files.").arg(MaxSchemaFiles));
+    if (++m_state.files > limits().schemaFiles) {
+        refuse(End::LimitExceeded,
+               QStringLiteral("The schema consists of more than %1 files.").arg(limits().schemaFiles));
         return;
     }
     const TextFile& file = *m_state.text.Open(included.file);
@@ -540,7 +543,7 @@ void LayoutPlan::Reader::readElement(const TextNode& tag)
 void LayoutPlan::Reader::readNamedElement(const TextNode& tag, const Element& element)
 {
     const int copies = std::max(1, element.minOccurs);
-    if (m_fragmentElements.elements + qint64(copies) > MaxElements) {
+    if (m_fragmentElements.elements + qint64(copies) > limits().elements) {
         refuseElements();
         return;
     }
@@ -653,7 +656,7 @@ void LayoutPlan::Reader::layOut(Definition& definition, int owner, int anchor, i
         checkAnnotations();
         return;
     }
-    if (tree.elements + qint64(copies) * m_state.ExtentOf(fragment).first > MaxElements) {
+    if (tree.elements + qint64(copies) * m_state.ExtentOf(fragment).first > limits().elements) {
         refuseElements();
         return;
     }
@@ -791,7 +794,7 @@ void LayoutPlan::Reader::chooseRoot()
             m_state.hiddenRoots.emplace(definition.declaration, m_include);
         }
     }
-    if (m_currentFragment != None && m_state.ExtentOf(m_currentFragment).first > MaxElements) {
+    if (m_currentFragment != None && m_state.ExtentOf(m_currentFragment).first > limits().elements) {
         refuseElements();
     }
     if (m_include) {
@@ -807,16 +810,16 @@ void LayoutPlan::Reader::chooseRoot()
 
 bool LayoutPlan::Reader::isWithinLimits(int elements, int levels, int owner, TreeCount& tree)
 {
-    if (m_state.LevelOf(owner) + levels > MaxElementNesting) {
+    if (m_state.LevelOf(owner) + levels > limits().elementNesting) {
         refuse(End::LimitExceeded,
-               QStringLiteral("The schema lays out elements nested deeper than %1.").arg(MaxElementNesting));
+               QStringLiteral("The schema lays out elements nested deeper than %1.").arg(limits().elementNesting));
         return false;
     }
     int& total = m_state.elementsOfAllDefinitions;
     int& ofNamedTypes = m_state.elementsOfNamedTypes;
     const int forNamedTypes = tree.isOfNamedType ? elements : 0;
-    if (tree.elements + elements > MaxElements || total + elements > MaxElementsOfAllDefinitions
-        || ofNamedTypes + forNamedTypes > MaxElementsOfNamedTypes) {
+    if (tree.elements + elements > limits().elements || total + elements > limits().elementsOfAllDefinitions
+        || ofNamedTypes + forNamedTypes > limits().elementsOfNamedTypes) {
         refuseElements();
         return false;
     }
@@ -838,7 +841,7 @@ void LayoutPlan::Reader::refuse(End end, const QString& reason)
 
 void LayoutPlan::Reader::refuseElements()
 {
-    refuse(End::LimitExceeded, QStringLiteral("The schema lays out more than %1 elements.").arg(MaxElements));
+    refuse(End::LimitExceeded, QStringLiteral("The schema lays out more than %1 elements.").arg(limits().elements));
 }
 
 void LayoutPlan::Reader::checkName(const QString& name)
