@@ -78,9 +78,10 @@ private Q_SLOTS:
 
     void limitsTheNestingOfElements_data();
     void limitsTheNestingOfElements();
-    void deliversTheEventsWithinTheLimitForAFile();
-    void deliversNothingOfOtherContentBeyondTheLimit_data();
-    void deliversNothingOfOtherContentBeyondTheLimit();
+    void deliversNothingOfContentBeyondTheLimit_data();
+    void deliversNothingOfContentBeyondTheLimit();
+    void looksAtAFileAgainThatHasChanged_data();
+    void looksAtAFileAgainThatHasChanged();
     void refusesAFileOfAnyDepth();
     void countsNestedElementsOnly_data();
     void countsNestedElementsOnly();
@@ -88,10 +89,7 @@ private Q_SLOTS:
     void separatesFoldersByBackSlashesOnEveryPlatform();
     void prefersAFileThatExistsAsNamed();
 
-    void refusesContentFromWithinAnEvent_data();
-    void refusesContentFromWithinAnEvent();
     void refusesAParseFromWithinAnEvent();
-    void takesContentAgainAfterTheParse();
 
     void usesAGivenHandlerAndLeavesItAlone();
     void bindsNoDocumentToAGivenHandler();
@@ -114,7 +112,7 @@ const QString& nestingTrace()
 
 const QString& busyTrace()
 {
-    static const QString text = QStringLiteral("XMLReader: Content cannot be set or parsed while it is being parsed!");
+    static const QString text = QStringLiteral("XMLReader: Content cannot be parsed while it is being parsed!");
     return text;
 }
 
@@ -782,34 +780,76 @@ void TestXmlReader::limitsTheNestingOfElements()
     QCOMPARE(traces.Traces().front().source, readerSource());
 }
 
-void TestXmlReader::deliversTheEventsWithinTheLimitForAFile()
+void TestXmlReader::deliversNothingOfContentBeyondTheLimit_data()
 {
-    ContentSource source;
-    EventRecorder recorder;
-    XMLReader reader(&recorder, nullptr);
-    QVERIFY(source.GiveTo(reader, ContentForm::File, nested(NestingLimit + 1)));
-    QVERIFY(!reader.ParseXml());
-    QCOMPARE(recorder.Nodes().size(), std::size_t(NestingLimit));
-    // The file was not read into a document.
-    QVERIFY(recorder.Nodes().front().isNull());
-    QVERIFY(reader.GetElement(QStringLiteral("e"), QString())->empty());
+    QTest::addColumn<ContentForm>("form");
+    QTest::addColumn<QString>("xml");
+    for (const ContentForm form : contentForms()) {
+        const auto row = [form](const char* name, const QString& xml) {
+            QTest::newRow(qPrintable(rowName(QString::fromLatin1(name), form))) << form << xml;
+        };
+        row("plain", nested(NestingLimit + 1));
+        row("with-a-comment", nested(NestingLimit + 1, QStringLiteral("<!--c-->")));
+        row("behind-a-child", QStringLiteral("<e><!--c--><s/>%1</e>").arg(nested(NestingLimit)));
+    }
+    QTest::newRow("without-ends/file") << ContentForm::File << QStringLiteral("<e>").repeated(NestingLimit + 1);
+    QTest::newRow("by-entities/file")
+        << ContentForm::File << QStringLiteral("<!DOCTYPE e [<!ENTITY n '%1'>]><e>&n;</e>").arg(nested(NestingLimit));
 }
 
-void TestXmlReader::deliversNothingOfOtherContentBeyondTheLimit_data()
-{
-    addRowForEachFormInMemory();
-}
-
-void TestXmlReader::deliversNothingOfOtherContentBeyondTheLimit()
+void TestXmlReader::deliversNothingOfContentBeyondTheLimit()
 {
     QFETCH(ContentForm, form);
+    QFETCH(QString, xml);
+    TraceCollector traces;
     ContentSource source;
     EventRecorder recorder;
     XMLReader reader(&recorder, nullptr);
-    // Qt would recurse over the levels to serialise the content, so it is not even tried.
-    QVERIFY(source.GiveTo(reader, form, nested(NestingLimit + 1)));
+    QVERIFY(source.GiveTo(reader, form, xml));
     QVERIFY(!reader.ParseXml());
     QCOMPARE(recorder.Text(), QString());
+    QCOMPARE(traces.Messages(), nestingTrace());
+    if (form == ContentForm::File) { // it was not read into a document
+        QVERIFY(reader.GetElement(QStringLiteral("e"), QString())->empty());
+    }
+}
+
+void TestXmlReader::looksAtAFileAgainThatHasChanged_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<bool>("isParsed");
+    const QString deep = nested(NestingLimit + 1);
+    const QString commentedDeep = nested(NestingLimit + 1, QStringLiteral("<!--c-->"));
+    const QString sound = QStringLiteral("<e/>");
+    const QString commentedSound = QStringLiteral("<e><!--c--></e>");
+    QTest::newRow("plain-file-that-has-become-too-deep") << sound << deep << false;
+    QTest::newRow("plain-file-that-has-become-too-deep-around-a-comment") << sound << commentedDeep << false;
+    QTest::newRow("missing-file-that-is-there-now") << QString() << deep << false;
+    QTest::newRow("file-that-is-no-longer-too-deep") << deep << sound << true;
+    QTest::newRow("file-with-a-comment-that-is-no-longer-too-deep") << commentedDeep << commentedSound << true;
+}
+
+void TestXmlReader::looksAtAFileAgainThatHasChanged()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, after);
+    QFETCH(bool, isParsed);
+    ContentSource source;
+    const QString fileName = source.WriteFile(before);
+    if (before.isEmpty()) {
+        QVERIFY(QFile::remove(fileName));
+    }
+    EventRecorder recorder;
+    XMLReader reader(&recorder, nullptr);
+    QVERIFY(reader.SetXmlContent(fileName));
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(file.write(after.toUtf8()) > 0);
+    file.close();
+    QCOMPARE(reader.ParseXml(), isParsed);
+    QCOMPARE(begunNames(recorder), isParsed ? names("e") : QStringList());
+    QCOMPARE(recorder.Text().isEmpty(), !isParsed);
 }
 
 void TestXmlReader::refusesAFileOfAnyDepth()
@@ -886,33 +926,6 @@ void TestXmlReader::prefersAFileThatExistsAsNamed()
 #endif
 }
 
-void TestXmlReader::refusesContentFromWithinAnEvent_data()
-{
-    addRowForEachPairOfForms();
-}
-
-void TestXmlReader::refusesContentFromWithinAnEvent()
-{
-    QFETCH(ContentForm, first);
-    QFETCH(ContentForm, second);
-    TraceCollector traces;
-    ContentSource source;
-    ScriptedObserver observer;
-    XMLReader reader(&observer, nullptr);
-    bool isTaken = true;
-    observer.OnElement(QStringLiteral("a"),
-                       [&](ElemBeginEvent&) { isTaken = source.GiveTo(reader, second, QStringLiteral("<other/>")); });
-    QVERIFY(source.GiveTo(reader, first, QStringLiteral("<r><a/><b/></r>")));
-    QVERIFY(reader.ParseXml());
-    QVERIFY(!isTaken);
-    QCOMPARE(traces.Messages(), busyTrace());
-    QCOMPARE(traces.Traces().front().source, readerSource());
-    // The parse goes on with its content, and so does the next one.
-    QCOMPARE(observer.Log(), names("r a b"));
-    QVERIFY(reader.ParseXml());
-    QCOMPARE(observer.Log(), names("r a b r a b"));
-}
-
 void TestXmlReader::refusesAParseFromWithinAnEvent()
 {
     TraceCollector traces;
@@ -926,21 +939,6 @@ void TestXmlReader::refusesAParseFromWithinAnEvent()
     QVERIFY(!isParsed);
     QCOMPARE(traces.Messages(), busyTrace());
     QCOMPARE(observer.Log(), names("r a b"));
-}
-
-void TestXmlReader::takesContentAgainAfterTheParse()
-{
-    ContentSource source;
-    ScriptedObserver observer;
-    XMLReader reader(&observer, nullptr);
-    observer.OnElement(QStringLiteral("r"), [&](ElemBeginEvent&) {
-        source.GiveTo(reader, ContentForm::DocumentByValue, QStringLiteral("<refused/>"));
-    });
-    QVERIFY(source.GiveTo(reader, ContentForm::File, QStringLiteral("<r><a></r>")));
-    QVERIFY(!reader.ParseXml());
-    QVERIFY(source.GiveTo(reader, ContentForm::DocumentByValue, QStringLiteral("<s/>")));
-    QVERIFY(reader.ParseXml());
-    QCOMPARE(observer.Log(), names("r a s"));
 }
 
 void TestXmlReader::usesAGivenHandlerAndLeavesItAlone()

@@ -1,7 +1,8 @@
 #include "xmlreader.h"
 
+#include <utility>
+
 #include <QDomDocument>
-#include <QScopedValueRollback>
 #include <QScopeGuard>
 #include <QTextStream>
 #include <QXmlInputSource>
@@ -19,6 +20,21 @@
 #include "xmlcontenthandler.h"
 
 QT_WARNING_DISABLE_DEPRECATED
+
+/// Content whose nodes receivers may hold. The readers that keep it leave it where it is; only ReleaseContent() of the
+/// last one deletes it.
+struct KeptContent
+{
+    std::shared_ptr<void> content;
+};
+
+/// The parse that uses a content handler, and what its observer has asked of the reader meanwhile.
+struct ReaderRun
+{
+    const XMLReader* reader = nullptr; ///< the one that parses; null while none does
+    bool isContentReleased = false;
+    std::function<void(XMLReader&)> setContent; ///< the last one wins
+};
 
 namespace {
 
@@ -40,12 +56,15 @@ bool isPlainWithinLimit(QFile& file)
     return isPlain;
 }
 
-/// Whether Qt can read the file into a document without running out of stack, memory or time.
-bool isWithinLimits(QFile& file)
+/// What a look at a file with more than elements and texts in it tells.
+struct Look
 {
-    if (isPlainWithinLimit(file)) {
-        return true;
-    }
+    bool isTooDeep = false;
+    bool isWithinLimits = false; ///< Qt can read it into a document without running out of stack, memory or time
+};
+
+Look lookAt(QFile& file)
+{
     QXmlDefaultHandler nobody;
     NestingGuard guard(&nobody);
     QXmlSimpleReader parser;
@@ -53,7 +72,7 @@ bool isWithinLimits(QFile& file)
     GuardedSource source(&file);
     source.Parse(parser);
     file.close();
-    return !guard.IsExceeded() && source.GetRefusal().isEmpty();
+    return {guard.IsExceeded(), !guard.IsExceeded() && source.GetRefusal().isEmpty()};
 }
 
 QString savedText(const QDomDocument& document)
@@ -85,162 +104,152 @@ template <class Content> std::optional<QString> textOf(const Content& content)
     return savedText(content);
 }
 
-template <class Content> void release(Content*& content, bool& flag)
-{
-    delete content;
-    content = nullptr;
-    flag = false;
-}
-
 } // namespace
 
 XMLReader::XMLReader(IXMLHelper* pCallback, XmlContentHandler* handler)
-    : m_pContentHandler(handler)
-    , m_pParser(nullptr)
+    : m_pContentHandler(std::shared_ptr<XmlContentHandler>(), handler)
     , m_pCallback(pCallback)
-    , m_pDocument(nullptr)
-    , m_pFile(nullptr)
-    , m_pSearchResults(nullptr)
-    , m_pFragment(nullptr)
-    , m_pNode(nullptr)
     , m_bNode(false)
     , m_bFragment(false)
     , m_bDocument(false)
     , m_bFile(false)
     , m_bOwnsHandler(false)
-    , m_pNestingGuard(nullptr)
-    , m_bParsing(false)
-    , m_pBoundDocument(nullptr)
+    , m_pRun(std::make_shared<ReaderRun>())
+    , m_bLookAgain(false)
 {
     checkObserver(pCallback, "XMLReader", "xmlreader", 41);
 }
 
 XMLReader::XMLReader(const XMLReader& other) = default;
 XMLReader& XMLReader::operator=(const XMLReader& other) = default;
-
-XMLReader::~XMLReader()
-{
-    if (m_bOwnsHandler) {
-        delete m_pContentHandler;
-    }
-    delete m_pParser;
-    delete m_pNestingGuard;
-    delete m_pSearchResults;
-    ErasePointerAndSetFlags();
-    for (const QDomDocument* document : m_keptDocuments) {
-        delete document;
-    }
-}
+XMLReader::~XMLReader() = default;
 
 bool XMLReader::SetXmlContent(QString fileName)
 {
-    if (isRefusedWhileParsing()) {
-        return false;
+    if (isPutOff([fileName](XMLReader& reader) { reader.SetXmlContent(fileName); })) {
+        return true;
     }
     ErasePointerAndSetFlags();
-    m_pFile = new ContentFile(fileName);
+    m_pFile = std::make_shared<ContentFile>(fileName);
     m_bFile = true;
-    m_pDocument = new QDomDocument;
-    m_keptDocuments.push_back(m_pDocument);
-    if (isWithinLimits(*m_pFile) && m_pFile->open(QIODevice::ReadOnly)) {
+    m_pDocument = std::make_shared<QDomDocument>();
+    keep(m_pDocument);
+    const bool isPlain = isPlainWithinLimit(*m_pFile);
+    bool isRead = false;
+    if ((isPlain || lookAt(*m_pFile).isWithinLimits) && m_pFile->open(QIODevice::ReadOnly)) {
         QString errorMessage;
         int errorLine = NoErrorPosition;
         int errorColumn = NoErrorPosition;
-        m_pDocument->setContent(m_pFile, &errorMessage, &errorLine, &errorColumn);
+        isRead = m_pDocument->setContent(m_pFile.get(), &errorMessage, &errorLine, &errorColumn);
         m_pFile->close();
     }
-    InitHandler(m_pCallback, m_pDocument);
+    m_bLookAgain = isPlain || !isRead;
+    InitHandler(m_pCallback, m_pDocument.get());
     return true;
 }
 
 bool XMLReader::SetXmlContent(QDomDocument document)
 {
-    if (isRefusedWhileParsing()) {
-        return false;
-    }
-    return SetXmlContent(new QDomDocument(document));
+    setDocument(std::make_shared<QDomDocument>(document));
+    return true;
 }
 
 bool XMLReader::SetXmlContent(QDomDocument* document)
 {
-    if (isRefusedWhileParsing()) {
-        return false;
-    }
-    if (m_bDocument && document == m_pDocument) {
-        return true;
-    }
-    ErasePointerAndSetFlags();
-    if (document) {
-        m_pDocument = document;
-        m_bDocument = true;
-        InitHandler(m_pCallback, document);
-    }
+    setDocument(taken(document));
     return true;
 }
 
 bool XMLReader::SetXmlContent(QDomDocumentFragment fragment)
 {
-    if (isRefusedWhileParsing()) {
-        return false;
+    if (isPutOff([fragment](XMLReader& reader) { reader.SetXmlContent(fragment); })) {
+        return true;
     }
     ErasePointerAndSetFlags();
-    m_pFragment = new QDomDocumentFragment(fragment);
+    m_pFragment = std::make_shared<QDomDocumentFragment>(fragment);
     m_bFragment = true;
-    auto* const converted = new QDomDocument(fragment.toDocument());
-    InitHandler(m_pCallback, converted);
-    releaseDocument(converted);
+    keep(m_pFragment);
+    const auto converted = std::make_shared<QDomDocument>(fragment.toDocument());
+    keep(converted);
+    InitHandler(m_pCallback, converted.get());
     return true;
 }
 
 bool XMLReader::SetXmlContent(QDomNode node)
 {
-    if (isRefusedWhileParsing()) {
-        return false;
+    if (isPutOff([node](XMLReader& reader) { reader.SetXmlContent(node); })) {
+        return true;
     }
     ErasePointerAndSetFlags();
-    m_pNode = new QDomNode(node);
+    m_pNode = std::make_shared<QDomNode>(node);
     m_bNode = true;
-    auto* const converted = new QDomDocument(node.toDocument());
-    InitHandler(m_pCallback, converted);
-    releaseDocument(converted);
+    keep(m_pNode);
+    const auto converted = std::make_shared<QDomDocument>(node.toDocument());
+    keep(converted);
+    InitHandler(m_pCallback, converted.get());
     return true;
+}
+
+void XMLReader::ReleaseContent()
+{
+    if (isParsing()) {
+        m_pRun->isContentReleased = true;
+        m_pRun->setContent = nullptr;
+        return;
+    }
+    ErasePointerAndSetFlags();
+    m_pSearchResults.reset();
+    m_pParser.reset();
+    m_pNestingGuard.reset();
+    if (m_bOwnsHandler) {
+        m_pContentHandler.reset();
+        m_bOwnsHandler = false;
+    }
+    for (const auto& kept : m_keptContent) {
+        if (kept.second.use_count() == 1) {
+            delete kept.second.get();
+        }
+    }
+    m_keptContent.clear();
 }
 
 bool XMLReader::ParseXml()
 {
-    if (isRefusedWhileParsing() || !m_pCallback) {
+    if (m_pRun->reader) {
+        trace(QStringLiteral("XMLReader: Content cannot be parsed while it is being parsed!"), "xmlreader", __LINE__);
         return false;
     }
-    if (m_bDocument) {
-        return parseText(textOf(*m_pDocument));
+    if (!m_pCallback) {
+        return false;
     }
-    if (m_bFile) {
-        return parseFile();
+    const std::shared_ptr<ReaderRun> run = m_pRun; // an event may assign another reader
+    run->reader = this;
+    bool isParsed = false;
+    try {
+        isParsed = parseContent();
+    } catch (...) { // of the observer, or memory runs out
+        end(*run);
+        throw;
     }
-    if (m_bNode) {
-        return parseText(textOf(*m_pNode));
-    }
-    if (m_bFragment) {
-        return parseText(textOf(*m_pFragment));
-    }
-    return false;
+    end(*run);
+    return isParsed;
 }
 
 std::list<QDomNode>* XMLReader::GetElement(QString elementName, QString startElementName)
 {
     renewResults();
     if (!m_bFile && !m_bDocument && !m_bFragment && !m_bNode) {
-        return m_pSearchResults; // The empty name is that of the null element, too.
+        return m_pSearchResults.get(); // The empty name is that of the null element, too.
     }
     QDomElement start = rootElement();
     if (!startElementName.isEmpty()) {
         start = SearchStartNode(startElementName, start).toElement();
         if (start.isNull()) {
-            return m_pSearchResults;
+            return m_pSearchResults.get();
         }
     }
     SearchNodes(elementName, start);
-    return m_pSearchResults;
+    return m_pSearchResults.get();
 }
 
 std::list<QDomNode>* XMLReader::SearchBelowCurrentElement(QString elementName)
@@ -250,26 +259,19 @@ std::list<QDomNode>* XMLReader::SearchBelowCurrentElement(QString elementName)
     if (!current.isNull()) {
         SearchNodes(elementName, current);
     }
-    return m_pSearchResults;
+    return m_pSearchResults.get();
 }
 
 void XMLReader::ErasePointerAndSetFlags()
 {
-    if (m_bNode) {
-        release(m_pNode, m_bNode);
-    }
-    if (m_bFragment) {
-        release(m_pFragment, m_bFragment);
-    }
-    if (m_bDocument) {
-        releaseDocument(m_pDocument);
-        m_pDocument = nullptr;
-        m_bDocument = false;
-    }
-    if (m_bFile) {
-        m_pFile->close();
-        release(m_pFile, m_bFile);
-    }
+    m_pNode.reset();
+    m_bNode = false;
+    m_pFragment.reset();
+    m_bFragment = false;
+    m_pDocument.reset();
+    m_bDocument = false;
+    m_pFile.reset();
+    m_bFile = false;
 }
 
 void XMLReader::InitHandler(IXMLHelper* pCallback, QDomDocument* document)
@@ -278,16 +280,14 @@ void XMLReader::InitHandler(IXMLHelper* pCallback, QDomDocument* document)
         return;
     }
     if (!m_pContentHandler) {
-        m_pContentHandler = new XmlContentHandler(pCallback, document);
+        m_pContentHandler = std::make_shared<XmlContentHandler>(pCallback, document);
         m_bOwnsHandler = true;
-        m_pBoundDocument = document;
+        m_pRun = std::make_shared<ReaderRun>();
     }
-    delete m_pParser;
-    delete m_pNestingGuard;
-    m_pNestingGuard = new NestingGuard(m_pContentHandler);
-    m_pParser = new QXmlSimpleReader;
-    m_pParser->setContentHandler(m_pNestingGuard);
-    m_pParser->setErrorHandler(m_pContentHandler);
+    m_pNestingGuard = std::make_shared<NestingGuard>(m_pContentHandler.get());
+    m_pParser = std::make_shared<QXmlSimpleReader>();
+    m_pParser->setContentHandler(m_pNestingGuard.get());
+    m_pParser->setErrorHandler(m_pContentHandler.get());
 }
 
 QDomNode XMLReader::SearchStartNode(QString name, QDomElement element)
@@ -301,34 +301,95 @@ std::list<QDomNode> XMLReader::SearchNodes(QString name, QDomElement element)
     return *m_pSearchResults;
 }
 
-bool XMLReader::isRefusedWhileParsing() const
+bool XMLReader::isParsing() const
 {
-    if (m_bParsing) {
-        trace(QStringLiteral("XMLReader: Content cannot be set or parsed while it is being parsed!"), "xmlreader",
-              __LINE__);
-    }
-    return m_bParsing;
+    return m_pRun->reader == this;
 }
 
-/// Deletes a document whose content is replaced, unless the content handler still walks it.
-void XMLReader::releaseDocument(QDomDocument* document)
+/// Whether a change of the content comes from inside an event: it is then made when the parse has returned, in the
+/// place of an earlier one.
+bool XMLReader::isPutOff(const std::function<void(XMLReader&)>& change)
 {
-    if (document == m_pBoundDocument) {
-        m_keptDocuments.push_back(document);
-    } else {
-        delete document;
+    if (isParsing()) {
+        m_pRun->setContent = change;
     }
+    return isParsing();
+}
+
+void XMLReader::end(ReaderRun& run)
+{
+    const ReaderRun ended = std::exchange(run, ReaderRun());
+    if (ended.isContentReleased) {
+        ReleaseContent();
+    }
+    if (ended.setContent) {
+        ended.setContent(*this);
+    }
+}
+
+/// The owner of a document that was given by its pointer, maybe a second time.
+std::shared_ptr<QDomDocument> XMLReader::taken(QDomDocument* document)
+{
+    const auto kept = m_keptContent.find(document);
+    if (kept != m_keptContent.end()) {
+        return std::static_pointer_cast<QDomDocument>(kept->second->content);
+    }
+    const std::shared_ptr<QDomDocument> owner(document);
+    keep(owner);
+    return owner;
+}
+
+void XMLReader::setDocument(const std::shared_ptr<QDomDocument>& document)
+{
+    if (isPutOff([document](XMLReader& reader) { reader.setDocument(document); })
+        || (m_bDocument && document == m_pDocument)) {
+        return;
+    }
+    ErasePointerAndSetFlags();
+    if (document) {
+        m_pDocument = document;
+        m_bDocument = true;
+        keep(document);
+        InitHandler(m_pCallback, document.get());
+    }
+}
+
+/// Nodes do not keep their document alive, so what they belong to must stay as long as receivers may hold them.
+void XMLReader::keep(const std::shared_ptr<void>& content)
+{
+    if (content && m_keptContent.count(content.get()) == 0) {
+        const auto leaveItThere = [](KeptContent*) {};
+        m_keptContent.emplace(content.get(), std::shared_ptr<KeptContent>(new KeptContent {content}, leaveItThere));
+    }
+}
+
+bool XMLReader::parseContent()
+{
+    if (m_bDocument) {
+        return parseText(textOf(*m_pDocument));
+    }
+    if (m_bFile) {
+        return parseFile();
+    }
+    if (m_bNode) {
+        return parseText(textOf(*m_pNode));
+    }
+    return m_bFragment && parseText(textOf(*m_pFragment));
 }
 
 bool XMLReader::parseFile()
 {
+    const std::shared_ptr<QFile> file = m_pFile; // an event may assign another reader
     // The input source reads from where the file stands, and leaves it open.
-    m_pFile->close();
-    const bool isPlain = isPlainWithinLimit(*m_pFile);
-    if (isPlain) {
-        return parse(QXmlInputSource(m_pFile));
+    file->close();
+    if (isPlainWithinLimit(*file)) {
+        return parse(QXmlInputSource(file.get()));
     }
-    GuardedSource source(m_pFile);
+    if (m_bLookAgain && lookAt(*file).isTooDeep) {
+        traceNesting();
+        return false;
+    }
+    GuardedSource source(file.get());
     return parseGuarded(source);
 }
 
@@ -348,9 +409,12 @@ bool XMLReader::parseText(const std::optional<QString>& text)
 
 bool XMLReader::parse(const QXmlInputSource& source)
 {
-    const QScopedValueRollback<bool> parsing(m_bParsing, true); // memory may run out
-    const bool isParsed = m_pParser->parse(source);
-    if (m_pNestingGuard->IsExceeded()) {
+    // An event may assign another reader.
+    const std::shared_ptr<XmlContentHandler> handler = m_pContentHandler;
+    const std::shared_ptr<NestingGuard> guard = m_pNestingGuard;
+    const std::shared_ptr<QXmlSimpleReader> parser = m_pParser;
+    const bool isParsed = parser->parse(source);
+    if (guard->IsExceeded()) {
         traceNesting();
     }
     return isParsed;
@@ -358,8 +422,9 @@ bool XMLReader::parse(const QXmlInputSource& source)
 
 bool XMLReader::parseGuarded(GuardedSource& source)
 {
-    source.Watch(*m_pParser);
-    const auto leave = qScopeGuard([&] { source.Leave(*m_pParser); });
+    const std::shared_ptr<QXmlSimpleReader> parser = m_pParser;
+    source.Watch(*parser);
+    const auto leave = qScopeGuard([&] { source.Leave(*parser); });
     const bool isParsed = parse(source);
     if (!source.GetRefusal().isEmpty()) {
         trace(source.GetRefusal(), "xmlreader", __LINE__);
@@ -391,6 +456,5 @@ QDomNode XMLReader::topNode() const
 
 void XMLReader::renewResults()
 {
-    delete m_pSearchResults;
-    m_pSearchResults = new std::list<QDomNode>;
+    m_pSearchResults = std::make_shared<std::list<QDomNode>>();
 }
