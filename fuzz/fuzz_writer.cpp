@@ -87,6 +87,7 @@ private:
     XMLWriter m_writer;
     QString m_root;
     QStringList m_lines; ///< of what has been written, which is in document order
+    bool m_bTreeWritten = false; ///< nothing of the tree was left out for its name
 };
 
 void Script::act()
@@ -129,8 +130,9 @@ void Script::writeTree()
         if (isWritten) {
             m_lines << lineOf(tree.GetName(), QString());
         }
+        m_bTreeWritten = isWritten;
         growTree(&tree, 3, isWritten);
-        require(m_writer.CreateElementsFromNode(&tree) == isWritten, "a tree is written that has a name");
+        require(m_writer.CreateElementsFromNode(&tree) == m_bTreeWritten, "a tree is written whose items have names");
         require(m_writer.GoToXmlParent() || !isXmlName(m_root), "a tree leaves the cursor in place");
     }
 }
@@ -143,6 +145,7 @@ void Script::growTree(Node* node, int levels, bool isWritten)
         if (m_input.Choice(3) == 0 && levels > 0) {
             auto* const branch = new Node(name(), node);
             const bool isBranchWritten = isWritten && isXmlName(branch->GetName());
+            m_bTreeWritten = m_bTreeWritten && isBranchWritten;
             if (isBranchWritten) {
                 m_lines << lineOf(branch->GetName(), QString());
             }
@@ -152,6 +155,7 @@ void Script::growTree(Node* node, int levels, bool isWritten)
         } else {
             auto* const value = new ValueText(name(), m_input.Line());
             new ValueItem(value, node);
+            m_bTreeWritten = m_bTreeWritten && isXmlName(value->GetName());
             if (isWritten && isXmlName(value->GetName())) {
                 m_lines << lineOf(value->GetName(), value->GetText());
             }

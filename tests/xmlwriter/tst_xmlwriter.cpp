@@ -75,6 +75,8 @@ private Q_SLOTS:
     void writesAValueWithoutTextAsAnEmptyElement();
     void leavesOutItemsWithoutValue();
     void leavesOutItemsThatAreNeitherValueNorNode();
+    void saysThatItLeftItemsOut_data();
+    void saysThatItLeftItemsOut();
     void comesBackFromTheNode();
     void writesTheTextOfEveryKindOfValue();
     void refusesToMirrorNull();
@@ -673,6 +675,48 @@ void TestXmlWriter::leavesOutItemsThatAreNeitherValueNorNode()
     QVERIFY(begin(writer));
     QVERIFY(writer.CreateElementsFromNode(&node));
     QCOMPARE(saved(writer), QStringLiteral("<r>\n    <n>\n        <v>x</v>\n        <w>y</w>\n    </n>\n</r>\n"));
+}
+
+void TestXmlWriter::saysThatItLeftItemsOut_data()
+{
+    QTest::addColumn<QString>("valueName");
+    QTest::addColumn<QString>("nodeName");
+    QTest::addColumn<bool>("isComplete");
+    QTest::addColumn<QString>("written");
+
+    const QString value = QStringLiteral("Level");
+    const QString node = QStringLiteral("Mode");
+    const QString invalid = QStringLiteral("1st mode");
+    const QString writtenNode = QStringLiteral("<Mode><below>x</below></Mode>");
+    const QString writtenValue = QStringLiteral("<Level>x</Level>");
+    QTest::newRow("nothing-left-out") << value << node << true << writtenValue + writtenNode;
+    QTest::newRow("value-left-out-for-its-name") << invalid << node << false << writtenNode;
+    QTest::newRow("value-without-name-left-out") << QString() << node << false << writtenNode;
+    QTest::newRow("node-left-out-for-its-name") << value << invalid << false << writtenValue;
+}
+
+/// Two levels down, between items that are mirrored.
+void TestXmlWriter::saysThatItLeftItemsOut()
+{
+    QFETCH(QString, valueName);
+    QFETCH(QString, nodeName);
+    QFETCH(bool, isComplete);
+    QFETCH(QString, written);
+    Node node(QStringLiteral("n"), nullptr);
+    auto* const inner = new Node(QStringLiteral("in"), &node);
+    addText(*inner, valueName, QStringLiteral("x"));
+    addText(*new Node(nodeName, inner), QStringLiteral("below"), QStringLiteral("x\x01"));
+    new TreeItem(QStringLiteral("1 plain item"), inner);
+    new ValueItem(nullptr, inner);
+    addText(node, QStringLiteral("behind"), QStringLiteral("y"));
+    XMLWriter writer;
+    QVERIFY(begin(writer));
+    QVERIFY(enter(writer, "a"));
+    QCOMPARE(writer.CreateElementsFromNode(&node), isComplete);
+    // The cursor has come back.
+    QVERIFY(writer.SetXmlAttribute(QStringLiteral("k"), QStringLiteral("v")));
+    QCOMPARE(saved(writer).remove(QLatin1Char('\n')).remove(QStringLiteral("  ")),
+             QStringLiteral("<r><a k=\"v\"><n><in>%1</in><behind>y</behind></n></a></r>").arg(written));
 }
 
 void TestXmlWriter::comesBackFromTheNode()

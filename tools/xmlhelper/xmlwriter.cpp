@@ -104,16 +104,17 @@ bool XMLWriter::CreateElementsFromNode(Node* node)
     if (!node || !CreateXmlElement(node->GetName(), QString(), true)) {
         return false;
     }
+    bool isComplete = true;
     for (TreeItem* const item : node->GetTreeItems()) {
-        const auto* const valueItem = dynamic_cast<const ValueItem*>(item);
-        if (!valueItem) {
-            CreateElementsFromNode(dynamic_cast<Node*>(item));
-        } else if (const ValueBase* const value = valueItem->GetValueObject()) {
-            CreateXmlElement(value->GetName(), value->GetText(), false);
+        if (const auto* const valueItem = dynamic_cast<const ValueItem*>(item)) {
+            const ValueBase* const value = valueItem->GetValueObject();
+            isComplete = (!value || CreateXmlElement(value->GetName(), value->GetText(), false)) && isComplete;
+        } else if (auto* const nodeBelow = dynamic_cast<Node*>(item)) {
+            isComplete = CreateElementsFromNode(nodeBelow) && isComplete;
         }
     }
     GoToXmlParent();
-    return true;
+    return isComplete;
 }
 
 /// Whether the current element is not nested too deep to have a child. Traces when it is.

@@ -16,7 +16,8 @@ class QFile;
 /// appends below the cursor and may enter the new element, SetXmlAttribute() works on the cursor, GoToXmlParent()
 /// leaves it. SaveXmlFile() may be called as often as the document changes.
 ///
-/// Operations report failure by false; a failed one leaves document and cursor as they were. Every file that is written
+/// Operations report failure by false; a failed one leaves document and cursor as they were, but that a value tree is
+/// written as far as it can be. Every file that is written
 /// is well-formed W3C XML 1.0: names that it does not allow and elements nested deeper than 512 levels are refused, and
 /// of texts the characters that it cannot carry (control characters, halves of surrogate pairs, U+FFFE, U+FFFF) are
 /// dropped. Both is traced. Of the names that its fifth edition allows, Qt's own parsers, and so XMLReader, do not know
@@ -70,11 +71,11 @@ public:
     bool SaveXmlFile();
 
     /// Appends the values of a value-tree node below the current element: an element for the node and, in order, one
-    /// with its text for each value and one for each node below. Items without a value, items that are neither value
-    /// nor node, and values and whole nodes whose name or nesting is refused are left out.
+    /// with its text for each value and one for each node below. Items without a value and items that are neither value
+    /// nor node are skipped. Values and whole nodes whose name or nesting is refused are left out, the others written.
     /// @param node  not owned, only read
-    /// @return false for null, without a document, when the current element ends with a text, and for a node that is
-    ///         refused
+    /// @return false for null, without a document, when the current element ends with a text, for a node that is
+    ///         refused, and when anything was left out
     bool CreateElementsFromNode(Node* node);
 
 private:
