@@ -42,6 +42,12 @@ struct Reading
         observer = CountingObserver();
         reader = std::make_unique<XMLReader>(&observer, nullptr);
     }
+
+    void drop()
+    {
+        reader->ReleaseContent();
+        reader.reset();
+    }
 };
 
 QString checkReading(const Reading& reading, int elements)
@@ -74,7 +80,7 @@ Contest readFile(const Workspace& workspace, int bytes)
                  reading->reader->SetXmlContent(path);
                  reading->isRead = reading->reader->ParseXml();
              },
-             [reading] { reading->reader.reset(); }},
+             [reading] { reading->drop(); }},
             {{},
              [reading, path] {
                  QFile file(path);
@@ -97,7 +103,7 @@ Contest readDocument(const Workspace&, int bytes)
                  reading->renew();
                  reading->reader->SetXmlContent(document);
              },
-             [reading] { reading->isRead = reading->reader->ParseXml(); }, [reading] { reading->reader.reset(); }},
+             [reading] { reading->isRead = reading->reader->ParseXml(); }, [reading] { reading->drop(); }},
             {{},
              [reading, document] {
                  QXmlInputSource source;
