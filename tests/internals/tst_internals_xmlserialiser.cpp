@@ -1,0 +1,305 @@
+#include <QtTest>
+
+#include <ctime>
+
+#include <QBuffer>
+#include <QTextStream>
+
+#include <xmlhelper/limits_p.h>
+#include <xmlhelper/xmlserialiser_p.h>
+
+#include "domtext.h"
+#include "randomdocument.h"
+#include "randomtree.h"
+#include "tracecollector.h"
+
+class TestXmlSerialiser : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void savesWhatQtSaves_data();
+    void savesWhatQtSaves();
+    void savesRandomDocumentsAsQtDoes();
+    void savesLongTextsAsQtDoes_data();
+    void savesLongTextsAsQtDoes();
+    void savesNothingOfANullNode();
+    void stopsAtTheLimit();
+    void countsEveryByte();
+    void stopsWhenTheDeviceFails();
+    void savesAnyDepth();
+    void takesATimeThatGrowsWithTheText_data();
+    void takesATimeThatGrowsWithTheText();
+    void writesSmallPieces();
+};
+
+namespace {
+
+QString savedByQt(const QDomNode& node, int indent)
+{
+    QString text;
+    QTextStream stream(&text);
+    node.save(stream, indent);
+    stream.flush();
+    return text;
+}
+
+QString savedByTheLibrary(const QDomNode& node, int indent)
+{
+    QString text;
+    QTextStream stream(&text);
+    return serialise(node, stream, indent) ? text : QStringLiteral("not whole");
+}
+
+QByteArray bytesByQt(const QDomNode& node)
+{
+    QByteArray bytes;
+    QTextStream stream(&bytes);
+    node.save(stream, 4);
+    stream.flush();
+    return bytes;
+}
+
+QByteArray bytesByTheLibrary(const QDomNode& node)
+{
+    QByteArray bytes;
+    QTextStream stream(&bytes);
+    return serialise(node, stream, 4) ? bytes : QByteArray("not whole");
+}
+
+/// Takes everything and remembers how much of it came at once.
+class PieceMeter : public QIODevice
+{
+public:
+    PieceMeter() { setOpenMode(WriteOnly | Unbuffered); }
+
+    qint64 longest = 0;
+
+private:
+    qint64 readData(char*, qint64) override { return -1; }
+    qint64 writeData(const char*, qint64 size) override
+    {
+        longest = std::max(longest, size);
+        return size;
+    }
+};
+
+int numberOf(const char* variable, int otherwise)
+{
+    bool isNumber = false;
+    const int number = qEnvironmentVariableIntValue(variable, &isNumber);
+    return isNumber ? number : otherwise;
+}
+
+/// Whether both save @p node alike, and in which words they do not.
+QString differenceAt(const QDomNode& node, int indent)
+{
+    const QString expected = savedByQt(node, indent);
+    const QString saved = savedByTheLibrary(node, indent);
+    return saved == expected
+        ? QString()
+        : QStringLiteral("indent %1\nby Qt:\n%2\nby the library:\n%3").arg(indent).arg(expected, saved);
+}
+
+/// The first difference below @p top, of the whole and of each node by itself.
+QString firstDifferenceIn(const QDomNode& top)
+{
+    for (const int indent : {0, 1, 4, -1}) {
+        const QString difference = differenceAt(top, indent);
+        if (!difference.isEmpty()) {
+            return difference;
+        }
+    }
+    int indent = 0;
+    for (const QDomNode& node : nodesOf(top)) {
+        const QString difference = differenceAt(node, indent++ % 6 - 1);
+        if (!difference.isEmpty()) {
+            return difference;
+        }
+    }
+    return QString();
+}
+
+/// The parts of a document that hang in no list of children.
+std::vector<QDomNode> partsBesideTheTree(const QDomDocument& document)
+{
+    const QDomDocumentType type = document.doctype();
+    std::vector<QDomNode> parts {type};
+    for (const QDomNamedNodeMap& map : {type.entities(), type.notations(), document.documentElement().attributes()}) {
+        for (int i = 0; i < map.count(); ++i) {
+            parts.push_back(map.item(i));
+        }
+    }
+    return parts;
+}
+
+} // namespace
+
+void TestXmlSerialiser::savesWhatQtSaves_data()
+{
+    QTest::addColumn<QString>("xml");
+    QTest::newRow("empty-element") << QStringLiteral("<r/>");
+    QTest::newRow("declaration-only") << QStringLiteral("<?xml version='1.0' encoding='UTF-8'?>");
+    QTest::newRow("children-and-texts") << QStringLiteral("<r><a>x</a><b/>text<c><d/></c>text</r>");
+    QTest::newRow("comments-and-instructions")
+        << QStringLiteral("<!--c--><?p d?><r>x<!--c--><?p d?>y<!--c--></r><!--c-->");
+    QTest::newRow("sections") << QStringLiteral("<r><![CDATA[<&>]]><a/><![CDATA[x]]></r>");
+    QTest::newRow("escapes") << QStringLiteral(
+        "<r k='&lt;&gt;&amp;&quot;&apos;&#10;&#13;&#9;'>&lt;&gt;&amp;\"'&#13;]]&gt;</r>");
+    QTest::newRow("document-type") << QStringLiteral("<!DOCTYPE r PUBLIC 'p' 's' [<!NOTATION n SYSTEM 's'>"
+                                                     "<!ENTITY e SYSTEM 's' NDATA n>]><r/>");
+    QTest::newRow("many-attributes-of-a-leaf") << QStringLiteral("<r><a/></r>");
+}
+
+void TestXmlSerialiser::savesWhatQtSaves()
+{
+    QFETCH(QString, xml);
+    QDomDocument document;
+    document.setContent(xml);
+    QDomElement leaf = document.documentElement().firstChildElement();
+    for (int i = 0; i < 2000; ++i) {
+        leaf.setAttribute(QStringLiteral("name%1").arg(i), QStringLiteral("<value> \"%1\"").arg(i));
+    }
+    QCOMPARE(firstDifferenceIn(document), QString());
+}
+
+void TestXmlSerialiser::savesRandomDocumentsAsQtDoes()
+{
+    const auto seed = static_cast<unsigned>(numberOf("XMLHELPER_SERIALISER_SEED", 1));
+    const int documents = numberOf("XMLHELPER_SERIALISER_DOCUMENTS", 3000);
+    for (int i = 0; i < documents; ++i) {
+        const unsigned ownSeed = seed + static_cast<unsigned>(i);
+        RandomDocument random(ownSeed);
+        QDomDocument document = random.Make();
+        QString difference = firstDifferenceIn(document);
+        for (const QDomNode& part : partsBesideTheTree(document)) {
+            difference += differenceAt(part, 4);
+        }
+        difference += bytesByTheLibrary(document) == bytesByQt(document) ? QString() : QStringLiteral("other bytes");
+        difference += firstDifferenceIn(random.TakeFragment(document));
+        QVERIFY2(difference.isEmpty(),
+                 qPrintable(QStringLiteral("XMLHELPER_SERIALISER_SEED=%1: %2").arg(ownSeed).arg(difference)));
+    }
+}
+
+void TestXmlSerialiser::savesLongTextsAsQtDoes_data()
+{
+    QTest::addColumn<QString>("text");
+    // Behind what comes before the text, the first piece ends in the middle of these.
+    const int piece = 32 * 1024;
+    for (int before = piece - 12; before <= piece; ++before) {
+        const QString plain(before, QLatin1Char('x'));
+        QTest::addRow("surrogate-pairs-behind-%d", before) << plain + QString::fromUtf8("\xF0\x9F\x98\x80").repeated(3);
+        QTest::addRow("ends-of-sections-behind-%d", before) << plain + QStringLiteral("]]>").repeated(9);
+    }
+    QTest::newRow("three-pieces") << QStringLiteral("<&\r ]]>").repeated(3 * piece / 7);
+}
+
+void TestXmlSerialiser::savesLongTextsAsQtDoes()
+{
+    QFETCH(QString, text);
+    QDomDocument document = documentOf(QStringLiteral("<r/>"));
+    document.documentElement().appendChild(document.createTextNode(text));
+    document.documentElement().setAttribute(QStringLiteral("k"), text);
+    QCOMPARE(savedByTheLibrary(document, 4), savedByQt(document, 4));
+}
+
+void TestXmlSerialiser::savesNothingOfANullNode()
+{
+    QCOMPARE(savedByTheLibrary(QDomNode(), 4), QString());
+    QCOMPARE(savedByTheLibrary(QDomDocument(), 4), QString());
+}
+
+void TestXmlSerialiser::stopsAtTheLimit()
+{
+    const QDomDocument document
+        = documentOf(QStringLiteral("<r>%1</r>").arg(QStringLiteral("<a>x</a>").repeated(50000)));
+    Limits limits;
+    limits.savedBytes = 100000;
+    const LimitsInForce inForce(limits);
+    QString text;
+    QTextStream stream(&text);
+    const TraceCollector traces;
+    QVERIFY(!serialise(document, stream, 4));
+    QCOMPARE(traces.Messages(), QStringLiteral("Documents that are saved as more than 100000 bytes are refused!"));
+    QVERIFY2(text.size() > 100000 && text.size() < 200000, qPrintable(QString::number(text.size())));
+}
+
+void TestXmlSerialiser::countsEveryByte()
+{
+    const QDomDocument document = documentOf(QStringLiteral("<r>\u20AC</r>"));
+    Limits limits;
+    for (const bool isEnough : {true, false}) {
+        limits.savedBytes = bytesByQt(document).size() - (isEnough ? 0 : 1);
+        const LimitsInForce inForce(limits);
+        QCOMPARE(bytesByTheLibrary(document) != "not whole", isEnough);
+    }
+}
+
+void TestXmlSerialiser::stopsWhenTheDeviceFails()
+{
+    QBuffer readOnly;
+    QVERIFY(readOnly.open(QIODevice::ReadOnly));
+    QTextStream stream(&readOnly);
+    QTest::ignoreMessage(QtWarningMsg, "QIODevice::write (QBuffer): ReadOnly device");
+    QVERIFY(!serialise(documentOf(QStringLiteral("<r/>")), stream, 4));
+}
+
+void TestXmlSerialiser::savesAnyDepth()
+{
+    constexpr int Levels = 100000;
+    QDomDocument document;
+    std::vector<QDomElement> elements {document.createElement(QStringLiteral("e"))};
+    while (elements.size() < Levels) {
+        elements.push_back(document.createElement(QStringLiteral("e")));
+        elements.back().appendChild(elements[elements.size() - 2]); // Qt looks at all ancestors of the new parent.
+    }
+    document.appendChild(elements.back());
+    const QString text = savedByTheLibrary(document, 0);
+    QCOMPARE(text.count(QStringLiteral("<e>")), Levels - 1);
+    QCOMPARE(text.count(QStringLiteral("</e>")), Levels - 1);
+    // Qt recurses over the levels when it deletes them, so they are taken apart first.
+    for (; !elements.empty(); elements.pop_back()) {
+        elements.back().parentNode().removeChild(elements.back());
+    }
+}
+
+void TestXmlSerialiser::takesATimeThatGrowsWithTheText_data()
+{
+    QTest::addColumn<bool>("isAttribute");
+    QTest::newRow("text") << false;
+    QTest::newRow("attribute") << true;
+}
+
+void TestXmlSerialiser::takesATimeThatGrowsWithTheText()
+{
+    QFETCH(bool, isAttribute);
+    // For a million characters Qt needs more than ten seconds.
+    QDomDocument document = documentOf(QStringLiteral("<r/>"));
+    const QString text(4000000, QLatin1Char('<'));
+    if (isAttribute) {
+        document.documentElement().setAttribute(QStringLiteral("k"), text);
+    } else {
+        document.documentElement().appendChild(document.createTextNode(text));
+    }
+    const std::clock_t begin = std::clock();
+    const QByteArray bytes = bytesByTheLibrary(document);
+    const double seconds = double(std::clock() - begin) / CLOCKS_PER_SEC;
+    QVERIFY(bytes.size() > 4 * text.size());
+    QVERIFY2(seconds < 5, qPrintable(QString::number(seconds)));
+}
+
+void TestXmlSerialiser::writesSmallPieces()
+{
+    QDomDocument document = documentOf(QStringLiteral("<r/>"));
+    const QString text(1000000, QLatin1Char('<'));
+    document.documentElement().setAttribute(QStringLiteral("k"), text);
+    document.documentElement().appendChild(document.createComment(text));
+    PieceMeter meter;
+    QTextStream stream(&meter);
+    QVERIFY(serialise(document, stream, 4));
+    QVERIFY2(meter.longest > 1000 && meter.longest <= 64 * 1024, qPrintable(QString::number(meter.longest)));
+}
+
+QTEST_GUILESS_MAIN(TestXmlSerialiser)
+#include "tst_internals_xmlserialiser.moc"

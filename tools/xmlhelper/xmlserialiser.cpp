@@ -1,0 +1,549 @@
+#include "xmlserialiser_p.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include <QDomDocument>
+#include <QSet>
+#include <QTextStream>
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+#include <QTextCodec>
+#endif
+
+#include "domattributes.h"
+#include "limits_p.h"
+#include "tracing.h"
+
+namespace {
+
+constexpr int PieceLength = 32 * 1024;
+
+/// With this indent Qt writes no line ends behind elements.
+constexpr int NoLines = -1;
+
+/// What Qt replaces by references, depending on the place of a text.
+enum class Place { Text, TextOutsideOfElements, AttributeValue, NamespaceName };
+
+/// Gives characters to a stream in pieces, as long as it takes them.
+class Pieces
+{
+public:
+    explicit Pieces(QTextStream& stream)
+        : m_stream(stream)
+        , m_piece(PieceLength, Qt::Uninitialized)
+        , m_pBegin(m_piece.data())
+        , m_pEnd(m_pBegin)
+    {
+    }
+
+    void Put(char character)
+    {
+        *m_pEnd++ = QLatin1Char(character);
+        if (m_pEnd == m_pBegin + PieceLength) {
+            Flush();
+        }
+    }
+
+    void Put(QLatin1String text) { std::for_each(text.begin(), text.end(), [this](char c) { Put(c); }); }
+
+    void Put(const QChar* text, qsizetype length)
+    {
+        while (length > 0) {
+            const qsizetype part = std::min(length, static_cast<qsizetype>(m_pBegin + PieceLength - m_pEnd));
+            m_pEnd = std::copy_n(text, part, m_pEnd);
+            text += part;
+            length -= part;
+            if (m_pEnd == m_pBegin + PieceLength) {
+                Flush();
+            }
+        }
+    }
+
+    void Flush()
+    {
+        if (m_isTaken) {
+            m_stream << QStringView(m_pBegin, m_pEnd);
+            m_stream.flush();
+            m_isTaken = m_stream.status() == QTextStream::Ok && isWithinLimit();
+        }
+        m_pEnd = m_pBegin;
+    }
+
+    bool IsTaken() const { return m_isTaken; }
+
+private:
+    bool isWithinLimit() const
+    {
+        const qint64 written = m_stream.string() ? qint64(m_stream.string()->size()) : m_stream.device()->pos();
+        if (written > limits().savedBytes) {
+            trace(
+                QStringLiteral("Documents that are saved as more than %1 bytes are refused!").arg(limits().savedBytes),
+                "xmlserialiser", __LINE__);
+        }
+        return written <= limits().savedBytes;
+    }
+
+    QTextStream& m_stream;
+    QString m_piece;
+    QChar* const m_pBegin;
+    QChar* m_pEnd;
+    bool m_isTaken = true;
+};
+
+/// The reference that stands for @p character at @p place, empty when it stands for itself.
+QLatin1String referenceFor(QChar character, Place place, bool isEndOfSection)
+{
+    switch (character.unicode()) {
+    case '<':
+        return QLatin1String("&lt;");
+    case '&':
+        return QLatin1String("&amp;");
+    case '>':
+        return isEndOfSection ? QLatin1String("&gt;") : QLatin1String();
+    case '"':
+        return place == Place::Text ? QLatin1String() : QLatin1String("&quot;");
+    case '\r':
+        return place == Place::NamespaceName ? QLatin1String() : QLatin1String("&#xd;");
+    case '\n':
+        return place == Place::AttributeValue ? QLatin1String("&#xa;") : QLatin1String();
+    case '\t':
+        return place == Place::AttributeValue ? QLatin1String("&#x9;") : QLatin1String();
+    default:
+        return QLatin1String();
+    }
+}
+
+/// What a stream can write. Qt 5 has references written for the other characters.
+class Encoding
+{
+public:
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    explicit Encoding(const QTextStream& stream)
+        : m_codec(isUnicode(*stream.codec()) ? nullptr : stream.codec())
+    {
+    }
+
+    bool HasAll() const
+    {
+        return !m_codec;
+    }
+    bool Has(QChar character) const
+    {
+        return !m_codec || m_codec->canEncode(character);
+    }
+
+private:
+    static bool isUnicode(const QTextCodec& codec)
+    {
+        return codec.name().startsWith("UTF-");
+    }
+
+    const QTextCodec* const m_codec;
+#else
+    explicit Encoding(const QTextStream&) { }
+
+    bool HasAll() const
+    {
+        return true;
+    }
+    bool Has(QChar) const
+    {
+        return true;
+    }
+#endif
+};
+
+/// Qt finds the encoding that a document declares when it saves its declaration.
+void useDeclaredEncoding(QTextStream& stream, const QDomNode& document)
+{
+    QDomDocument declaring {QString()};
+    declaring.appendChild(declaring.importNode(document.firstChild().toProcessingInstruction(), false));
+    QString declaration;
+    QTextStream declared(&declaration);
+    declaring.save(declared, 0);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    stream.setCodec(declared.codec());
+#else
+    stream.setEncoding(declared.encoding());
+#endif
+}
+
+bool isDeclaration(const QDomNode& node)
+{
+    return node.isProcessingInstruction() && node.nodeName() == QLatin1String("xml");
+}
+
+/// The name of an element or attribute without its prefix. Nodes that were made without a thought of namespaces have
+/// one name only.
+QString plainName(const QDomNode& node)
+{
+    const QString localName = node.localName();
+    return localName.isNull() ? node.nodeName() : localName;
+}
+
+class Serialiser
+{
+public:
+    Serialiser(QTextStream& stream, int indent)
+        : m_indent(indent)
+        , m_pieces(stream)
+        , m_encoding(stream)
+    {
+    }
+
+    bool Save(const QDomNode& top);
+
+private:
+    struct OpenElement
+    {
+        QString name;
+        QDomNode next;
+        bool isBeforeText;
+    };
+
+    void saveSiblings(QDomNode node, bool isAlone);
+    QDomNode saveNode(const QDomNode& node, const QDomNode& next, bool isBeforeText);
+    QDomNode closeElement();
+    void putLeaf(const QDomNode& node, bool isBeforeText);
+    void putComment(const QString& comment, bool isBeforeText);
+    QString putStartOfTag(const QDomNode& element);
+    void putAttributes(const QDomElement& element);
+    void putAttribute(const QDomNode& attribute, const QDomNode& owner, QSet<QString>& declaredPrefixes);
+    void putType(const QDomDocumentType& type);
+    void putEntity(const QDomEntity& entity);
+    void putNotation(const QDomNotation& notation);
+    void putEntityValue(const QString& value);
+    void putIndent();
+    void putLineEnd(bool isBeforeText);
+    void putEscaped(const QString& text, Place place);
+    void putQuoted(const QString& text);
+    void put(const QString& text) { m_pieces.Put(text.constData(), text.size()); }
+    void put(QLatin1String text) { m_pieces.Put(text); }
+    void put(char character) { m_pieces.Put(character); }
+    template <class First, class... Others> void put(const First& first, const Others&... others)
+    {
+        put(first);
+        put(others...);
+    }
+
+    const int m_indent;
+    Pieces m_pieces;
+    const Encoding m_encoding;
+    QDomDocumentType m_type;
+    int m_topDepth = 1;
+    bool m_isBehindText = false;
+    std::vector<OpenElement> m_open;
+};
+
+bool Serialiser::Save(const QDomNode& top)
+{
+    if (top.isDocument()) {
+        m_topDepth = 0;
+        m_type = top.toDocument().doctype();
+    }
+    if (top.isDocument() || top.isDocumentFragment()) {
+        saveSiblings(top.firstChild(), false);
+    } else {
+        m_isBehindText = top.previousSibling().isText();
+        saveSiblings(top, true);
+    }
+    m_pieces.Flush();
+    return m_pieces.IsTaken();
+}
+
+void Serialiser::saveSiblings(QDomNode node, bool isAlone)
+{
+    while (!node.isNull() && m_pieces.IsTaken()) {
+        if (!m_type.isNull() && m_open.empty() && !isDeclaration(node)) {
+            putType(std::exchange(m_type, QDomDocumentType()));
+        }
+        const QDomNode next = node.nextSibling();
+        node = saveNode(node, isAlone && m_open.empty() ? QDomNode() : next, next.isText());
+        while (node.isNull() && !m_open.empty()) {
+            node = closeElement();
+        }
+    }
+}
+
+/// Gives the node to go on with, which is @p next or the first child.
+QDomNode Serialiser::saveNode(const QDomNode& node, const QDomNode& next, bool isBeforeText)
+{
+    if (!node.isElement()) {
+        putLeaf(node, isBeforeText);
+        m_isBehindText = node.isText();
+        return next;
+    }
+    const QString name = putStartOfTag(node);
+    const QDomNode child = node.firstChild();
+    if (child.isNull()) {
+        put(QLatin1String("/>"));
+        putLineEnd(isBeforeText);
+    } else {
+        put('>');
+        putLineEnd(child.isText());
+        m_open.push_back({name, next, isBeforeText});
+    }
+    m_isBehindText = false;
+    return child.isNull() ? next : child;
+}
+
+/// Gives the node behind the innermost open element, of which all has been saved.
+QDomNode Serialiser::closeElement()
+{
+    const OpenElement element = std::move(m_open.back());
+    m_open.pop_back();
+    if (!m_isBehindText) {
+        putIndent();
+    }
+    put(QLatin1String("</"), element.name, '>');
+    putLineEnd(element.isBeforeText);
+    m_isBehindText = false;
+    return element.next;
+}
+
+void Serialiser::putLeaf(const QDomNode& node, bool isBeforeText)
+{
+    switch (node.nodeType()) {
+    case QDomNode::TextNode:
+        putEscaped(node.nodeValue(), node.parentNode().isElement() ? Place::Text : Place::TextOutsideOfElements);
+        break;
+    case QDomNode::CDATASectionNode:
+        put(QLatin1String("<![CDATA["), node.nodeValue(), QLatin1String("]]>"));
+        break;
+    case QDomNode::CommentNode:
+        putComment(node.nodeValue(), isBeforeText);
+        break;
+    case QDomNode::ProcessingInstructionNode:
+        put(QLatin1String("<?"), node.nodeName(), ' ', node.nodeValue(), QLatin1String("?>\n"));
+        break;
+    case QDomNode::EntityReferenceNode:
+        put('&', node.nodeName(), ';');
+        break;
+    case QDomNode::AttributeNode: {
+        QSet<QString> declaredPrefixes;
+        putAttribute(node, node.parentNode(), declaredPrefixes);
+        break;
+    }
+    case QDomNode::DocumentTypeNode:
+        putType(node.toDocumentType());
+        break;
+    case QDomNode::EntityNode:
+        putEntity(node.toEntity());
+        break;
+    case QDomNode::NotationNode:
+        putNotation(node.toNotation());
+        break;
+    default:
+        break;
+    }
+}
+
+void Serialiser::putComment(const QString& comment, bool isBeforeText)
+{
+    if (!m_isBehindText) {
+        putIndent();
+    }
+    put(QLatin1String("<!--"), comment);
+    if (comment.endsWith(QLatin1Char('-'))) {
+        put(' ');
+    }
+    put(QLatin1String("-->"));
+    if (!isBeforeText) {
+        put('\n');
+    }
+}
+
+/// Gives the name for the tag at the end of the element.
+QString Serialiser::putStartOfTag(const QDomNode& element)
+{
+    if (!m_isBehindText) {
+        putIndent();
+    }
+    QString name = plainName(element);
+    const QString namespaceName = element.namespaceURI();
+    const QString prefix = namespaceName.isNull() ? QString() : element.prefix();
+    if (!prefix.isEmpty()) {
+        name.prepend(prefix + QLatin1Char(':'));
+    }
+    put('<', name);
+    if (!namespaceName.isNull()) {
+        put(QLatin1String(prefix.isEmpty() ? " xmlns" : " xmlns:"), prefix, QLatin1String("=\""));
+        putEscaped(namespaceName, Place::NamespaceName);
+        put('"');
+    }
+    putAttributes(element.toElement());
+    return name;
+}
+
+void Serialiser::putAttributes(const QDomElement& element)
+{
+    QSet<QString> declaredPrefixes;
+    for (const QDomAttr& attribute : attributesOf(element)) {
+        put(' ');
+        putAttribute(attribute, attribute.parentNode(), declaredPrefixes);
+    }
+}
+
+/// A prefix is declared with the first of the attributes that have it, unless that of their element is the same.
+void Serialiser::putAttribute(const QDomNode& attribute, const QDomNode& owner, QSet<QString>& declaredPrefixes)
+{
+    const QString namespaceName = attribute.namespaceURI();
+    const QString prefix = attribute.prefix();
+    if (!namespaceName.isNull()) {
+        put(prefix, ':');
+    }
+    put(plainName(attribute), QLatin1String("=\""));
+    putEscaped(attribute.nodeValue(), Place::AttributeValue);
+    put('"');
+    if (!namespaceName.isNull() && owner.prefix() != prefix && !declaredPrefixes.contains(prefix)) {
+        put(QLatin1String(" xmlns:"), prefix, QLatin1String("=\""));
+        putEscaped(namespaceName, Place::AttributeValue);
+        put('"');
+        declaredPrefixes.insert(prefix);
+    }
+}
+
+void Serialiser::putType(const QDomDocumentType& type)
+{
+    if (type.name().isEmpty()) {
+        return;
+    }
+    put(QLatin1String("<!DOCTYPE "), type.name());
+    if (!type.publicId().isNull()) {
+        put(QLatin1String(" PUBLIC "));
+        putQuoted(type.publicId());
+    }
+    if (!type.systemId().isNull()) {
+        put(QLatin1String(type.publicId().isNull() ? " SYSTEM " : " "));
+        putQuoted(type.systemId());
+    }
+    const QDomNamedNodeMap notations = type.notations();
+    const QDomNamedNodeMap entities = type.entities();
+    if (notations.count() > 0 || entities.count() > 0) {
+        put(QLatin1String(" [\n"));
+        for (int i = 0; i < notations.count(); ++i) {
+            putNotation(notations.item(i).toNotation());
+        }
+        for (int i = 0; i < entities.count(); ++i) {
+            putEntity(entities.item(i).toEntity());
+        }
+        put(']');
+    }
+    put(QLatin1String(">\n"));
+}
+
+void Serialiser::putEntity(const QDomEntity& entity)
+{
+    const QString name = entity.nodeName();
+    const bool isParameter = name.startsWith(QLatin1Char('%'));
+    put(QLatin1String("<!ENTITY "), isParameter ? QLatin1String("% ") : QLatin1String(), name.mid(isParameter ? 1 : 0));
+    put(' ');
+    if (entity.systemId().isNull() && entity.publicId().isNull()) {
+        putEntityValue(entity.nodeValue());
+    } else if (entity.publicId().isNull()) {
+        put(QLatin1String("SYSTEM "));
+        putQuoted(entity.systemId());
+    } else {
+        put(QLatin1String("PUBLIC "));
+        putQuoted(entity.publicId());
+        put(' ');
+        putQuoted(entity.systemId());
+    }
+    if (!entity.notationName().isNull()) {
+        put(QLatin1String(" NDATA "), entity.notationName());
+    }
+    put(QLatin1String(">\n"));
+}
+
+void Serialiser::putNotation(const QDomNotation& notation)
+{
+    put(QLatin1String("<!NOTATION "), notation.nodeName(), ' ');
+    if (!notation.publicId().isNull()) {
+        put(QLatin1String("PUBLIC "));
+        putQuoted(notation.publicId());
+        if (!notation.systemId().isNull()) {
+            put(' ');
+            putQuoted(notation.systemId());
+        }
+    } else {
+        put(QLatin1String("SYSTEM "));
+        putQuoted(notation.systemId());
+    }
+    put(QLatin1String(">\n"));
+}
+
+/// Qt writes the reference of another character for a percent sign.
+void Serialiser::putEntityValue(const QString& value)
+{
+    put('"');
+    for (int i = 0; i < value.size(); ++i) {
+        const QChar character = value.at(i);
+        if (character == QLatin1Char('%')) {
+            put(QLatin1String("&#60;"));
+        } else if (character == QLatin1Char('"')) {
+            put(QLatin1String("&#34;"));
+        } else if (character == QLatin1Char('&') && i + 1 < value.size() && value.at(i + 1) == QLatin1Char('#')) {
+            put(QLatin1String("&#38;"));
+        } else {
+            m_pieces.Put(&character, 1);
+        }
+    }
+    put('"');
+}
+
+void Serialiser::putIndent()
+{
+    for (qint64 i = (m_topDepth + static_cast<qint64>(m_open.size())) * m_indent; i > 0; --i) {
+        put(' ');
+    }
+}
+
+/// Ends the line of a tag, but would not add to a text.
+void Serialiser::putLineEnd(bool isBeforeText)
+{
+    if (!isBeforeText && m_indent != NoLines) {
+        put('\n');
+    }
+}
+
+void Serialiser::putEscaped(const QString& text, Place place)
+{
+    const QChar* const begin = text.constData();
+    const QChar* const end = begin + text.size();
+    const QChar* plain = begin;
+    for (const QChar* c = begin; c != end; ++c) {
+        if (c->unicode() > '>' && m_encoding.HasAll()) {
+            continue;
+        }
+        const bool isEndOfSection = c - begin >= 2 && c[-2] == QLatin1Char(']') && c[-1] == QLatin1Char(']');
+        const QLatin1String reference = referenceFor(*c, place, isEndOfSection);
+        if (reference.size() == 0 && m_encoding.Has(*c)) {
+            continue;
+        }
+        m_pieces.Put(plain, c - plain);
+        if (reference.size() > 0) {
+            put(reference);
+        } else {
+            put(QLatin1String("&#x"), QString::number(c->unicode(), 16), ';');
+        }
+        plain = c + 1;
+    }
+    m_pieces.Put(plain, end - plain);
+}
+
+void Serialiser::putQuoted(const QString& text)
+{
+    const char quote = text.contains(QLatin1Char('\'')) ? '"' : '\'';
+    put(quote, text, quote);
+}
+
+} // namespace
+
+bool serialise(const QDomNode& node, QTextStream& stream, int indent)
+{
+    if (node.isDocument()) {
+        useDeclaredEncoding(stream, node);
+    }
+    return Serialiser(stream, indent).Save(node);
+}
