@@ -12,6 +12,7 @@
 #endif
 
 #include <xmlhelper/documentfile.h>
+#include <xmlhelper/limits_p.h>
 
 #include "domtext.h"
 #include "filesizelimit.h"
@@ -48,9 +49,25 @@ private Q_SLOTS:
     void opensAPipeOnlyForAReader();
     void keepsNoHalfOfAFile_data();
     void keepsNoHalfOfAFile();
+    void leavesNothingBesideTheFile();
+    void keepsThePermissions_data();
+    void keepsThePermissions();
+    void givesANewFileTheUsualPermissions();
+    void leavesAFileThatMustNotBeWritten();
+    void keepsLinks_data();
+    void keepsLinks();
+    void followsNoRingOfLinks();
+    void leavesAnotherNameOfTheFileItsContent();
+    void savesUnderALongName();
+    void writesInPlaceWhereNoFileCanBeMade();
+    void writesNoDocumentThatIsTooLong_data();
+    void writesNoDocumentThatIsTooLong();
+    void writesADocumentOfTheGreatestLength();
+    void removesWhatAnEndedProcessHasLeft();
 
 private:
     QString path(const char* name) const { return m_folder->filePath(QString::fromLatin1(name)); }
+    QStringList entries() const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
@@ -70,12 +87,25 @@ void write(const QString& fileName, const QByteArray& bytes)
     QCOMPARE(file.write(bytes), qint64(bytes.size()));
 }
 
+#ifdef Q_OS_UNIX
+int modeOf(const QString& fileName)
+{
+    struct stat status = {};
+    return ::stat(QFile::encodeName(fileName).constData(), &status) == 0 ? int(status.st_mode & 07777) : -1;
+}
+#endif
+
 QString backSlashed(QString name)
 {
     return name.replace(QLatin1Char('/'), QLatin1Char('\\'));
 }
 
 } // namespace
+
+QStringList TestDocumentFile::entries() const
+{
+    return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+}
 
 void TestDocumentFile::init()
 {
@@ -244,8 +274,8 @@ void TestDocumentFile::opensAPipeOnlyForAReader()
 void TestDocumentFile::keepsNoHalfOfAFile_data()
 {
     QTest::addColumn<bool>("isLink");
-    QTest::newRow("file-is-removed") << false;
-    QTest::newRow("file-behind-a-link-is-emptied") << true;
+    QTest::newRow("old-file-stays") << false;
+    QTest::newRow("old-file-behind-a-link-stays") << true;
 }
 
 void TestDocumentFile::keepsNoHalfOfAFile()
@@ -256,10 +286,11 @@ void TestDocumentFile::keepsNoHalfOfAFile()
     }
     const QDomDocument document
         = documentOf(QStringLiteral("<r>%1</r>").arg(QStringLiteral("<a>x</a>").repeated(9999)));
-    write(path("target.xml"), "earlier");
+    write(path(isLink ? "target.xml" : "saved.xml"), "earlier");
     if (isLink) {
         QVERIFY(QFile::link(path("target.xml"), path("saved.xml")));
     }
+    const QStringList before = entries();
     const TraceCollector traces;
     {
         const FileSizeLimit limit(4096);
@@ -267,11 +298,213 @@ void TestDocumentFile::keepsNoHalfOfAFile()
     }
     QCOMPARE(traces.Messages(),
              QStringLiteral("Only a part could be written of %1, it was discarded!").arg(path("saved.xml")));
-    QCOMPARE(bytesOf(path("saved.xml")), isLink ? QByteArray() : QByteArray("(no file)"));
-    QCOMPARE(bytesOf(path("target.xml")), isLink ? QByteArray() : QByteArray("earlier"));
+    QCOMPARE(bytesOf(path("saved.xml")), QByteArray("earlier"));
+    QCOMPARE(entries(), before);
 
     QVERIFY(saveDocument(document, path("saved.xml")));
     QCOMPARE(domText(documentInFile(path("saved.xml"))), domText(document));
+}
+
+void TestDocumentFile::leavesNothingBesideTheFile()
+{
+    const QStringList before = entries();
+    QVERIFY(saveDocument(documentOf(QStringLiteral("<r/>")), path("saved.xml")));
+    QVERIFY(saveDocument(documentOf(QStringLiteral("<r/>")), path("saved.xml")));
+    QCOMPARE(entries(), before + QStringList(QStringLiteral("saved.xml")));
+}
+
+void TestDocumentFile::keepsThePermissions_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::newRow("of-the-owner-only") << 0600;
+    QTest::newRow("of-everybody") << 0666;
+    QTest::newRow("to-run-it") << 0755;
+    QTest::newRow("of-a-group-by-its-mark") << 02660;
+}
+
+void TestDocumentFile::keepsThePermissions()
+{
+#ifdef Q_OS_UNIX
+    QFETCH(int, mode);
+    write(path("saved.xml"), "earlier");
+    QCOMPARE(::chmod(QFile::encodeName(path("saved.xml")).constData(), mode_t(mode)), 0);
+    QVERIFY(saveDocument(documentOf(QStringLiteral("<r/>")), path("saved.xml")));
+    QCOMPARE(modeOf(path("saved.xml")), mode);
+    QCOMPARE(bytesOf(path("saved.xml")), QByteArray("<r/>\n"));
+#else
+    QSKIP("There are no such permissions here.");
+#endif
+}
+
+void TestDocumentFile::givesANewFileTheUsualPermissions()
+{
+#ifdef Q_OS_UNIX
+    write(path("usual.xml"), QByteArray());
+    QVERIFY(saveDocument(documentOf(QStringLiteral("<r/>")), path("saved.xml")));
+    QCOMPARE(modeOf(path("saved.xml")), modeOf(path("usual.xml")));
+#else
+    QSKIP("There are no such permissions here.");
+#endif
+}
+
+void TestDocumentFile::leavesAFileThatMustNotBeWritten()
+{
+    write(path("saved.xml"), "earlier");
+    QVERIFY(QFile::setPermissions(path("saved.xml"), QFile::ReadOwner));
+    if (QFileInfo(path("saved.xml")).isWritable()) {
+        QSKIP("This user may write everything.");
+    }
+    QVERIFY(!saveDocument(documentOf(QStringLiteral("<r/>")), path("saved.xml")));
+    QCOMPARE(bytesOf(path("saved.xml")), QByteArray("earlier"));
+    QVERIFY(QFile::setPermissions(path("saved.xml"), QFile::ReadOwner | QFile::WriteOwner)); // or it stays
+}
+
+void TestDocumentFile::keepsLinks_data()
+{
+    QTest::addColumn<bool>("isTargetThere");
+    QTest::newRow("to-a-file") << true;
+    QTest::newRow("to-none") << false;
+}
+
+void TestDocumentFile::keepsLinks()
+{
+#ifdef Q_OS_UNIX
+    QFETCH(bool, isTargetThere);
+    if (isTargetThere) {
+        write(path("inner/target.xml"), "earlier");
+    }
+    QVERIFY(QFile::link(QStringLiteral("inner/target.xml"), path("link.xml")));
+    QVERIFY(QFile::link(QStringLiteral("link.xml"), path("saved.xml")));
+    QVERIFY(saveDocument(documentOf(QStringLiteral("<r/>")), path("saved.xml")));
+    QVERIFY(QFileInfo(path("saved.xml")).isSymLink());
+    QVERIFY(QFileInfo(path("link.xml")).isSymLink());
+    QVERIFY(!QFileInfo(path("inner/target.xml")).isSymLink());
+    QCOMPARE(bytesOf(path("inner/target.xml")), QByteArray("<r/>\n"));
+#else
+    QSKIP("Not every user may make links here.");
+#endif
+}
+
+void TestDocumentFile::followsNoRingOfLinks()
+{
+#ifdef Q_OS_UNIX
+    QVERIFY(QFile::link(QStringLiteral("b.xml"), path("a.xml")));
+    QVERIFY(QFile::link(QStringLiteral("a.xml"), path("b.xml")));
+    QVERIFY(!saveDocument(documentOf(QStringLiteral("<r/>")), path("a.xml")));
+    QVERIFY(QFileInfo(path("a.xml")).isSymLink());
+    QVERIFY(QFileInfo(path("b.xml")).isSymLink());
+#else
+    QSKIP("Not every user may make links here.");
+#endif
+}
+
+void TestDocumentFile::leavesAnotherNameOfTheFileItsContent()
+{
+#ifdef Q_OS_UNIX
+    write(path("saved.xml"), "earlier");
+    QCOMPARE(::link(QFile::encodeName(path("saved.xml")).constData(), QFile::encodeName(path("other.xml")).constData()),
+             0);
+    QVERIFY(saveDocument(documentOf(QStringLiteral("<r/>")), path("saved.xml")));
+    QCOMPARE(bytesOf(path("saved.xml")), QByteArray("<r/>\n"));
+    QCOMPARE(bytesOf(path("other.xml")), QByteArray("earlier"));
+#else
+    QSKIP("There are no such names here.");
+#endif
+}
+
+void TestDocumentFile::savesUnderALongName()
+{
+#ifdef Q_OS_UNIX
+    const QString longest = m_folder->filePath(QString(255, QLatin1Char('n')));
+    QVERIFY(saveDocument(documentOf(QStringLiteral("<r/>")), longest));
+    QCOMPARE(bytesOf(longest), QByteArray("<r/>\n"));
+    const QStringList before = entries();
+    const TraceCollector traces;
+    QVERIFY(!saveDocument(documentOf(QStringLiteral("<r/>")), longest + QLatin1Char('n')));
+    QCOMPARE(entries(), before);
+    QCOMPARE(traces.Messages(), QString());
+#else
+    QSKIP("Names are limited together with their folders here.");
+#endif
+}
+
+void TestDocumentFile::writesInPlaceWhereNoFileCanBeMade()
+{
+#ifdef Q_OS_UNIX
+    const QString name = path("inner/saved.xml");
+    write(name, "earlier");
+    QVERIFY(QFile::setPermissions(path("inner"), QFile::ReadOwner | QFile::ExeOwner));
+    const bool isRefusing = !QFileInfo(path("inner")).isWritable();
+    const bool isSaved = saveDocument(documentOf(QStringLiteral("<r/>")), name);
+    const bool isNewSaved = saveDocument(documentOf(QStringLiteral("<r/>")), path("inner/new.xml"));
+    QVERIFY(QFile::setPermissions(path("inner"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    if (!isRefusing) {
+        QSKIP("This user may write everything.");
+    }
+    QVERIFY(isSaved);
+    QVERIFY(!isNewSaved);
+    QCOMPARE(bytesOf(name), QByteArray("<r/>\n"));
+#else
+    QSKIP("Folders cannot be made read-only here.");
+#endif
+}
+
+void TestDocumentFile::writesNoDocumentThatIsTooLong_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("file") << QStringLiteral("saved.xml");
+    QTest::newRow("new-file") << QStringLiteral("new.xml");
+    QTest::newRow("pipe") << QStringLiteral("pipe");
+}
+
+void TestDocumentFile::writesNoDocumentThatIsTooLong()
+{
+    QFETCH(QString, name);
+    write(path("saved.xml"), "earlier");
+#ifdef Q_OS_UNIX
+    QCOMPARE(mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
+    const int reader = ::open(QFile::encodeName(path("pipe")).constData(), O_RDONLY | O_NONBLOCK);
+#endif
+    const QStringList before = entries();
+    Limits limits;
+    limits.savedBytes = 4;
+    const LimitsInForce inForce(limits);
+    const TraceCollector traces;
+    QVERIFY(!saveDocument(documentOf(QStringLiteral("<r/>")), m_folder->filePath(name)));
+    QCOMPARE(traces.Messages(), QStringLiteral("Documents that are saved as more than 4 bytes are refused!"));
+    QCOMPARE(entries(), before);
+    QCOMPARE(bytesOf(path("saved.xml")), QByteArray("earlier"));
+#ifdef Q_OS_UNIX
+    char byte = 0;
+    QVERIFY(::read(reader, &byte, 1) <= 0);
+    ::close(reader);
+#endif
+}
+
+void TestDocumentFile::writesADocumentOfTheGreatestLength()
+{
+    Limits limits;
+    limits.savedBytes = 5;
+    const LimitsInForce inForce(limits);
+    QVERIFY(saveDocument(documentOf(QStringLiteral("<r/>")), path("saved.xml")));
+    QCOMPARE(bytesOf(path("saved.xml")), QByteArray("<r/>\n"));
+}
+
+void TestDocumentFile::removesWhatAnEndedProcessHasLeft()
+{
+    const QString old = path("inner/.xmlhelper-1a2b.part");
+    const QString recent = path("inner/.xmlhelper-3c4d.part");
+    const QString another = path("inner/.xmlhelper-5e6f.xml");
+    const QDateTime yesterday = QDateTime::currentDateTime().addDays(-1).addSecs(-60);
+    for (const QString& name : {old, recent, another}) {
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(name == recent || file.setFileTime(yesterday, QFileDevice::FileModificationTime));
+    }
+    QVERIFY(saveDocument(documentOf(QStringLiteral("<r/>")), path("inner/saved.xml")));
+    QVERIFY(!QFile::exists(old));
+    QVERIFY(QFile::exists(recent));
+    QVERIFY(QFile::exists(another));
 }
 
 QTEST_GUILESS_MAIN(TestDocumentFile)

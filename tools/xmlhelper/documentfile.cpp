@@ -1,58 +1,69 @@
 #include "documentfile.h"
 
-#include <optional>
-
+#include <QDateTime>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QMutex>
+#include <QRandomGenerator>
+#include <QSet>
 #include <QTextStream>
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-#include <QTextCodec>
-#endif
 #ifdef Q_OS_UNIX
+#include <cstdio>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#else
+#include <windows.h>
 #endif
 
-#include "textsinpieces.h"
+#include "limits_p.h"
 #include "tracing.h"
+#include "xmlserialiser_p.h"
 
 namespace {
 
 constexpr int SavedIndent = 4;
+constexpr int MaxLinks = 40;
 
-void useUtf8(QTextStream& stream)
+/// A save may last, but not for a day.
+constexpr qint64 SecondsOfAStray = 24 * 60 * 60;
+constexpr int MaxEntriesLookedAt = 10000;
+
+const QString TemporaryPrefix = QStringLiteral(".xmlhelper-");
+const QString TemporarySuffix = QStringLiteral(".part");
+
+/// Takes everything, to tell its size.
+class Counter : public QIODevice
 {
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    stream.setCodec(QTextCodec::codecForName("UTF-8"));
-#else
-    stream.setEncoding(QStringConverter::Utf8);
-#endif
-    stream.setAutoDetectUnicode(true);
+public:
+    Counter() { setOpenMode(WriteOnly | Unbuffered); }
+
+private:
+    qint64 readData(char*, qint64) override { return -1; }
+    qint64 writeData(const char*, qint64 size) override { return size; }
+};
+
+bool write(const QDomDocument& document, QIODevice& device)
+{
+    QTextStream stream(&device);
+    return serialise(document, stream, SavedIndent);
 }
 
-bool isForUtf8(const QDomDocument& document)
+/// Writes @p document to @p file and closes it, since some file systems tell only then that they could not write.
+/// Traces that for the file called @p fileName.
+bool writeAndClose(const QDomDocument& document, QFile& file, const QString& fileName)
 {
-    const QString declaration = document.firstChild().toProcessingInstruction().data();
-    return !declaration.contains(QLatin1String("encoding")) || declaration.contains(QLatin1String("UTF-8"));
-}
-
-QByteArray serialised(const QDomDocument& document)
-{
-    std::optional<TextsInPieces> pieces;
-    if (isLongTextKnown()) {
-        pieces.emplace(document);
+    const bool isTaken = write(document, file);
+    const bool isTooLong = file.pos() > limits().savedBytes; // serialise() has traced that.
+    file.close();
+    const bool isWritten = isTaken && file.error() == QFile::NoError;
+    if (!isWritten && !isTooLong) {
+        trace(QStringLiteral("Only a part could be written of %1, it was discarded!").arg(fileName), "documentfile",
+              __LINE__);
     }
-    if (isForUtf8(document)) {
-        return document.toString(SavedIndent).toUtf8(); // A stream that encodes does so line by line.
-    }
-    // Qt gives the stream the encoding that the document declares, if it knows that.
-    QByteArray bytes;
-    QTextStream stream(&bytes, QIODevice::WriteOnly);
-    useUtf8(stream);
-    document.save(stream, SavedIndent);
-    stream.flush();
-    return bytes;
+    return isWritten;
 }
 
 /// Whether opening the file for writing would wait until somebody reads it, which may be never.
@@ -79,12 +90,103 @@ bool isPipeWithoutReader(const QString& fileName)
 /// over an empty file.
 void discard(QFile& file)
 {
-    trace(QStringLiteral("Only a part could be written of %1, it was discarded!").arg(file.fileName()), "documentfile",
-          __LINE__);
     const QFileInfo info(file.fileName());
     if (info.isSymLink() || !info.isFile() || !file.remove()) {
         file.resize(0);
     }
+}
+
+bool saveInPlace(const QDomDocument& document, const QString& fileName)
+{
+    Counter counter; // What was there is lost with opening, so a document that is too long must be known before.
+    QFile file(fileName);
+    if (isPipeWithoutReader(fileName) || !write(document, counter) || !file.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    const bool isWritten = writeAndClose(document, file, fileName);
+    if (!isWritten) {
+        discard(file);
+    }
+    return isWritten;
+}
+
+/// The file that is meant by @p fileName, there or not, behind all links.
+QFileInfo targetOf(const QString& fileName)
+{
+    QFileInfo target(fileName);
+    for (int i = 0; i < MaxLinks && target.isSymbolicLink(); ++i) {
+        target.setFile(target.exists() ? target.canonicalFilePath() : target.symLinkTarget());
+    }
+    return target;
+}
+
+/// Whether @p target is a file that another can take the place of, or none, in a folder that takes new files. A file
+/// that must not be written must not be replaced either.
+bool isReplaceable(const QFileInfo& target)
+{
+    const bool isFile = target.exists() ? target.isFile() && target.isWritable() : !target.isSymbolicLink();
+    return isFile && !target.fileName().isEmpty() && !target.fileName().contains(QChar::Null)
+        && QFileInfo(target.path()).isWritable();
+}
+
+/// The old file's owner, group and permissions, for the one that takes its place. Gives whether there is no old one, or
+/// all of it could be taken over.
+bool takeAccess(const QFile& file, const QFileInfo& target)
+{
+#ifdef Q_OS_UNIX
+    struct stat old = {};
+    struct stat own = {};
+    if (::stat(QFile::encodeName(target.filePath()).constData(), &old) != 0) {
+        return true;
+    }
+    const bool isOwners = ::fstat(file.handle(), &own) == 0 && own.st_uid == old.st_uid && own.st_gid == old.st_gid;
+    return (isOwners || ::fchown(file.handle(), old.st_uid, old.st_gid) == 0)
+        && ::fchmod(file.handle(), old.st_mode & 07777) == 0;
+#else
+    Q_UNUSED(file)
+    Q_UNUSED(target)
+    return true;
+#endif
+}
+
+/// Renames a file to the name of another, which is there no more then. QFile::rename() would not.
+bool replace(const QString& target, const QString& file)
+{
+#ifdef Q_OS_UNIX
+    return std::rename(QFile::encodeName(file).constData(), QFile::encodeName(target).constData()) == 0;
+#else
+    return MoveFileExW(reinterpret_cast<const wchar_t*>(file.utf16()), reinterpret_cast<const wchar_t*>(target.utf16()),
+                       MOVEFILE_REPLACE_EXISTING);
+#endif
+}
+
+/// Removes what processes that ended while they saved have left in @p folder, so that it does not pile up. Looks once
+/// for each folder, and not through all of a large one, because the operator waits.
+void removeStrays(const QString& folder)
+{
+    static QMutex mutex;
+    static QSet<QString> seenFolders;
+    const QMutexLocker locker(&mutex);
+    if (seenFolders.contains(folder)) {
+        return;
+    }
+    seenFolders.insert(folder);
+    QDirIterator entries(folder, QDir::Files | QDir::Hidden);
+    for (int i = 0; i < MaxEntriesLookedAt && entries.hasNext(); ++i) {
+        entries.next();
+        const QString name = entries.fileName();
+        if (name.startsWith(TemporaryPrefix) && name.endsWith(TemporarySuffix)
+            && entries.fileInfo().lastModified().secsTo(QDateTime::currentDateTime()) > SecondsOfAStray) {
+            QFile::remove(entries.filePath());
+        }
+    }
+}
+
+/// A name of no file, beside @p target. It is short, whatever the other is called.
+QString temporaryNameBeside(const QFileInfo& target)
+{
+    const QString number = QString::number(QRandomGenerator::system()->generate64(), 16);
+    return target.path() + QLatin1Char('/') + TemporaryPrefix + number + TemporarySuffix;
 }
 
 } // namespace
@@ -104,18 +206,23 @@ QString openableFileName(const QString& fileName)
 
 bool saveDocument(const QDomDocument& document, const QString& fileName)
 {
-    // One write instead of one for every line; the bytes are those that a stream on the file would write. They are
-    // complete before the earlier content of the file is lost.
-    const QByteArray bytes = serialised(document);
-    QFile file(openableFileName(fileName));
-    if (isPipeWithoutReader(file.fileName()) || !file.open(QIODevice::WriteOnly)) {
+    const QString name = openableFileName(fileName);
+    const QFileInfo target = targetOf(name);
+    if (!isReplaceable(target)) {
+        return saveInPlace(document, name);
+    }
+    removeStrays(target.absolutePath());
+    QFile file(temporaryNameBeside(target));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
         return false;
     }
-    const bool isFlushed = file.write(bytes) == bytes.size() && file.flush();
-    file.close();
-    const bool isWritten = isFlushed && file.error() == QFile::NoError;
-    if (!isWritten) {
-        discard(file);
+    if (!takeAccess(file, target)) {
+        file.remove();
+        return saveInPlace(document, name);
     }
-    return isWritten;
+    const bool isSaved = writeAndClose(document, file, name) && replace(target.filePath(), file.fileName());
+    if (!isSaved) {
+        file.remove();
+    }
+    return isSaved;
 }

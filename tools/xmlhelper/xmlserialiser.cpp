@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <QDomDocument>
+#include <QIODevice>
 #include <QSet>
 #include <QTextStream>
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
