@@ -15,7 +15,6 @@
 #include <arbase/vornos.h>
 
 #include "documentfile.h"
-#include "textsinpieces.h"
 #include "xmltext.h"
 
 namespace {
@@ -210,7 +209,7 @@ void CommentDialogImpl::appendComment(const QString& comment)
 {
     if (m_pDocument) {
         m_comment = m_pDocument->createElement(QStringLiteral("Comment"));
-        m_comment.appendChild(createText(*m_pDocument, comment));
+        m_comment.appendChild(m_pDocument->createTextNode(comment));
         m_pDocument->documentElement().appendChild(m_comment);
     }
 }

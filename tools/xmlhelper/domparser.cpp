@@ -16,7 +16,6 @@
 #include "elementsearch.h"
 #include "errorevent.h"
 #include "eventdelivery.h"
-#include "textsinpieces.h"
 #include "tracing.h"
 
 QT_WARNING_DISABLE_DEPRECATED
@@ -277,7 +276,7 @@ void DomParser::takeText(Level& level, bool isTopLevel)
     if (!isTopLevel && !defaultText.isEmpty()) {
         const OwnerIndex::OwnChange change = Change();
         m_currentElement.removeAttribute(DefaultAttribute());
-        m_currentElement.appendChild(createText(*m_pDocument, defaultText));
+        m_currentElement.appendChild(m_pDocument->createTextNode(defaultText));
     }
 }
 

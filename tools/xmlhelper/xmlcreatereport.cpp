@@ -19,7 +19,6 @@
 #include "limits_p.h"
 #include "numberconversion.h"
 #include "rangecheck.h"
-#include "textsinpieces.h"
 #include "tracing.h"
 #include "xmlcontenthandler.h"
 #include "xmlreader.h"
@@ -342,7 +341,7 @@ void XmlCreateReport::CreateAndAppendTextNode(QString text)
     if (first.nodeType() == QDomNode::TextNode) {
         m_pCurrentElement->removeChild(first);
     }
-    m_pCurrentElement->appendChild(createText(*m_pDocument, text));
+    m_pCurrentElement->appendChild(m_pDocument->createTextNode(text));
     m_pDomParser->ContinueAt(m_pCurrentElement, false);
 }
 

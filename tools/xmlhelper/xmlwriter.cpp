@@ -11,7 +11,6 @@
 #include "documentfile.h"
 #include "domextent.h"
 #include "limits_p.h"
-#include "textsinpieces.h"
 #include "tracing.h"
 #include "xmltext.h"
 
@@ -64,7 +63,7 @@ bool XMLWriter::CreateXmlElement(const QString& name, const QString& text, bool 
     m_pCurrentElement->appendChild(element);
     const QString writtenText = representableText(text, "XMLWriter::CreateXmlElement");
     if (!writtenText.isEmpty()) {
-        element.appendChild(createText(*m_pDocument, writtenText));
+        element.appendChild(m_pDocument->createTextNode(writtenText));
     }
     if (enter) {
         *m_pCurrentElement = m_pCurrentElement->lastChild().toElement();
