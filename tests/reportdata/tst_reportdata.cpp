@@ -21,6 +21,12 @@ static_assert(sizeof(ExplicitReportData::ExplicitDataType) == 4, "Kinds are 32-b
 static_assert(std::has_virtual_destructor_v<ExplicitReportData>, "Clients derive from it.");
 static_assert(std::has_virtual_destructor_v<ReportData>, "Clients derive from it.");
 static_assert(!std::is_constructible_v<ExplicitReportData, const char*>, "It would become a bool.");
+static_assert(!std::is_convertible_v<const char*, ExplicitReportData>, "It would become a bool.");
+static_assert(std::is_convertible_v<QString, ExplicitReportData>, "Clients give the value alone.");
+static_assert(std::is_convertible_v<double, ExplicitReportData>, "Clients give the value alone.");
+static_assert(std::is_convertible_v<bool, ExplicitReportData>, "Clients give the value alone.");
+static_assert(std::is_convertible_v<long, ExplicitReportData>, "Clients give the value alone.");
+static_assert(!std::is_constructible_v<ExplicitReportData, int>, "Nobody could tell which kind is meant.");
 
 namespace {
 
@@ -130,6 +136,7 @@ private Q_SLOTS:
 
     void explicitDataOpensAClosedItem();
     void explicitDataIsKeptAsACopy();
+    void explicitDataIsMadeOfTheValueGiven();
 
     void readsANumber();
     void scalesANumber_data();
@@ -328,6 +335,20 @@ void TestReportData::explicitDataIsKeptAsACopy()
     QCOMPARE(item.GetExplicitData().GetType(), ExplicitReportData::EXPLICIT_BOOL);
     QCOMPARE(item.GetExplicitData().GetBool(), true);
     QCOMPARE(item.GetExplicitData().GetString(), QString());
+}
+
+void TestReportData::explicitDataIsMadeOfTheValueGiven()
+{
+    ReportData item = itemWithText(QString());
+    item.SetExplicitData(3.5);
+    QCOMPARE(item.GetExplicitData().GetType(), ExplicitReportData::EXPLICIT_DOUBLE);
+    QCOMPARE(item.GetExplicitData().GetDouble(), 3.5);
+    item.SetExplicitData(QStringLiteral("FM"));
+    QCOMPARE(item.GetExplicitData().GetString(), QStringLiteral("FM"));
+    item.SetExplicitData(true);
+    QCOMPARE(item.GetExplicitData().GetBool(), true);
+    item.SetExplicitData(21L);
+    QCOMPARE(item.GetExplicitData().GetLong(), 21L);
 }
 
 void TestReportData::readsANumber()

@@ -24,16 +24,18 @@ public:
 
     /// No value (EXPLICIT_NONE).
     ExplicitReportData();
+    // A value may be given wherever its data is expected. An int fits none better than the others: say which is meant.
+
     /// A text. @param value  kept as it is
-    explicit ExplicitReportData(const QString& value);
+    ExplicitReportData(const QString& value);
     /// A floating-point number. @param value  kept as it is
-    explicit ExplicitReportData(double value);
+    ExplicitReportData(double value);
     /// A truth value. @param value  kept as it is
-    explicit ExplicitReportData(bool value);
+    ExplicitReportData(bool value);
     /// An integer. @param value  kept as it is
-    explicit ExplicitReportData(long value);
+    ExplicitReportData(long value);
     /// A text literal would silently become a bool.
-    explicit ExplicitReportData(const char* value) = delete;
+    ExplicitReportData(const char* value) = delete;
     /// Copies kind and value.
     /// @param other  copied
     ExplicitReportData(const ExplicitReportData& other);
