@@ -130,6 +130,7 @@ private Q_SLOTS:
     void holdsTheButtonWithoutMargins();
     void buttonIsTranslatedInTheContextOfTheClass();
     void buttonFollowsTheLanguage();
+    void toolTipOfTheApplicationStaysWhenTheLanguageChanges();
     void buttonShowsTheBuiltInPicture();
     void buttonShowsTheGivenPicture();
     void withoutButtonIsHiddenAndStillWatches();
@@ -279,6 +280,26 @@ void TestVCReportingButton::buttonFollowsTheLanguage()
     const auto buttonless = m_surroundings->MakeReporting(false);
     QCoreApplication::sendEvent(buttonless.get(), &languageChange);
     QVERIFY(!buttonless->GetReportButton());
+}
+
+void TestVCReportingButton::toolTipOfTheApplicationStaysWhenTheLanguageChanges()
+{
+    const auto reporting = m_surroundings->MakeReporting();
+    QToolButton* const button = reporting->GetReportButton();
+    const QString own = button->toolTip();
+    button->setToolTip(QStringLiteral("Report this bearing"));
+
+    ContextTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    QEvent languageChange(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(reporting.get(), &languageChange);
+    QCOMPARE(button->toolTip(), QStringLiteral("Report this bearing"));
+
+    // Given back, it follows again.
+    button->setToolTip(own);
+    QCoreApplication::sendEvent(reporting.get(), &languageChange);
+    QCOMPARE(button->toolTip(), QStringLiteral("VCReporting|To Report (Shift+F10)"));
+    QCoreApplication::removeTranslator(&translator);
 }
 
 void TestVCReportingButton::buttonShowsTheBuiltInPicture()

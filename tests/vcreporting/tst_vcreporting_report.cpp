@@ -191,6 +191,8 @@ private Q_SLOTS:
     void timeAttributeEndsTheSearchOfAnItem();
     void timeAttributeIsSetForAnyItem();
     void timeAttributeIsOfferedForEveryItem();
+    void timeAttributeIsOfferedAsOftenAsItTells_data();
+    void timeAttributeIsOfferedAsOftenAsItTells();
     void everyItemOfTheNameIsOfferedToAnUnmatchedElementsAttribute();
     void itemForATimeAttributeComesFirst();
     void matchedElementHandlesItsAttributes();
@@ -769,6 +771,43 @@ void TestVCReportingReport::timeAttributeIsOfferedForEveryItem()
     QCOMPARE(timedBodyText(scene.Report(), start), bodyText(QStringLiteral("<Value type='string' DFDateTime='now'/>")));
     // The attribute that the first has set is no declared type any more.
     QCOMPARE(scene.Reporting().Refusals(), QStringLiteral("dateTime"));
+}
+
+void TestVCReportingReport::timeAttributeIsOfferedAsOftenAsItTells_data()
+{
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<QString>("body");
+    QTest::addColumn<QString>("refusals");
+    const QStringList others = QString(QStringLiteral("Other ")).repeated(100).split(QLatin1Char(' '));
+    const QStringList quality(QStringLiteral("Quality"));
+    const QString once = QStringLiteral("dateTime");
+    QTest::newRow("for-many-items-as-for-two") << others << QStringLiteral("'xs:string'") << once;
+    QTest::newRow("behind-an-item-for-an-attribute") << quality + others << QStringLiteral("'text'") << once;
+    QTest::newRow("again-behind-an-item-for-an-attribute")
+        << others + quality + others << QStringLiteral("'text'") << QStringLiteral("dateTime dateTime dateTime");
+}
+
+/// A press with many items and many such elements would otherwise block for seconds.
+void TestVCReportingReport::timeAttributeIsOfferedAsOftenAsItTells()
+{
+    QFETCH(QStringList, names);
+    QFETCH(QString, body);
+    QFETCH(QString, refusals);
+    ReportingScene scene(declaredTimedValue("DFDateTime", "dateTime"));
+    for (const QString& name : names) {
+        scene.AddText(name, QStringLiteral("text"));
+    }
+    scene.MakeReport();
+    QDomElement value = scene.Reporting().Element(QStringLiteral("Value"));
+    value.setAttribute(QStringLiteral("DFDateTime"), QStringLiteral("xs:dateTime"));
+    value.setAttribute(QStringLiteral("Quality"), QStringLiteral("xs:string"));
+    scene.Reporting().Forget();
+    const QDateTime start = QDateTime::currentDateTime();
+    announce(scene.Reporting(), value, {{"Quality", "xs:string"}, {"DFDateTime", "xs:dateTime"}});
+    QVERIFY(isSince(start, value.attribute(QStringLiteral("DFDateTime"))));
+    value.setAttribute(QStringLiteral("DFDateTime"), QStringLiteral("now"));
+    QCOMPARE(domText(value), bodyText(QStringLiteral("<Value type='string' DFDateTime='now' Quality=%1/>").arg(body)));
+    QCOMPARE(scene.Reporting().Refusals(), refusals);
 }
 
 void TestVCReportingReport::everyItemOfTheNameIsOfferedToAnUnmatchedElementsAttribute()

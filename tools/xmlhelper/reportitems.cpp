@@ -1,6 +1,7 @@
 #include "reportitems.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -17,12 +18,12 @@ ReportItems::ReportItems()
 {
 }
 
-void ReportItems::Append(ReportData* item)
+void ReportItems::Append(Item item)
 {
     const QString name = item->GetName();
     m_iQualifiedNames += isQualified(name) ? 1 : 0;
     m_indices[name].push_back(m_iNextIndex);
-    m_items.emplace_hint(m_items.end(), m_iNextIndex, item);
+    m_items.emplace_hint(m_items.end(), m_iNextIndex, std::move(item));
     ++m_iNextIndex;
 }
 
@@ -48,9 +49,10 @@ void ReportItems::Clear()
     m_iQualifiedNames = 0;
 }
 
-const ReportData& ReportItems::At(int index) const
+ReportItems::Item ReportItems::At(int index) const
 {
-    return *m_items.at(index);
+    const auto found = m_items.find(index);
+    return found == m_items.end() ? nullptr : found->second;
 }
 
 int ReportItems::First() const
@@ -64,19 +66,31 @@ int ReportItems::First(const QString& name) const
     return indices == m_indices.constEnd() ? NO_INDEX : indices->front();
 }
 
-std::vector<int> ReportItems::Before(int end) const
+std::vector<ReportItems::Item> ReportItems::Before(int end, const std::vector<QString>& names) const
 {
-    std::vector<int> found;
-    for (const auto& [index, item] : m_items) {
-        if (index == end) {
-            break;
+    return Before(end, names, 0);
+}
+
+std::vector<ReportItems::Item> ReportItems::Before(int end, const std::vector<QString>& names, int others) const
+{
+    std::vector<int> ends = indicesBefore(end, names);
+    ends.push_back(end);
+    std::vector<Item> found;
+    auto next = m_items.cbegin();
+    for (const int index : ends) {
+        for (int other = 0; other < others && next != m_items.cend() && next->first != index; ++other, ++next) {
+            found.push_back(next->second);
         }
-        found.push_back(index);
+        next = m_items.find(index);
+        if (index != end) {
+            found.push_back(next->second);
+            ++next;
+        }
     }
     return found;
 }
 
-std::vector<int> ReportItems::Before(int end, const std::vector<QString>& names) const
+std::vector<int> ReportItems::indicesBefore(int end, const std::vector<QString>& names) const
 {
     std::vector<int> found;
     for (const QString& name : names) {

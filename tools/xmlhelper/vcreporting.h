@@ -11,40 +11,33 @@
 #include <xmlhelper/reportdata.h>
 #include <xmlhelper/xmlhelperexport.h>
 
-class ElemBeginEvent;
 class Node;
-class QDomNode;
 class QTimer;
 class QToolBar;
 class QToolButton;
-class ReportItems;
-class QXmlAttributes;
+class ReportAnswerer;
 class VCButton;
 class XmlCreateReport;
 
-QT_WARNING_PUSH
-QT_WARNING_DISABLE_DEPRECATED // QXmlAttributes: Qt keeps the SAX classes, with a warning.
-
-    /// The "To Report" button of a measurement screen: writes the current measurement values as an XML report that
-    /// conforms to a schema.
-    ///
-    /// The screen makes the widget with a schema, a directory for the reports and its tool bar, adds the widget to the
-    /// tool bar, and registers report items that name elements (or attributes) of the schema and the sources of their
-    /// values. Every ten seconds the widget looks whether schema and directory exist, keeps its button enabled only
-    /// while both do, and says so with ReportDirAndSchemaAvailable().
-    ///
-    /// A press runs SlotToReport(): PrepareToReport() gives the screen the opportunity to add or change items, then a
-    /// report builder (XmlCreateReport) announces the elements of the schema to this widget, which answers with the
-    /// values of the matching items. A value that the builder refuses for its type is offered as the next one:
-    /// floating-point number, integer, text, ISO date and time. Elements and attributes called "DateTime" and
-    /// "DFDateTime" receive the current time. The file is named after the time and lies in the report directory; with
-    /// the comment dialog it is written when the operator answers.
-    ///
-    /// The widget owns its items, its button and its timer, not the tool bar. Report builders are never deleted, with
-    /// their documents and comment dialogs: an operator may answer a dialog long after the screen is gone. Everything
-    /// runs on the GUI thread.
-    class XMLHELPER_EXPORT VCReporting : public QWidget,
-                                         public IXMLHelper
+/// The "To Report" button of a measurement screen: writes the current measurement values as an XML report that
+/// conforms to a schema.
+///
+/// The screen makes the widget with a schema, a directory for the reports and its tool bar, adds the widget to the
+/// tool bar, and registers report items that name elements (or attributes) of the schema and the sources of their
+/// values. Every ten seconds the widget looks whether schema and directory exist, keeps its button enabled only
+/// while both do, and says so with ReportDirAndSchemaAvailable().
+///
+/// A press runs SlotToReport(): PrepareToReport() gives the screen the opportunity to add or change items, then a
+/// report builder (XmlCreateReport) announces the elements of the schema to this widget, which answers with the
+/// values of the matching items. A value that the builder refuses for its type is offered as the next one:
+/// floating-point number, integer, text, ISO date and time. Elements and attributes called "DateTime" and
+/// "DFDateTime" receive the current time. The file is named after the time and lies in the report directory; with
+/// the comment dialog it is written when the operator answers.
+///
+/// The widget owns its items, its button and its timer, not the tool bar. Report builders are never deleted, with
+/// their documents and comment dialogs: an operator may answer a dialog long after the screen is gone. Everything
+/// runs on the GUI thread.
+class XMLHELPER_EXPORT VCReporting : public QWidget, public IXMLHelper
 {
     Q_OBJECT
 
@@ -163,60 +156,26 @@ private Q_SLOTS:
 private:
     Q_DISABLE_COPY(VCReporting)
 
-    /// The item that the announced element has matched.
-    struct Match
-    {
-        const ReportData* item = nullptr;
-        bool isQualified = false;
-    };
-
     void SetInputPathToSchema(const QString& schema);
     void createReportButton();
     QString newReportPath() const;
     XmlCreateReport* createBuilder();
 
-    static ReportData* CreateReportData(const QString& name, int maxOccurs, const QString& formatText,
-                                        int decimalExponent, const QString& unit);
-    void CheckReportData(ReportData* item);
+    void CheckReportData(std::unique_ptr<ReportData> item);
     void addExplicitItem(const ExplicitReportData& value, const QString& name, int maxOccurs, const QString& formatText,
                          int decimalExponent, const QString& unit);
-
-    void answerElement(ElemBeginEvent* event);
-    Match fillFromItems(const QString& name, const QXmlAttributes& attributes, const QDomNode& node);
-    void fillElement(const QString& name, const QXmlAttributes& attributes, const ReportData& item, int index);
-    void fillAttribute(const QXmlAttributes& attributes, const ReportData& item, int index);
-    void HandleAttributes(const QXmlAttributes& attributes);
-    void handleAttribute(const QString& name, const ReportData& item, int index);
-    void finishElement(const Match& match, const QString& name, const QXmlAttributes& attributes);
-    void stampTime(const QString& name, const QXmlAttributes& attributes);
-
-    template <class Value> void setElement(Value value, int index);
-    void setAttribute(const QString& name, const ReportData& item, int index, double& number);
-    bool setTimeAttribute(const QString& name);
-
-    void answerError(int errorID);
-    template <class Value> void retryWith(Value value);
-    const ReportData* pendingItem(const char* errorName, int traceLine) const;
 
     QToolBar* m_pToolBar; ///< not owned
     VCButton* m_pReportButton;
     QTimer* m_pCheckTimer;
-    XmlCreateReport* m_pReportBuilder; ///< of the latest report; never deleted
     QPixmap m_picture;
     bool m_bUnused; ///< set, and not read by this library
-    bool m_bValueSet;
-    bool m_bConsume;
-    bool m_bAttributePending; ///< a value is being set on an attribute, not on the element
-    double m_dPending; ///< the number being set, for the retry as integer
-    int m_iIndex; ///< the item whose value is being set, for the retries
     int m_iCheckInterval; ///< milliseconds
     QString m_sSchemaPath;
     QString m_sReportDirectory; ///< with back slashes
-    QString m_sAttributeName; ///< the attribute being looked at, for the retries
-    std::unique_ptr<ReportItems> m_pItems;
+    std::shared_ptr<ReportAnswerer> m_pAnswerer; ///< with the items; outlives the widget while it makes a report
     bool m_bShowComment;
+    QString m_sToolTip; ///< of the button, as it was set here last
 };
-
-QT_WARNING_POP
 
 #endif

@@ -1,0 +1,332 @@
+#include <QtTest>
+
+#include <functional>
+#include <utility>
+
+#include <QPointer>
+#include <QTimer>
+#include <QTimerEvent>
+#include <QToolButton>
+
+#include <valueframework/node.h>
+#include <valueframework/tree.h>
+#include <valueframework/valueitem.h>
+#include <valueframework/valuetext.h>
+
+#include "domtext.h"
+#include "reportingscene.h"
+#include "tracecollector.h"
+
+namespace {
+
+using Signal = void (VCReporting::*)();
+using Report = void (*)(VCReporting&);
+
+/// A value that does something else, once, before it tells its text.
+class ActingValue : public ValueText
+{
+public:
+    ActingValue(const QString& name, const QString& text)
+        : ValueText(name, text)
+    {
+    }
+    QString GetText() const override
+    {
+        if (const auto act = std::exchange(m_act, nullptr)) {
+            act();
+        }
+        return ValueText::GetText();
+    }
+    void Act(const std::function<void()>& act) { m_act = act; }
+
+private:
+    mutable std::function<void()> m_act;
+};
+
+/// A scene whose report has three elements: a fixed text, a value that acts when it is read, and a fixed text.
+class ActingScene : public ReportingScene
+{
+public:
+    explicit ActingScene(bool consume = false)
+        : ReportingScene(declaredElement(QStringLiteral("First"), QStringLiteral("string"))
+                             + declaredElement(QStringLiteral("Acting"), QStringLiteral("string"))
+                             + declaredElement(QStringLiteral("Last"), QStringLiteral("string")),
+                         consume)
+        , m_value(new ActingValue(QStringLiteral("Acting"), QStringLiteral("2")))
+    {
+        new ValueItem(m_value, m_tree.GetRoot());
+        AddText(QStringLiteral("First"), QStringLiteral("1"));
+        Reporting().AddReportData(m_tree.GetRoot());
+        AddText(QStringLiteral("Last"), QStringLiteral("3"));
+    }
+
+    ActingValue& Value() { return *m_value; }
+    /// Lets an event loop run while the value is read, in which @p act is done.
+    void ActInAnEventLoop(const std::function<void()>& act)
+    {
+        m_value->Act([act] {
+            QTimer::singleShot(0, qApp, act);
+            QCoreApplication::processEvents();
+        });
+    }
+    QString CompleteBody() const
+    {
+        return bodyText(QStringLiteral("<First>1</First><Acting>2</Acting><Last>3</Last>"));
+    }
+
+private:
+    Tree m_tree;
+    ActingValue* m_value; ///< the tree's
+};
+
+bool tick(const VCReporting& reporting)
+{
+    auto* const timer = reporting.findChild<QTimer*>();
+    QTimerEvent event(timer->timerId());
+    return QCoreApplication::sendEvent(timer, &event);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Signal)
+Q_DECLARE_METATYPE(Report)
+
+class TestVCReportingLifetime : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void deletedInASlotEndsThere_data();
+    void deletedInASlotEndsThere();
+    void deletedByWhatItTellsOfItsLookEndsThere_data();
+    void deletedByWhatItTellsOfItsLookEndsThere();
+    void deletedWhileItsReportIsFilledLeavesItComplete_data();
+    void deletedWhileItsReportIsFilledLeavesItComplete();
+
+    void pressWhileAReportIsFilledIsRefused_data();
+    void pressWhileAReportIsFilledIsRefused();
+    void pressOfAnotherButtonWhileAReportIsFilledMakesAReport();
+    void pressFromASlotIsAReportOfItsOwn_data();
+    void pressFromASlotIsAReportOfItsOwn();
+
+    void itemsTakenOutWhileAnElementIsAnsweredStillServeIt_data();
+    void itemsTakenOutWhileAnElementIsAnsweredStillServeIt();
+    void itemAddedWhileAnElementIsAnsweredIsNotConsumedForIt();
+    void schemaChangedWhileAReportIsFilledServesTheNextOne();
+};
+
+void TestVCReportingLifetime::deletedInASlotEndsThere_data()
+{
+    QTest::addColumn<Signal>("signal");
+    QTest::addColumn<bool>("isSchemaGood");
+    QTest::addColumn<bool>("result");
+    QTest::addColumn<int>("files");
+    QTest::newRow("before-the-report") << Signal(&VCReporting::PrepareToReport) << true << false << 0;
+    QTest::newRow("after-success") << Signal(&VCReporting::ReportSuccessful) << true << true << 1;
+    QTest::newRow("after-failure") << Signal(&VCReporting::ReportNotSuccessful) << false << false << 1;
+}
+
+void TestVCReportingLifetime::deletedInASlotEndsThere()
+{
+    QFETCH(Signal, signal);
+    QFETCH(bool, isSchemaGood);
+    QFETCH(bool, result);
+    QFETCH(int, files);
+    for (const bool isClicked : {false, true}) {
+        ReportingScene scene(declaredElement(QStringLiteral("Value"), QStringLiteral("string")));
+        if (!isSchemaGood) {
+            scene.WriteSchemaFile(QStringLiteral("<no schema"));
+        }
+        const QPointer<VCReporting> reporting(&scene.Reporting());
+        connect(reporting, signal, this, [&scene] { scene.DeleteReporting(); });
+        if (isClicked) {
+            reporting->show();
+            QTest::mouseClick(reporting->GetReportButton(), Qt::LeftButton);
+        } else {
+            QCOMPARE(reporting->SlotToReport(), result);
+        }
+        QVERIFY(reporting.isNull());
+        QCOMPARE(int(scene.ReportFiles().size()), files);
+    }
+}
+
+void TestVCReportingLifetime::deletedByWhatItTellsOfItsLookEndsThere_data()
+{
+    QTest::addColumn<Report>("look");
+    QTest::newRow("at-a-tick") << Report([](VCReporting& reporting) { QVERIFY(tick(reporting)); });
+    QTest::newRow("when-switched-on") << Report([](VCReporting& reporting) { reporting.EnableReportButton(true); });
+}
+
+void TestVCReportingLifetime::deletedByWhatItTellsOfItsLookEndsThere()
+{
+    QFETCH(Report, look);
+    ReportingScene scene(declaredElement(QStringLiteral("Value"), QStringLiteral("string")));
+    const QPointer<VCReporting> reporting(&scene.Reporting());
+    connect(reporting, &VCReporting::ReportDirAndSchemaAvailable, this, [&scene] { scene.DeleteReporting(); });
+    look(*reporting);
+    QVERIFY(reporting.isNull());
+}
+
+void TestVCReportingLifetime::deletedWhileItsReportIsFilledLeavesItComplete_data()
+{
+    QTest::addColumn<bool>("showsDialog");
+    QTest::newRow("written") << false;
+    QTest::newRow("with-a-dialog") << true;
+}
+
+void TestVCReportingLifetime::deletedWhileItsReportIsFilledLeavesItComplete()
+{
+    QFETCH(bool, showsDialog);
+    ActingScene scene;
+    const QPointer<VCReporting> reporting(&scene.Reporting());
+    reporting->SetShowCommentDialog(showsDialog);
+    const QSignalSpy successful(reporting, &VCReporting::ReportSuccessful);
+    scene.ActInAnEventLoop([&scene] { scene.DeleteReporting(); });
+    QVERIFY(reporting->SlotToReport());
+    QVERIFY(reporting.isNull());
+    QCOMPARE(int(successful.count()), 0);
+    if (showsDialog) {
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        for (QWidget* const window : windows) {
+            window->close();
+        }
+    }
+    QCOMPARE(bodyText(scene.Report()), scene.CompleteBody());
+}
+
+void TestVCReportingLifetime::pressWhileAReportIsFilledIsRefused_data()
+{
+    QTest::addColumn<bool>("isClicked");
+    QTest::newRow("by-the-slot") << false;
+    QTest::newRow("by-the-button") << true;
+}
+
+void TestVCReportingLifetime::pressWhileAReportIsFilledIsRefused()
+{
+    QFETCH(bool, isClicked);
+    ActingScene scene(true);
+    VCReporting& reporting = scene.Reporting();
+    const QSignalSpy preparing(&reporting, &VCReporting::PrepareToReport);
+    const QSignalSpy successful(&reporting, &VCReporting::ReportSuccessful);
+    const QSignalSpy notSuccessful(&reporting, &VCReporting::ReportNotSuccessful);
+    bool isPressed = false;
+    bool result = true;
+    QString traces;
+    scene.ActInAnEventLoop([&] {
+        const TraceCollector collector;
+        isPressed = true;
+        if (isClicked) {
+            reporting.GetReportButton()->click();
+            result = false;
+        } else {
+            result = reporting.SlotToReport();
+        }
+        traces = collector.Messages();
+    });
+    QCOMPARE(scene.MakeReport(), scene.CompleteBody());
+    QVERIFY(isPressed);
+    QVERIFY(!result);
+    QCOMPARE(int(traces.count(QStringLiteral("No report is made while another one is being filled!"))), 1);
+    QCOMPARE(int(preparing.count()), 1);
+    QCOMPARE(int(successful.count()), 1);
+    QCOMPARE(int(notSuccessful.count()), 0);
+    QCOMPARE(int(scene.ReportFiles().size()), 1);
+    // All are consumed.
+    scene.Clock().Advance(1);
+    QVERIFY(reporting.SlotToReport());
+    QCOMPARE(int(scene.ReportFiles().size()), 2);
+}
+
+void TestVCReportingLifetime::pressOfAnotherButtonWhileAReportIsFilledMakesAReport()
+{
+    ActingScene scene;
+    ReportingScene other(declaredElement(QStringLiteral("Value"), QStringLiteral("string")));
+    other.AddText(QStringLiteral("Value"), QStringLiteral("FM"));
+    QString body;
+    scene.ActInAnEventLoop([&] { body = other.MakeReport(); });
+    QCOMPARE(scene.MakeReport(), scene.CompleteBody());
+    QCOMPARE(body, bodyText(QStringLiteral("<Value>FM</Value>")));
+}
+
+void TestVCReportingLifetime::pressFromASlotIsAReportOfItsOwn_data()
+{
+    QTest::addColumn<Signal>("signal");
+    QTest::addColumn<bool>("isSchemaGood");
+    QTest::newRow("before-the-report") << Signal(&VCReporting::PrepareToReport) << true;
+    QTest::newRow("after-success") << Signal(&VCReporting::ReportSuccessful) << true;
+    QTest::newRow("after-failure") << Signal(&VCReporting::ReportNotSuccessful) << false;
+}
+
+void TestVCReportingLifetime::pressFromASlotIsAReportOfItsOwn()
+{
+    QFETCH(Signal, signal);
+    QFETCH(bool, isSchemaGood);
+    ReportingScene scene(declaredElement(QStringLiteral("Value"), QStringLiteral("string")));
+    scene.AddText(QStringLiteral("Value"), QStringLiteral("FM"));
+    if (!isSchemaGood) {
+        scene.WriteSchemaFile(QStringLiteral("<no schema"));
+    }
+    int presses = 0;
+    connect(&scene.Reporting(), signal, this, [&] {
+        if (++presses == 1) {
+            scene.Clock().Advance(1);
+            QCOMPARE(scene.Reporting().SlotToReport(), isSchemaGood);
+            scene.Clock().Advance(1);
+        }
+    });
+    QCOMPARE(scene.Reporting().SlotToReport(), isSchemaGood);
+    QCOMPARE(presses, 2);
+    QCOMPARE(int(scene.ReportFiles().size()), 2);
+    for (const QString& name : scene.ReportFiles()) {
+        QCOMPARE(bodyText(documentInFile(scene.Directory() + QLatin1Char('/') + name)),
+                 isSchemaGood ? bodyText(QStringLiteral("<Value>FM</Value>")) : QStringLiteral("(no report)"));
+    }
+}
+
+void TestVCReportingLifetime::itemsTakenOutWhileAnElementIsAnsweredStillServeIt_data()
+{
+    QTest::addColumn<bool>("isCleared");
+    QTest::addColumn<QString>("last");
+    QTest::newRow("deleted") << false << QStringLiteral("<Last>3</Last>");
+    QTest::newRow("cleared") << true << QStringLiteral("<Last type='string'/>");
+}
+
+void TestVCReportingLifetime::itemsTakenOutWhileAnElementIsAnsweredStillServeIt()
+{
+    QFETCH(bool, isCleared);
+    QFETCH(QString, last);
+    for (const bool consume : {false, true}) {
+        ActingScene scene(consume);
+        scene.Value().Act([&] {
+            if (isCleared) {
+                scene.Reporting().ClearReportData();
+            } else {
+                scene.Reporting().DeleteReportData(QStringLiteral("Acting"));
+            }
+        });
+        QCOMPARE(scene.MakeReport(), bodyText(QStringLiteral("<First>1</First><Acting>2</Acting>") + last));
+    }
+}
+
+void TestVCReportingLifetime::itemAddedWhileAnElementIsAnsweredIsNotConsumedForIt()
+{
+    ActingScene scene(true);
+    scene.Value().Act([&] {
+        scene.Reporting().DeleteReportData(QStringLiteral("Acting"));
+        scene.AddText(QStringLiteral("Acting"), QStringLiteral("new"));
+    });
+    QCOMPARE(scene.MakeReport(), scene.CompleteBody());
+    QCOMPARE(scene.MakeReport(),
+             bodyText(QStringLiteral("<First type='string'/><Acting>new</Acting><Last type='string'/>")));
+}
+
+void TestVCReportingLifetime::schemaChangedWhileAReportIsFilledServesTheNextOne()
+{
+    ActingScene scene;
+    scene.Value().Act([&] { scene.Reporting().SetSchema(QStringLiteral("/missing/other.xsd")); });
+    QCOMPARE(scene.MakeReport(), scene.CompleteBody());
+    QVERIFY(!scene.Reporting().SlotToReport());
+}
+
+QTEST_MAIN(TestVCReportingLifetime)
+#include "tst_vcreporting_lifetime.moc"
