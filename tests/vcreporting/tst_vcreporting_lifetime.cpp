@@ -1,9 +1,12 @@
 #include <QtTest>
 
+#include <algorithm>
 #include <functional>
 #include <utility>
 
+#include <QDir>
 #include <QPointer>
+#include <QTextEdit>
 #include <QTimer>
 #include <QTimerEvent>
 #include <QToolButton>
@@ -12,6 +15,8 @@
 #include <valueframework/tree.h>
 #include <valueframework/valueitem.h>
 #include <valueframework/valuetext.h>
+
+#include <xmlhelper/commentdialogimpl.h>
 
 #include "domtext.h"
 #include "reportingscene.h"
@@ -79,6 +84,17 @@ private:
     ActingValue* m_value; ///< the tree's
 };
 
+QWidgetList openDialogs()
+{
+    QWidgetList dialogs = QApplication::topLevelWidgets();
+    dialogs.erase(std::remove_if(dialogs.begin(), dialogs.end(),
+                                 [](const QWidget* window) {
+                                     return !window->isVisible() || !qobject_cast<const CommentDialogImpl*>(window);
+                                 }),
+                  dialogs.end());
+    return dialogs;
+}
+
 bool tick(const VCReporting& reporting)
 {
     auto* const timer = reporting.findChild<QTimer*>();
@@ -113,6 +129,12 @@ private Q_SLOTS:
     void itemsTakenOutWhileAnElementIsAnsweredStillServeIt();
     void itemAddedWhileAnElementIsAnsweredIsNotConsumedForIt();
     void schemaChangedWhileAReportIsFilledServesTheNextOne();
+
+    void nodeKeptOfAReportThatIsOverStandsAlone_data();
+    void nodeKeptOfAReportThatIsOverStandsAlone();
+    void dialogsShowAndWriteNothingAfterTheyHaveGivenBackAll_data();
+    void dialogsShowAndWriteNothingAfterTheyHaveGivenBackAll();
+    void dialogThatCouldNotWriteKeepsEverything();
 };
 
 void TestVCReportingLifetime::deletedInASlotEndsThere_data()
@@ -186,9 +208,8 @@ void TestVCReportingLifetime::deletedWhileItsReportIsFilledLeavesItComplete()
     QVERIFY(reporting.isNull());
     QCOMPARE(int(successful.count()), 0);
     if (showsDialog) {
-        const QWidgetList windows = QApplication::topLevelWidgets();
-        for (QWidget* const window : windows) {
-            window->close();
+        for (QWidget* const dialog : openDialogs()) {
+            dialog->close();
         }
     }
     QCOMPARE(bodyText(scene.Report()), scene.CompleteBody());
@@ -326,6 +347,108 @@ void TestVCReportingLifetime::schemaChangedWhileAReportIsFilledServesTheNextOne(
     scene.Value().Act([&] { scene.Reporting().SetSchema(QStringLiteral("/missing/other.xsd")); });
     QCOMPARE(scene.MakeReport(), scene.CompleteBody());
     QVERIFY(!scene.Reporting().SlotToReport());
+}
+
+void TestVCReportingLifetime::nodeKeptOfAReportThatIsOverStandsAlone_data()
+{
+    QTest::addColumn<Report>("end");
+    QTest::newRow("next-press") << Report([](VCReporting& reporting) { QVERIFY(reporting.SlotToReport()); });
+    QTest::newRow("next-press-with-a-dialog") << Report([](VCReporting& reporting) {
+        reporting.SetShowCommentDialog(true);
+        QVERIFY(reporting.SlotToReport());
+    });
+    QTest::newRow("button-deleted") << Report([](VCReporting&) {});
+}
+
+void TestVCReportingLifetime::nodeKeptOfAReportThatIsOverStandsAlone()
+{
+    QFETCH(Report, end);
+    for (const bool hasDialog : {false, true}) {
+        ReportingScene scene(declaredElement(QStringLiteral("First"), QStringLiteral("string"))
+                             + declaredElement(QStringLiteral("Value"), QStringLiteral("string"),
+                                               declaredAttribute(QStringLiteral("Unit"), QStringLiteral("string")))
+                             + declaredElement(QStringLiteral("Last"), QStringLiteral("string")));
+        scene.AddText(QStringLiteral("Value"), QStringLiteral("FM"), QStringLiteral("kHz"));
+        scene.Reporting().SetShowCommentDialog(hasDialog);
+        QVERIFY(scene.Reporting().SlotToReport());
+        QDomElement value = scene.Reporting().Element(QStringLiteral("Value"));
+        QCOMPARE(value.parentNode().nodeName(), QStringLiteral("Report"));
+        for (QWidget* const dialog : openDialogs()) {
+            dialog->close();
+        }
+        QCoreApplication::processEvents();
+
+        scene.Reporting().Forget();
+        end(scene.Reporting());
+        scene.DeleteReporting();
+        for (QWidget* const dialog : openDialogs()) {
+            dialog->close();
+        }
+        QCoreApplication::processEvents();
+        QCOMPARE(domText(value), bodyText(QStringLiteral("<Value Unit='kHz'>FM</Value>")));
+        QVERIFY(value.parentNode().isNull());
+        QVERIFY(value.previousSibling().isNull());
+        QVERIFY(value.nextSibling().isNull());
+        QVERIFY(value.ownerDocument().documentElement().isNull());
+        value.appendChild(value.ownerDocument().createElement(QStringLiteral("New")));
+        QCOMPARE(value.childNodes().count(), 2);
+    }
+}
+
+void TestVCReportingLifetime::dialogsShowAndWriteNothingAfterTheyHaveGivenBackAll_data()
+{
+    QTest::addColumn<bool>("isReleasedFirst");
+    QTest::newRow("answered-before-the-next-press") << false;
+    QTest::newRow("answered-behind-the-next-press") << true;
+}
+
+void TestVCReportingLifetime::dialogsShowAndWriteNothingAfterTheyHaveGivenBackAll()
+{
+    QFETCH(bool, isReleasedFirst);
+    ReportingScene scene(declaredElement(QStringLiteral("Value"), QStringLiteral("string")));
+    scene.AddText(QStringLiteral("Value"), QStringLiteral("FM"));
+    scene.Reporting().SetShowCommentDialog(true);
+    QVERIFY(scene.Reporting().SlotToReport());
+    const QPointer<CommentDialogImpl> dialog(qobject_cast<CommentDialogImpl*>(openDialogs().constFirst()));
+    if (isReleasedFirst) {
+        scene.DeleteReporting();
+    }
+    dialog->SlotSaveWithoutComment();
+    scene.DeleteReporting();
+    QCoreApplication::processEvents();
+    QCOMPARE(bodyText(scene.Report()), bodyText(QStringLiteral("<Value>FM</Value>")));
+
+    QVERIFY(dialog); // It stays with its builder.
+    QCOMPARE(dialog->findChildren<QObject*>().size(), 0);
+    QVERIFY(!dialog->windowHandle());
+    QVERIFY(QFile::remove(scene.Directory() + QLatin1Char('/') + scene.ReportFiles().constFirst()));
+    dialog->SlotSaveWithComment();
+    dialog->SlotSaveWithoutComment();
+    dialog->ShowReportSummary();
+    dialog->show();
+    QEvent languageChange(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(dialog, &languageChange);
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    QVERIFY(dialog->close());
+    QVERIFY(!dialog->isVisible());
+    QCOMPARE(scene.ReportFiles(), QStringList());
+}
+
+void TestVCReportingLifetime::dialogThatCouldNotWriteKeepsEverything()
+{
+    ReportingScene scene(declaredElement(QStringLiteral("Value"), QStringLiteral("string")));
+    scene.AddText(QStringLiteral("Value"), QStringLiteral("FM"));
+    scene.Reporting().SetShowCommentDialog(true);
+    QVERIFY(scene.Reporting().SlotToReport());
+    auto* const dialog = qobject_cast<CommentDialogImpl*>(openDialogs().constFirst());
+    QVERIFY(QDir(scene.Directory()).removeRecursively());
+    dialog->m_pTextEdit->setPlainText(QStringLiteral("late"));
+    dialog->SlotSaveWithComment();
+    scene.DeleteReporting();
+    QCoreApplication::processEvents();
+    QVERIFY(QDir().mkdir(scene.Directory()));
+    dialog->SlotSaveWithComment();
+    QCOMPARE(bodyText(scene.Report()), bodyText(QStringLiteral("<Value>FM</Value><Comment>late</Comment>")));
 }
 
 QTEST_MAIN(TestVCReportingLifetime)

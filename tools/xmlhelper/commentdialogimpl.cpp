@@ -3,7 +3,6 @@
 #include <vector>
 
 #include <QCloseEvent>
-#include <QDomDocument>
 #include <QMessageBox>
 #include <QPointer>
 #include <QShortcut>
@@ -15,6 +14,7 @@
 #include <arbase/vornos.h>
 
 #include "documentfile.h"
+#include "takeapart_p.h"
 #include "xmltext.h"
 
 namespace {
@@ -50,6 +50,7 @@ CommentDialogImpl::CommentDialogImpl()
     : QDialog(nullptr, Qt::WindowTitleHint | Qt::WindowSystemMenuHint)
     , m_pDocument(nullptr)
     , m_bSaved(false)
+    , m_bGivenBack(false)
 {
     setupUi(this);
     showTitle();
@@ -69,6 +70,12 @@ void CommentDialogImpl::SetDocument(QDomDocument* document)
     m_pDocument = document;
 }
 
+void CommentDialogImpl::OwnDocument(std::unique_ptr<QDomDocument> document)
+{
+    m_pOwnDocument = std::move(document);
+    giveBack();
+}
+
 void CommentDialogImpl::SetFileName(QString fileName)
 {
     m_sFileName = fileName;
@@ -76,6 +83,9 @@ void CommentDialogImpl::SetFileName(QString fileName)
 
 void CommentDialogImpl::ShowReportSummary()
 {
+    if (m_bGivenBack) {
+        return;
+    }
     const Vorn::DateTime now(VornOS::Create()->GetCurrentTime());
     m_sSummaryTime = now.toString(QStringLiteral("yyyy/MM/dd hh:mm:ss"));
     m_pTimeLabel->setText(m_sSummaryTime);
@@ -96,8 +106,20 @@ void CommentDialogImpl::reject()
     close();
 }
 
+void CommentDialogImpl::setVisible(bool visible)
+{
+    QDialog::setVisible(visible && !m_bGivenBack);
+    if (!visible && m_bSaved) {
+        // Later, because the answer comes from inside the widgets.
+        QMetaObject::invokeMethod(this, &CommentDialogImpl::giveBack, Qt::QueuedConnection);
+    }
+}
+
 void CommentDialogImpl::SlotSaveWithComment()
 {
+    if (m_bGivenBack) {
+        return;
+    }
     removeComment();
     const QString comment = representableText(m_pTextEdit->toPlainText(), "CommentDialogImpl");
     if (!comment.isEmpty()) {
@@ -109,6 +131,9 @@ void CommentDialogImpl::SlotSaveWithComment()
 
 void CommentDialogImpl::SlotSaveWithoutComment()
 {
+    if (m_bGivenBack) {
+        return;
+    }
     removeComment();
     WriteReportFile();
     hide();
@@ -154,7 +179,7 @@ void CommentDialogImpl::wrapLongLines(int position, int, int added)
 
 void CommentDialogImpl::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange) {
+    if (event->type() == QEvent::LanguageChange && !m_bGivenBack) {
         translate();
     }
     QDialog::changeEvent(event);
@@ -225,6 +250,24 @@ void CommentDialogImpl::WriteReportFile()
 {
     if (m_pDocument && saveDocument(*m_pDocument, m_sFileName)) {
         m_bSaved = true;
+    }
+}
+
+/// Gives back what a dialog holds that has been answered and has written its file.
+void CommentDialogImpl::giveBack()
+{
+    if (!m_bSaved || isVisible()) {
+        return;
+    }
+    m_bGivenBack = true;
+    setSizeGripEnabled(false); // QDialog keeps a pointer to the grip
+    qDeleteAll(findChildren<QObject*>(QString(), Qt::FindDirectChildrenOnly));
+    destroy();
+    if (m_pOwnDocument) {
+        m_comment = QDomElement();
+        takeApart(*m_pOwnDocument);
+        m_pOwnDocument.reset();
+        m_pDocument = nullptr;
     }
 }
 

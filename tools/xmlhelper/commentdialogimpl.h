@@ -2,14 +2,13 @@
 #define XMLHELPER_COMMENTDIALOGIMPL_H
 
 #include <array>
+#include <memory>
 
 #include <QDialog>
-#include <QDomElement>
+#include <QDomDocument>
 #include <QString>
 
 #include "ui_commentdialog.h"
-
-class QDomDocument;
 
 /// Shows the summary of a finished measurement report, takes the operator's comment and writes the report's file.
 ///
@@ -22,10 +21,12 @@ class QDomDocument;
 /// saves. A screen reader reads each value with its caption. When the application changes its language, an open dialog
 /// changes with it.
 ///
-/// The dialog belongs to the builder and is hidden, not destroyed, when it has been answered. The document belongs to
-/// whoever made it and must outlive the dialog. A file that cannot be written is not reported; the next answer tries
-/// again. Characters of the comment that W3C XML cannot carry are dropped, which is traced; when nothing is left, there
-/// is no comment.
+/// The dialog belongs to the builder and is hidden, not destroyed, when it has been answered. Once its file is written
+/// too, it gives back its window, all that is in it and its document, if that is its own, as soon as the event loop
+/// runs again: what is left writes and shows nothing any more. Until then another answer replaces the earlier one. A
+/// document that is not its own belongs to whoever made it and must outlive the dialog. A file that cannot be written
+/// is not reported; the next answer tries again. Characters of the comment that W3C XML cannot carry are dropped, which
+/// is traced; when nothing is left, there is no comment.
 class CommentDialogImpl : public QDialog, public Ui::CommentDialog
 {
     Q_OBJECT
@@ -35,12 +36,15 @@ public:
 
     /// The document to summarise, comment and write; not owned.
     void SetDocument(QDomDocument* document);
+    /// The document that was set, for the dialog's own. When the dialog has been answered, it goes at once.
+    void OwnDocument(std::unique_ptr<QDomDocument> document);
     /// The full path of the file to write.
     void SetFileName(QString fileName);
     /// Fills the labels from the document and the clock and shows the dialog.
     void ShowReportSummary();
 
     void reject() override;
+    void setVisible(bool visible) override;
 
 public Q_SLOTS:
     /// Appends the comment, if there is one, as last child of the document's root, writes the file and hides.
@@ -64,6 +68,7 @@ private:
     void appendComment(const QString& comment);
     void removeComment();
     void WriteReportFile();
+    void giveBack();
     QDomElement firstElement(const QString& name) const;
     QDomElement firstElement(const QString& name, const QString& alternativeName) const;
     QString textWithUnit(const QString& name) const;
@@ -74,6 +79,8 @@ private:
 
     QString m_sSummaryTime; ///< empty until the summary is shown
     QDomElement m_comment; ///< what an answer put into the document; null when there is none
+    std::unique_ptr<QDomDocument> m_pOwnDocument; ///< null while the document is somebody else's
+    bool m_bGivenBack; ///< the widgets have gone
 };
 
 #endif

@@ -71,12 +71,16 @@ ReportAnswerer::ReportAnswerer(VCReporting* button, bool consume)
 {
 }
 
-ReportAnswerer::~ReportAnswerer() = default;
+ReportAnswerer::~ReportAnswerer()
+{
+    releaseBuilder();
+}
 
 bool ReportAnswerer::MakeReport(XmlCreateReport* builder, const QString& schemaPath, const QString& reportPath,
                                 bool showComment)
 {
     const QScopedValueRollback<int> busy(m_iBusy, m_iBusy + 1);
+    releaseBuilder();
     m_pBuilder = builder;
     return builder->CreateXmlFromSchema(schemaPath, reportPath, showComment);
 }
@@ -102,6 +106,13 @@ void ReportAnswerer::Answer(XmlEvent* event)
         break;
     default:
         break;
+    }
+}
+
+void ReportAnswerer::releaseBuilder()
+{
+    if (m_pBuilder) {
+        m_pBuilder->releaseReport();
     }
 }
 

@@ -63,6 +63,8 @@ private:
         bool isQualified;
     };
 
+    void releaseBuilder();
+
     void answerElement(ElemBeginEvent* event);
     Match findMatch(const QString& name, const QDomNode& node) const;
     void fillElement(const QString& name, const QXmlAttributes& attributes, const Item& item);

@@ -1,5 +1,6 @@
 #include "xmlcreatereport.h"
 
+#include <memory>
 #include <utility>
 
 #include <QDateTime>
@@ -19,6 +20,7 @@
 #include "limits_p.h"
 #include "numberconversion.h"
 #include "rangecheck.h"
+#include "takeapart_p.h"
 #include "tracing.h"
 #include "xmlcontenthandler.h"
 #include "xmlreader.h"
@@ -570,4 +572,36 @@ bool XmlCreateReport::isDiscardAllowed(const QString& tagName) const
     }
     return index != NO_INDEX
         && (index % DiscardGuardModulus > m_iDiscardedChoices || m_choices.find(index + 1) != m_choices.end());
+}
+
+/// Gives back all that a report holds which is over, for whoever alone has the builder and its nodes. The builder and
+/// its dialog stay, and so does the document until the dialog has written it. The operations do nothing any more.
+void XmlCreateReport::releaseReport()
+{
+    delete m_pReader;
+    delete m_pContentHandler;
+    delete m_pDomParser;
+    qDeleteAll(m_followers);
+    m_followers.clear();
+    m_pReader = nullptr;
+    m_pContentHandler = nullptr;
+    m_pDomParser = nullptr;
+    m_pCurrentElement = nullptr;
+    m_pCallback = nullptr;
+    m_sLastMultipliedName.clear();
+    m_unresolvedTypes.clear();
+    m_occurs.clear();
+    m_typeDefinitions.clear();
+    m_choices.clear();
+
+    if (m_commentDialogs.empty()) {
+        takeApart(*m_pDocument);
+    }
+    m_pDocument = nullptr;
+    delete m_pSchemaHandler;
+    m_pSchemaHandler = nullptr;
+    for (CommentDialogImpl* const dialog : m_commentDialogs) {
+        dialog->OwnDocument(std::unique_ptr<QDomDocument>(m_dialogDocuments.front()));
+        m_dialogDocuments.pop_front();
+    }
 }

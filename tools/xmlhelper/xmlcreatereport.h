@@ -192,6 +192,8 @@ public:
     void DiscardChoiceItem();
 
 private:
+    friend class ReportAnswerer; // gives back what a report that is over holds
+
     /// The error events under way. A copy of a builder that is being answered has none itself.
     struct ErrorNesting
     {
@@ -213,6 +215,7 @@ private:
     void createWalkers();
     void stampSchemaLocation(const QString& schemaPath);
     void showComment(const QString& reportPath);
+    void releaseReport();
 
     bool refreshCurrentElement();
     bool isTypeAccepted(const QString& wanted, IXMLHelper::ErrorID refusal);
