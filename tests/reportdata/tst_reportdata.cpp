@@ -11,6 +11,7 @@
 #include <valueframework/valuetext.h>
 
 #include <xmlhelper/reportdata.h>
+#include <xmlhelper/treesnapshot_p.h>
 
 static_assert(ExplicitReportData::EXPLICIT_STRING == 0, "Clients store the numbers.");
 static_assert(ExplicitReportData::EXPLICIT_BOOL == 1, "Clients store the numbers.");
@@ -48,6 +49,22 @@ private:
     QString m_text;
 };
 
+/// A node that can get another name.
+class NamedNode : public Node
+{
+public:
+    NamedNode(const QString& name, Node* parent)
+        : Node(name, parent)
+        , m_name(name)
+    {
+    }
+    QString GetName() const override { return m_name; }
+    void Rename(const QString& name) { m_name = name; }
+
+private:
+    QString m_name;
+};
+
 /// A value tree with one of each kind:
 ///
 ///     Receiver/Frequency   the number 98500000 Hz
@@ -59,17 +76,19 @@ class ReceiverTree
 {
 public:
     ReceiverTree()
-        : frequency(new ValueNumeric(QStringLiteral("Frequency"), 98500000.0, QStringLiteral("Hz")))
+        : receiver(new NamedNode(QStringLiteral("Receiver"), m_tree.GetRoot()))
+        , frequency(new ValueNumeric(QStringLiteral("Frequency"), 98500000.0, QStringLiteral("Hz")))
         , mode(new ValueText(QStringLiteral("Mode"), QStringLiteral("FM")))
         , bandwidth(new ValueSelection(QStringLiteral("Bandwidth")))
     {
         bandwidth->AddChoice(150.0, QStringLiteral("150 kHz"));
-        auto* const receiver = new Node(QStringLiteral("Receiver"), m_tree.GetRoot());
         new ValueItem(frequency, receiver);
         new ValueItem(mode, receiver);
         new ValueItem(bandwidth, receiver);
         new TextEntry(QStringLiteral("State"), QStringLiteral("locked"), receiver);
     }
+
+    Node* Root() const { return m_tree.GetRoot(); }
 
 private:
     Q_DISABLE_COPY(ReceiverTree)
@@ -78,10 +97,13 @@ private:
 
 public:
     // All owned by the tree.
+    NamedNode* const receiver;
     ValueNumeric* const frequency;
     ValueText* const mode;
     ValueSelection* const bandwidth;
 };
+
+using Change = void (*)(const ReceiverTree&);
 
 ReportData itemAt(const QString& path, int decimalExponent = 0)
 {
@@ -115,6 +137,7 @@ QString textOf(const ReportData& item)
 
 } // namespace
 
+Q_DECLARE_METATYPE(Change)
 Q_DECLARE_METATYPE(ExplicitReportData)
 
 class TestReportData : public QObject
@@ -152,7 +175,13 @@ private Q_SLOTS:
     void readsAText();
     void followsTheLivingValue();
     void hasNoTextWithoutASource();
-    void valueMovedToAnotherPlaceIsReadAsNone();
+    void valueIsReadWhereverTheTreeHoldsIt_data();
+    void valueIsReadWhereverTheTreeHoldsIt();
+    void valueThatHasGoneIsReadAsNone_data();
+    void valueThatHasGoneIsReadAsNone();
+    void entryIsReadWhereverTheTreeHoldsIt();
+    void entryThatHasGoneIsReadAsNone();
+    void valueIsFoundAgainWhileASnapshotLives();
 
     void givesExplicitBoolsAndLongsByKindOnly_data();
     void givesExplicitBoolsAndLongsByKindOnly();
@@ -535,26 +564,112 @@ void TestReportData::hasNoTextWithoutASource()
     QCOMPARE(text, QStringLiteral("before"));
 }
 
-void TestReportData::valueMovedToAnotherPlaceIsReadAsNone()
+void TestReportData::valueIsReadWhereverTheTreeHoldsIt_data()
 {
+    QTest::addColumn<Change>("change");
+    QTest::newRow("moved-into-another-node") << Change([](const ReceiverTree& tree) {
+        auto* const spare = new Node(QStringLiteral("Spare"), tree.Root());
+        new ValueItem(tree.frequency, new Node(QStringLiteral("Deep"), spare));
+        new ValueItem(tree.mode, spare);
+    });
+    QTest::newRow("moved-to-the-top") << Change([](const ReceiverTree& tree) {
+        new ValueItem(tree.frequency, tree.Root());
+        new ValueItem(tree.mode, tree.Root());
+    });
+    QTest::newRow("its-node-renamed") << Change(
+        [](const ReceiverTree& tree) { tree.receiver->Rename(QStringLiteral("Tuner")); });
+    QTest::newRow("hidden-behind-another-of-its-path") << Change([](const ReceiverTree& tree) {
+        for (ValueBase* const value : {static_cast<ValueBase*>(tree.frequency), static_cast<ValueBase*>(tree.mode)}) {
+            auto* const other = new ValueText(value->GetName(), QStringLiteral("other"));
+            new ValueItem(other, tree.receiver);
+            new ValueItem(value, tree.receiver); // now behind the other
+        }
+    });
+}
+
+void TestReportData::valueIsReadWhereverTheTreeHoldsIt()
+{
+    QFETCH(Change, change);
     const ReceiverTree tree;
     const ReportData frequency = itemAt(QStringLiteral("Receiver/Frequency"));
     const ReportData mode = itemAt(QStringLiteral("Receiver/Mode"));
-    auto* const spare = new Node(QStringLiteral("Spare"), Tree::Instance()->GetRoot());
-    new ValueItem(tree.frequency, spare);
-    new ValueItem(tree.mode, spare);
+    change(tree);
+    QVERIFY(Tree::Instance()->GetValue(QStringLiteral("Receiver/Mode")) != tree.mode);
+    QCOMPARE(*numberOf(frequency), 98500000.0);
+    QCOMPARE(textOf(mode), QStringLiteral("FM"));
+    const TreeSnapshot snapshot;
+    QCOMPARE(*numberOf(frequency), 98500000.0);
+    QCOMPARE(textOf(mode), QStringLiteral("FM"));
+}
 
+void TestReportData::valueThatHasGoneIsReadAsNone_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::newRow("deleted") << Change([](const ReceiverTree& tree) {
+        delete tree.frequency;
+        delete tree.mode;
+    });
+    QTest::newRow("its-node-deleted") << Change([](const ReceiverTree& tree) { delete tree.receiver; });
+    QTest::newRow("with-an-item-in-its-memory") << Change([](const ReceiverTree& tree) {
+        delete tree.receiver;
+        for (int i = 0; i < 100; ++i) { // of every size that the values had
+            new Node(QStringLiteral("Node"), tree.Root());
+            new ValueItem(nullptr, tree.Root());
+            new TextEntry(QStringLiteral("Entry"), QStringLiteral("text"), tree.Root());
+        }
+    });
+}
+
+void TestReportData::valueThatHasGoneIsReadAsNone()
+{
+    QFETCH(Change, change);
+    const ReceiverTree tree;
+    const ReportData frequency = itemAt(QStringLiteral("Receiver/Frequency"));
+    const ReportData mode = itemAt(QStringLiteral("Receiver/Mode"));
+    change(tree);
     QVERIFY(!numberOf(frequency));
     QCOMPARE(textOf(mode), QStringLiteral("(none)"));
     QVERIFY(mode.IsOpen());
-    QCOMPARE(textOf(itemAt(QStringLiteral("Spare/Mode"))), QStringLiteral("FM"));
+    const TreeSnapshot snapshot;
+    QVERIFY(!numberOf(frequency));
+    QCOMPARE(textOf(mode), QStringLiteral("(none)"));
+}
 
-    // What stands under the path is asked at every read.
-    auto* const receiver = dynamic_cast<Node*>(Tree::Instance()->GetTreeItem(QStringLiteral("Receiver")));
-    new ValueItem(tree.frequency, receiver);
-    new ValueItem(tree.mode, receiver);
-    QCOMPARE(*numberOf(frequency), 98500000.0);
+void TestReportData::entryIsReadWhereverTheTreeHoldsIt()
+{
+    const ReceiverTree tree;
+    const ReportData state = itemAt(QStringLiteral("Receiver/State"));
+    // A value under the path of the entry hides it from the first look.
+    new ValueItem(new ValueText(QStringLiteral("State"), QStringLiteral("other")), tree.receiver);
+    QCOMPARE(textOf(state), QStringLiteral("locked"));
+    tree.receiver->Rename(QStringLiteral("Tuner"));
+    QCOMPARE(textOf(state), QStringLiteral("locked"));
+}
+
+void TestReportData::entryThatHasGoneIsReadAsNone()
+{
+    const ReceiverTree tree;
+    const ReportData state = itemAt(QStringLiteral("Receiver/State"));
+    delete Tree::Instance()->GetTreeItem(QStringLiteral("Receiver/State"));
+    QCOMPARE(textOf(state), QStringLiteral("(none)"));
+}
+
+void TestReportData::valueIsFoundAgainWhileASnapshotLives()
+{
+    const ReceiverTree tree;
+    const ReportData mode = itemAt(QStringLiteral("Receiver/Mode"));
+    const ReportData frequency = itemAt(QStringLiteral("Receiver/Frequency"));
+    tree.receiver->Rename(QStringLiteral("Tuner"));
+    const TreeSnapshot snapshot;
     QCOMPARE(textOf(mode), QStringLiteral("FM"));
+    auto* const spare = new Node(QStringLiteral("Spare"), tree.Root());
+    new ValueItem(tree.mode, spare);
+    QCOMPARE(textOf(mode), QStringLiteral("FM"));
+    delete spare;
+    QCOMPARE(textOf(mode), QStringLiteral("(none)"));
+    QCOMPARE(*numberOf(frequency), 98500000.0);
+    const Tree other; // While it covers the tree, nothing is asked.
+    QCOMPARE(*numberOf(frequency), 98500000.0);
 }
 
 void TestReportData::givesExplicitBoolsAndLongsByKindOnly_data()

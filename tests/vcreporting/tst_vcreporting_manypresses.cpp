@@ -10,6 +10,11 @@
 
 #include <QApplication>
 
+#include <valueframework/node.h>
+#include <valueframework/tree.h>
+#include <valueframework/valueitem.h>
+#include <valueframework/valuetext.h>
+
 #include <xmlhelper/commentdialogimpl.h>
 
 #include "reportingscene.h"
@@ -92,6 +97,8 @@ private Q_SLOTS:
     void littleStaysOfAPress();
     void pressesStayAsFastAsTheFirst_data();
     void pressesStayAsFastAsTheFirst();
+    void movedValuesAreSoughtInALargeTreeOnce_data();
+    void movedValuesAreSoughtInALargeTreeOnce();
 };
 
 void TestVCReportingManyPresses::littleStaysOfAPress_data()
@@ -120,6 +127,7 @@ void TestVCReportingManyPresses::littleStaysOfAPress()
         screen.Press();
     }
     const qint64 left = (usedMemory() - before) / presses;
+    qInfo("%lld", left);
     QVERIFY2(left <= limit, qPrintable(QStringLiteral("%1 bytes of each press").arg(left)));
     QCOMPARE(int(QApplication::allWidgets().size() - widgetsBefore), presses * widgets);
     QVERIFY(QGuiApplication::allWindows().size() <= 1);
@@ -144,7 +152,52 @@ void TestVCReportingManyPresses::pressesStayAsFastAsTheFirst()
         screen.Press();
     }
     const std::clock_t last = screen.PressingTime();
+    qInfo("%ld %ld", long(first), long(last));
     QVERIFY2(last <= 2 * first, qPrintable(QStringLiteral("%1 at first, %2 at last").arg(first).arg(last)));
+}
+
+void TestVCReportingManyPresses::movedValuesAreSoughtInALargeTreeOnce_data()
+{
+    QTest::addColumn<bool>("areDeleted");
+    QTest::newRow("moved") << false;
+    QTest::newRow("gone") << true;
+}
+
+void TestVCReportingManyPresses::movedValuesAreSoughtInALargeTreeOnce()
+{
+    QFETCH(bool, areDeleted);
+    std::vector<std::clock_t> times;
+    for (const std::size_t count : {1, 20}) {
+        const Tree tree;
+        Screen screen(false);
+        screen.Reporting().ClearReportData();
+        std::vector<ValueBase*> values;
+        for (int i = 0; i < 20; ++i) {
+            values.push_back(new ValueText(QStringLiteral("Element%1").arg(i), QStringLiteral("value")));
+            new ValueItem(values.back(), tree.GetRoot());
+        }
+        screen.Reporting().AddReportData(tree.GetRoot());
+        Node* node = nullptr;
+        for (int i = 0; i < 200; ++i) {
+            node = new Node(QStringLiteral("Node%1").arg(i), tree.GetRoot());
+            for (int j = 0; j < 100; ++j) {
+                new ValueItem(nullptr, node);
+            }
+        }
+        values.resize(count);
+        for (ValueBase* const value : values) {
+            if (areDeleted) {
+                delete value;
+            } else {
+                new ValueItem(value, node);
+            }
+        }
+        times.push_back(screen.PressingTime());
+        const QString text = screen.Report().documentElement().firstChildElement(QStringLiteral("Element0")).text();
+        QCOMPARE(text, areDeleted ? QString() : QStringLiteral("value"));
+    }
+    QVERIFY2(times[1] <= 3 * times[0], qPrintable(QStringLiteral("%1, %2").arg(times[0]).arg(times[1])));
+    qInfo("%ld %ld", long(times[0]), long(times[1]));
 }
 
 QTEST_MAIN(TestVCReportingManyPresses)

@@ -11,6 +11,7 @@
 #include "errorevent.h"
 #include "numberconversion.h"
 #include "tracing.h"
+#include "treesnapshot_p.h"
 #include "vcreporting.h"
 #include "xmlcreatereport.h"
 
@@ -80,6 +81,7 @@ bool ReportAnswerer::MakeReport(XmlCreateReport* builder, const QString& schemaP
                                 bool showComment)
 {
     const QScopedValueRollback<int> busy(m_iBusy, m_iBusy + 1);
+    const TreeSnapshot snapshot; // Values that have moved are sought once for all.
     releaseBuilder();
     m_pBuilder = builder;
     return builder->CreateXmlFromSchema(schemaPath, reportPath, showComment);

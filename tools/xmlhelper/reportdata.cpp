@@ -9,6 +9,7 @@
 #include <valueframework/valueselection.h>
 
 #include "numberconversion.h"
+#include "treesnapshot_p.h"
 
 namespace {
 
@@ -256,17 +257,19 @@ double ReportData::valueScale() const
     return std::pow(10.0, m_iDecimalExponent);
 }
 
-/// Whether what the tree had under the path is no longer there. Another tree that has taken the place of the tree since
-/// cannot tell.
+/// Whether the tree no longer holds the object that it had under the path, where it is looked for first. Another tree
+/// that has taken the place of the tree since cannot tell.
 bool ReportData::isSourceGone() const
 {
     if (!m_pValue && !m_pEntry) {
         return false;
     }
     const Tree* const tree = Tree::Instance();
-    if (tree && tree != m_pTree) {
-        return false;
+    if (!tree || tree != m_pTree) {
+        return !tree;
     }
-    return !tree || tree->GetValue(m_sValuePath) != m_pValue
-        || (m_pEntry && tree->GetTreeItem(m_sValuePath) != m_pEntry);
+    if (m_pValue) {
+        return tree->GetValue(m_sValuePath) != m_pValue && !TreeSnapshot::Holds(*tree, m_pValue);
+    }
+    return tree->GetTreeItem(m_sValuePath) != m_pEntry && !TreeSnapshot::Holds(*tree, m_pEntry);
 }

@@ -67,9 +67,11 @@ private:
 /// One value that a measurement report can carry: the name of a report element and where its value comes from.
 ///
 /// The source is a value of the suite's value tree, found by its path when the item is made, or a fixed text, or a
-/// value given explicitly. An item with a usable source is open. Values of the tree are not owned. One that goes away,
-/// or gives its place to another, leaves the item without a value: it stays open, but nothing is read from it. Only
-/// while another tree has taken the place of the tree must its values outlive the items that name them.
+/// value given explicitly. An item with a usable source is open. Values of the tree are not owned. One that moves to
+/// another place, gets another name or gives its path to another is still read, as long as the tree holds it anywhere;
+/// finding it again takes a look at the whole tree. One that goes away leaves the item without a value: it stays open,
+/// but nothing is read from it. Only while another tree has taken the place of the tree must its values outlive the
+/// items that name them.
 class XMLHELPER_EXPORT ReportData
 {
 public:
