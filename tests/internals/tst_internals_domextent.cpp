@@ -19,7 +19,6 @@ private Q_SLOTS:
     void measuresOnlyWhatIsBelowTheNode();
     void measuresFragments();
     void findsNothingInOtherNodes();
-    void measuresTheLongestText();
     void measuresDeepDocuments();
     void agreesWithARecursion();
 
@@ -32,18 +31,15 @@ namespace {
 
 DomExtent recursiveExtentOf(const QDomNode& node)
 {
-    DomExtent below {0, 0, 0, 0};
+    DomExtent below {0, 0, 0};
     for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling()) {
         const DomExtent extent = recursiveExtentOf(child);
         below.elements += extent.elements;
         below.levels = std::max(below.levels, extent.levels);
         below.attributes += extent.attributes;
-        below.longestText = std::max(below.longestText, extent.longestText);
     }
     const int own = node.isElement() ? 1 : 0;
-    const int text = node.isText() && !node.isCDATASection() ? int(node.nodeValue().size()) : 0;
-    return {below.elements + own, below.levels + own, below.attributes + node.toElement().attributes().count(),
-            std::max(below.longestText, text)};
+    return {below.elements + own, below.levels + own, below.attributes + node.toElement().attributes().count()};
 }
 
 } // namespace
@@ -109,16 +105,6 @@ void TestDomExtent::findsNothingInOtherNodes()
     QCOMPARE(extentOf(document.documentElement().lastChild()).levels, 0);
 }
 
-void TestDomExtent::measuresTheLongestText()
-{
-    // Only texts are escaped when they are saved.
-    const QDomDocument document = documentOf(
-        QStringLiteral("<r k='123456789'>12<a>1234</a><!--12345678--><b>123<![CDATA[1234567]]></b><?t 123456?></r>"));
-    QCOMPARE(extentOf(document).longestText, 4);
-    QCOMPARE(extentOf(document.documentElement().firstChildElement(QStringLiteral("b"))).longestText, 3);
-    QCOMPARE(extentOf(documentOf(QStringLiteral("<r/>"))).longestText, 0);
-}
-
 void TestDomExtent::measuresDeepDocuments()
 {
     const int levels = 600;
@@ -138,7 +124,7 @@ void TestDomExtent::agreesWithARecursion()
             const DomExtent expected = recursiveExtentOf(node);
             const DomExtent extent = extentOf(node);
             QVERIFY2(extent.elements == expected.elements && extent.levels == expected.levels
-                         && extent.attributes == expected.attributes && extent.longestText == expected.longestText,
+                         && extent.attributes == expected.attributes,
                      text.constData());
         }
     }

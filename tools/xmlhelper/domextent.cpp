@@ -6,7 +6,7 @@
 
 DomExtent extentOf(const QDomNode& top)
 {
-    DomExtent extent {0, 0, 0, 0};
+    DomExtent extent {0, 0, 0};
     int level = 0;
     QDomNode node = top;
     while (!node.isNull()) {
@@ -14,8 +14,6 @@ DomExtent extentOf(const QDomNode& top)
             ++extent.elements;
             extent.levels = std::max(extent.levels, level + 1);
             extent.attributes += node.attributes().count();
-        } else if (node.nodeType() == QDomNode::TextNode) {
-            extent.longestText = std::max(extent.longestText, int(node.nodeValue().size()));
         }
         QDomNode next = node.firstChild();
         level += !next.isNull() && node.isElement() ? 1 : 0;

@@ -9,7 +9,6 @@ struct DomExtent
     int elements; ///< how many elements
     int levels; ///< how deep they are nested
     int attributes; ///< how many attributes they have
-    int longestText; ///< how many code units the longest of their texts has
 };
 
 /// The extent of @p node and everything below it. Uses no recursion, so that any document can be measured.

@@ -15,9 +15,9 @@
 #include "limits_p.h"
 #include "nestingguard.h"
 #include "tagscanner.h"
-#include "textsinpieces.h"
 #include "tracing.h"
 #include "xmlcontenthandler.h"
+#include "xmlserialiser_p.h"
 
 QT_WARNING_DISABLE_DEPRECATED
 
@@ -75,33 +75,17 @@ Look lookAt(QFile& file)
     return {guard.IsExceeded(), !guard.IsExceeded() && source.GetRefusal().isEmpty()};
 }
 
-QString savedText(const QDomDocument& document)
+/// The text of a document, a fragment or a node; nothing when it is nested too deeply or too long.
+std::optional<QString> textOf(const QDomNode& content)
 {
-    return document.toString(DocumentIndent);
-}
-
-QString savedText(const QDomNode& node)
-{
-    QString text;
-    QTextStream stream(&text);
-    node.save(stream, NodeIndent);
-    stream.flush();
-    return text;
-}
-
-/// The text of a document, a fragment or a node; nothing when it is nested too deeply.
-template <class Content> std::optional<QString> textOf(const Content& content)
-{
-    const DomExtent extent = extentOf(content);
-    if (extent.levels > limits().elementNesting) {
+    if (extentOf(content).levels > limits().elementNesting) {
         traceNesting();
         return std::nullopt;
     }
-    std::optional<TextsInPieces> pieces;
-    if (isLongText(extent.longestText)) {
-        pieces.emplace(content);
-    }
-    return savedText(content);
+    QString text;
+    QTextStream stream(&text);
+    const bool isWhole = serialise(content, stream, content.isDocument() ? DocumentIndent : NodeIndent);
+    return isWhole ? std::make_optional(text) : std::nullopt;
 }
 
 } // namespace

@@ -678,7 +678,7 @@ QDomNode XmlSchemaHandler::currentFragment() const
 /// Creates an element and appends it to @p owner; a null element when the limits do not allow it.
 QDomElement XmlSchemaHandler::createElement(const QString& name, QDomNode owner)
 {
-    if (!isWithinLimits({1, 1, 0, 0}, 1, owner, m_fragmentElements)) {
+    if (!isWithinLimits({1, 1, 0}, 1, owner, m_fragmentElements)) {
         return QDomElement();
     }
     QDomElement element = m_pDocument->createElement(name);
