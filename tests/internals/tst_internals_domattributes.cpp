@@ -1,5 +1,8 @@
 #include <QDomDocument>
+#include <QSet>
 #include <QtTest>
+
+#include <ctime>
 
 #include <xmlhelper/domattributes.h>
 
@@ -12,7 +15,32 @@ class TestDomAttributes : public QObject
 private Q_SLOTS:
     void listsInTheOrderOfTheMap_data();
     void listsInTheOrderOfTheMap();
+    void listsThoseOfAnElementWithMuchBelowIt();
+    void takesATimeThatGrowsWithTheirNumber();
+    void takesNoTimeForWhatIsBelow();
 };
+
+namespace {
+
+void setAttributes(QDomElement element, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        element.setAttribute(QStringLiteral("name%1").arg(i), i);
+    }
+}
+
+double secondsToList(const QDomElement& element, int times)
+{
+    const std::clock_t begin = std::clock();
+    for (int i = 0; i < times; ++i) {
+        const int count = int(attributesOf(element).size());
+        Q_ASSERT(count == element.attributes().count());
+        Q_UNUSED(count)
+    }
+    return double(std::clock() - begin) / CLOCKS_PER_SEC;
+}
+
+} // namespace
 
 void TestDomAttributes::listsInTheOrderOfTheMap_data()
 {
@@ -47,6 +75,45 @@ void TestDomAttributes::listsInTheOrderOfTheMap()
     for (int i = 0; i < map.count(); ++i) {
         QVERIFY(attributes[i] == map.item(i));
     }
+}
+
+void TestDomAttributes::listsThoseOfAnElementWithMuchBelowIt()
+{
+    QDomDocument document
+        = documentOf(QStringLiteral("<r><a><b/></a>%1</r>").arg(QStringLiteral("<c/>").repeated(2000)));
+    QDomElement element = document.documentElement();
+    QSet<QString> names;
+    for (int i = 0; i < 1000; ++i) {
+        names.insert(QStringLiteral("name%1").arg(i));
+        element.setAttribute(QStringLiteral("name%1").arg(i), i);
+    }
+    for (const QDomAttr& attribute : attributesOf(element)) {
+        QVERIFY(names.remove(attribute.name()));
+        QVERIFY(attribute.ownerElement() == element);
+        QVERIFY(element.attributeNode(attribute.name()) == attribute);
+    }
+    QVERIFY(names.isEmpty());
+}
+
+void TestDomAttributes::takesATimeThatGrowsWithTheirNumber()
+{
+    // Counting each from the start needs half a minute.
+    QDomDocument document = documentOf(QStringLiteral("<r>text</r>"));
+    setAttributes(document.documentElement(), 40000);
+    const double seconds = secondsToList(document.documentElement(), 1);
+    QVERIFY2(seconds < 5, qPrintable(QString::number(seconds)));
+}
+
+void TestDomAttributes::takesNoTimeForWhatIsBelow()
+{
+    // Saving that needs a hundred times as much.
+    QDomDocument document = documentOf(QStringLiteral("<r><a/>%1</r>").arg(QStringLiteral("<b/>").repeated(100000)));
+    const QDomElement root = document.documentElement();
+    setAttributes(root, 501);
+    setAttributes(root.firstChildElement(), 501);
+    const double ofALeaf = secondsToList(root.firstChildElement(), 20);
+    const double ofTheRoot = secondsToList(root, 20);
+    QVERIFY2(ofTheRoot < 10 * ofALeaf, qPrintable(QStringLiteral("%1 and %2").arg(ofALeaf).arg(ofTheRoot)));
 }
 
 QTEST_GUILESS_MAIN(TestDomAttributes)

@@ -5,48 +5,50 @@
 #include <QDomElement>
 #include <QStringList>
 #include <QTextStream>
-#include <QXmlDefaultHandler>
-#include <QXmlInputSource>
-#include <QXmlSimpleReader>
 
-QT_WARNING_DISABLE_DEPRECATED
+#include "domorder.h"
 
 namespace {
 
 /// Up to here counting from the start is the fastest way.
 constexpr int FewAttributes = 500;
 
-/// Takes the attribute names of the first tag and ends the parse.
-class FirstTagReader : public QXmlDefaultHandler
+/// The names before the values of the tag that @p text begins with. No value has a quotation mark in it.
+QStringList namesInTag(const QString& text)
 {
-public:
+    const QLatin1String beginOfValue("=\"");
     QStringList names;
-
-    bool startElement(const QString&, const QString&, const QString&, const QXmlAttributes& attributes) override
-    {
-        for (int i = 0; i < attributes.count(); ++i) {
-            names.append(attributes.qName(i));
+    auto name = text.indexOf(QLatin1Char(' ')) + 1;
+    while (name > 0) {
+        const auto value = text.indexOf(beginOfValue, name);
+        const auto end = value < 0 ? value : text.indexOf(QLatin1Char('"'), value + beginOfValue.size());
+        if (end < 0) {
+            break;
         }
-        return false;
+        names.append(text.mid(name, value - name));
+        name = text.mid(end + 1, 1) == QLatin1String(" ") ? end + 2 : 0;
     }
-};
+    return names;
+}
 
-/// Qt saves attributes in the order of the map, without counting.
-QStringList savedAttributeNames(const QDomElement& element)
+/// Whether there is less below @p element than @p limit nodes, attributes and characters.
+bool isLessBelow(const QDomElement& element, qint64 limit)
+{
+    for (QDomNode node = element.firstChild(); limit > 0 && !node.isNull(); node = nextBelow(element, node, false)) {
+        limit -= 1 + node.attributes().count() + node.nodeValue().size();
+    }
+    return limit > 0;
+}
+
+/// Qt saves attributes in the order of the map, without counting, but what is below the element with them.
+QStringList savedAttributeNames(const QDomElement& element, int count)
 {
     QString text;
     QTextStream stream(&text);
-    element.save(stream, 0);
+    const QDomNode saved = isLessBelow(element, count) ? QDomNode(element) : element.cloneNode(false);
+    saved.save(stream, 0);
     stream.flush();
-
-    QXmlInputSource source;
-    source.setData(text);
-    QXmlSimpleReader parser;
-    parser.setFeature(QStringLiteral("http://xml.org/sax/features/namespaces"), false);
-    FirstTagReader reader;
-    parser.setContentHandler(&reader);
-    parser.parse(source);
-    return reader.names;
+    return namesInTag(text);
 }
 
 DomAttributes countedAttributes(const QDomNamedNodeMap& map)
@@ -69,7 +71,7 @@ DomAttributes attributesOf(const QDomElement& element)
         return countedAttributes(map);
     }
     DomAttributes attributes;
-    const QStringList names = savedAttributeNames(element);
+    const QStringList names = savedAttributeNames(element, map.count());
     attributes.reserve(static_cast<int>(names.size()));
     for (const QString& name : names) {
         attributes.append(map.namedItem(name).toAttr());
