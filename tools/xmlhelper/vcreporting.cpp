@@ -157,9 +157,9 @@ void VCReporting::AddReportData(const QString& name, const QString& valuePath, c
     }
     auto item
         = std::make_unique<ReportData>(name, valuePath, fixedText, maxOccurs, formatText, decimalExponent, unit, false);
-    // Opens the item, so that it is kept even when the tree does not know the path.
+    // An item is kept even when the tree does not know the path: explicit data opens it.
     item->SetExplicitData(ExplicitReportData());
-    CheckReportData(std::move(item));
+    m_pAnswerer->Items().Append(std::move(item));
 }
 
 void VCReporting::AddExplicitReportData(const QString& name, const QString& value, int maxOccurs,
@@ -303,19 +303,11 @@ XmlCreateReport* VCReporting::createBuilder()
     return new XmlCreateReport(m_pAnswerer.get());
 }
 
-/// Files an open item and drops a closed one.
-void VCReporting::CheckReportData(std::unique_ptr<ReportData> item)
-{
-    if (item->IsOpen()) { // always so: explicit data, which every item is given before, opens it
-        m_pAnswerer->Items().Append(std::move(item));
-    }
-}
-
 void VCReporting::addExplicitItem(const ExplicitReportData& value, const QString& name, int maxOccurs,
                                   const QString& formatText, int decimalExponent, const QString& unit)
 {
     auto item
         = std::make_unique<ReportData>(name, QString(), QString(), maxOccurs, formatText, decimalExponent, unit, false);
     item->SetExplicitData(value);
-    CheckReportData(std::move(item));
+    m_pAnswerer->Items().Append(std::move(item));
 }

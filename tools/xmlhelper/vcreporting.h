@@ -34,9 +34,17 @@ class XmlCreateReport;
 /// "DFDateTime" receive the current time. The file is named after the time and lies in the report directory; with
 /// the comment dialog it is written when the operator answers.
 ///
-/// The widget owns its items, its button and its timer, not the tool bar. Report builders are never deleted, with
-/// their documents and comment dialogs: an operator may answer a dialog long after the screen is gone. Everything
-/// runs on the GUI thread.
+/// The widget owns its items, its button and its timer, not the tool bar. Report builders are never deleted, with the
+/// comment dialogs that an operator may answer long after the screen is gone. A report that is over leaves no more than
+/// these: with the next press, or with the widget, its document goes as soon as no dialog has to write it any more. A
+/// node of it that a derived class has kept from an event then stands alone, with its name, its attributes and its
+/// text, and without parent, siblings and children; a kept attribute has its name and value, and must not be asked for
+/// more.
+///
+/// The widget may be deleted at any time: in a slot of its signals it ends there; while a report is being filled, which
+/// reading a value may be used for, the report is filled with the items it had. Items and schema may change meanwhile;
+/// items serve from the next element on, the schema from the next press. A press while a report is being filled is
+/// refused; one from a slot of a signal makes a report of its own. Everything runs on the GUI thread.
 class XMLHELPER_EXPORT VCReporting : public QWidget, public IXMLHelper
 {
     Q_OBJECT
@@ -142,11 +150,12 @@ Q_SIGNALS:
 public Q_SLOTS:
     /// Makes one report.
     /// @return whether the schema was read; false, without any signal but PrepareToReport(), when the path of the
-    ///         schema does not end in ".xsd". A file that cannot be written is not reported.
+    ///         schema does not end in ".xsd" or the widget was deleted by then; false, without any signal and with a
+    ///         trace, while a report of this widget is being filled. A file that cannot be written is not reported.
     bool SlotToReport();
 
 protected:
-    /// Translates the button anew when the application changes its language.
+    /// Translates the button's tool tip anew when the application changes its language, unless it has set another one.
     /// @param event  Qt's
     void changeEvent(QEvent* event) override;
 
@@ -161,7 +170,6 @@ private:
     QString newReportPath() const;
     XmlCreateReport* createBuilder();
 
-    void CheckReportData(std::unique_ptr<ReportData> item);
     void addExplicitItem(const ExplicitReportData& value, const QString& name, int maxOccurs, const QString& formatText,
                          int decimalExponent, const QString& unit);
 
