@@ -1,6 +1,7 @@
 #include "reportanswerer_p.h"
 
-#include <algorithm>
+#include <new>
+#include <vector>
 
 #include <QDateTime>
 #include <QDomNode>
@@ -74,7 +75,11 @@ ReportAnswerer::ReportAnswerer(VCReporting* button, bool consume)
 
 ReportAnswerer::~ReportAnswerer()
 {
-    releaseBuilder();
+    try {
+        releaseBuilder();
+    } catch (const std::bad_alloc&) {
+        // What could not be given back stays.
+    }
 }
 
 bool ReportAnswerer::MakeReport(XmlCreateReport* builder, const QString& schemaPath, const QString& reportPath,

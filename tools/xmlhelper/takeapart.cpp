@@ -1,12 +1,10 @@
 #include "takeapart_p.h"
 
-#include <vector>
-
 #include <QDomDocument>
 
 namespace {
 
-/// The place of nodes that belong to no document any more; never deleted, because nodes may outlive everything.
+/// The place from which nodes go their own way; its document is theirs then, and never deleted.
 QDomDocumentFragment& place()
 {
     static auto* const document = new QDomDocument;
@@ -19,19 +17,21 @@ bool isTextAlone(const QDomNode& node)
     return node.isText() && node.nextSibling().isNull() && node.previousSibling().isNull();
 }
 
+/// All but a text that is alone, which a kept parent keeps.
+void moveChildren(const QDomNode& parent)
+{
+    for (QDomNode child = parent.firstChild(); !child.isNull() && !isTextAlone(child); child = parent.firstChild()) {
+        place().appendChild(child);
+    }
+}
+
 } // namespace
 
-void takeApart(QDomDocument& document)
+void takeApart(const QDomDocument& document)
 {
-    std::vector<QDomNode> parents {document};
-    while (!parents.empty()) {
-        const QDomNode parent = parents.back();
-        parents.pop_back();
-        for (QDomNode child = parent.firstChild(); !child.isNull() && !isTextAlone(child);
-             child = parent.firstChild()) {
-            place().appendChild(child);
-            place().removeChild(child);
-            parents.push_back(child);
-        }
+    moveChildren(document);
+    for (QDomNode node = place().firstChild(); !node.isNull(); node = place().firstChild()) {
+        moveChildren(node);
+        place().removeChild(node);
     }
 }

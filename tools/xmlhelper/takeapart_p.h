@@ -8,6 +8,6 @@ class QDomDocument;
 ///
 /// An element that is held keeps its name, its attributes and, where that was all it held besides elements, its text.
 /// It has no parent, siblings or child elements any more; its document is another, empty one that stays for good.
-void takeApart(QDomDocument& document);
+void takeApart(const QDomDocument& document);
 
 #endif

@@ -574,34 +574,31 @@ bool XmlCreateReport::isDiscardAllowed(const QString& tagName) const
         && (index % DiscardGuardModulus > m_iDiscardedChoices || m_choices.find(index + 1) != m_choices.end());
 }
 
-/// Gives back all that a report holds which is over, for whoever alone has the builder and its nodes. The builder and
-/// its dialog stay, and so does the document until the dialog has written it. The operations do nothing any more.
+/// Gives back all that a report holds which is over, for whoever alone has the builder. The builder and its dialog
+/// stay, and so does the document until the dialog has written it. The operations do nothing any more. Also for a
+/// report that an exception has ended.
 void XmlCreateReport::releaseReport()
 {
-    delete m_pReader;
-    delete m_pContentHandler;
-    delete m_pDomParser;
-    qDeleteAll(m_followers);
-    m_followers.clear();
-    m_pReader = nullptr;
-    m_pContentHandler = nullptr;
-    m_pDomParser = nullptr;
-    m_pCurrentElement = nullptr;
     m_pCallback = nullptr;
-    m_sLastMultipliedName.clear();
+    m_pCurrentElement = nullptr;
+    delete std::exchange(m_pReader, nullptr);
+    delete std::exchange(m_pContentHandler, nullptr);
+    delete std::exchange(m_pDomParser, nullptr);
+    qDeleteAll(std::exchange(m_followers, {}));
     m_unresolvedTypes.clear();
     m_occurs.clear();
     m_typeDefinitions.clear();
     m_choices.clear();
 
-    if (m_commentDialogs.empty()) {
+    if (m_pDocument && m_commentDialogs.empty()) {
         takeApart(*m_pDocument);
     }
     m_pDocument = nullptr;
-    delete m_pSchemaHandler;
-    m_pSchemaHandler = nullptr;
+    delete std::exchange(m_pSchemaHandler, nullptr);
     for (CommentDialogImpl* const dialog : m_commentDialogs) {
-        dialog->OwnDocument(std::unique_ptr<QDomDocument>(m_dialogDocuments.front()));
+        std::unique_ptr<QDomDocument> document(m_dialogDocuments.front());
         m_dialogDocuments.pop_front();
+        dialog->OwnDocument(std::move(document));
     }
+    qDeleteAll(std::exchange(m_dialogDocuments, {}));
 }
