@@ -10,13 +10,14 @@ private Q_SLOTS:
     void init();
     void findsTheFirstOfItsName();
     void keepsTheOrderWhenItemsGo();
-    void listsWhatStandsBefore();
+    void listsOthersBesideThem();
     void listsItemsOfSomeNamesInTheirOrder();
     void startsAnewWhenCleared();
 
 private:
     void append(const char* name);
-    QString nameAt(int index) const { return m_pItems->At(index).GetName(); }
+    QString namesBefore(const char* end, const std::vector<QString>& names, int others = 0) const;
+    QString nameAt(int index) const { return m_pItems->At(index)->GetName(); }
 
     std::unique_ptr<ReportItems> m_pItems;
 };
@@ -31,8 +32,17 @@ void TestReportItems::init()
 
 void TestReportItems::append(const char* name)
 {
-    m_pItems->Append(
-        new ReportData(QLatin1String(name), QString(), QStringLiteral("1"), 1, QString(), 0, QString(), false));
+    m_pItems->Append(std::make_shared<ReportData>(QLatin1String(name), QString(), QStringLiteral("1"), 1, QString(), 0,
+                                                  QString(), false));
+}
+
+QString TestReportItems::namesBefore(const char* end, const std::vector<QString>& names, int others) const
+{
+    QStringList found;
+    for (const ReportItems::Item& item : m_pItems->Before(m_pItems->First(QLatin1String(end)), names, others)) {
+        found.append(item->GetName());
+    }
+    return found.join(QLatin1Char(' '));
 }
 
 void TestReportItems::findsTheFirstOfItsName()
@@ -53,27 +63,31 @@ void TestReportItems::keepsTheOrderWhenItemsGo()
     m_pItems->DeleteFirst(QStringLiteral("Level"));
     QCOMPARE(m_pItems->First(QStringLiteral("Level")), NO_INDEX);
     m_pItems->DeleteFirst(QStringLiteral("Level"));
-    QCOMPARE(m_pItems->Before(NO_INDEX).size(), std::size_t(2));
-}
-
-void TestReportItems::listsWhatStandsBefore()
-{
-    QCOMPARE(m_pItems->Before(m_pItems->First()).size(), std::size_t(0));
-    QCOMPARE(m_pItems->Before(m_pItems->First(QStringLiteral("Azimuth"))).size(), std::size_t(3));
-    QCOMPARE(m_pItems->Before(NO_INDEX).size(), std::size_t(4));
+    QCOMPARE(namesBefore("", {}, 9), QStringLiteral("Frequency Azimuth"));
 }
 
 void TestReportItems::listsItemsOfSomeNamesInTheirOrder()
 {
     const std::vector<QString> names {QStringLiteral("Azimuth"), QStringLiteral("Level"), QStringLiteral("Level"),
                                       QStringLiteral("Unknown")};
-    QStringList found;
-    for (const int index : m_pItems->Before(NO_INDEX, names)) {
-        found.append(nameAt(index));
+    QCOMPARE(namesBefore("", names), QStringLiteral("Level Level Azimuth"));
+    QCOMPARE(namesBefore("Azimuth", names), QStringLiteral("Level Level"));
+    QCOMPARE(namesBefore("Level", names), QString());
+}
+
+void TestReportItems::listsOthersBesideThem()
+{
+    for (const char* const name : {"A", "B", "C", "Frequency", "D"}) {
+        append(name);
     }
-    QCOMPARE(found.join(QLatin1Char(' ')), QStringLiteral("Level Level Azimuth"));
-    QCOMPARE(m_pItems->Before(m_pItems->First(QStringLiteral("Azimuth")), names).size(), std::size_t(2));
-    QCOMPARE(m_pItems->Before(m_pItems->First(), names).size(), std::size_t(0));
+    const std::vector<QString> frequency {QStringLiteral("Frequency")};
+    QCOMPARE(namesBefore("", frequency, 1), QStringLiteral("Level Frequency Level Frequency D"));
+    QCOMPARE(namesBefore("", frequency, 2), QStringLiteral("Level Frequency Level Azimuth Frequency D"));
+    QCOMPARE(namesBefore("C", frequency, 9), QStringLiteral("Level Frequency Level Azimuth A B"));
+    QCOMPARE(namesBefore("B", {}, 2), QStringLiteral("Level Frequency"));
+    QCOMPARE(namesBefore("Level", frequency, 2), QString());
+    m_pItems->Clear();
+    QCOMPARE(namesBefore("", frequency, 2), QString());
 }
 
 void TestReportItems::startsAnewWhenCleared()

@@ -1,12 +1,15 @@
 #include <QtTest>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#if __GLIBC_PREREQ(2, 33)
+#define XMLHELPER_HAS_MALLINFO2
+#endif
+#endif
+
 #include <algorithm>
 #include <ctime>
 #include <vector>
-
-#ifdef Q_OS_LINUX
-#include <malloc.h>
-#endif
 
 #include <QApplication>
 
@@ -26,7 +29,7 @@ constexpr int Kilobyte = 1024;
 /// The bytes of the heap that are in use; 0 where nobody can tell.
 qint64 usedMemory()
 {
-#if defined(__GLIBC__) && __GLIBC_PREREQ(2, 33)
+#ifdef XMLHELPER_HAS_MALLINFO2
     const struct mallinfo2 info = mallinfo2();
     return XMLHELPER_SANITIZED ? 0 : static_cast<qint64>(info.uordblks + info.hblkhd);
 #else

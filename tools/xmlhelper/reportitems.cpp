@@ -66,11 +66,6 @@ int ReportItems::First(const QString& name) const
     return indices == m_indices.constEnd() ? NO_INDEX : indices->front();
 }
 
-std::vector<ReportItems::Item> ReportItems::Before(int end, const std::vector<QString>& names) const
-{
-    return Before(end, names, 0);
-}
-
 std::vector<ReportItems::Item> ReportItems::Before(int end, const std::vector<QString>& names, int others) const
 {
     std::vector<int> ends = indicesBefore(end, names);

@@ -44,11 +44,9 @@ public:
     /// Whether the name of any item has a slash, as those have that name an element below its parent.
     bool HasQualifiedNames() const { return m_iQualifiedNames > 0; }
 
-    /// Those of the items before @p end that are called by one of @p names, in their order; NO_INDEX is behind all.
-    std::vector<Item> Before(int end, const std::vector<QString>& names) const;
-
-    /// The same, and in front of, between and behind them up to @p others of the other items each.
-    std::vector<Item> Before(int end, const std::vector<QString>& names, int others) const;
+    /// Those of the items before @p end that are called by one of @p names, in their order, and in front of, between
+    /// and behind them up to @p others of the other items each. NO_INDEX is behind all.
+    std::vector<Item> Before(int end, const std::vector<QString>& names, int others = 0) const;
 
 private:
     Q_DISABLE_COPY(ReportItems)
