@@ -20,6 +20,9 @@ function(xmlhelper_set_test_environment name)
             ASAN_OPTIONS=detect_leaks=1
             "LSAN_OPTIONS=suppressions=${suppressions}:print_suppressions=0")
     endif()
+    if("thread" IN_LIST XMLHELPER_SANITIZE)
+        list(APPEND environment "TSAN_OPTIONS=suppressions=${XMLHelper_SOURCE_DIR}/tests/support/threads.supp")
+    endif()
 
     # An emulator takes long to start a program, and some tests start hundreds.
     set(timeout 300)

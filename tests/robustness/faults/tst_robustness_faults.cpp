@@ -21,6 +21,7 @@
 
 #include "domtext.h"
 #include "faultinjection.h"
+#include "faultyflows.h"
 #include "flows.h"
 #include "strictreading.h"
 

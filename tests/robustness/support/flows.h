@@ -23,11 +23,6 @@ struct Flow
 /// The flows, in the order in which they build on each other.
 const std::vector<Flow>& flows();
 
-/// Flows that each make one mistake when an allocation fails, as the library must not: they follow the null pointer,
-/// free memory twice, do that while an exception goes through the parser, change what comes of the next run, and leave
-/// a file that is not the whole one but looks so.
-const std::vector<Flow>& faultyFlows();
-
 /// Writes what the flows read into @p folder.
 bool writeInputs(const QString& folder);
 
