@@ -87,10 +87,10 @@ DomParser::DomParser(IXMLHelper* pCallback, OccursMap occurs, const ChoiceMap& c
         return;
     }
     m_occurs = std::move(occurs);
-    for (const auto& alternative : choices) {
-        m_choiceNames.insert(alternative.second);
+    for (const auto& [number, name] : choices) {
+        m_alternatives.insert(name, number);
     }
-    m_choiceNames.remove(QString());
+    m_alternatives.remove(QString());
 }
 
 bool DomParser::SetDocument(QDomDocument* document)
@@ -372,7 +372,7 @@ const DomParser::Declarations& DomParser::sortedDeclarations(const Limits& limit
 
 bool DomParser::isChoiceAlternative() const
 {
-    return m_choiceNames.contains(m_currentElement.tagName());
+    return m_alternatives.contains(m_currentElement.tagName());
 }
 
 /// The walk goes on behind the container, one level deeper than the container stood.

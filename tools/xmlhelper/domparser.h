@@ -13,6 +13,7 @@
 #include <QSet>
 #include <QString>
 
+#include "constants.h"
 #include "ownerindex.h"
 #include "schemamodel.h"
 
@@ -65,6 +66,9 @@ public:
     /// Whether @p element is one of those that SearchElements() lists below @p ownerName, found without making the
     /// list. An empty owner name is nobody's.
     bool IsBelowOwner(const QString& name, const QString& ownerName, const QDomNode& element);
+
+    /// The greatest number of a choice alternative called @p name; NO_INDEX when there is none.
+    int AlternativeNumber(const QString& name) const { return m_alternatives.value(name, NO_INDEX); }
 
     /// Whether the occurrence of elements called @p name is limited in any way.
     bool IsLimited(const QString& name) const;
@@ -127,7 +131,7 @@ private:
     IXMLHelper* m_pCallback;
     OccursMap m_occurs;
     QHash<QString, Declarations> m_sortedDeclarations; ///< of names with many owners that have been asked for
-    QSet<QString> m_choiceNames;
+    QHash<QString, int> m_alternatives; ///< the greatest number of each name
     bool m_bResume; ///< a notice is pending
     bool m_bRevisit; ///< the notice asks to announce its element
 

@@ -153,7 +153,6 @@ XmlCreateReport::~XmlCreateReport()
     qDeleteAll(m_commentDialogs);
     m_commentDialogs.clear();
     qDeleteAll(m_dialogDocuments);
-    qDeleteAll(m_followers);
     delete m_pSchemaHandler;
     m_pSchemaHandler = nullptr;
 }
@@ -195,9 +194,9 @@ void XmlCreateReport::SetXmlValue(QString value)
 
 void XmlCreateReport::SetXmlValue(double value)
 {
-    // The type is asked of the element as the operation before left it: the object is the same for the whole walk, so
-    // only the first operation of all does not know its type. One might expect to ask after refreshing the element; it
-    // is kept because an element without a type is reported as unknown twice, and receivers count on that.
+    // The type is asked before the element is refreshed: the object is the same for the whole walk, so only the first
+    // operation of all does not know its type. One might expect to ask once; it is kept because an element without a
+    // type is reported as unknown twice, and receivers count on that.
     const QString wanted = QStringLiteral("double");
     const bool isShort = m_pCurrentElement && TypeControl(wanted) == ShortType;
     const QString text = isShort ? QString::number(toInt32(value)) : toReportText(value);
@@ -319,10 +318,9 @@ void XmlCreateReport::DiscardChoiceItem()
         Error(IXMLHelper::GENERAL_ERROR);
         return;
     }
-    m_pCurrentElement = new QDomElement(discarded.nextSibling().toElement());
-    m_followers.push_back(m_pCurrentElement);
+    QDomElement follower = discarded.nextSibling().toElement();
     const bool isRemoved = !m_pDomParser->Remove(discarded).isNull();
-    m_pDomParser->ContinueAt(m_pCurrentElement, false);
+    m_pDomParser->ContinueAt(&follower, false);
     if (isRemoved) {
         ++m_iDiscardedChoices;
     } else {
@@ -369,21 +367,35 @@ QString XmlCreateReport::TypeControl(QString wanted)
 
 void XmlCreateReport::Error(int id)
 {
-    if (!m_pCallback) {
-        return;
+    if (m_pCallback && isErrorSent()) {
+        const QScopedValueRollback<int> depth(m_errorNesting.depth, m_errorNesting.depth + 1);
+        deliver<ErrorEvent>(m_pCallback, static_cast<IXMLHelper::ErrorID>(id));
     }
-    if (m_errorNesting.depth == 0) {
-        m_errorNesting.errors = 0;
-    } else if (++m_errorNesting.errors > limits().nestedErrors) {
-        if (m_errorNesting.errors == limits().nestedErrors + 1) {
-            trace(QStringLiteral("More than %1 errors while one is being answered are not sent!")
-                      .arg(limits().nestedErrors),
-                  "xmlcreatereport", __LINE__);
-        }
-        return;
+}
+
+/// Counts an error and tells whether it is to be sent; the first that is not is traced, for each of the two reasons.
+bool XmlCreateReport::isErrorSent()
+{
+    ErrorNesting& nesting = m_errorNesting;
+    if (nesting.depth == 0) {
+        nesting.errors = 0;
+        nesting.isDepthTraced = false;
+        nesting.isNumberTraced = false;
+        return true;
     }
-    const QScopedValueRollback<int> depth(m_errorNesting.depth, m_errorNesting.depth + 1);
-    deliver<ErrorEvent>(m_pCallback, static_cast<IXMLHelper::ErrorID>(id));
+    const bool isTooDeep = nesting.depth > limits().nestedErrors;
+    if (!isTooDeep && nesting.errors < limits().errorsWithinOne) {
+        ++nesting.errors;
+        return true;
+    }
+    if (!std::exchange(isTooDeep ? nesting.isDepthTraced : nesting.isNumberTraced, true)) {
+        const QString message = isTooDeep
+            ? QStringLiteral("More than %1 errors nested in each other are not sent!").arg(limits().nestedErrors)
+            : QStringLiteral("More than %1 errors while one is being answered are not sent!")
+                  .arg(limits().errorsWithinOne);
+        trace(message, "xmlcreatereport", __LINE__);
+    }
+    return false;
 }
 
 /// Whether the schema allows @p count occurrences of @p name under some owner below which @p element stands.
@@ -564,12 +576,7 @@ bool XmlCreateReport::copyCurrentElement(int count)
 /// stays once as many have been discarded as its number says.
 bool XmlCreateReport::isDiscardAllowed(const QString& tagName) const
 {
-    int index = NO_INDEX;
-    for (const auto& [number, name] : m_choices) {
-        if (!tagName.isEmpty() && name == tagName) {
-            index = number;
-        }
-    }
+    const int index = m_pDomParser->AlternativeNumber(tagName);
     return index != NO_INDEX
         && (index % DiscardGuardModulus > m_iDiscardedChoices || m_choices.find(index + 1) != m_choices.end());
 }

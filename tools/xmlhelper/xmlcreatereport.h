@@ -30,9 +30,9 @@ QT_WARNING_DISABLE_DEPRECATED // QXmlSimpleReader: Qt keeps the SAX classes, wit
     /// ElemBeginEvent. The observer answers from inside IXMLHelper::XmlUpdate() with the operations below, which all
     /// act on the element just announced. Refusals arrive at once as ErrorEvent, while the refused call is still on the
     /// stack; the observer may answer them with another call, which may be refused again. An observer that answers
-    /// without end is heard out: of the errors that follow from one, 100 are sent. Elements that stay unfilled are
-    /// removed when the schema allows them to be missing. In the end the document is written to the report file, or
-    /// handed to a comment dialog that writes it later.
+    /// without end is heard out: errors are sent while no more than 100 are nested in each other, a million within an
+    /// outermost one. Elements that stay unfilled are removed when the schema allows them to be missing. In the end the
+    /// document is written to the report file, or handed to a comment dialog that writes it later.
     ///
     /// A builder makes one document. The operations stay callable afterwards and then act on the element announced
     /// last; before, they act as with no current element.
@@ -98,12 +98,11 @@ public:
     /// The type must contain "double" and the value must satisfy the range facets. On success the element loses the
     /// facets that were used and its type. 65535 as a facet counts as no facet.
     ///
-    /// The format is chosen before the announced element is looked at. As the first operation of all, the number is not
-    /// truncated; right after DiscardChoiceItem(), the type of the sibling behind the discarded element decides.
+    /// The format is chosen by an early look at the type, which the first operation of all cannot take: then the number
+    /// is not truncated.
     ///
     /// Sends as for texts, with CURRENT_TYPE_IS_NOT_DOUBLE, and CURRENT_TYPE_IS_UNKNOWN twice, but once when it is the
-    /// first operation of all. Right after DiscardChoiceItem() a sibling that is missing or has no type costs one
-    /// CURRENT_TYPE_IS_UNKNOWN, even when the value is taken.
+    /// first operation of all.
     ///
     /// @param value  NaN is on neither side of a bound
     void SetXmlValue(double value);
@@ -203,7 +202,9 @@ private:
         ErrorNesting& operator=(const ErrorNesting&) { return *this; }
 
         int depth = 0; ///< events that the observer is answering just now
-        int errors = 0; ///< since the outermost of them
+        int errors = 0; ///< sent since the outermost of them
+        bool isDepthTraced = false; ///< since then: some were nested too deeply to be sent
+        bool isNumberTraced = false; ///< there were too many
     };
 
     void CreateAndAppendTextNode(QString text);
@@ -217,6 +218,7 @@ private:
     void showComment(const QString& reportPath);
     void releaseReport();
 
+    bool isErrorSent();
     bool refreshCurrentElement();
     bool isTypeAccepted(const QString& wanted, IXMLHelper::ErrorID refusal);
     bool isAttributeTypeAccepted(const QString& name, const QString& wanted, IXMLHelper::ErrorID refusal);
@@ -232,7 +234,7 @@ private:
     IXMLHelper* m_pCallback; ///< not owned
     QDomDocument* m_pDocument; ///< the schema handler's
     XMLReader* m_pReader; ///< never released, see createWalkers()
-    QDomElement* m_pCurrentElement; ///< the DOM parser's, or the follower of a discarded element
+    QDomElement* m_pCurrentElement; ///< the DOM parser's; null until an operation has asked for it
     DomParser* m_pDomParser; ///< never released, see createWalkers()
     QString m_sLastMultipliedName;
     QString m_sUnused; ///< copied with the builder, never read
@@ -245,7 +247,6 @@ private:
     std::list<CommentDialogImpl*> m_commentDialogs; ///< owned
 
     std::list<QDomDocument*> m_dialogDocuments; ///< owned, one for each dialog
-    std::list<QDomElement*> m_followers; ///< owned; the walk may still go on from them
     int m_iElements; ///< laid out by the schema and made by copying
     int m_iAttributes; ///< the same of attributes
     int m_iMultiplications; ///< calls that multiplied an element, with or without copies

@@ -1,5 +1,6 @@
 #include <QtTest>
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 #include <vector>
@@ -8,6 +9,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 
+#include <xmlhelper/limits_p.h>
 #include <xmlhelper/xmlcreatereport.h>
 
 #include "answeredreport.h"
@@ -43,6 +45,8 @@ private Q_SLOTS:
 
     void answeringRefusalsWithoutEndIsCutOff();
     void answeringEachRefusalTwiceIsCutOff();
+    void everyRefusalInsideAnErrorIsSent();
+    void whatIsCutOffIsTracedForEachOutermostError();
     void refusalsOfAnotherCallAreSentAgain();
 
     void countWithoutCopiesKeepsOneElement_data();
@@ -174,7 +178,7 @@ int removeCopies(const QDomElement& element)
     return copies;
 }
 
-const QLatin1String NestedErrorsTrace("More than 100 errors while one is being answered are not sent!");
+const QLatin1String NestedErrorsTrace("More than 100 errors nested in each other are not sent!");
 
 } // namespace
 
@@ -340,6 +344,10 @@ void TestRobustnessBuilderObservers::answeringRefusalsWithoutEndIsCutOff()
 /// As a tree of answers this would be two to the power of its depth.
 void TestRobustnessBuilderObservers::answeringEachRefusalTwiceIsCutOff()
 {
+    Limits few;
+    few.errorsWithinOne = 1000;
+    const LimitsInForce inForce(few);
+    const TraceCollector traces;
     ScriptedObserver observer;
     XmlCreateReport builder(&observer);
     int refusals = 0;
@@ -352,7 +360,54 @@ void TestRobustnessBuilderObservers::answeringEachRefusalTwiceIsCutOff()
         }
     });
     QVERIFY(create(builder));
-    QCOMPARE(refusals, 101);
+    QCOMPARE(refusals, 1001);
+    QCOMPARE(traces.Messages(),
+             NestedErrorsTrace + QStringLiteral("\nMore than 1000 errors while one is being answered are not sent!"));
+}
+
+/// A client that tries candidates takes the one of which it hears nothing for the one that was accepted.
+void TestRobustnessBuilderObservers::everyRefusalInsideAnErrorIsSent()
+{
+    const TraceCollector traces;
+    ScriptedObserver observer;
+    XmlCreateReport builder(&observer);
+    int refusals = 0;
+    observer.OnElement(QStringLiteral("Title"), [&](ElemBeginEvent&) { builder.SetXmlValue(1.5); });
+    observer.OnError([&](int error) {
+        if (error == IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE) {
+            for (int candidate = 0; candidate < 250; ++candidate) {
+                builder.SetXmlValue(true);
+            }
+        }
+        refusals += error == IXMLHelper::CURRENT_TYPE_IS_NOT_BOOLEAN ? 1 : 0;
+    });
+    QVERIFY(create(builder));
+    QCOMPARE(refusals, 250);
+    QCOMPARE(traces.Messages(), QString());
+}
+
+void TestRobustnessBuilderObservers::whatIsCutOffIsTracedForEachOutermostError()
+{
+    Limits few;
+    few.nestedErrors = 3;
+    const LimitsInForce inForce(few);
+    const TraceCollector traces;
+    ScriptedObserver observer;
+    XmlCreateReport builder(&observer);
+    observer.OnElement(QStringLiteral("Title"), [&](ElemBeginEvent&) {
+        builder.SetXmlValue(1.5);
+        builder.SetXmlValue(1.5);
+    });
+    observer.OnError([&](int error) {
+        if (error == IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE) {
+            builder.SetXmlValue(1.5);
+        }
+    });
+    QVERIFY(create(builder));
+    QCOMPARE(
+        std::count(observer.Errors().begin(), observer.Errors().end(), int(IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE)), 8);
+    const QString message = QStringLiteral("More than 3 errors nested in each other are not sent!");
+    QCOMPARE(traces.Messages(), message + QLatin1Char('\n') + message);
 }
 
 void TestRobustnessBuilderObservers::refusalsOfAnotherCallAreSentAgain()
