@@ -1,4 +1,5 @@
 #include <functional>
+#include <memory>
 #include <random>
 
 #include <QDomDocument>
@@ -7,6 +8,7 @@
 #include <QtTest>
 
 #include <xmlhelper/elembeginevent.h>
+#include <xmlhelper/limits_p.h>
 #include <xmlhelper/xmlcreatereport.h>
 
 #include "domtext.h"
@@ -27,7 +29,8 @@ struct Operations
 /// How the guests of a round behave.
 enum class Manners {
     Answering, ///< only uses the operations
-    Meddling ///< changes the document through the nodes that it is given, too
+    Meddling, ///< changes the document through the nodes that it is given, too
+    Annotating ///< changes attributes and comments in this way, and what stands behind the walk, and removes
 };
 
 /// Answers every event by what a random generator says, so that two guests with the same seed that receive the same
@@ -59,6 +62,8 @@ public:
             auto* const begin = static_cast<ElemBeginEvent*>(event);
             if (m_manners == Manners::Meddling && below(12) == 0) {
                 meddle(begin->GetElementNode());
+            } else if (m_manners == Manners::Annotating && below(2) == 0) {
+                annotate(begin->GetElementNode());
             }
             answer(begin->GetElementName());
         } else if (event->GetType() == XmlEvent::EVENT_ERROR && !m_bBusy && below(8) == 0) {
@@ -93,7 +98,11 @@ private:
         QDomNode parent = node.parentNode();
         QDomDocument document = node.ownerDocument();
         const QString name = QString(QLatin1Char(static_cast<char>('a' + below(4))));
-        switch (below(8)) {
+        switch (below(10)) {
+        case 8:
+        case 9:
+            annotate(node);
+            break;
         case 0: // in front of everything, where it becomes the first of its name
             document.documentElement().insertBefore(document.createElement(name), QDomNode());
             break;
@@ -116,6 +125,34 @@ private:
             if (parent.isElement()) {
                 parent.appendChild(node.cloneNode(true));
             }
+            break;
+        default:
+            document.appendChild(document.createComment(name));
+            break;
+        }
+    }
+
+    /// Changes nothing that stands before the walk, so that it needs no second look.
+    void annotate(QDomNode node)
+    {
+        QDomNode parent = node.parentNode();
+        QDomDocument document = node.ownerDocument();
+        const QString name = QString(QLatin1Char(static_cast<char>('a' + below(4))));
+        switch (below(6)) {
+        case 0:
+            node.toElement().setAttribute(name, name);
+            break;
+        case 1:
+            node.appendChild(document.createElement(name));
+            break;
+        case 2:
+            parent.insertBefore(document.createComment(name), node);
+            break;
+        case 3:
+            document.insertBefore(document.createComment(name), document.documentElement());
+            break;
+        case 4:
+            document.appendChild(document.createProcessingInstruction(name, name));
             break;
         default:
             document.appendChild(document.createComment(name));
@@ -171,11 +208,16 @@ void TestWalk::walksByTheRules_data()
     QTest::addColumn<int>("manners");
     QTest::newRow("observers-that-answer") << static_cast<int>(Manners::Answering);
     QTest::newRow("observers-that-change-the-document") << static_cast<int>(Manners::Meddling);
+    QTest::newRow("observers-that-annotate-without-a-second-look") << static_cast<int>(Manners::Annotating);
 }
 
 void TestWalk::walksByTheRules()
 {
     QFETCH(int, manners);
+    Limits noLook;
+    noLook.nodesLookedAtAgain = -1000000000;
+    const auto inForce
+        = static_cast<Manners>(manners) == Manners::Annotating ? std::make_unique<LimitsInForce>(noLook) : nullptr;
     const QString schemaPath = m_folder.filePath(QStringLiteral("random.xsd"));
     const QString reportPath = m_folder.filePath(QStringLiteral("report.xml"));
     qint64 events = 0;

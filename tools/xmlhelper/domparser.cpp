@@ -187,24 +187,32 @@ bool DomParser::isBelowOwnerOf(const Limits& limits, const QString& tagName, con
     const auto isOwner = [&](const QString& owner) {
         return sorted ? isAmong(*sorted, owner, isWanted) : isAmong(limits.second, owner, isWanted);
     };
-    if (!owners().Refresh()) {
+    const QDomElement root = m_pDocument->documentElement();
+    const QDomNode top = m_pDocument->lastChild();
+    const bool hasOneRoot = !top.isElement() || top == root;
+    if (hasOneRoot && element == root) {
+        return top == root && isOwner(tagName); // A search that starts at the root reports the root too.
+    }
+    OwnerIndex& index = owners();
+    const bool isBelowRoot = index.GoTo(element);
+    if (!hasOneRoot || index.HasPrefixes()) {
         const QSet<QString> names = ownerNames();
         return std::any_of(names.begin(), names.end(), [&](const QString& owner) {
             return isOwner(owner) && isBelowAnyCalled(owner, tagName, element);
         });
     }
-    if (element == m_pDocument->documentElement()) {
-        return isOwner(tagName); // A search that starts at the root reports the root too.
+    if (!isBelowRoot) {
+        return false;
     }
-    // A match hides what is below it.
-    QDomNode ancestor = element.parentNode();
-    for (; !ancestor.isNull(); ancestor = ancestor.parentNode()) {
-        const QString ancestorName = ancestor.nodeName();
-        if (isOwner(ancestorName) && m_pOwners->IsFirst(ancestor, ancestorName)) {
+    // A search for the root's name reports the top node in its place, whose name is searched for then.
+    const QString topName = isOwner(root.tagName()) ? top.nodeName() : QString();
+    for (std::size_t level = index.Levels(); level-- > 0;) {
+        const QString& name = index.NameAt(level);
+        if (index.IsFirstAt(level) && (isOwner(name) || name == topName)) {
             return true;
         }
-        if (ancestorName == tagName) {
-            return false;
+        if (name == tagName) {
+            return false; // A match hides what is below it.
         }
     }
     return false;
@@ -227,12 +235,20 @@ bool DomParser::isBelowAnyCalled(const QString& ownerName, const QString& tagNam
 
 QDomNode DomParser::Remove(const QDomNode& node)
 {
-    return m_pOwners ? m_pOwners->Remove(node) : node.parentNode().removeChild(node);
+    if (m_pOwners) {
+        m_pOwners->Forget(node);
+    }
+    const OwnerIndex::OwnChange change = Change();
+    return node.parentNode().removeChild(node);
 }
 
 void DomParser::InsertCopies(const QDomElement& element, int copies)
 {
-    owners().InsertCopies(element, copies);
+    const OwnerIndex::OwnChange change = Change();
+    QDomNode parent = element.parentNode();
+    for (int copy = 0; copy < copies; ++copy) {
+        parent.insertAfter(element.cloneNode(true), element);
+    }
 }
 
 /// Announces the node on which the walk stands and moves on from it.
@@ -283,11 +299,7 @@ void DomParser::takeText(Level& level, bool isTopLevel)
 void DomParser::announce(const QDomNode& node, const QString& text)
 {
     m_bAnnounced = true;
-    const QString name = node.nodeName();
-    deliver<ElemBeginEvent>(m_pCallback, node, name, saxAttributesOf(node), text);
-    if (m_pOwners && node.nodeName() != name) {
-        m_pOwners->Invalidate();
-    }
+    deliver<ElemBeginEvent>(m_pCallback, node, node.nodeName(), saxAttributesOf(node), text);
 }
 
 bool DomParser::takeNotice()

@@ -79,8 +79,8 @@ public:
     bool IsDeclaredAbove(const QString& name, const QString& tagName, const QDomNode& element,
                          const std::function<bool(int)>& isWanted);
 
-    // The changes of the builder, which are to be made with these. Anything else that happens to the document is
-    // noticed, and costs a new look at all of it; only of the elements that are renamed some are not (see OwnerIndex).
+    // The changes of the builder, which are to be made with these. Anything else that happens to the document is taken
+    // for somebody else's change (see OwnerIndex).
 
     /// Removes @p node from its parent; gives a null node when it could not be removed.
     QDomNode Remove(const QDomNode& node);

@@ -48,6 +48,10 @@ struct Limits
     /// otherwise be answered for years.
     int errorsWithinOne = 1000000;
 
+    /// Nodes of a document that a walk looks at again because an observer has changed something, before it looks at
+    /// only so many as are in proportion to the walk.
+    int nodesLookedAtAgain = 1000000;
+
     /// Bytes of a saved document.
     qint64 savedBytes = qint64(256) * 1024 * 1024;
 

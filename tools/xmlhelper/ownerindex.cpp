@@ -3,59 +3,72 @@
 #include <algorithm>
 
 #include "domorder.h"
+#include "elementsearch.h"
+#include "limits_p.h"
+
+namespace {
+
+/// How many nodes each question allows to look at again. It costs about as much as announcing an element.
+constexpr qint64 NodesOfQuestion = 50;
+
+} // namespace
 
 OwnerIndex::OwnerIndex(const QDomDocument& document, const QSet<QString>& names)
     : m_document(document)
     , m_changes(document)
-    , m_bCurrent(false)
-    , m_bUsable(false)
+    , m_bPrefixes(false)
+    , m_bOutdated(false)
     , m_iOwnChanges(0)
+    , m_iSeen(0)
+    , m_iAllowed(limits().nodesLookedAtAgain)
 {
     m_bearers.reserve(names.size());
     for (const QString& name : names) {
         m_bearers.insert(name, Bearers());
     }
+    m_changes.Reset();
 }
 
-bool OwnerIndex::Refresh()
+bool OwnerIndex::GoTo(const QDomNode& node)
 {
+    std::vector<QDomElement> elements;
+    QDomNode top = node.parentNode();
+    for (; top.isElement(); top = top.parentNode()) {
+        elements.push_back(top.toElement());
+    }
+    if (elements.empty() || top != m_document || elements.back() != m_document.documentElement()) {
+        return false;
+    }
+    std::reverse(elements.begin(), elements.end());
+
     noticeChanges();
-    if (!m_bCurrent) {
-        make();
+    const std::size_t matching = matchingLevels(elements);
+    lookAgainIfAllowed();
+    while (m_path.size() > matching) {
+        leave();
     }
-    return m_bUsable;
+    while (m_path.size() < elements.size()) {
+        enter(elements[m_path.size()]);
+    }
+    seeChildrenUpTo(m_path.back(), node);
+    return true;
 }
 
-bool OwnerIndex::IsFirst(const QDomNode& element, const QString& name)
+bool OwnerIndex::IsFirstAt(std::size_t level)
 {
-    Bearers& bearers = m_bearers[name];
-    std::vector<QDomElement>& elements = bearers.elements;
-    while (!elements.empty() && !isInDocument(elements.back()) && !bearers.isCopied) {
-        elements.pop_back();
+    Step& step = m_path[level];
+    if (step.rank == Rank::Unknown) {
+        step.rank = isFirst(step.element, step.name) ? Rank::First : Rank::Later;
     }
-    if (isOutdated(bearers, element, name)) {
-        make();
-    }
-    return !elements.empty() && elements.back() == element;
+    return step.rank == Rank::First;
 }
 
-QDomNode OwnerIndex::Remove(const QDomNode& node)
+void OwnerIndex::Forget(const QDomNode& node)
 {
-    const OwnChange change(this);
-    return node.parentNode().removeChild(node);
-}
-
-void OwnerIndex::InsertCopies(const QDomElement& element, int copies)
-{
-    const OwnChange change(this);
-    QDomNode parent = element.parentNode();
-    for (int copy = 0; copy < copies; ++copy) {
-        parent.insertAfter(element.cloneNode(true), element);
-    }
-    for (QDomNode node = element; m_bCurrent && !node.isNull(); node = nextBelow(element, node, false)) {
-        const auto bearers = m_bearers.find(node.nodeName());
-        if (bearers != m_bearers.end()) {
-            bearers->isCopied = true;
+    for (Step& step : m_path) {
+        step.rank = Rank::Unknown;
+        if (step.lastSeen == node) {
+            step.lastSeen = node.previousSibling();
         }
     }
 }
@@ -84,51 +97,132 @@ void OwnerIndex::beginOwnChange()
 
 void OwnerIndex::endOwnChange()
 {
-    if (--m_iOwnChanges == 0 && m_bCurrent) {
+    if (--m_iOwnChanges == 0) {
         m_changes.Reset();
     }
 }
 
 void OwnerIndex::noticeChanges()
 {
-    m_bCurrent = m_bCurrent && !m_changes.IsChanged();
+    if (m_changes.IsChanged()) {
+        m_bOutdated = true;
+        m_changes.Reset();
+        for (Step& step : m_path) {
+            step.rank = Rank::Unknown;
+        }
+    }
 }
 
-void OwnerIndex::make()
+void OwnerIndex::lookAgainIfAllowed()
 {
+    m_iAllowed += NodesOfQuestion;
+    if (!m_bOutdated || m_iSeen > m_iAllowed) {
+        return;
+    }
+    m_iAllowed -= m_iSeen;
+    m_iSeen = 0;
+    m_bOutdated = false;
+    m_path.clear();
     for (Bearers& bearers : m_bearers) {
         bearers = Bearers();
     }
-    const QDomElement root = m_document.documentElement();
-    m_bUsable = m_document.lastChild() == root;
-    for (QDomNode node = root; !node.isNull(); node = nextBelow(root, node, false)) {
-        const auto bearers = m_bearers.find(node.nodeName());
+}
+
+/// How many of the steps still lead to a place below @p elements.
+std::size_t OwnerIndex::matchingLevels(const std::vector<QDomElement>& elements)
+{
+    std::size_t level = 0;
+    while (level < m_path.size() && level < elements.size() && m_path[level].element == elements[level]) {
+        const QString name = elements[level].tagName();
+        if (name != m_path[level].name) {
+            m_path[level].name = name;
+            m_path[level].rank = Rank::Unknown;
+            m_bOutdated = true;
+            see(elements[level]);
+        }
+        ++level;
+    }
+    return level;
+}
+
+/// Takes the last step back. What is left below its element has been passed by the walk, or left out.
+void OwnerIndex::leave()
+{
+    Step step = m_path.back();
+    m_path.pop_back();
+    if (!m_path.empty() && step.element.parentNode() == m_path.back().element) {
+        seeChildrenUpTo(step, QDomNode());
+        m_path.back().lastSeen = step.element;
+    }
+}
+
+void OwnerIndex::enter(const QDomElement& element)
+{
+    if (!m_path.empty()) {
+        seeChildrenUpTo(m_path.back(), element);
+    }
+    see(element);
+    m_path.push_back({element, element.tagName(), QDomNode(), Rank::Unknown});
+}
+
+/// Looks at the children of a step that come before @p end, null for all, and at what is below them.
+void OwnerIndex::seeChildrenUpTo(Step& step, const QDomNode& end)
+{
+    if (!step.lastSeen.isNull() && step.lastSeen.parentNode() != step.element) {
+        // Others have taken it away.
+        step.lastSeen = end.isNull() ? step.element.lastChild() : end.previousSibling();
+    }
+    if (!step.lastSeen.isNull() && step.lastSeen == end) {
+        return;
+    }
+    QDomNode child = step.lastSeen.isNull() ? step.element.firstChild() : step.lastSeen.nextSibling();
+    for (; !child.isNull() && child != end; child = child.nextSibling()) {
+        for (QDomNode node = child; !node.isNull(); node = nextBelow(child, node, false)) {
+            see(node);
+        }
+        step.lastSeen = child;
+    }
+    m_bOutdated = m_bOutdated || child != end; // The walk has gone back.
+}
+
+void OwnerIndex::see(const QDomNode& node)
+{
+    ++m_iSeen;
+    const auto bearers = m_bearers.find(node.nodeName());
+    if (node.isElement()) {
+        m_bPrefixes = m_bPrefixes || !node.localName().isNull();
         if (bearers != m_bearers.end()) {
             bearers->elements.push_back(node.toElement());
         }
-        m_bUsable = m_bUsable && isIndexable(node);
+    } else if (bearers != m_bearers.end()) {
+        bearers->isHidden = true;
     }
-    for (Bearers& bearers : m_bearers) {
-        std::reverse(bearers.elements.begin(), bearers.elements.end());
-    }
-    m_bCurrent = true;
-    m_changes.Reset();
 }
 
-/// Whether the first of @p bearers shows that the document is another one than when the index was made.
-bool OwnerIndex::isOutdated(const Bearers& bearers, const QDomNode& element, const QString& name) const
+bool OwnerIndex::isFirst(const QDomElement& element, const QString& name)
 {
-    if (bearers.elements.empty()) {
-        return isInDocument(element); // It has been given the name.
+    if (element == m_document.documentElement()) {
+        return m_document.lastChild() == element; // A search names the top node in place of the root.
     }
-    const QDomElement& first = bearers.elements.back();
-    return first.tagName() != name || !isInDocument(first); // A copy may be the first now.
-}
-
-/// A search stops at other nodes of the name, and compares some elements by their name without prefix.
-bool OwnerIndex::isIndexable(const QDomNode& node) const
-{
-    return node.isElement() ? node.localName().isNull() : !m_bearers.contains(node.nodeName());
+    const auto bearers = m_bearers.find(name);
+    const bool isSearched = bearers != m_bearers.end();
+    if (!isSearched && name != m_document.lastChild().nodeName()) {
+        return false;
+    }
+    if (!isSearched || bearers->isHidden) {
+        return ElementSearch(m_document.lastChild()).FirstMatch(name, m_document.documentElement()) == element;
+    }
+    const std::vector<QDomElement>& elements = bearers->elements;
+    for (; bearers->first < elements.size(); ++bearers->first) {
+        const QDomElement& first = elements[bearers->first];
+        if (isInDocument(first)) {
+            if (first.tagName() == name) {
+                return first == element;
+            }
+            m_bOutdated = true; // It was renamed.
+        }
+    }
+    return false;
 }
 
 bool OwnerIndex::isInDocument(const QDomNode& node) const
