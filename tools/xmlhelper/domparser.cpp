@@ -110,12 +110,12 @@ bool DomParser::Walk()
     }
     m_pOwners.reset();
     deliver<DocBeginEvent>(m_pCallback);
-    const QDomElement root = m_pDocument->documentElement();
-    m_currentElement = root;
-    announce(root, QLatin1String(""));
+    m_root = m_pDocument->documentElement();
+    standOn(m_root);
+    announce(m_root, QLatin1String(""));
 
     // A stack of our own: siblings of pruned containers are walked one level deeper, without a limit.
-    m_levels.push_back({root.firstChild(), QLatin1String("")});
+    m_levels.push_back({m_root.firstChild(), QLatin1String("")});
     while (!m_levels.empty()) {
         const QDomNode node = m_levels.back().node;
         const bool isTopLevel = m_levels.size() == 1;
@@ -125,7 +125,7 @@ bool DomParser::Walk()
         }
         m_levels.pop_back();
         if (!m_levels.empty()) {
-            m_levels.back().node = m_levels.back().node.nextSibling();
+            leave(m_levels.back());
         }
     }
     deliver<DocEndEvent>(m_pCallback);
@@ -134,6 +134,7 @@ bool DomParser::Walk()
 
 QDomElement* DomParser::GetCurrentElement()
 {
+    keepParent(); // An observer may have moved the element.
     return m_bAnnounced ? &m_currentElement : nullptr;
 }
 
@@ -238,6 +239,7 @@ QDomNode DomParser::Remove(const QDomNode& node)
     if (m_pOwners) {
         m_pOwners->Forget(node);
     }
+    m_removedNodes.push_back(node);
     const OwnerIndex::OwnChange change = Change();
     return node.parentNode().removeChild(node);
 }
@@ -251,12 +253,36 @@ void DomParser::InsertCopies(const QDomElement& element, int copies)
     }
 }
 
+void DomParser::standOn(const QDomNode& node)
+{
+    m_currentElement = node.toElement();
+    keepParent();
+}
+
+/// Once the parent is freed, the element must not be asked for its siblings: Qt leaves them as they were.
+void DomParser::keepParent()
+{
+    const QDomNode parent = m_currentElement.parentNode();
+    if (!parent.isNull()) {
+        m_currentParent = parent;
+    }
+}
+
+/// Goes on behind the node of a level whose children have been walked. The observer may have taken it out.
+void DomParser::leave(Level& level)
+{
+    if (level.node.parentNode().isNull()) {
+        m_removedNodes.push_back(level.node);
+    }
+    level.node = level.node.nextSibling();
+}
+
 /// Announces the node on which the walk stands and moves on from it.
 void DomParser::visit()
 {
     const bool isTopLevel = m_levels.size() == 1;
     Level& level = m_levels.back();
-    m_currentElement = level.node.toElement();
+    standOn(level.node);
     takeText(level, isTopLevel);
     announce(level.node, level.text);
 
@@ -391,22 +417,15 @@ bool DomParser::isChoiceAlternative() const
 void DomParser::removeProbationElement()
 {
     m_resumeNode = m_probationElement.nextSibling();
-    m_currentElement = m_resumeNode.toElement();
-    removeAndKeep(m_probationElement);
+    standOn(m_resumeNode);
+    Remove(m_probationElement);
     m_probationElement = QDomElement();
 }
 
 void DomParser::removeCurrentElement()
 {
     m_resumeNode = m_currentElement.nextSibling();
-    if (removeAndKeep(m_currentElement).isNull()) {
+    if (Remove(m_currentElement).isNull()) {
         deliver<ErrorEvent>(m_pCallback, IXMLHelper::GENERAL_ERROR);
     }
-}
-
-/// Gives a null node when there was nothing to remove @p node from.
-QDomNode DomParser::removeAndKeep(const QDomNode& node)
-{
-    m_removedNodes.push_back(node);
-    return Remove(node);
 }

@@ -34,7 +34,8 @@ class IXMLHelper;
 ///
 /// Which elements are optional is decided by names, so elements of equal name in different places count as the same.
 ///
-/// Observer and document are not owned. Removed nodes stay alive as long as the parser. One made with a null observer
+/// Observer and document are not owned. Removed nodes stay alive as long as the parser, so that its operations can be
+/// called whatever was removed. One made with a null observer
 /// traces it and must not be used.
 class DomParser
 {
@@ -106,6 +107,9 @@ private:
         QString text; ///< of the last sibling that had one
     };
 
+    void standOn(const QDomNode& node);
+    void keepParent();
+    void leave(Level& level);
     void visit();
     void takeText(Level& level, bool isTopLevel);
     void announce(const QDomNode& node, const QString& text);
@@ -115,7 +119,6 @@ private:
     bool isChoiceAlternative() const;
     void removeProbationElement();
     void removeCurrentElement();
-    QDomNode removeAndKeep(const QDomNode& node);
     bool isBelowAnyCalled(const QString& ownerName, const QString& tagName, const QDomNode& element);
     OwnerIndex& owners();
     QSet<QString> ownerNames() const;
@@ -126,7 +129,9 @@ private:
 
     QDomDocument* m_pDocument;
     QDomNode m_resumeNode; ///< where the walk goes on after a notice or a removal
+    QDomElement m_root; ///< at which the walk began
     QDomElement m_currentElement;
+    QDomNode m_currentParent;
     QDomElement m_probationElement; ///< kept only if something inside it is filled; null when there is none
     IXMLHelper* m_pCallback;
     OccursMap m_occurs;
@@ -138,8 +143,8 @@ private:
     bool m_bAnnounced; ///< anything has been announced
     std::vector<Level> m_levels; ///< from the children of the root down to where the walk stands
 
-    /// Keeps alive what was removed: the walk goes on inside a container that was removed from further below, and the
-    /// current element may stay there.
+    /// Keeps alive what was removed, by the observer too where the walk comes by: the walk goes on inside a container
+    /// that was removed from further below, and the current element may stay there, also when the walk has ended.
     std::list<QDomNode> m_removedNodes;
     std::unique_ptr<OwnerIndex> m_pOwners; ///< from the first question on that it answers
 };

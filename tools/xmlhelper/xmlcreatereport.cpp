@@ -591,7 +591,6 @@ void XmlCreateReport::releaseReport()
     delete std::exchange(m_pReader, nullptr);
     delete std::exchange(m_pContentHandler, nullptr);
     delete std::exchange(m_pDomParser, nullptr);
-    qDeleteAll(std::exchange(m_followers, {}));
     m_unresolvedTypes.clear();
     m_occurs.clear();
     m_typeDefinitions.clear();
