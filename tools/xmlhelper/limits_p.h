@@ -32,7 +32,11 @@ struct Limits
     int attributes = 2000000;
 
     /// Values of one enumeration. Each becomes an attribute.
-    int enumerationValues = 10000;
+    int enumerationValues = 100000;
+
+    /// Values of enumerations that a schema gives to elements by copying, in all its definitions together. Qt needs
+    /// some 400 bytes for each.
+    int copiedEnumerationValues = 500000;
 
     /// Schema files read for one report, repeated reads of a file and missing ones included.
     int schemaFiles = 1000;
