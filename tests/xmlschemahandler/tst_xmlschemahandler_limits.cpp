@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <xmlhelper/limits_p.h>
+
 #include "schemafixture.h"
 #include "tracecollector.h"
 
@@ -20,13 +22,17 @@ private Q_SLOTS:
     void refusesIncludesThatAreNestedTooDeepTogether();
     void laysOut512NestedElements_data();
     void laysOut512NestedElements();
-    void lays500000ElementsOut_data();
-    void lays500000ElementsOut();
+    void laysOutAsManyElementsAsAllowed_data();
+    void laysOutAsManyElementsAsAllowed();
+    void countsTheElementsOfNamedTypes();
+    void countsTheElementsOfAllDefinitions();
     void countsAttributesThatAreCopied_data();
     void countsAttributesThatAreCopied();
     void refusesCopiesThatHaveTooManyAttributes_data();
     void refusesCopiesThatHaveTooManyAttributes();
     void refusesADocumentTypeOfManyEntities();
+    void refusesCopiesOfTooManyValuesBeforeTheFirst_data();
+    void refusesCopiesOfTooManyValuesBeforeTheFirst();
     void refusesSchemasThatGrowWithoutEnd_data();
     void refusesSchemasThatGrowWithoutEnd();
     void endsWhenNothingIsLaidOutCountlessTimes_data();
@@ -106,7 +112,36 @@ QString nestedElementsTrace()
 
 QString elementsTrace()
 {
-    return QStringLiteral("The schema lays out more than 500000 elements!");
+    return QStringLiteral("The schema lays out more than 500 elements!");
+}
+
+QString attributesTrace()
+{
+    return QStringLiteral("The schema lays out more than 2000 attributes!");
+}
+
+QString valuesTrace()
+{
+    return QStringLiteral("The schema gives elements more than 500 values of enumerations!");
+}
+
+/// A thousandth of the library's, in the same proportions.
+Limits smallLimits()
+{
+    Limits limits;
+    limits.elements = 500;
+    limits.elementsOfAllDefinitions = 2000;
+    limits.elementsOfNamedTypes = 600;
+    limits.attributes = 2000;
+    limits.enumerationValues = 100;
+    limits.copiedEnumerationValues = 500;
+    return limits;
+}
+
+QString enumeration(int values)
+{
+    return QStringLiteral("<xs:restriction base='xs:string'>%1</xs:restriction>")
+        .arg(QStringLiteral("<xs:enumeration value='v'/>").repeated(values));
 }
 
 } // namespace
@@ -206,7 +241,7 @@ void TestXmlSchemaHandlerLimits::laysOut512NestedElements()
     }
 }
 
-void TestXmlSchemaHandlerLimits::lays500000ElementsOut_data()
+void TestXmlSchemaHandlerLimits::laysOutAsManyElementsAsAllowed_data()
 {
     QTest::addColumn<QString>("declarations"); // %1 stands for a number of copies
     QTest::addColumn<int>("copies"); // that fit
@@ -214,51 +249,80 @@ void TestXmlSchemaHandlerLimits::lays500000ElementsOut_data()
     const QString unit = QStringLiteral("<xs:element name='unit'/>");
     const QString copies = QStringLiteral("minOccurs='%1'");
     QTest::newRow("copies-of-a-built-in-type")
-        << global(QStringLiteral("root"), QStringLiteral("<xs:element name='a' type='xs:int' %1/>").arg(copies))
-        << 499999;
+        << global(QStringLiteral("root"), QStringLiteral("<xs:element name='a' type='xs:int' %1/>").arg(copies)) << 499;
     QTest::newRow("copies-of-a-known-type") << named(QStringLiteral("Known"), unit)
             + global(QStringLiteral("root"), QStringLiteral("<xs:element name='a' type='Known' %1/>").arg(copies))
-                                            << 249999;
+                                            << 249;
     QTest::newRow("copies-of-a-later-type")
         << global(QStringLiteral("root"), QStringLiteral("<xs:element name='a' type='Later' %1/>").arg(copies))
             + named(QStringLiteral("Later"), unit + unit)
-        << 166666;
+        << 166;
     QTest::newRow("copies-behind-those-of-a-later-type-do-not-count-as-a-named-type")
-        << named(QStringLiteral("Great"), QStringLiteral("<xs:element name='e' minOccurs='150000'/>"))
+        << named(QStringLiteral("Great"), QStringLiteral("<xs:element name='e' minOccurs='150'/>"))
             + global(QStringLiteral("root"),
                      QStringLiteral("<xs:element name='a' type='Later' minOccurs='2'/><xs:element name='b' %1/>")
                          .arg(copies))
             + named(QStringLiteral("Later"), unit)
-        << 499995;
+        << 495;
     QTest::newRow("known-references") << unit
             + global(QStringLiteral("root"), QStringLiteral("<xs:element ref='unit' %1/>").arg(copies))
-                                      << 499999;
+                                      << 499;
     QTest::newRow("later-references") << global(QStringLiteral("root"),
                                                 QStringLiteral("<xs:element ref='unit' %1/>").arg(copies))
-            + unit << 499999;
+            + unit << 499;
 }
 
-void TestXmlSchemaHandlerLimits::lays500000ElementsOut()
+void TestXmlSchemaHandlerLimits::laysOutAsManyElementsAsAllowed()
 {
     QFETCH(QString, declarations);
     QFETCH(int, copies);
+    const LimitsInForce inForce(smallLimits());
     TraceCollector traces;
     {
         SchemaFixture schema;
         QVERIFY(schema.Read(declarations.arg(copies)));
         QCOMPARE(traces.Messages(), QString());
         const int elements = elementsOf(*schema.Handler().GetDocument());
-        QVERIFY(elements <= 500000);
-        QVERIFY(elements > 499990);
+        QVERIFY(elements <= 500);
+        QVERIFY(elements > 490);
     }
     SchemaFixture schema;
     QVERIFY(!schema.Read(declarations.arg(copies + 1)));
     QCOMPARE(traces.Messages(), elementsTrace());
 }
 
+void TestXmlSchemaHandlerLimits::countsTheElementsOfNamedTypes()
+{
+    const LimitsInForce inForce(smallLimits());
+    const auto repeated = [](const char* name, int elements) {
+        return named(QLatin1String(name), QStringLiteral("<xs:element name='e' minOccurs='%1'/>").arg(elements));
+    };
+    const TraceCollector traces;
+    QVERIFY(
+        SchemaFixture().Read(repeated("A", 300) + repeated("B", 300) + QStringLiteral("<xs:element name='root'/>")));
+    QCOMPARE(traces.Messages(), QString());
+    QVERIFY(!SchemaFixture().Read(repeated("A", 300) + repeated("B", 301)));
+    QCOMPARE(traces.Messages(), elementsTrace());
+}
+
+void TestXmlSchemaHandlerLimits::countsTheElementsOfAllDefinitions()
+{
+    const LimitsInForce inForce(smallLimits());
+    const auto repeated = [](const char* name, int elements) {
+        return global(QLatin1String(name), QStringLiteral("<xs:element name='e' minOccurs='%1'/>").arg(elements));
+    };
+    const QString most = repeated("a", 499) + repeated("b", 499) + repeated("c", 499);
+    const QString root = QStringLiteral("<xs:element name='root'/>");
+    const TraceCollector traces;
+    QVERIFY(SchemaFixture().Read(most + repeated("d", 498) + root));
+    QCOMPARE(traces.Messages(), QString());
+    QVERIFY(!SchemaFixture().Read(most + repeated("d", 499) + root));
+    QCOMPARE(traces.Messages(), elementsTrace());
+}
+
 void TestXmlSchemaHandlerLimits::countsAttributesThatAreCopied_data()
 {
-    QTest::addColumn<QString>("declaration"); // of 10,000 values
+    QTest::addColumn<QString>("declaration"); // of 100 values
     QTest::addColumn<QString>("use");
     const QString simpleType = QStringLiteral("<xs:simpleType name='S'>%1</xs:simpleType>");
     QTest::newRow("declared-attribute") << QStringLiteral(
@@ -270,20 +334,28 @@ void TestXmlSchemaHandlerLimits::countsAttributesThatAreCopied_data()
     QTest::newRow("extension-of-a-type") << simpleType << QStringLiteral("<xs:extension base='S'/>");
 }
 
-/// One element is given them again and again, which takes time and no memory.
+/// One element is given them again and again, which takes time and no memory. Values of enumerations count twice: as
+/// attributes, and by themselves.
 void TestXmlSchemaHandlerLimits::countsAttributesThatAreCopied()
 {
     QFETCH(QString, declaration);
     QFETCH(QString, use);
-    const QString values = QStringLiteral("<xs:restriction base='xs:string'>%1</xs:restriction>")
-                               .arg(QStringLiteral("<xs:enumeration value='v'/>").repeated(10000));
-    const auto schema
-        = [&](int uses) { return declaration.arg(values) + global(QStringLiteral("root"), use.repeated(uses)); };
+    const auto schema = [&](int uses) {
+        return declaration.arg(enumeration(100)) + global(QStringLiteral("root"), use.repeated(uses));
+    };
     const TraceCollector traces;
-    QVERIFY(SchemaFixture().Read(schema(10)));
+    const LimitsInForce inForce(smallLimits());
+    QVERIFY(SchemaFixture().Read(schema(5)));
     QCOMPARE(traces.Messages(), QString());
-    QVERIFY(!SchemaFixture().Read(schema(200)));
-    QCOMPARE(traces.Messages(), QStringLiteral("The schema lays out more than 2000000 attributes!"));
+    QVERIFY(!SchemaFixture().Read(schema(6)));
+    QCOMPARE(traces.Messages(), valuesTrace());
+
+    Limits manyValues = smallLimits();
+    manyValues.copiedEnumerationValues = 10000;
+    const LimitsInForce other(manyValues);
+    QVERIFY(SchemaFixture().Read(schema(19))); // The type is an attribute too.
+    QVERIFY(!SchemaFixture().Read(schema(20)));
+    QCOMPARE(traces.Messages(), valuesTrace() + QLatin1Char('\n') + attributesTrace());
 }
 
 void TestXmlSchemaHandlerLimits::refusesCopiesThatHaveTooManyAttributes_data()
@@ -291,21 +363,73 @@ void TestXmlSchemaHandlerLimits::refusesCopiesThatHaveTooManyAttributes_data()
     QTest::addColumn<QString>("schema"); // %1 stands for values
     const QString simpleType = QStringLiteral("<xs:simpleType name='S'>%1</xs:simpleType>");
     const QString elements
-        = global(QStringLiteral("root"), QStringLiteral("<xs:element name='e' type='S' minOccurs='201'/>"));
+        = global(QStringLiteral("root"), QStringLiteral("<xs:element name='e' type='S' minOccurs='21'/>"));
     QTest::newRow("elements-of-a-known-type") << simpleType + elements;
     QTest::newRow("elements-of-a-later-type") << elements + simpleType;
     QTest::newRow("known-references") << QStringLiteral(
                                              "<xs:element name='e'><xs:simpleType>%1</xs:simpleType></xs:element>")
-            + global(QStringLiteral("root"), QStringLiteral("<xs:element ref='e' minOccurs='201'/>"));
+            + global(QStringLiteral("root"), QStringLiteral("<xs:element ref='e' minOccurs='21'/>"));
 }
 
 void TestXmlSchemaHandlerLimits::refusesCopiesThatHaveTooManyAttributes()
 {
     QFETCH(QString, schema);
+    const LimitsInForce inForce(smallLimits());
     const TraceCollector traces;
-    QVERIFY(!SchemaFixture().Read(schema.arg(QStringLiteral("<xs:restriction base='xs:string'>%1</xs:restriction>")
-                                                 .arg(QStringLiteral("<xs:enumeration value='v'/>").repeated(10000)))));
-    QCOMPARE(traces.Messages(), QStringLiteral("The schema lays out more than 2000000 attributes!"));
+    QVERIFY(!SchemaFixture().Read(schema.arg(enumeration(100))));
+    QCOMPARE(traces.Messages(), attributesTrace());
+}
+
+void TestXmlSchemaHandlerLimits::refusesCopiesOfTooManyValuesBeforeTheFirst_data()
+{
+    QTest::addColumn<QString>("schema"); // %1 stands for values, %2 for a number of copies
+    QTest::addColumn<int>("copies"); // that fit, of 100 values each
+    const QString simpleType = QStringLiteral("<xs:simpleType name='S'>%1</xs:simpleType>");
+    const QString elements
+        = global(QStringLiteral("root"), QStringLiteral("<xs:element name='e' type='S' minOccurs='%2'/>"));
+    const QString type = named(QStringLiteral("T"), QStringLiteral("<xs:element name='e' type='S'/>"));
+    const QString users
+        = global(QStringLiteral("root"), QStringLiteral("<xs:element name='t' type='T' minOccurs='%2'/>"));
+    QTest::newRow("elements-of-a-known-type") << simpleType + elements << 5;
+    QTest::newRow("elements-of-a-later-type") << elements + simpleType << 4; // The template has them too.
+    QTest::newRow("elements-with-values-in-a-known-type") << simpleType + type + users << 4; // and so has the type.
+    QTest::newRow("known-references") << QStringLiteral(
+                                             "<xs:element name='e'><xs:simpleType>%1</xs:simpleType></xs:element>")
+            + global(QStringLiteral("root"), QStringLiteral("<xs:element ref='e' minOccurs='%2'/>"))
+                                      << 5;
+    QTest::newRow("values-of-a-declared-attribute")
+        << QStringLiteral("<xs:attribute name='k'><xs:simpleType>%1</xs:simpleType></xs:attribute>")
+            + named(QStringLiteral("T"), QStringLiteral("<xs:element name='e' type='xs:int'/><xs:attribute ref='k'/>"))
+            + users
+        << 4;
+}
+
+void TestXmlSchemaHandlerLimits::refusesCopiesOfTooManyValuesBeforeTheFirst()
+{
+    QFETCH(QString, schema);
+    QFETCH(int, copies);
+    Limits limits = smallLimits();
+    limits.attributes = 10000;
+    const LimitsInForce inForce(limits);
+    const auto withCopies = [&](int count) {
+        return QString(schema)
+            .replace(QLatin1String("%1"), enumeration(100))
+            .replace(QLatin1String("%2"), QString::number(count));
+    };
+    const TraceCollector traces;
+    QVERIFY(SchemaFixture().Read(withCopies(copies)));
+    QCOMPARE(traces.Messages(), QString());
+
+    SchemaFixture refused;
+    QVERIFY(!refused.Read(withCopies(copies + 1)));
+    QCOMPARE(traces.Messages(), valuesTrace());
+    UnresolvedTypeMap references;
+    OccursMap occurs;
+    TypeDefinitionMap definitions;
+    ChoiceMap choices;
+    QVERIFY(refused.Handler().HandOver(references, occurs, definitions, choices));
+    // The root, and the one of a later type that waited for its values.
+    QVERIFY(elementsOf(*definitions[QStringLiteral("root")].fragment) <= 2);
 }
 
 void TestXmlSchemaHandlerLimits::refusesADocumentTypeOfManyEntities()
@@ -366,7 +490,7 @@ void TestXmlSchemaHandlerLimits::refusesSchemasThatGrowWithoutEnd_data()
         << global(QStringLiteral("root"), reference(QStringLiteral("unit"), 2147483647))
             + QStringLiteral("<xs:element name='unit'/>");
     // Each definition stays within the limit; what it refers to lands in the last global element all the same.
-    const QString misplaced = reference(QStringLiteral("a"), 200000);
+    const QString misplaced = reference(QStringLiteral("a"), 200);
     QTest::newRow("references-that-land-in-another-definition")
         << QStringLiteral("<xs:element name='a'/><xs:element name='root'/>") + named(QStringLiteral("T1"), misplaced)
             + named(QStringLiteral("T2"), misplaced) + named(QStringLiteral("T3"), misplaced);
@@ -378,6 +502,7 @@ void TestXmlSchemaHandlerLimits::refusesSchemasThatGrowWithoutEnd_data()
 void TestXmlSchemaHandlerLimits::refusesSchemasThatGrowWithoutEnd()
 {
     QFETCH(QString, declarations);
+    const LimitsInForce inForce(smallLimits());
     TraceCollector traces;
     SchemaFixture schema;
     QVERIFY(!schema.Read(declarations));
@@ -412,19 +537,18 @@ void TestXmlSchemaHandlerLimits::endsWhenNothingIsLaidOutCountlessTimes()
 
 void TestXmlSchemaHandlerLimits::limitsTheValuesOfAnEnumeration()
 {
-    const auto enumeration = [](int values) {
-        return QStringLiteral("<xs:simpleType name='Type'><xs:restriction base='xs:string'>")
-            + QStringLiteral("<xs:enumeration value='v'/>").repeated(values)
-            + QStringLiteral("</xs:restriction></xs:simpleType>");
+    const LimitsInForce inForce(smallLimits());
+    const auto type = [](int values) {
+        return QStringLiteral("<xs:simpleType name='Type'>%1</xs:simpleType>").arg(enumeration(values));
     };
     TraceCollector traces;
     SchemaFixture greatest;
-    QVERIFY(greatest.Read(enumeration(10000)));
+    QVERIFY(greatest.Read(type(100)));
     QCOMPARE(traces.Messages(), QString());
 
     SchemaFixture tooLong;
-    QVERIFY(!tooLong.Read(enumeration(10001)));
-    QCOMPARE(traces.Messages(), QStringLiteral("An enumeration has more than 10000 values!"));
+    QVERIFY(!tooLong.Read(type(101)));
+    QCOMPARE(traces.Messages(), QStringLiteral("An enumeration has more than 100 values!"));
 }
 
 void TestXmlSchemaHandlerLimits::keepsOccursCodesInRange()

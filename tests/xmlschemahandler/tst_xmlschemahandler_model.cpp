@@ -32,6 +32,9 @@ private Q_SLOTS:
     void failsForMissingDefinitions();
     void failsForDefinitionsThatWaitForEachOther_data();
     void failsForDefinitionsThatWaitForEachOther();
+    void failsWhenANameLeavesNoRoot_data();
+    void failsWhenANameLeavesNoRoot();
+    void givesSeveralRootsWithATrace();
     void keepsTheMapsOfAFailedSchema();
     void failsForMalformedSchemas();
     void hasAnEmptyDocumentUntilTheEnd();
@@ -648,6 +651,57 @@ void TestXmlSchemaHandlerModel::failsForDefinitionsThatWaitForEachOther()
     QVERIFY(!schema.Read(declarations));
     QVERIFY2(traces.IsOnly(missingTrace(), QStringLiteral("tools/xmlhelper/xmlschemahandler"), 1389),
              qPrintable(traces.Messages()));
+}
+
+void TestXmlSchemaHandlerModel::failsWhenANameLeavesNoRoot_data()
+{
+    QTest::addColumn<QString>("declarations");
+    QTest::addColumn<QString>("leftOut");
+    QTest::addColumn<bool>("isRootLeft");
+    const QString element = QStringLiteral("<xs:element default='5' name='Level'/>");
+
+    QTest::newRow("only-global-element-left-out") << element << QStringLiteral("5") << false;
+    QTest::newRow("only-global-attribute-left-out")
+        << QStringLiteral("<xs:attribute name='a b'/>") << QStringLiteral("a b") << false;
+    QTest::newRow("content-of-a-left-out-global-is-no-root")
+        << QStringLiteral("<xs:element name='1'><xs:complexType><xs:element name='e'/></xs:complexType></xs:element>")
+        << QStringLiteral("1") << false;
+    QTest::newRow("empty-type-behind-a-left-out-global-is-no-root")
+        << element + named(QStringLiteral("T"), QString()) << QStringLiteral("5") << false;
+    QTest::newRow("other-global-is-the-root")
+        << element + QStringLiteral("<xs:element name='root'/>") << QStringLiteral("5") << true;
+    QTest::newRow("type-read-last-is-the-root")
+        << element + named(QStringLiteral("T"), QStringLiteral("<xs:element name='e'/>")) << QStringLiteral("5")
+        << true;
+}
+
+void TestXmlSchemaHandlerModel::failsWhenANameLeavesNoRoot()
+{
+    QFETCH(QString, declarations);
+    QFETCH(QString, leftOut);
+    QFETCH(bool, isRootLeft);
+    TraceCollector traces;
+    SchemaFixture schema;
+    QCOMPARE(schema.Read(declarations), isRootLeft);
+    QCOMPARE(traces.Messages(),
+             QStringLiteral("XmlSchemaHandler: XML does not allow the name \"%1\", it was refused!").arg(leftOut));
+    QCOMPARE(schema.Handler().GetDocument()->documentElement().isNull(), !isRootLeft);
+    QCOMPARE(schema.Skeleton().isEmpty(), !isRootLeft);
+
+    // Without a declaration that was left out, a schema without a root is none that fails.
+    QVERIFY(SchemaFixture().Read(named(QStringLiteral("T"), QString())));
+}
+
+void TestXmlSchemaHandlerModel::givesSeveralRootsWithATrace()
+{
+    TraceCollector traces;
+    QVERIFY(SchemaFixture().Read(named(QStringLiteral("T"), QStringLiteral("<xs:element name='a'/>"))));
+    QCOMPARE(traces.Messages(), QString());
+    SchemaFixture schema;
+    // Without a global element the content of the type read last is laid out.
+    QVERIFY(schema.Read(named(QStringLiteral("T"), QStringLiteral("<xs:element name='a'/><xs:element name='b'/>"))));
+    QCOMPARE(schema.Skeleton(), QStringLiteral("<?xml version='1.0' encoding='UTF-8'?>\n<a/>\n<b/>\n"));
+    QCOMPARE(traces.Messages(), QStringLiteral("The schema lays out several roots, the report is no XML document!"));
 }
 
 void TestXmlSchemaHandlerModel::keepsTheMapsOfAFailedSchema()

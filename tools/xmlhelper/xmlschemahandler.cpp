@@ -4,6 +4,8 @@
 #include <iterator>
 #include <limits>
 #include <set>
+#include <utility>
+#include <vector>
 
 #include <QFileInfo>
 #include <QStringList>
@@ -15,32 +17,49 @@
 #include "documentfile.h"
 #include "domattributes.h"
 #include "domextent.h"
+#include "domorder.h"
 #include "guardedsource.h"
-#include "limits_p.h"
 #include "tracing.h"
 #include "xmltext.h"
 
 QT_WARNING_DISABLE_DEPRECATED
 
+/// What the end of a file has to know of the names that are referred to. Only those about which something is new are
+/// looked at, so that many files cost no more than one.
+struct ReferredNames
+{
+    std::set<QString> changed; ///< defined or referred to since the last end of a file
+    std::set<QString> missing; ///< that have no definition
+    std::set<QString> blocked; ///< whose definitions wait for others
+    std::set<QString> usable; ///< to be laid out
+    std::set<QString> usableLater; ///< the same, in the next pass
+    std::set<QString> expanded; ///< that have been laid out
+    std::set<QString> expandedAwaited; ///< of these, the ones for which somebody waits again
+    std::map<QString, std::map<int, std::vector<const ElementPathRecord*>>> unserved; ///< records; owned by the model
+
+    void Forget(const QString& name);
+};
+
+void ReferredNames::Forget(const QString& name)
+{
+    for (std::set<QString>* const names : {&missing, &blocked, &usable, &expanded, &expandedAwaited}) {
+        names->erase(name);
+    }
+}
+
 /// What the handlers of a schema and of its included files share: the objects that the model points to, which must
-/// outlive the handlers of included files, and the counts that limit the reading.
+/// outlive the handlers of included files, and what is known of the schema as a whole.
 struct SchemaReading
 {
     std::list<QDomDocument> includedDocuments; ///< of included files: nodes do not keep their document alive
     std::list<QDomDocumentFragment> fragments;
-    std::list<QDomElement> elements; ///< the handles of the reference records
-    std::set<const QDomElement*> servedOwners;
-    std::set<QString> unusedGlobals; ///< the names of global declarations, until one is seen to be used
-    std::set<QString> openReferences; ///< names that somebody may wait for, until they are laid out
-    QStringList openFiles;
-    int openTags = 0; ///< of the files that include the one being read
-    int files = 0;
-    int elementsOfAllDefinitions = 0;
-    int elementsOfNamedTypes = 0;
-    int attributesOfAllDefinitions = 0;
     std::set<const QDomDocumentFragment*> fragmentsOfNamedTypes;
+    std::list<QDomElement> elements; ///< the handles of the reference records
+    std::set<QString> unusedGlobals; ///< the names of global declarations with content, until one is seen to be used
+    bool isGlobalLeftOut = false; ///< for its name
+    ReferredNames names;
+    SchemaBudget budget;
     int choiceCounter = 0;
-    bool isRefused = false;
 };
 
 /// What the attributes of an xs:element say.
@@ -104,17 +123,29 @@ bool isCarrier(const QDomNode& node)
     return node.nodeName() == CarrierName;
 }
 
-void copyAttributes(const QDomElement& from, QDomElement to)
+int enumerationValuesAmong(const DomAttributes& attributes)
 {
-    for (const QDomAttr& attribute : attributesOf(from)) {
-        to.setAttribute(attribute.name(), attribute.value());
-    }
+    return static_cast<int>(std::count_if(attributes.begin(), attributes.end(), [](const QDomAttr& attribute) {
+        return attribute.name().contains(EnumerationFacet);
+    }));
 }
 
-/// Copies the facets of @p from to @p to, with @p suffix appended to their names.
-void copyFacets(const QDomElement& from, QDomElement to, const QString& suffix = QString())
+/// The values of enumerations that the elements below @p fragment have.
+int enumerationValuesBelow(const QDomNode& fragment)
 {
-    for (const QDomAttr& attribute : attributesOf(from)) {
+    int values = 0;
+    for (QDomNode top = fragment.firstChild(); !top.isNull(); top = top.nextSibling()) {
+        for (QDomNode node = top; !node.isNull(); node = nextBelow(top, node, false)) {
+            values += enumerationValuesAmong(attributesOf(node.toElement()));
+        }
+    }
+    return values;
+}
+
+/// Gives the facets among @p attributes to @p to, with @p suffix appended to their names.
+void copyFacets(const DomAttributes& attributes, QDomElement to, const QString& suffix = QString())
+{
+    for (const QDomAttr& attribute : attributes) {
         if (isFacet(attribute.name())) {
             to.setAttribute(attribute.name() + suffix, attribute.value());
         }
@@ -196,8 +227,7 @@ XmlSchemaHandler::XmlSchemaHandler(IXMLHelper* pCallback, const QString& schemaP
     : XmlSchemaHandler(std::make_shared<SchemaReading>(), pCallback, schemaPath)
 {
     if (checkObserver(pCallback, "XmlSchemaHandler", Component, 35)) {
-        m_pReading->openFiles.append(identityOfFile(openableFileName(schemaPath)));
-        m_pReading->files = 1;
+        m_pReading->budget.OpenFile(identityOfFile(openableFileName(schemaPath)), 0);
     } else {
         m_pDocument.reset();
     }
@@ -265,7 +295,7 @@ bool XmlSchemaHandler::ReadFile(const QString& fileName, QXmlSimpleReader& parse
     GuardedSource source(bytes);
     const bool isParsed = source.Parse(parser);
     if (!source.GetRefusal().isEmpty()) {
-        refuse(source.GetRefusal());
+        m_pReading->budget.Refuse(source.GetRefusal());
     }
     return isParsed;
 }
@@ -286,9 +316,6 @@ bool XmlSchemaHandler::endDocument()
         trace(QStringLiteral("Callback-Pointer is NULL!"), Component, __LINE__);
         return false;
     }
-    if (m_bIncludeFollowed) {
-        reviveExpandedDefinitions();
-    }
     return resolveReferences() && chooseRoot();
 }
 
@@ -300,17 +327,15 @@ bool XmlSchemaHandler::startElement(const QString&, const QString&, const QStrin
     }
     m_sCurrentName = qName;
     m_attributes = usableAttributes(attributes);
-    if (++m_iNesting > limits().elementNesting) {
-        refuse(QStringLiteral("The schema is nested deeper than %1 elements!").arg(limits().elementNesting));
-    } else if (m_pReading->openTags + m_iNesting > limits().openTags) {
-        refuse(
-            QStringLiteral("The schema and its includes are nested deeper than %1 elements!").arg(limits().openTags));
-    } else if (m_bInsideRestriction) {
+    if (!m_pReading->budget.CheckTag(++m_iNesting)) {
+        return false;
+    }
+    if (m_bInsideRestriction) {
         readFacet();
     } else {
         readTag();
     }
-    return !isRefused();
+    return !m_pReading->budget.IsRefused();
 }
 
 bool XmlSchemaHandler::endElement(const QString&, const QString&, const QString& qName)
@@ -364,13 +389,12 @@ void XmlSchemaHandler::readInclude()
     m_bIncludeFollowed = true;
     const QString fileName = openableFileName(includedFileName());
     const QString identity = identityOfFile(fileName);
-    QStringList& openFiles = m_pReading->openFiles;
-    if (openFiles.contains(identity) || openFiles.size() >= limits().includeDepth) {
+    SchemaBudget& budget = m_pReading->budget;
+    if (!budget.MayOpen(identity)) {
         trace(QStringLiteral("Include was skipped, it is already being read!"), Component, __LINE__);
         return;
     }
-    if (++m_pReading->files > limits().schemaFiles) {
-        refuse(QStringLiteral("The schema consists of more than %1 files!").arg(limits().schemaFiles));
+    if (!budget.OpenFile(identity, m_iNesting)) {
         return;
     }
 
@@ -379,13 +403,10 @@ void XmlSchemaHandler::readInclude()
     XmlSchemaHandler included(m_pReading, m_pCallback, m_sSchemaPath);
     std::move(*this).HandOver(included.m_unresolvedTypes, included.m_occurs, included.m_typeDefinitions,
                               included.m_choices);
-    openFiles.append(identity);
-    m_pReading->openTags += m_iNesting;
     included.m_eRootUse = RootUse::Unused;
     QXmlSimpleReader parser;
     included.ReadFile(fileName, parser);
-    m_pReading->openTags -= m_iNesting;
-    openFiles.removeLast();
+    budget.CloseFile(m_iNesting);
     m_pReading->includedDocuments.push_back(*included.m_pDocument);
     std::move(included).HandOver(m_unresolvedTypes, m_occurs, m_typeDefinitions, m_choices);
 }
@@ -442,8 +463,12 @@ void XmlSchemaHandler::beginGlobalDeclaration()
     // What is taken for the name may be any attribute that comes first. So a name that XML does not allow leaves the
     // declaration out, but is no reason to fail.
     m_currentElement = QDomElement();
-    if (!m_sDefinitionName.isEmpty() && isRepresentableName(m_sDefinitionName, "XmlSchemaHandler")) {
-        m_currentElement = createElement(m_sDefinitionName, currentFragment());
+    if (!m_sDefinitionName.isEmpty()) {
+        if (isRepresentableName(m_sDefinitionName, "XmlSchemaHandler")) {
+            m_currentElement = createElement(m_sDefinitionName, currentFragment());
+        } else {
+            m_pReading->isGlobalLeftOut = true;
+        }
     }
     define(m_sDefinitionName, TypeDefinition {0, 0, m_pCurrentFragment});
 
@@ -475,7 +500,7 @@ bool XmlSchemaHandler::readGlobalType(const QString& type)
 void XmlSchemaHandler::readLocalElement()
 {
     const ElementDeclaration declaration(m_attributes);
-    if (!declaration.name.isEmpty() && checkName(declaration.name)) {
+    if (!declaration.name.isEmpty() && m_pReading->budget.CheckName(declaration.name)) {
         layOutNamedElement(declaration);
         enterOccurs(declaration.name, declaration);
     } else if (!declaration.ref.isEmpty()) {
@@ -497,16 +522,18 @@ void XmlSchemaHandler::layOutReference(const ElementDeclaration& declaration)
 
 void XmlSchemaHandler::layOutNamedElement(const ElementDeclaration& declaration)
 {
-    if (qint64(m_fragmentElements.elements) + declaration.Copies() > limits().elements) {
-        refuseElements();
+    SchemaBudget& budget = m_pReading->budget;
+    if (!budget.CheckElements(declaration.Copies(), m_fragmentShare)) {
         return;
     }
     const bool isTypeRepeated = declaration.Copies() > 1 && !hasSchemaPrefix(declaration.type);
     const TypeDefinition* const type = isTypeRepeated ? findUsableDefinition(declaration.type) : nullptr;
-    if (type && !areAttributesWithinLimit(qint64(extentOf(*type->fragment).attributes) * declaration.Copies())) {
+    if (type
+        && !budget.CheckAttributes(qint64(extentOf(*type->fragment).attributes) * declaration.Copies(),
+                                   qint64(enumerationValuesOf(*type)) * declaration.Copies())) {
         return;
     }
-    for (int copy = 0; copy < declaration.Copies() && !isRefused(); ++copy) {
+    for (int copy = 0; copy < declaration.Copies() && !budget.IsRefused(); ++copy) {
         QDomElement element
             = createElement(declaration.name, m_bInsideGlobal ? QDomNode(m_currentElement) : currentFragment());
         m_typeLevelElement = element;
@@ -535,11 +562,11 @@ void XmlSchemaHandler::deferNamedElement(const ElementDeclaration& declaration, 
         return;
     }
     recordReference(declaration.name, declaration.minOccurs - 1, recordOf(m_currentElement, first));
-    const ElementCount ofGlobal = m_fragmentElements;
+    const SchemaBudget::Share ofGlobal = m_fragmentShare;
     beginFragment(true);
     m_typeLevelElement = createElement(declaration.name, currentFragment());
     if (m_bInsideGlobal) {
-        m_fragmentElements = ofGlobal; // What follows still goes there.
+        m_fragmentShare = ofGlobal; // What follows still goes there.
     }
     define(declaration.name, TypeDefinition {1, 1, m_pCurrentFragment});
     ElementPathRecord record = recordOf(m_typeLevelElement);
@@ -578,13 +605,12 @@ void XmlSchemaHandler::readFacet()
 {
     QString facet = withoutSchemaPrefix(m_sCurrentName);
     if (facet.contains(EnumerationFacet)) {
-        if (m_iEnumerationCounter > limits().enumerationValues) {
-            refuse(QStringLiteral("An enumeration has more than %1 values!").arg(limits().enumerationValues));
+        if (!m_pReading->budget.TakeEnumerationValue(m_iEnumerationCounter)) {
             return;
         }
         facet += QString::number(m_iEnumerationCounter++);
     }
-    if (checkName(facet)) {
+    if (m_pReading->budget.CheckName(facet)) {
         annotatedElement().setAttribute(facet, firstValue());
     }
 }
@@ -619,20 +645,21 @@ void XmlSchemaHandler::extendDefinition(const QString& base)
         return;
     }
     definition->usedFlag = 1;
-    if (!countAttributes(extended.attributes().count())) {
+    const DomAttributes attributes = attributesOf(extended);
+    if (!m_pReading->budget.TakeAttributes(static_cast<int>(attributes.size()), enumerationValuesAmong(attributes))) {
         return;
     }
     if (extended.hasAttribute(TypeAttribute())) {
         target.setAttribute(TypeAttribute(), extended.attribute(TypeAttribute()));
     }
-    copyFacets(extended, target);
+    copyFacets(attributes, target);
 }
 
 void XmlSchemaHandler::readAttribute()
 {
     const QString name = m_attributes.value(QLatin1String("name"));
     const QString ref = m_attributes.value(QLatin1String("ref"));
-    if (!name.isEmpty() && checkName(name)) {
+    if (!name.isEmpty() && m_pReading->budget.CheckName(name)) {
         attributedElement().setAttribute(name, m_attributes.value(QLatin1String("type")));
     } else if (!ref.isEmpty()) {
         readAttributeReference(ref);
@@ -663,7 +690,7 @@ QString XmlSchemaHandler::firstValue() const
 void XmlSchemaHandler::beginFragment(bool isOfNamedType)
 {
     m_pCurrentFragment = &m_pReading->fragments.emplace_back(m_pDocument->createDocumentFragment());
-    m_fragmentElements = ElementCount {0, isOfNamedType};
+    m_fragmentShare = SchemaBudget::Share {0, isOfNamedType};
     if (isOfNamedType) {
         m_pReading->fragmentsOfNamedTypes.insert(m_pCurrentFragment);
     }
@@ -678,12 +705,15 @@ QDomNode XmlSchemaHandler::currentFragment() const
 /// Creates an element and appends it to @p owner; a null element when the limits do not allow it.
 QDomElement XmlSchemaHandler::createElement(const QString& name, QDomNode owner)
 {
-    if (!isWithinLimits({1, 1, 0}, 1, owner, m_fragmentElements)) {
+    if (!m_pReading->budget.TakeElements({1, 1, 0}, 0, 1, levelOf(owner), m_fragmentShare)) {
         return QDomElement();
     }
     QDomElement element = m_pDocument->createElement(name);
     if (!owner.isNull()) {
         owner.appendChild(element);
+    }
+    if (owner.isDocumentFragment() && !m_fragmentShare.isOfNamedType) {
+        m_pReading->unusedGlobals.insert(m_sDefinitionName);
     }
     return element;
 }
@@ -720,10 +750,7 @@ QDomElement XmlSchemaHandler::attributedElement() const
 void XmlSchemaHandler::define(const QString& name, const TypeDefinition& definition)
 {
     m_typeDefinitions[name] = definition;
-    m_pReading->openReferences.insert(name);
-    if (definition.usedFlag == 0) {
-        m_pReading->unusedGlobals.insert(name);
-    }
+    m_pReading->names.changed.insert(name);
 }
 
 TypeDefinition* XmlSchemaHandler::findDefinition(const QString& name)
@@ -741,14 +768,12 @@ TypeDefinition* XmlSchemaHandler::findUsableDefinition(const QString& name)
 /// Gives @p owner the content of @p definition: the attributes of a carrier, else clones of everything as children,
 /// after @p anchor or at the end. What leaves nothing behind is done once, however many copies are wanted.
 void XmlSchemaHandler::layOut(TypeDefinition& definition, QDomElement owner, const QDomNode& anchor, int copies,
-                              ElementCount& tree)
+                              SchemaBudget::Share& share)
 {
     definition.usedFlag = 1;
     const QDomNode first = definition.fragment->firstChild();
     if (isCarrier(first)) {
-        if (countAttributes(first.attributes().count())) {
-            copyAttributes(first.toElement(), owner);
-        }
+        copyAttributes(first.toElement(), owner);
         return;
     }
     if (first.isNull() || owner.isNull()) {
@@ -756,7 +781,8 @@ void XmlSchemaHandler::layOut(TypeDefinition& definition, QDomElement owner, con
     }
     for (; copies > 0; --copies) {
         // Measured for each copy: a definition that refers to itself grows under way.
-        if (!isWithinLimits(extentOf(*definition.fragment), copies, owner, tree)) {
+        if (!m_pReading->budget.TakeElements(extentOf(*definition.fragment), enumerationValuesOf(definition), copies,
+                                             levelOf(owner), share)) {
             return;
         }
         const QDomNode content = definition.fragment->cloneNode(true);
@@ -770,7 +796,17 @@ void XmlSchemaHandler::layOut(TypeDefinition& definition, QDomElement owner, con
 
 void XmlSchemaHandler::layOutNow(TypeDefinition& definition, const QDomElement& owner, int copies)
 {
-    layOut(definition, owner, QDomNode(), copies, m_fragmentElements);
+    layOut(definition, owner, QDomNode(), copies, m_fragmentShare);
+}
+
+void XmlSchemaHandler::copyAttributes(const QDomElement& from, QDomElement to)
+{
+    const DomAttributes attributes = attributesOf(from);
+    if (m_pReading->budget.TakeAttributes(static_cast<int>(attributes.size()), enumerationValuesAmong(attributes))) {
+        for (const QDomAttr& attribute : attributes) {
+            to.setAttribute(attribute.name(), attribute.value());
+        }
+    }
 }
 
 /// Gives @p owner the attribute that @p definition, a global attribute, declares, and its facets.
@@ -779,9 +815,11 @@ void XmlSchemaHandler::setDeclaredAttribute(TypeDefinition& definition, QDomElem
     definition.usedFlag = 1;
     // A clone, because a global attribute that refers to itself is its own owner.
     const QDomElement declared = definition.fragment->firstChildElement().cloneNode(false).toElement();
-    if (!declared.isNull() && countAttributes(declared.attributes().count())) {
+    const DomAttributes attributes = attributesOf(declared);
+    if (!declared.isNull()
+        && m_pReading->budget.TakeAttributes(static_cast<int>(attributes.size()), enumerationValuesAmong(attributes))) {
         owner.setAttribute(declared.tagName(), declared.attribute(TypeAttribute()));
-        copyFacets(declared, owner, declared.tagName());
+        copyFacets(attributes, owner, declared.tagName());
     }
 }
 
@@ -790,15 +828,17 @@ void XmlSchemaHandler::deferReference(const QString& name, int copies, const Ele
 {
     if (TypeDefinition* const definition = findDefinition(m_sDefinitionName)) {
         ++definition->pendingCount;
-        m_pReading->openReferences.insert(m_sDefinitionName);
+        m_pReading->names.changed.insert(m_sDefinitionName);
     }
     recordReference(name, copies, record);
 }
 
 void XmlSchemaHandler::recordReference(const QString& name, int copies, const ElementPathRecord& record)
 {
-    m_unresolvedTypes[name][copies].push_back(record);
-    m_pReading->openReferences.insert(name);
+    std::list<ElementPathRecord>& records = m_unresolvedTypes[name][copies];
+    records.push_back(record);
+    m_pReading->names.unserved[name][copies].push_back(&records.back());
+    m_pReading->names.changed.insert(name);
 }
 
 ElementPathRecord XmlSchemaHandler::recordOf(const QDomElement& owner, const QDomElement& anchor)
@@ -811,198 +851,167 @@ ElementPathRecord XmlSchemaHandler::recordOf(const QDomElement& owner, const QDo
     return record;
 }
 
-/// What an included file has expanded already serves this file's waiting users too.
+/// What an included file has expanded already serves this file's waiting users too. Where nobody waits it makes a
+/// difference behind a name that is missing only: such a definition stays usable.
 void XmlSchemaHandler::reviveExpandedDefinitions()
 {
-    for (const auto& unresolved : m_unresolvedTypes) {
-        TypeDefinition* const definition = unresolved.first.isEmpty() ? nullptr : findDefinition(unresolved.first);
-        if (definition && definition->pendingCount == -1) {
-            definition->pendingCount = 0;
-            m_pReading->openReferences.insert(unresolved.first);
-        }
+    ReferredNames& names = m_pReading->names;
+    std::set<QString> revived = std::exchange(names.expandedAwaited, {});
+    if (!names.missing.empty()) {
+        revived.insert(names.expanded.upper_bound(*names.missing.begin()), names.expanded.end());
+    }
+    for (const QString& name : revived) {
+        findDefinition(name)->pendingCount = 0;
+        names.expanded.erase(name);
+        names.usable.insert(name);
     }
 }
 
-/// Makes passes over the recorded references until all are laid out. Gives false when a definition never comes, and
-/// when a pass gets nowhere because definitions refer to each other.
+/// Makes passes over the names that are referred to, in their order, until all are laid out. What becomes usable under
+/// way is laid out in the same pass when its name is still to come, else in the next one. Gives false when the first
+/// pass comes to a name that has no definition, and when definitions are left that wait for each other.
 bool XmlSchemaHandler::resolveReferences()
 {
-    std::set<QString>& names = m_pReading->openReferences;
-    bool isAnotherPassNeeded = true;
-    while (isAnotherPassNeeded) {
-        isAnotherPassNeeded = false;
-        bool isAnythingExpanded = false;
-        for (auto name = names.begin(); name != names.end() && !isRefused();) {
-            if (name->isEmpty() || m_unresolvedTypes.count(*name) == 0) {
-                name = names.erase(name);
-                continue;
-            }
-            TypeDefinition* const definition = findDefinition(*name);
-            if (!definition) {
-                traceMissingElement();
-                return false;
-            }
-            if (definition->pendingCount > 0) {
-                isAnotherPassNeeded = true;
-                ++name;
-                continue;
-            }
-            if (definition->pendingCount == 0) {
-                expand(*name, *definition);
-                isAnythingExpanded = true;
-            }
-            name = names.erase(name);
-        }
-        if (isRefused()) {
+    ReferredNames& names = m_pReading->names;
+    for (const QString& name : std::exchange(names.changed, {})) {
+        sortIn(name);
+    }
+    if (m_bIncludeFollowed) {
+        reviveExpandedDefinitions();
+    }
+    const std::set<QString>& missing = names.missing;
+    while (!names.usable.empty() && (missing.empty() || *names.usable.begin() < *missing.begin())) {
+        const QString name = *names.usable.begin();
+        expand(name);
+        if (m_pReading->budget.IsRefused()) {
             return false;
         }
-        if (isAnotherPassNeeded && !isAnythingExpanded) {
-            traceMissingElement();
-            return false;
+        if (names.usable.empty() && missing.empty()) {
+            names.usable.swap(names.usableLater);
         }
+    }
+    names.usable.merge(names.usableLater);
+    if (!missing.empty() || !names.blocked.empty()) {
+        traceMissingElement();
+        return false;
     }
     return true;
 }
 
-/// Lays @p definition out wherever it is waited for.
-void XmlSchemaHandler::expand(const QString& name, TypeDefinition& definition)
+/// Puts @p name where it belongs now.
+void XmlSchemaHandler::sortIn(const QString& name)
 {
-    definition.pendingCount = -1;
-    for (const auto& [copies, records] : m_unresolvedTypes[name]) {
-        for (const ElementPathRecord& record : records) {
-            // What the end of an included file has served is not served again.
-            if (!m_pReading->servedOwners.insert(record.ownerElement).second) {
-                continue;
+    if (name.isEmpty() || m_unresolvedTypes.count(name) == 0) {
+        return;
+    }
+    ReferredNames& names = m_pReading->names;
+    names.Forget(name);
+    const TypeDefinition* const definition = findDefinition(name);
+    if (!definition) {
+        names.missing.insert(name);
+    } else if (definition->pendingCount > 0) {
+        names.blocked.insert(name);
+    } else if (definition->pendingCount == 0) {
+        names.usable.insert(name);
+    } else {
+        names.expanded.insert(name);
+        if (names.unserved.count(name) > 0) {
+            names.expandedAwaited.insert(name);
+        }
+    }
+}
+
+/// Lays the definition of @p name, which is usable, out wherever it is waited for.
+void XmlSchemaHandler::expand(const QString& name)
+{
+    ReferredNames& names = m_pReading->names;
+    names.usable.erase(name);
+    names.expanded.insert(name);
+    findDefinition(name)->pendingCount = -1;
+    const auto unserved = names.unserved.find(name);
+    if (unserved == names.unserved.end()) {
+        return;
+    }
+    const auto recordsOfCopies = std::move(unserved->second);
+    names.unserved.erase(unserved);
+    for (const auto& [copies, records] : recordsOfCopies) {
+        for (const ElementPathRecord* const record : records) {
+            if (m_pReading->budget.IsRefused()) {
+                return;
             }
-            if (!isRefused()) {
-                serve(definition, std::max(1, copies), record);
-            }
+            serve(name, std::max(1, copies), *record);
         }
     }
 }
 
 /// Every copy counts as one of the pieces that the definition of the record waits for.
-void XmlSchemaHandler::serve(TypeDefinition& definition, int copies, const ElementPathRecord& record)
+void XmlSchemaHandler::serve(const QString& name, int copies, const ElementPathRecord& record)
 {
+    TypeDefinition& definition = *findDefinition(name);
     if (record.isAttributeReference) {
         setDeclaredAttribute(definition, *record.ownerElement);
     } else {
         layOut(definition, *record.ownerElement, record.anchorElement ? *record.anchorElement : QDomElement(), copies,
-               elementCountOf(record.definitionName));
+               shareOf(record.definitionName));
     }
     TypeDefinition* const waiting = findDefinition(record.definitionName);
-    if (waiting && waiting->pendingCount > 0) {
-        waiting->pendingCount -= std::min(copies, waiting->pendingCount);
+    if (!waiting || waiting->pendingCount <= 0) {
+        return;
+    }
+    waiting->pendingCount -= std::min(copies, waiting->pendingCount);
+    ReferredNames& names = m_pReading->names;
+    if (waiting->pendingCount == 0 && names.blocked.erase(record.definitionName) > 0) {
+        (name < record.definitionName ? names.usable : names.usableLater).insert(record.definitionName);
     }
 }
 
-XmlSchemaHandler::ElementCount& XmlSchemaHandler::elementCountOf(const QString& definitionName)
+SchemaBudget::Share& XmlSchemaHandler::shareOf(const QString& definitionName)
 {
-    const auto [counted, isNew] = m_treeElements.emplace(definitionName, ElementCount());
+    const auto [share, isNew] = m_shares.emplace(definitionName, SchemaBudget::Share());
     const TypeDefinition* const definition = isNew ? findDefinition(definitionName) : nullptr;
     if (definition) {
-        counted->second.elements = extentOf(*definition->fragment).elements;
-        counted->second.isOfNamedType = m_pReading->fragmentsOfNamedTypes.count(definition->fragment) > 0;
+        share->second.elements = extentOf(*definition->fragment).elements;
+        share->second.isOfNamedType = m_pReading->fragmentsOfNamedTypes.count(definition->fragment) > 0;
     }
-    return counted->second;
+    return share->second;
+}
+
+/// The values of enumerations that a definition holds; 0 without a look at it when no enumeration has been read.
+int XmlSchemaHandler::enumerationValuesOf(const TypeDefinition& definition) const
+{
+    return m_pReading->budget.HasEnumerations() ? enumerationValuesBelow(*definition.fragment) : 0;
 }
 
 /// The last unused global declaration in the order of names becomes the root; all of them count as used from then on.
-/// Gives false when it has grown beyond the limit, by references of other definitions that landed in it.
+/// Gives false when it has grown beyond the limit, by references of other definitions that landed in it, and when no
+/// root is left because of a name that XML does not allow.
 bool XmlSchemaHandler::chooseRoot()
 {
-    std::set<QString>& names = m_pReading->unusedGlobals;
-    for (auto name = names.begin(); name != names.end();) {
-        TypeDefinition* const definition = findDefinition(*name);
+    for (const QString& name : std::exchange(m_pReading->unusedGlobals, {})) {
+        TypeDefinition* const definition = findDefinition(name);
         if (definition && definition->usedFlag == 0 && definition->fragment->hasChildNodes()) {
             m_pCurrentFragment = definition->fragment;
             definition->usedFlag = 1;
         }
-        name = definition && definition->usedFlag == 0 ? std::next(name) : names.erase(name);
     }
-    if (extentOf(currentFragment()).elements > limits().elements) {
-        refuseElements();
+    const QDomNode root = currentFragment();
+    if (!m_pReading->budget.CheckElements(extentOf(root).elements, SchemaBudget::Share())) {
         return false;
     }
-    if (m_eRootUse == RootUse::Unused) {
-        return true;
+    return m_eRootUse == RootUse::Unused || makeSkeleton(root);
+}
+
+bool XmlSchemaHandler::makeSkeleton(const QDomNode& root)
+{
+    if (m_pReading->isGlobalLeftOut && root.firstChildElement().isNull()) {
+        return false;
     }
     m_pDocument->setContent(QString(SkeletonDeclaration));
-    if (m_pCurrentFragment) {
-        m_pDocument->appendChild(m_eRootUse == RootUse::Moved ? *m_pCurrentFragment
-                                                              : m_pCurrentFragment->cloneNode(true));
+    if (!root.isNull()) {
+        m_pDocument->appendChild(m_eRootUse == RootUse::Moved ? root : root.cloneNode(true));
+    }
+    if (!m_pDocument->documentElement().nextSiblingElement().isNull()) {
+        trace(QStringLiteral("The schema lays out several roots, the report is no XML document!"), Component, __LINE__);
     }
     return true;
-}
-
-bool XmlSchemaHandler::isRefused() const
-{
-    return m_pReading->isRefused;
-}
-
-/// Fails the parse for a limit, here and in the files that include this one. Only the first reason is traced.
-void XmlSchemaHandler::refuse(const QString& reason)
-{
-    if (!isRefused()) {
-        m_pReading->isRefused = true;
-        trace(reason, Component, __LINE__);
-    }
-}
-
-/// Whether an element or an attribute of the skeleton may have the name; fails the parse when XML does not allow it.
-bool XmlSchemaHandler::checkName(const QString& name)
-{
-    if (!isRepresentableName(name, "XmlSchemaHandler")) {
-        m_pReading->isRefused = true;
-    }
-    return !isRefused();
-}
-
-void XmlSchemaHandler::refuseElements()
-{
-    refuse(QStringLiteral("The schema lays out more than %1 elements!").arg(limits().elements));
-}
-
-/// Whether @p copies of so much may be laid below @p owner; counts one of them when they may and refuses when not.
-bool XmlSchemaHandler::isWithinLimits(const DomExtent& extent, int copies, const QDomNode& owner, ElementCount& tree)
-{
-    if (levelOf(owner) + extent.levels > limits().elementNesting) {
-        refuse(QStringLiteral("The schema lays out elements nested deeper than %1!").arg(limits().elementNesting));
-        return false;
-    }
-    int& total = m_pReading->elementsOfAllDefinitions;
-    int& ofNamedTypes = m_pReading->elementsOfNamedTypes;
-    const qint64 elements = qint64(copies) * extent.elements;
-    const qint64 forNamedTypes = tree.isOfNamedType ? elements : 0;
-    if (tree.elements + elements > limits().elements || total + elements > limits().elementsOfAllDefinitions
-        || ofNamedTypes + forNamedTypes > limits().elementsOfNamedTypes) {
-        refuseElements();
-        return false;
-    }
-    if (!areAttributesWithinLimit(qint64(copies) * extent.attributes)) {
-        return false;
-    }
-    tree.elements += extent.elements;
-    total += extent.elements;
-    ofNamedTypes += tree.isOfNamedType ? extent.elements : 0;
-    m_pReading->attributesOfAllDefinitions += extent.attributes;
-    return true;
-}
-
-/// Whether so many attributes may be copied to other elements; refuses when not.
-bool XmlSchemaHandler::areAttributesWithinLimit(qint64 attributes)
-{
-    if (m_pReading->attributesOfAllDefinitions + attributes > limits().attributes) {
-        refuse(QStringLiteral("The schema lays out more than %1 attributes!").arg(limits().attributes));
-    }
-    return !isRefused();
-}
-
-/// The same, and counts them.
-bool XmlSchemaHandler::countAttributes(int attributes)
-{
-    if (areAttributesWithinLimit(attributes)) {
-        m_pReading->attributesOfAllDefinitions += attributes;
-    }
-    return !isRefused();
 }

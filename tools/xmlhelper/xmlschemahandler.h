@@ -9,11 +9,11 @@
 #include <QXmlAttributes>
 #include <QXmlDefaultHandler>
 
+#include "schemabudget_p.h"
 #include "schemamodel.h"
 
 class IXMLHelper;
 class QXmlSimpleReader;
-struct DomExtent;
 struct SchemaReading;
 
 QT_WARNING_PUSH
@@ -39,7 +39,7 @@ QT_WARNING_DISABLE_DEPRECATED // The SAX classes: Qt keeps them, with a warning.
     /// several.
     ///
     /// The parse fails at the end of the document when a definition never comes, and early when one of the limits in
-    /// constants.h is exceeded or a local declaration has a name that W3C XML does not allow; all of it is traced. A
+    /// limits_p.h is exceeded or a local declaration has a name that W3C XML does not allow; all of it is traced. A
     /// global declaration of such a name is left out, and characters that XML cannot carry are dropped from what the
     /// schema says, with a trace too. No event is ever sent.
     ///
@@ -86,13 +86,6 @@ private:
         Unused ///< the skeleton of an included file
     };
 
-    /// How many elements have been laid into a definition.
-    struct ElementCount
-    {
-        int elements = 0;
-        bool isOfNamedType = false;
-    };
-
     XmlSchemaHandler(const std::shared_ptr<SchemaReading>& reading, IXMLHelper* pCallback, const QString& schemaPath);
 
     // One small function for each construct of a schema.
@@ -133,8 +126,11 @@ private:
     void define(const QString& name, const TypeDefinition& definition);
     TypeDefinition* findDefinition(const QString& name);
     TypeDefinition* findUsableDefinition(const QString& name);
-    void layOut(TypeDefinition& definition, QDomElement owner, const QDomNode& anchor, int copies, ElementCount& tree);
+    int enumerationValuesOf(const TypeDefinition& definition) const;
+    void layOut(TypeDefinition& definition, QDomElement owner, const QDomNode& anchor, int copies,
+                SchemaBudget::Share& share);
     void layOutNow(TypeDefinition& definition, const QDomElement& owner, int copies = 1);
+    void copyAttributes(const QDomElement& from, QDomElement to);
     void setDeclaredAttribute(TypeDefinition& definition, QDomElement owner);
     void deferReference(const QString& name, int copies, const ElementPathRecord& record);
     void recordReference(const QString& name, int copies, const ElementPathRecord& record);
@@ -143,18 +139,12 @@ private:
     // The end of the document.
     void reviveExpandedDefinitions();
     bool resolveReferences();
-    void expand(const QString& name, TypeDefinition& definition);
-    void serve(TypeDefinition& definition, int copies, const ElementPathRecord& record);
-    ElementCount& elementCountOf(const QString& definitionName);
+    void sortIn(const QString& name);
+    void expand(const QString& name);
+    void serve(const QString& name, int copies, const ElementPathRecord& record);
+    SchemaBudget::Share& shareOf(const QString& definitionName);
     bool chooseRoot();
-
-    bool isRefused() const;
-    void refuse(const QString& reason);
-    bool checkName(const QString& name);
-    void refuseElements();
-    bool isWithinLimits(const DomExtent& extent, int copies, const QDomNode& owner, ElementCount& tree);
-    bool areAttributesWithinLimit(qint64 attributes);
-    bool countAttributes(int attributes);
+    bool makeSkeleton(const QDomNode& root);
 
     QXmlAttributes m_attributes;
     QString m_sCurrentName; ///< the qualified name of the last start tag
@@ -179,8 +169,8 @@ private:
     RootUse m_eRootUse;
 
     int m_iNesting; ///< of the tags of this file
-    ElementCount m_fragmentElements; ///< laid into the current fragment
-    std::map<QString, ElementCount> m_treeElements; ///< laid into the definitions, counted at the end of the document
+    SchemaBudget::Share m_fragmentShare; ///< of the current fragment
+    std::map<QString, SchemaBudget::Share> m_shares; ///< of the definitions, counted at the end of the document
     std::shared_ptr<SchemaReading> m_pReading; ///< shared with the handlers of included files
 };
 

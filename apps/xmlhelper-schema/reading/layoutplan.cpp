@@ -81,6 +81,7 @@ struct LayoutPlan::State
     int elementsOfNamedTypes = 0;
     std::set<int> fragmentsOfNamedTypes;
     qint64 annotations = 0; ///< of all elements
+    QString leftOutName; ///< of a global declaration, the first that XML does not allow
     int root = None;
     int elements = 0;
     End end = End::Reached;
@@ -510,6 +511,8 @@ void LayoutPlan::Reader::beginGlobal(const TextNode& tag)
     m_currentElement = None;
     if (isRepresentableName(tag.FirstValue(), Component)) {
         m_currentElement = createElement(tag.FirstValue(), m_currentFragment, tag);
+    } else if (m_state.leftOutName.isEmpty()) {
+        m_state.leftOutName = tag.FirstValue();
     }
     for (const TextNode::Attribute& attribute : tag.attributes) {
         if (attribute.name != TypeAttribute() || hasSchemaPrefix(attribute.value)) {
@@ -806,6 +809,9 @@ void LayoutPlan::Reader::chooseRoot()
     m_state.rootCandidates = candidates;
     m_state.root = m_currentFragment == None ? None : m_state.At(m_currentFragment).firstChild;
     m_state.elements = m_state.root == None ? 0 : m_state.ExtentOf(m_state.root).first;
+    if (m_state.root == None && !m_state.leftOutName.isEmpty()) {
+        checkName(m_state.leftOutName);
+    }
 }
 
 bool LayoutPlan::Reader::isWithinLimits(int elements, int levels, int owner, TreeCount& tree)

@@ -21,7 +21,6 @@ private Q_SLOTS:
     void readsContent();
     void readsSchemas_data();
     void readsSchemas();
-    void countsTheElementsOfAllDefinitions();
     void readsIncludes_data();
     void readsIncludes();
 
@@ -316,14 +315,6 @@ void TestRobustnessLimits::readsSchemas_data()
         << typeChain(3, QStringLiteral("<xs:element name='e' type='T%1' minOccurs='1024'/>"))
             + rootOf(QStringLiteral("T3"))
         << false << elementsTrace();
-    const auto repeated
-        = [](int elements) { return QStringLiteral("<xs:element name='e' minOccurs='%1'/>").arg(elements); };
-    QTest::newRow("named-types-of-600-thousand-elements-together") << named(QStringLiteral("A"), repeated(300000))
-            + named(QStringLiteral("B"), repeated(300000))
-            + QStringLiteral("<xs:element name='root'/>") << true << none;
-    QTest::newRow("named-types-of-more-than-600-thousand-elements-together")
-        << named(QStringLiteral("A"), repeated(300000)) + named(QStringLiteral("B"), repeated(300001)) << false
-        << elementsTrace();
     QTest::newRow("minimum-of-10-to-the-9")
         << global(QStringLiteral("root"), QStringLiteral("<xs:element name='e' type='xs:int' minOccurs='1000000000'/>"))
         << false << elementsTrace();
@@ -358,7 +349,15 @@ void TestRobustnessLimits::readsSchemas_data()
     QTest::newRow("enumeration-of-100000-values")
         << QStringLiteral("<xs:simpleType name='S'>%1</xs:simpleType>").arg(enumeration(100000))
             + rootOf(QStringLiteral("S"))
-        << false << QStringLiteral("An enumeration has more than 10000 values!");
+        << true << none;
+    QTest::newRow("enumeration-of-more-than-100000-values")
+        << QStringLiteral("<xs:simpleType name='S'>%1</xs:simpleType>").arg(enumeration(100001))
+            + rootOf(QStringLiteral("S"))
+        << false << QStringLiteral("An enumeration has more than 100000 values!");
+    QTest::newRow("enumeration-of-500-values-on-3900-elements")
+        << QStringLiteral("<xs:simpleType name='S'>%1</xs:simpleType>").arg(enumeration(500))
+            + global(QStringLiteral("root"), QStringLiteral("<xs:element name='e' type='S' minOccurs='3900'/>"))
+        << false << QStringLiteral("The schema gives elements more than 500000 values of enumerations!");
     const QString tenThousand = QStringLiteral("<xs:simpleType name='S'>%1</xs:simpleType>").arg(enumeration(10000));
     const QString valuesThatMultiply
         = global(QStringLiteral("root"), QStringLiteral("<xs:element name='e' type='S' minOccurs='201'/>"));
@@ -381,6 +380,14 @@ void TestRobustnessLimits::readsSchemas_data()
         << QStringLiteral("<xs:element name='root'%1/>").arg(manyAttributes(50000)) << true << none;
     QTest::newRow("name-of-a-million-letters")
         << QStringLiteral("<xs:element name='%1'/>").arg(QString(1000000, QLatin1Char('x'))) << true << none;
+    // In the order of names each becomes usable when its turn is over.
+    QString extensions = QStringLiteral("<xs:simpleType name='T23000'><xs:restriction base='xs:int'/></xs:simpleType>");
+    for (int i = 22999; i >= 10000; --i) {
+        extensions.prepend(
+            named(QStringLiteral("T%1").arg(i), QStringLiteral("<xs:extension base='T%1'/>").arg(i + 1)));
+    }
+    QTest::newRow("types-13000-that-each-extend-a-later-one")
+        << extensions + rootOf(QStringLiteral("T10000")) << true << none;
     QTest::newRow("types-100000-that-nobody-uses")
         << QStringLiteral("<xs:complexType name='T'/>").repeated(100000) + QStringLiteral("<xs:element name='root'/>")
         << true << none;
@@ -397,25 +404,6 @@ void TestRobustnessLimits::readsSchemas()
     // After a schema that failed the builder goes on with what there is, and leaves a file.
     QVERIFY(QFile::exists(report));
     checkCosts(outcome);
-}
-
-/// Global elements do not count as named types, so it takes more of them than a test of memory allows.
-void TestRobustnessLimits::countsTheElementsOfAllDefinitions()
-{
-    if (isSanitized()) {
-        QSKIP("Takes gigabytes under sanitizers.");
-    }
-    const auto repeated = [](const char* name, int elements) {
-        return global(QLatin1String(name), QStringLiteral("<xs:element name='e' minOccurs='%1'/>").arg(elements));
-    };
-    const QString most = repeated("a", 499999) + repeated("b", 499999) + repeated("c", 499999);
-    const auto build = [&](const QString& globals) {
-        return outcomeText(buildConfined(write(QStringLiteral("schema.xsd"), schemaOf(globals)),
-                                         pathOf(QStringLiteral("report.xml"))));
-    };
-    const QString root = QStringLiteral("<xs:element name='root'/>");
-    QCOMPARE(build(most + repeated("d", 499998) + root), outcomeText(true));
-    QCOMPARE(build(most + repeated("d", 499999) + root), outcomeText(false, {elementsTrace()}));
 }
 
 void TestRobustnessLimits::readsIncludes_data()
@@ -451,6 +439,22 @@ void TestRobustnessLimits::readsIncludes_data()
         many.append(types);
     }
     QTest::newRow("files-400-with-100-later-types-each") << many << true << none;
+    many = many.mid(0, 201);
+    many.first() = root;
+    for (int i = 1; i <= 200; ++i) {
+        many[i].prepend(include(QStringLiteral("missing.xsd")));
+        many.first().prepend(include(fileName(i)));
+    }
+    QTest::newRow("including-files-200-with-100-later-types-each") << many << true << none;
+    QString badNames;
+    QStringList refusals;
+    for (int i = 0; i < 20000; ++i) {
+        badNames += QStringLiteral("<xs:element name='%1'/>").arg(i);
+        refusals.append(QStringLiteral("XmlSchemaHandler: XML does not allow the name \"%1\", it was refused!").arg(i));
+    }
+    QTest::newRow("includes-990-beside-20000-globals-of-bad-names")
+        << QStringList {badNames + include(fileName(1)).repeated(990) + root, QString()} << true
+        << refusals.join(QLatin1Char('\n'));
     QTest::newRow("each-twice") << doubling << false << QStringLiteral("The schema consists of more than 1000 files!");
     QTest::newRow("itself") << QStringList {include(fileName(0)) + root} << true << skippedTrace();
     QTest::newRow("each-other") << QStringList {include(fileName(1)) + root, include(fileName(0))} << true
