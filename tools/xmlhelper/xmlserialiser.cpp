@@ -18,7 +18,8 @@
 
 namespace {
 
-constexpr int PieceLength = 32 * 1024;
+/// Nearly every document is written at once.
+constexpr int PieceLength = 2 * 1024 * 1024;
 
 /// With this indent Qt writes no line ends behind elements.
 constexpr int NoLines = -1;

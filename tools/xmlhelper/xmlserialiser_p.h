@@ -10,7 +10,7 @@ class QTextStream;
 ///
 /// Qt recurses over the levels of a document, and needs a time that grows with the square of the number of characters
 /// to escape in one text. Here any depth will do, and the time grows with the length of the text; beside the elements
-/// that are open there is never more in memory than 64 KB of it and the buffer of the stream.
+/// that are open there is never more of it in memory than 2 million characters, and what the stream makes of them.
 bool serialise(const QDomNode& node, QTextStream& stream, int indent);
 
 #endif

@@ -90,10 +90,10 @@ void addCalls()
 {
     QTest::addColumn<int>("call");
     QTest::addColumn<int>("number");
-    // A piece of the document is more than 32 KB.
+    // A piece of the document is 2 MB.
     QTest::newRow("first-write") << int(Call::Write) << 1;
     QTest::newRow("second-write") << int(Call::Write) << 2;
-    QTest::newRow("write-in-the-middle") << int(Call::Write) << 15;
+    QTest::newRow("write-in-the-middle") << int(Call::Write) << 5;
     QTest::newRow("close") << int(Call::Close) << 1;
     QTest::newRow("rename") << int(Call::Rename) << 1;
 }
@@ -123,7 +123,7 @@ void TestRobustnessSaving::keepsTheOldFileWhenACallFails()
     const QString name = pathOf(QStringLiteral("report.xml"));
     const QDomDocument earlier = documentOf(QStringLiteral("<earlier/>"));
     QVERIFY(saveDocument(earlier, name));
-    const QDomDocument document = documentFullOf('x', 1000000);
+    const QDomDocument document = documentFullOf('x', 20000000);
     {
         const FailingCall failing(Call {call}, number);
         QVERIFY(!saveDocument(document, name));
@@ -148,7 +148,7 @@ void TestRobustnessSaving::leavesNoFileWhenACallFails()
         // The folder is looked through, and closed, before the first file is saved there.
         QVERIFY(saveDocument(documentOf(QStringLiteral("<r/>")), pathOf(QStringLiteral("other.xml"))));
         const FailingCall failing(Call {call}, number);
-        QVERIFY(!saveDocument(documentFullOf('x', 1000000), pathOf(QStringLiteral("report.xml"))));
+        QVERIFY(!saveDocument(documentFullOf('x', 20000000), pathOf(QStringLiteral("report.xml"))));
     }
     QVERIFY(FailingCall::HasFailed());
     QCOMPARE(entries(), QStringList(QStringLiteral("other.xml")));
