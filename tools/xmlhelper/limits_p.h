@@ -52,6 +52,11 @@ struct Limits
     /// otherwise be answered for years.
     int errorsWithinOne = 1000000;
 
+    /// Steps of work for the calls that multiply elements of one document, each of which has its element announced
+    /// again: 30 for a call, 15 for an attribute of the element, 1 for a level above it and for an element measured to
+    /// be copied. It is enough to multiply each element of the greatest document, and takes some seconds.
+    int multiplyingSteps = 60000000;
+
     /// Nodes of a document that a walk looks at again because an observer has changed something, before it looks at
     /// only so many as are in proportion to the walk.
     int nodesLookedAtAgain = 1000000;

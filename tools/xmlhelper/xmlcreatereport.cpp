@@ -111,6 +111,14 @@ bool isCountAllowed(int occursCode, int count)
     return count < 0 || occursCode % OptionalOccursFactor == 0;
 }
 
+/// What it takes to announce an element once more, in the steps of Limits::multiplyingSteps.
+int stepsToAnnounce(const QDomElement& element)
+{
+    constexpr int stepsOfCall = 30;
+    constexpr int stepsOfAttribute = 15;
+    return stepsOfCall + stepsOfAttribute * element.attributes().count() + levelOf(element);
+}
+
 void setAttribute(DomParser& parser, const QString& name, const QString& value)
 {
     const OwnerIndex::OwnChange change = parser.Change();
@@ -140,7 +148,7 @@ XmlCreateReport::XmlCreateReport(IXMLHelper* pCallback)
     , m_iDiscardedChoices(0)
     , m_iElements(0)
     , m_iAttributes(0)
-    , m_iMultiplications(0)
+    , m_iMultiplyingSteps(0)
 {
     checkObserver(pCallback, "XmlCreateReport", "xmlcreatereport", 43);
 }
@@ -541,19 +549,21 @@ void XmlCreateReport::setCheckedAttribute(const QString& name, const QString& te
 }
 
 /// Makes the current element occur @p count times. A root has no place for copies, which counts as success. Gives
-/// false, and makes no copy, when the document would become too large. Calls without a copy are counted too, because
-/// the element is announced again after each.
+/// false, and makes no copy, when the document would become too large. Calls without a copy are work too, because the
+/// element is announced again after each.
 bool XmlCreateReport::copyCurrentElement(int count)
 {
-    if (++m_iMultiplications > limits().elements) {
-        trace(QStringLiteral("Elements are multiplied more than %1 times!").arg(limits().elements), "xmlcreatereport",
-              __LINE__);
+    m_iMultiplyingSteps += stepsToAnnounce(*m_pCurrentElement);
+    if (m_iMultiplyingSteps > limits().multiplyingSteps) {
+        trace(QStringLiteral("Multiplying elements takes more than %1 steps of work!").arg(limits().multiplyingSteps),
+              "xmlcreatereport", __LINE__);
         return false;
     }
     if (m_pCurrentElement->parentNode().toElement().isNull() || count <= 1) {
         return true;
     }
     const DomExtent extent = extentOf(*m_pCurrentElement);
+    m_iMultiplyingSteps += extent.elements;
     const qint64 elements = m_iElements + qint64(extent.elements) * (count - 1);
     const qint64 attributes = m_iAttributes + qint64(extent.attributes) * (count - 1);
     if (elements > limits().elements) {

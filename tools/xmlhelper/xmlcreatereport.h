@@ -179,8 +179,9 @@ public:
     ///               maxOccurs n takes up to n * 100.
     ///
     /// Sends MAX_OCCURS_EXCEEDED when the count is not allowed or the element stands below no owner for which it is,
-    /// when the document would exceed 500,000 elements or 2,000,000 attributes or the call is the 500,001st to multiply
-    /// an element, and twice for a name without occurrence limits. Does nothing without a current element.
+    /// when the document would exceed 500,000 elements or 2,000,000 attributes, when such calls have taken more work
+    /// than multiplying each element of such a document would, and twice for a name without occurrence limits. Does
+    /// nothing without a current element.
     void SetElementMaxOccurs(QString name, int count);
 
     /// Removes the current element as an unwanted alternative of a choice. The walk goes on behind the sibling that
@@ -249,7 +250,7 @@ private:
     std::list<QDomDocument*> m_dialogDocuments; ///< owned, one for each dialog
     int m_iElements; ///< laid out by the schema and made by copying
     int m_iAttributes; ///< the same of attributes
-    int m_iMultiplications; ///< calls that multiplied an element, with or without copies
+    qint64 m_iMultiplyingSteps; ///< work of the calls that multiplied an element, with or without copies
     ErrorNesting m_errorNesting;
 };
 

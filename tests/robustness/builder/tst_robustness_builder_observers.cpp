@@ -57,7 +57,9 @@ private Q_SLOTS:
     void attributesUpToTheLimitAreCopied();
     void refusedCopiesAreNotCounted_data();
     void refusedCopiesAreNotCounted();
+    void namesThatTakeTurnsComeToAnEnd_data();
     void namesThatTakeTurnsComeToAnEnd();
+    void everyElementMayBeMultiplied();
 
     void editsOfTheDocumentLeaveAFile_data();
     void editsOfTheDocumentLeaveAFile();
@@ -571,31 +573,71 @@ void TestRobustnessBuilderObservers::refusedCopiesAreNotCounted()
     QTEST(traces.Messages(), "trace");
 }
 
-/// Each call is allowed, makes no copy and has the element announced again.
+void TestRobustnessBuilderObservers::namesThatTakeTurnsComeToAnEnd_data()
+{
+    QTest::addColumn<int>("attributes");
+    QTest::addColumn<int>("least");
+    QTest::addColumn<int>("most");
+    // Each call takes 30 steps, 15 for an attribute and 2 for the levels.
+    QTest::newRow("element-without-attributes") << 0 << 4600 << 4700;
+    QTest::newRow("element-with-a-long-enumeration") << 9900 << 1 << 3;
+}
+
+/// Each call is allowed, makes no copy and has the element announced again: what it costs is counted, not the calls.
 void TestRobustnessBuilderObservers::namesThatTakeTurnsComeToAnEnd()
 {
+    QFETCH(int, attributes);
+    Limits few;
+    few.multiplyingSteps = 150000;
+    const LimitsInForce inForce(few);
     const TraceCollector traces;
-    EventRecorder recorder;
-    struct TurningObserver : IXMLHelper
-    {
-        void XmlUpdate(XmlEvent* event) override
-        {
-            if (event->GetType() == XmlEvent::EVENT_ELEM_BEGIN
-                && static_cast<ElemBeginEvent*>(event)->GetElementName() == QLatin1String("Many")) {
-                ++announcements;
-                builder->SetElementMaxOccurs(QStringLiteral("Many"), 0);
-                builder->SetElementMaxOccurs(QStringLiteral("Frequency"), 0);
-            }
+    AnsweredReport report(elementsWithoutAttributes());
+    int announcements = 0;
+    report.Observer().OnElement(QStringLiteral("Many"), [&](ElemBeginEvent& event) {
+        if (++announcements == 1) {
+            setAttributeCount(event.GetElementNode().toElement(), attributes);
         }
-        XmlCreateReport* builder = nullptr;
-        int announcements = 0;
-    } observer;
-    XmlCreateReport builder(&observer);
-    observer.builder = &builder;
-    QVERIFY(create(builder));
-    QVERIFY(observer.announcements > 1000);
-    QVERIFY(observer.announcements <= 500001);
-    QVERIFY(traces.Messages().startsWith(QStringLiteral("Elements are multiplied more than 500000 times!")));
+        report.Builder().SetElementMaxOccurs(announcements % 2 == 0 ? QStringLiteral("Many") : QStringLiteral("Other"),
+                                             1);
+    });
+    QVERIFY(report.Create());
+    QFETCH(int, least);
+    QFETCH(int, most);
+    QVERIFY2(announcements >= least && announcements <= most, qPrintable(QString::number(announcements)));
+    QCOMPARE(traces.Messages(), QStringLiteral("Multiplying elements takes more than 150000 steps of work!"));
+}
+
+/// The elements have four attributes each, as many as the greatest document may have, and stand in containers.
+void TestRobustnessBuilderObservers::everyElementMayBeMultiplied()
+{
+    constexpr int groups = 19;
+    Limits few;
+    few.elements = few.elements / 500;
+    few.attributes = few.attributes / 500;
+    few.multiplyingSteps = few.multiplyingSteps / 500;
+    const LimitsInForce inForce(few);
+    QString declarations;
+    for (int group = 0; group < groups; ++group) {
+        declarations += QStringLiteral("<xs:element name='Group%1' maxOccurs='2'><xs:complexType><xs:sequence>"
+                                       "<xs:element name='A%1' maxOccurs='12'/><xs:element name='B%1' maxOccurs='12'/>"
+                                       "</xs:sequence></xs:complexType></xs:element>")
+                            .arg(group);
+    }
+    AnsweredReport report(declarations);
+    int multiplications = 0;
+    report.Observer().OnEveryElement([&](ElemBeginEvent& event) {
+        const QDomElement element = event.GetElementNode().toElement();
+        const QString name = element.tagName();
+        if (name != QLatin1String("report") && element.attributes().isEmpty()) {
+            setAttributeCount(element, 4);
+            report.Builder().SetElementMaxOccurs(name, name.startsWith(QLatin1String("Group")) ? 2 : 12);
+            ++multiplications;
+        }
+    });
+    const TraceCollector traces;
+    QVERIFY(report.Create());
+    QVERIFY2(multiplications >= 3 * groups, qPrintable(QString::number(multiplications)));
+    QCOMPARE(traces.Messages(), QString());
 }
 
 void TestRobustnessBuilderObservers::editsOfTheDocumentLeaveAFile_data()
