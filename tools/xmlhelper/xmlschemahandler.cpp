@@ -47,6 +47,13 @@ void ReferredNames::Forget(const QString& name)
     }
 }
 
+/// How many attributes the elements of a fragment had when the values of enumerations among them were counted.
+struct CountedAttributes
+{
+    int attributes = 0;
+    int enumerationValues = 0;
+};
+
 /// What the handlers of a schema and of its included files share: the objects that the model points to, which must
 /// outlive the handlers of included files, and what is known of the schema as a whole.
 struct SchemaReading
@@ -54,6 +61,7 @@ struct SchemaReading
     std::list<QDomDocument> includedDocuments; ///< of included files: nodes do not keep their document alive
     std::list<QDomDocumentFragment> fragments;
     std::set<const QDomDocumentFragment*> fragmentsOfNamedTypes;
+    std::map<const QDomDocumentFragment*, CountedAttributes> countedAttributes; ///< of fragments
     std::list<QDomElement> elements; ///< the handles of the reference records
     std::set<QString> unusedGlobals; ///< the names of global declarations with content, until one is seen to be used
     bool isGlobalLeftOut = false; ///< for its name
@@ -522,18 +530,10 @@ void XmlSchemaHandler::layOutReference(const ElementDeclaration& declaration)
 
 void XmlSchemaHandler::layOutNamedElement(const ElementDeclaration& declaration)
 {
-    SchemaBudget& budget = m_pReading->budget;
-    if (!budget.CheckElements(declaration.Copies(), m_fragmentShare)) {
+    if (!mayRepeat(declaration)) {
         return;
     }
-    const bool isTypeRepeated = declaration.Copies() > 1 && !hasSchemaPrefix(declaration.type);
-    const TypeDefinition* const type = isTypeRepeated ? findUsableDefinition(declaration.type) : nullptr;
-    if (type
-        && !budget.CheckAttributes(qint64(extentOf(*type->fragment).attributes) * declaration.Copies(),
-                                   qint64(enumerationValuesOf(*type)) * declaration.Copies())) {
-        return;
-    }
-    for (int copy = 0; copy < declaration.Copies() && !budget.IsRefused(); ++copy) {
+    for (int copy = 0; copy < declaration.Copies() && !m_pReading->budget.IsRefused(); ++copy) {
         QDomElement element
             = createElement(declaration.name, m_bInsideGlobal ? QDomNode(m_currentElement) : currentFragment());
         m_typeLevelElement = element;
@@ -551,6 +551,23 @@ void XmlSchemaHandler::layOutNamedElement(const ElementDeclaration& declaration)
             layOutNow(*definition, element);
         }
     }
+}
+
+/// Whether an element may be laid out as often as it is declared, with what a usable type gives to it.
+bool XmlSchemaHandler::mayRepeat(const ElementDeclaration& declaration)
+{
+    const int copies = declaration.Copies();
+    if (!m_pReading->budget.CheckElements(copies, m_fragmentShare)) {
+        return false;
+    }
+    const bool isTypeRepeated = copies > 1 && !hasSchemaPrefix(declaration.type);
+    const TypeDefinition* const type = isTypeRepeated ? findUsableDefinition(declaration.type) : nullptr;
+    if (!type) {
+        return true;
+    }
+    const int attributes = extentOf(*type->fragment).attributes;
+    return m_pReading->budget.CheckAttributes(qint64(attributes) * copies,
+                                              qint64(enumerationValuesOf(*type, attributes)) * copies);
 }
 
 /// The type of @p first is not usable yet: the end of the document gives it to @p first and to a template of the
@@ -781,7 +798,8 @@ void XmlSchemaHandler::layOut(TypeDefinition& definition, QDomElement owner, con
     }
     for (; copies > 0; --copies) {
         // Measured for each copy: a definition that refers to itself grows under way.
-        if (!m_pReading->budget.TakeElements(extentOf(*definition.fragment), enumerationValuesOf(definition), copies,
+        const DomExtent extent = extentOf(*definition.fragment);
+        if (!m_pReading->budget.TakeElements(extent, enumerationValuesOf(definition, extent.attributes), copies,
                                              levelOf(owner), share)) {
             return;
         }
@@ -976,10 +994,18 @@ SchemaBudget::Share& XmlSchemaHandler::shareOf(const QString& definitionName)
     return share->second;
 }
 
-/// The values of enumerations that a definition holds; 0 without a look at it when no enumeration has been read.
-int XmlSchemaHandler::enumerationValuesOf(const TypeDefinition& definition) const
+/// The values of enumerations among the attributes that a definition holds. None is ever taken away, so they are
+/// counted again only when there are more attributes.
+int XmlSchemaHandler::enumerationValuesOf(const TypeDefinition& definition, int attributes)
 {
-    return m_pReading->budget.HasEnumerations() ? enumerationValuesBelow(*definition.fragment) : 0;
+    if (!m_pReading->budget.HasEnumerations()) {
+        return 0;
+    }
+    CountedAttributes& counted = m_pReading->countedAttributes[definition.fragment];
+    if (counted.attributes != attributes) {
+        counted = {attributes, enumerationValuesBelow(*definition.fragment)};
+    }
+    return counted.enumerationValues;
 }
 
 /// The last unused global declaration in the order of names becomes the root; all of them count as used from then on.

@@ -98,6 +98,7 @@ private:
     void readLocalElement();
     void layOutReference(const ElementDeclaration& declaration);
     void layOutNamedElement(const ElementDeclaration& declaration);
+    bool mayRepeat(const ElementDeclaration& declaration);
     void deferNamedElement(const ElementDeclaration& declaration, const QDomElement& first);
     void enterOccurs(QString name, const ElementDeclaration& declaration);
     void beginRestriction();
@@ -126,7 +127,7 @@ private:
     void define(const QString& name, const TypeDefinition& definition);
     TypeDefinition* findDefinition(const QString& name);
     TypeDefinition* findUsableDefinition(const QString& name);
-    int enumerationValuesOf(const TypeDefinition& definition) const;
+    int enumerationValuesOf(const TypeDefinition& definition, int attributes);
     void layOut(TypeDefinition& definition, QDomElement owner, const QDomNode& anchor, int copies,
                 SchemaBudget::Share& share);
     void layOutNow(TypeDefinition& definition, const QDomElement& owner, int copies = 1);
