@@ -1,5 +1,7 @@
 #include <QtTest>
 
+#include <algorithm>
+#include <ctime>
 #include <memory>
 
 #include <QDir>
@@ -47,11 +49,13 @@ private Q_SLOTS:
     void readsNumbersOfOccurrencesOfAnyKind();
     void readsTagsInAnyPlaceWithAnyAttributes_data();
     void readsTagsInAnyPlaceWithAnyAttributes();
+    void fillsAnElementOfManyValues();
 
 private:
     QString pathOf(const QString& name) const { return QDir(m_pFolder->path()).filePath(name); }
     QString write(const QString& name, const QByteArray& bytes) const;
     QString writeSchema(const QString& declarations) const;
+    std::clock_t fill(int values) const;
 
     std::unique_ptr<QTemporaryDir> m_pFolder;
 };
@@ -484,6 +488,42 @@ void TestRobustnessSchemaInputs::readsTagsInAnyPlaceWithAnyAttributes()
             QVERIFY2(outcome.result || !outcome.traces.isEmpty(), qPrintable(schema));
         }
     }
+}
+
+/// Builds a report from one element with @p values values, of which it takes the last; gives the processor time.
+std::clock_t TestRobustnessSchemaInputs::fill(int values) const
+{
+    QString enumeration;
+    for (int i = 0; i < values; ++i) {
+        enumeration += QStringLiteral("<xs:enumeration value='value%1'/>").arg(i);
+    }
+    const QString schema = writeSchema(
+        QStringLiteral("<xs:simpleType name='S'><xs:restriction base='xs:string'>%1</xs:restriction></xs:simpleType>"
+                       "<xs:element name='root'><xs:complexType><xs:element name='e' type='S'/></xs:complexType>"
+                       "</xs:element>")
+            .arg(enumeration));
+    const QString report = pathOf(QStringLiteral("report.xml"));
+    ScriptedObserver observer;
+    XmlCreateReport builder(&observer);
+    observer.OnElement(QStringLiteral("e"),
+                       [&](ElemBeginEvent&) { builder.SetXmlValue(QStringLiteral("value%1").arg(values - 1)); });
+    const std::clock_t begin = std::clock();
+    const bool isBuilt = builder.CreateXmlFromSchema(schema, report, false);
+    const std::clock_t time = std::clock() - begin;
+    const QDomElement filled = documentInFile(report).documentElement().firstChildElement(QStringLiteral("e"));
+    const bool isFilled = filled.text() == QStringLiteral("value%1").arg(values - 1) && filled.attributes().isEmpty();
+    return isBuilt && isFilled ? std::max(time, std::clock_t(1)) : 0;
+}
+
+/// Ten times the values take ten times as long, and would take a hundred times if each were compared with all others.
+void TestRobustnessSchemaInputs::fillsAnElementOfManyValues()
+{
+    const std::clock_t few = fill(10000);
+    const std::clock_t many = fill(100000);
+    QVERIFY(few > 0);
+    QVERIFY(many > 0);
+    qInfo("%.0f ms", double(many) * 1000 / CLOCKS_PER_SEC);
+    QVERIFY2(many < 30 * few, qPrintable(QStringLiteral("%1 : %2").arg(many).arg(few)));
 }
 
 QTEST_GUILESS_MAIN(TestRobustnessSchemaInputs)
