@@ -388,6 +388,24 @@ void TestRobustnessLimits::readsSchemas_data()
     }
     QTest::newRow("types-13000-that-each-extend-a-later-one")
         << extensions + rootOf(QStringLiteral("T10000")) << true << none;
+    // A search for an owner of this name meets all texts.
+    QTest::newRow("type-called-like-texts")
+        << named(QStringLiteral("#text"),
+                 QStringLiteral("<xs:element name='e' type='xs:string' minOccurs='0' "
+                                "default='x'/>"))
+            + named(QStringLiteral("T"), QStringLiteral("<xs:element name='t' type='#text' minOccurs='800'/>"))
+            + rootOf(QStringLiteral("T"))
+        << true << none;
+    // Each leaf has 240 ancestors, of which each might be an owner if it were not for the chain before.
+    QString owners;
+    QString ancestors = QStringLiteral("<xs:element name='leaf' type='xs:int' minOccurs='5000'/>");
+    for (int i = 0; i < 240; ++i) {
+        const QString name = QStringLiteral("c%1").arg(i);
+        owners = global(name, owners + QStringLiteral("<xs:element name='leaf' type='xs:int' minOccurs='0'/>"));
+        ancestors = global(name, ancestors);
+    }
+    QTest::newRow("leaves-5000-of-240-ancestors-of-later-rank")
+        << global(QStringLiteral("root"), owners + ancestors) << true << none;
     QTest::newRow("types-100000-that-nobody-uses")
         << QStringLiteral("<xs:complexType name='T'/>").repeated(100000) + QStringLiteral("<xs:element name='root'/>")
         << true << none;
