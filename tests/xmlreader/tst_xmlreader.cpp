@@ -82,6 +82,7 @@ private Q_SLOTS:
     void deliversNothingOfContentBeyondTheLimit();
     void looksAtAFileAgainThatHasChanged_data();
     void looksAtAFileAgainThatHasChanged();
+    void sendsWhatIsWithinTheLimitOfAFileThatItDoesNotLookAtAgain();
     void refusesAFileOfAnyDepth();
     void countsNestedElementsOnly_data();
     void countsNestedElementsOnly();
@@ -772,12 +773,14 @@ void TestXmlReader::limitsTheNestingOfElements()
     if (isParsed) {
         QCOMPARE(recorder.Nodes().size(), std::size_t(2 * levels));
         QVERIFY(traces.Traces().empty());
+        reader.ReleaseContent();
         return;
     }
     QVERIFY(recorder.Errors().empty());
     QVERIFY(!recorder.Lines().contains(QStringLiteral("document ends")));
     QCOMPARE(traces.Messages(), nestingTrace() + QLatin1Char('\n') + nestingTrace());
     QCOMPARE(traces.Traces().front().source, readerSource());
+    reader.ReleaseContent();
 }
 
 void TestXmlReader::deliversNothingOfContentBeyondTheLimit_data()
@@ -812,6 +815,7 @@ void TestXmlReader::deliversNothingOfContentBeyondTheLimit()
     if (form == ContentForm::File) { // it was not read into a document
         QVERIFY(reader.GetElement(QStringLiteral("e"), QString())->empty());
     }
+    reader.ReleaseContent();
 }
 
 void TestXmlReader::looksAtAFileAgainThatHasChanged_data()
@@ -852,6 +856,24 @@ void TestXmlReader::looksAtAFileAgainThatHasChanged()
     QCOMPARE(recorder.Text().isEmpty(), !isParsed);
 }
 
+/// Looking at it again would take as long as the parse, for every file with a comment in it.
+void TestXmlReader::sendsWhatIsWithinTheLimitOfAFileThatItDoesNotLookAtAgain()
+{
+    TraceCollector traces;
+    ContentSource source;
+    const QString fileName = source.WriteFile(QStringLiteral("<e><!--c--></e>"));
+    EventRecorder recorder;
+    XMLReader reader(&recorder, nullptr);
+    QVERIFY(reader.SetXmlContent(fileName));
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(file.write(nested(NestingLimit + 1, QStringLiteral("<!--c-->")).toUtf8()) > 0);
+    file.close();
+    QVERIFY(!reader.ParseXml());
+    QCOMPARE(int(begunNames(recorder).size()), NestingLimit);
+    QCOMPARE(traces.Messages(), nestingTrace());
+}
+
 void TestXmlReader::refusesAFileOfAnyDepth()
 {
     ContentSource source;
@@ -884,6 +906,7 @@ void TestXmlReader::countsNestedElementsOnly()
     XMLReader reader(&recorder, nullptr);
     QVERIFY(source.GiveTo(reader, form, nested(NestingLimit - 1, core)));
     QVERIFY(reader.ParseXml());
+    reader.ReleaseContent();
 }
 
 void TestXmlReader::separatesFoldersByBackSlashesOnEveryPlatform()

@@ -115,7 +115,6 @@ bool XMLReader::SetXmlContent(QString fileName)
     }
     ErasePointerAndSetFlags();
     m_pFile = std::make_shared<ContentFile>(fileName);
-    m_bFile = true;
     m_pDocument = std::make_shared<QDomDocument>();
     keep(m_pDocument);
     const bool isPlain = isPlainWithinLimit(*m_pFile);
@@ -129,6 +128,7 @@ bool XMLReader::SetXmlContent(QString fileName)
     }
     m_bLookAgain = isPlain || !isRead;
     InitHandler(m_pCallback, m_pDocument.get());
+    m_bFile = true;
     return true;
 }
 
@@ -151,11 +151,11 @@ bool XMLReader::SetXmlContent(QDomDocumentFragment fragment)
     }
     ErasePointerAndSetFlags();
     m_pFragment = std::make_shared<QDomDocumentFragment>(fragment);
-    m_bFragment = true;
     keep(m_pFragment);
     const auto converted = std::make_shared<QDomDocument>(fragment.toDocument());
     keep(converted);
     InitHandler(m_pCallback, converted.get());
+    m_bFragment = true;
     return true;
 }
 
@@ -166,11 +166,11 @@ bool XMLReader::SetXmlContent(QDomNode node)
     }
     ErasePointerAndSetFlags();
     m_pNode = std::make_shared<QDomNode>(node);
-    m_bNode = true;
     keep(m_pNode);
     const auto converted = std::make_shared<QDomDocument>(node.toDocument());
     keep(converted);
     InitHandler(m_pCallback, converted.get());
+    m_bNode = true;
     return true;
 }
 
@@ -332,9 +332,9 @@ void XMLReader::setDocument(const std::shared_ptr<QDomDocument>& document)
     ErasePointerAndSetFlags();
     if (document) {
         m_pDocument = document;
-        m_bDocument = true;
         keep(document);
         InitHandler(m_pCallback, document.get());
+        m_bDocument = true;
     }
 }
 

@@ -109,8 +109,8 @@ public:
     void ReleaseContent();
 
     /// Parses the content and delivers its events; for all forms but the file the content is serialised first, so that
-    /// changes since the last parse are seen. Content that is nested deeper than 512 elements sends no event; only of a
-    /// file that has become so since it was set, and holds more than tags and texts, the events down to there are sent.
+    /// changes since the last parse are seen. Content that is nested deeper than 512 elements sends no event, but for a
+    /// file that held more than tags and texts when it was set and has become so since: it sends those down to there.
     ///
     /// @return false when no content is set, from within an event, when the content is nested too deeply, when its
     ///         document type declares more than 1,000 entities, lets them become more than 2,000,000 characters or
@@ -173,7 +173,7 @@ private:
 
     std::shared_ptr<NestingGuard> m_pNestingGuard; ///< between parser and handler
     std::shared_ptr<ReaderRun> m_pRun; ///< shared by all readers that share the handler
-    bool m_bLookAgain; ///< the content file, when it is more than tags and texts, may be nested too deeply
+    bool m_bLookAgain; ///< a file of more than tags and texts is not known to be within the limit of nesting
 
     /// All content that the reader has been given, by its address. It stays when the last reader that keeps it goes.
     std::map<const void*, std::shared_ptr<KeptContent>> m_keptContent;
