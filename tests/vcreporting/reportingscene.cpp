@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QPointer>
 
 #include <xmlhelper/elembeginevent.h>
 #include <xmlhelper/errorevent.h>
@@ -85,9 +86,12 @@ void RecordingReporting::XmlUpdate(XmlEvent* event)
     } else if (event->GetType() == XmlEvent::EVENT_ERROR && m_depth > 0) {
         m_refusals.append(refusalText(static_cast<ErrorEvent*>(event)->GetErrorID()));
     }
+    const QPointer<RecordingReporting> self(this);
     ++m_depth;
     VCReporting::XmlUpdate(event);
-    --m_depth;
+    if (self) { // The test may have deleted it meanwhile.
+        --m_depth;
+    }
 }
 
 QDomElement RecordingReporting::Element(const QString& name) const
