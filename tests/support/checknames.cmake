@@ -1,11 +1,11 @@
-# Fails when DOCUMENT names a test that is not there. Below a heading that ends with the name of a test folder, each
-# last column of a table holds names in backticks, which must stand in that folder: in a source or as a file.
+# Fails when DOCUMENT names a test that is not there. Below a heading that ends with the name of a test folder, or of the
+# folder of all tests, each last column of a table holds names in backticks, which must stand in that folder: in a source or as a file.
 file(STRINGS "${DOCUMENT}" lines ENCODING UTF-8)
 set(folder "")
 set(missing "")
 set(found 0)
 foreach(line IN LISTS lines)
-    if(line MATCHES "^## .*(tests/[a-z]+)$")
+    if(line MATCHES "^## .*: (tests(/[a-z]+)*)$")
         set(folder "${CMAKE_MATCH_1}")
         set(text "")
         file(GLOB_RECURSE files RELATIVE "${SOURCE_FOLDER}" "${SOURCE_FOLDER}/${folder}/*")
