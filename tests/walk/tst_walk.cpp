@@ -30,7 +30,7 @@ struct Operations
 enum class Manners {
     Answering, ///< only uses the operations
     Meddling, ///< changes the document through the nodes that it is given, too
-    Annotating ///< changes attributes and comments in this way, and what stands behind the walk, and removes
+    Annotating ///< changes attributes, comments and what stands where the walk stands, in the same way
 };
 
 /// Answers every event by what a random generator says, so that two guests with the same seed that receive the same

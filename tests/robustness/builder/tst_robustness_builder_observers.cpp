@@ -141,10 +141,16 @@ QByteArray schema()
 </xs:schema>)";
 }
 
-/// Runs @p work on a stack as small as that of a Windows main thread.
+/// Runs @p work on a stack as small as that of a Windows main thread, and with fewer errors within one, of which a
+/// million would take seconds each time.
 void runOnASmallStack(const std::function<void()>& work)
 {
-    const std::unique_ptr<QThread> thread(QThread::create(work));
+    const std::unique_ptr<QThread> thread(QThread::create([&work] {
+        Limits few;
+        few.errorsWithinOne = 1000;
+        const LimitsInForce inForce(few);
+        work();
+    }));
     thread->setStackSize(1024 * 1024);
     thread->start();
     QVERIFY(thread->wait());
