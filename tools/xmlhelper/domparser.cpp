@@ -37,6 +37,12 @@ bool isValueElement(const QDomElement& element)
     return !element.attribute(TypeAttribute()).isEmpty();
 }
 
+bool isFacetName(const QString& name)
+{
+    return name.contains(EnumerationFacet) || name.contains(MinInclusiveFacet) || name.contains(MaxInclusiveFacet)
+        || name.contains(MinExclusiveFacet) || name.contains(MaxExclusiveFacet);
+}
+
 /// Up to here a list of owners is looked through as it is.
 constexpr std::size_t FewOwners = 8;
 
@@ -251,6 +257,46 @@ void DomParser::InsertCopies(const QDomElement& element, int copies)
     for (int copy = 0; copy < copies; ++copy) {
         parent.insertAfter(element.cloneNode(true), element);
     }
+}
+
+void DomParser::ChangeAttribute(const QString& name, const QString& value)
+{
+    const bool areKnown = areFacetsKnown();
+    {
+        const OwnerIndex::OwnChange change = Change();
+        if (value.isNull()) {
+            m_currentElement.removeAttribute(name);
+        } else {
+            m_currentElement.setAttribute(name, value);
+        }
+    }
+    if (areKnown) {
+        m_pFacetChanges->Reset();
+    }
+}
+
+const QStringList& DomParser::FacetNames()
+{
+    if (areFacetsKnown()) {
+        return m_facetNames;
+    }
+    m_facetElement = m_currentElement;
+    m_facetNames.clear();
+    for (const QDomAttr& attribute : attributesOf(m_currentElement)) {
+        if (isFacetName(attribute.name())) {
+            m_facetNames.append(attribute.name());
+        }
+    }
+    if (!m_pFacetChanges) {
+        m_pFacetChanges = std::make_unique<TreeChangeDetector>(*m_pDocument);
+    }
+    m_pFacetChanges->Reset();
+    return m_facetNames;
+}
+
+bool DomParser::areFacetsKnown() const
+{
+    return m_pFacetChanges && m_facetElement == m_currentElement && !m_pFacetChanges->IsChanged();
 }
 
 void DomParser::standOn(const QDomNode& node)

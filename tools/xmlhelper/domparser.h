@@ -12,10 +12,12 @@
 #include <QHash>
 #include <QSet>
 #include <QString>
+#include <QStringList>
 
 #include "constants.h"
 #include "ownerindex.h"
 #include "schemamodel.h"
+#include "treechangedetector.h"
 
 class IXMLHelper;
 
@@ -89,6 +91,13 @@ public:
     /// Inserts @p copies deep copies of @p element behind it.
     void InsertCopies(const QDomElement& element, int copies);
 
+    /// Sets or removes an attribute of the current element; null removes it.
+    void ChangeAttribute(const QString& name, const QString& value);
+
+    /// The names of the attributes of the current element that may be facets: those that contain the name of one. Some
+    /// of them may be gone. They are listed once, and again when somebody else has changed something.
+    const QStringList& FacetNames();
+
     /// To be held while texts and attributes are changed.
     OwnerIndex::OwnChange Change() { return OwnerIndex::OwnChange(m_pOwners.get()); }
 
@@ -107,6 +116,7 @@ private:
         QString text; ///< of the last sibling that had one
     };
 
+    bool areFacetsKnown() const;
     void standOn(const QDomNode& node);
     void keepParent();
     void leave(Level& level);
@@ -132,6 +142,9 @@ private:
     QDomElement m_root; ///< at which the walk began
     QDomElement m_currentElement;
     QDomNode m_currentParent;
+    QDomElement m_facetElement; ///< of which the names of facets are known
+    QStringList m_facetNames;
+    std::unique_ptr<TreeChangeDetector> m_pFacetChanges;
     QDomElement m_probationElement; ///< kept only if something inside it is filled; null when there is none
     IXMLHelper* m_pCallback;
     OccursMap m_occurs;

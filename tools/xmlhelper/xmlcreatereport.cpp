@@ -78,15 +78,14 @@ template <typename Number> RangeBounds<Number> boundsOfElement(const QDomElement
 /// The facets of an attribute are those whose names contain its name. They are read as integers for numbers of every
 /// kind, so that a fractional one counts as 0. One might expect 0.5 to bound a double; it is kept because schemas have
 /// been written to it.
-template <typename Number> RangeBounds<Number> boundsOfAttribute(const QDomElement& element, const QString& name)
+template <typename Number> RangeBounds<Number> boundsOfAttribute(DomParser& parser, const QString& name)
 {
     RangeBounds<Number> bounds;
-    for (const QDomAttr& attribute : attributesOf(element)) {
-        const QString facet = attribute.name();
-        if (!facet.contains(name)) {
+    for (const QString& facet : parser.FacetNames()) {
+        if (!facet.contains(name) || !parser.GetCurrentElement()->hasAttribute(facet)) {
             continue;
         }
-        const int value = attribute.value().toInt();
+        const int value = parser.GetCurrentElement()->attribute(facet).toInt();
         if (facet.contains(MinInclusiveFacet)) {
             bounds.minInclusive = value;
         } else if (facet.contains(MaxInclusiveFacet)) {
@@ -121,14 +120,12 @@ int stepsToAnnounce(const QDomElement& element)
 
 void setAttribute(DomParser& parser, const QString& name, const QString& value)
 {
-    const OwnerIndex::OwnChange change = parser.Change();
-    parser.GetCurrentElement()->setAttribute(name, value);
+    parser.ChangeAttribute(name, value.isNull() ? QLatin1String("") : value);
 }
 
 void removeAttribute(DomParser& parser, const QString& name)
 {
-    const OwnerIndex::OwnChange change = parser.Change();
-    parser.GetCurrentElement()->removeAttribute(name);
+    parser.ChangeAttribute(name, QString());
 }
 
 } // namespace
@@ -495,24 +492,22 @@ bool XmlCreateReport::isAttributeTypeAccepted(const QString& name, const QString
 template <class IsEnumerationName>
 bool XmlCreateReport::useEnumeration(const QString& value, IsEnumerationName isEnumerationName)
 {
-    const DomAttributes attributes = attributesOf(*m_pCurrentElement);
     QStringList names;
     QString lastValue;
     bool isFound = false;
-    for (const QDomAttr& attribute : attributes) {
-        if (isEnumerationName(attribute.name())) {
-            names.prepend(attribute.name());
-            lastValue = attribute.value();
+    for (const QString& name : m_pDomParser->FacetNames()) {
+        if (isEnumerationName(name) && m_pCurrentElement->hasAttribute(name)) {
+            names.append(name);
+            lastValue = m_pCurrentElement->attribute(name);
             isFound = isFound || lastValue == value;
         }
     }
-    if (!lastValue.isEmpty() && !isFound && attributes.size() >= 2) {
+    if (!lastValue.isEmpty() && !isFound && m_pCurrentElement->attributes().count() >= 2) {
         Error(IXMLHelper::VALUE_IS_NOT_VALID);
         return false;
     }
-    const OwnerIndex::OwnChange change = m_pDomParser->Change();
     for (const QString& name : std::as_const(names)) {
-        m_pCurrentElement->removeAttribute(name);
+        removeAttribute(*m_pDomParser, name);
     }
     return true;
 }
@@ -537,7 +532,7 @@ template <typename Number>
 void XmlCreateReport::setCheckedAttribute(const QString& name, const QString& text, Number value)
 {
     const RangeVerdict verdict
-        = boundsOfAttribute<Number>(*m_pCurrentElement, name).Check(value, UpperBoundBehindLower::Strict);
+        = boundsOfAttribute<Number>(*m_pDomParser, name).Check(value, UpperBoundBehindLower::Strict);
     if (!verdict.isAccepted) {
         Error(IXMLHelper::VALUE_IS_NOT_VALID);
         return;
