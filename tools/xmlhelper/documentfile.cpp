@@ -31,8 +31,8 @@ constexpr int MaxLinks = 40;
 constexpr qint64 SecondsOfAStray = 24 * 60 * 60;
 constexpr int MaxEntriesLookedAt = 10000;
 
-const QString TemporaryPrefix = QStringLiteral(".xmlhelper-");
-const QString TemporarySuffix = QStringLiteral(".part");
+constexpr QLatin1String TemporaryPrefix(".xmlhelper-");
+constexpr QLatin1String TemporarySuffix(".part");
 
 /// Takes everything, to tell its size.
 class Counter : public QIODevice
