@@ -21,8 +21,8 @@ private Q_SLOTS:
     void savesWhatQtSaves_data();
     void savesWhatQtSaves();
     void savesRandomDocumentsAsQtDoes();
-    void savesLongTextsAsQtDoes_data();
-    void savesLongTextsAsQtDoes();
+    void savesLongTexts_data();
+    void savesLongTexts();
     void savesNothingOfANullNode();
     void stopsAtTheLimit();
     void countsEveryByte();
@@ -182,7 +182,7 @@ void TestXmlSerialiser::savesRandomDocumentsAsQtDoes()
     }
 }
 
-void TestXmlSerialiser::savesLongTextsAsQtDoes_data()
+void TestXmlSerialiser::savesLongTexts_data()
 {
     QTest::addColumn<QString>("text");
     // Behind what comes before the text, the first piece ends in the middle of these.
@@ -195,13 +195,19 @@ void TestXmlSerialiser::savesLongTextsAsQtDoes_data()
     QTest::newRow("three-pieces") << (QString(piece / 10, QLatin1Char('x')) + QStringLiteral("<&\r ]]>")).repeated(25);
 }
 
-void TestXmlSerialiser::savesLongTextsAsQtDoes()
+void TestXmlSerialiser::savesLongTexts()
 {
     QFETCH(QString, text);
     QDomDocument document = documentOf(QStringLiteral("<r/>"));
     document.documentElement().appendChild(document.createTextNode(text));
     document.documentElement().setAttribute(QStringLiteral("k"), text);
-    QCOMPARE(savedByTheLibrary(document, 4), savedByQt(document, 4));
+    // Qt would need minutes under a sanitizer.
+    QString escaped = text;
+    escaped.replace(QStringLiteral("&"), QStringLiteral("&amp;")).replace(QStringLiteral("<"), QStringLiteral("&lt;"));
+    escaped.replace(QStringLiteral("\r"), QStringLiteral("&#xd;"))
+        .replace(QStringLiteral("]]>"), QStringLiteral("]]&gt;"));
+    QCOMPARE(savedByTheLibrary(document, 4),
+             QStringLiteral("<r k=\"") + escaped + QStringLiteral("\">") + escaped + QStringLiteral("</r>\n"));
 }
 
 void TestXmlSerialiser::savesNothingOfANullNode()
