@@ -160,6 +160,7 @@ void TestVCReportingLifetime::deletedInASlotEndsThere()
             scene.WriteSchemaFile(QStringLiteral("<no schema"));
         }
         const QPointer<VCReporting> reporting(&scene.Reporting());
+        const QPointer<QToolButton> button(reporting->GetReportButton());
         connect(reporting, signal, this, [&scene] { scene.DeleteReporting(); });
         if (isClicked) {
             reporting->show();
@@ -168,6 +169,9 @@ void TestVCReportingLifetime::deletedInASlotEndsThere()
             QCOMPARE(reporting->SlotToReport(), result);
         }
         QVERIFY(reporting.isNull());
+        QCOMPARE(!button.isNull(), isClicked); // Qt still worked on it.
+        QCoreApplication::sendPostedEvents(button, QEvent::DeferredDelete);
+        QVERIFY(button.isNull());
         QCOMPARE(int(scene.ReportFiles().size()), files);
     }
 }

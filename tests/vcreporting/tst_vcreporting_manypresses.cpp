@@ -111,7 +111,7 @@ void TestVCReportingManyPresses::littleStaysOfAPress_data()
     QTest::addColumn<qint64>("limit");
     QTest::addColumn<int>("widgets");
     QTest::newRow("without-dialog") << false << 200 << qint64(4 * Kilobyte) << 0;
-    QTest::newRow("with-an-answered-dialog") << true << 50 << qint64(64 * Kilobyte) << 1;
+    QTest::newRow("with-an-answered-dialog") << true << 30 << qint64(64 * Kilobyte) << 1;
 }
 
 void TestVCReportingManyPresses::littleStaysOfAPress()
@@ -179,7 +179,7 @@ void TestVCReportingManyPresses::movedValuesAreSoughtInALargeTreeOnce()
         }
         screen.Reporting().AddReportData(tree.GetRoot());
         Node* node = nullptr;
-        for (int i = 0; i < 100; ++i) {
+        for (int i = 0; i < (XMLHELPER_SANITIZED ? 20 : 100); ++i) {
             node = new Node(QStringLiteral("Node%1").arg(i), tree.GetRoot());
             for (int j = 0; j < 100; ++j) {
                 new ValueItem(nullptr, node);

@@ -76,6 +76,7 @@ VCReporting::VCReporting(QString schema, QString reportDirectory, QToolBar* tool
     , m_sReportDirectory(reportDirectory.replace(QLatin1Char('/'), QLatin1Char('\\')))
     , m_pAnswerer(std::make_shared<ReportAnswerer>(this, consume))
     , m_bShowComment(false)
+    , m_bPressing(false)
 {
     setObjectName(QString::fromUtf8(objectName));
     SetInputPathToSchema(schema);
@@ -92,7 +93,11 @@ VCReporting::VCReporting(QString schema, QString reportDirectory, QToolBar* tool
 
 VCReporting::~VCReporting()
 {
-    delete m_pReportButton;
+    if (m_bPressing) {
+        m_pReportButton->setParent(nullptr); // see press()
+    } else {
+        delete m_pReportButton;
+    }
     m_pReportButton = nullptr;
     m_pCheckTimer->stop();
     delete m_pCheckTimer;
@@ -286,7 +291,23 @@ void VCReporting::createReportButton()
         m_pReportButton->setIcon(QIcon(m_picture));
     }
     m_pReportButton->setEnabled(true);
-    connect(m_pReportButton, &QAbstractButton::clicked, this, &VCReporting::SlotToReport);
+    connect(m_pReportButton, &QAbstractButton::clicked, this, &VCReporting::press);
+}
+
+/// Qt still works on a button that it has clicked: when the widget is deleted meanwhile, the button goes a little
+/// later.
+void VCReporting::press()
+{
+    const QPointer<VCReporting> self(this);
+    const QPointer<QToolButton> button(m_pReportButton);
+    const bool isOutermost = !m_bPressing;
+    m_bPressing = true;
+    SlotToReport();
+    if (self && isOutermost) {
+        m_bPressing = false;
+    } else if (button && isOutermost) {
+        button->deleteLater();
+    }
 }
 
 QString VCReporting::newReportPath() const

@@ -167,6 +167,7 @@ private:
 
     void SetInputPathToSchema(const QString& schema);
     void createReportButton();
+    void press();
     QString newReportPath() const;
     XmlCreateReport* createBuilder();
 
@@ -183,6 +184,7 @@ private:
     QString m_sReportDirectory; ///< with back slashes
     std::shared_ptr<ReportAnswerer> m_pAnswerer; ///< with the items; outlives the widget while it makes a report
     bool m_bShowComment;
+    bool m_bPressing; ///< the button has been clicked, and the report is not yet made
     QString m_sToolTip; ///< of the button, as it was set here last
 };
 
