@@ -1,6 +1,7 @@
 #include "xmlserialiser_p.h"
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 #include <vector>
 
@@ -47,19 +48,15 @@ public:
         }
     }
 
-    void Put(QLatin1String text) { std::for_each(text.begin(), text.end(), [this](char c) { Put(c); }); }
-
     void Put(const QChar* text, qsizetype length)
     {
-        while (length > 0) {
-            const qsizetype part = std::min(length, static_cast<qsizetype>(m_pBegin + PieceLength - m_pEnd));
-            m_pEnd = std::copy_n(text, part, m_pEnd);
-            text += part;
-            length -= part;
-            if (m_pEnd == m_pBegin + PieceLength) {
-                Flush();
-            }
+        for (qsizetype room = m_pBegin + PieceLength - m_pEnd; length >= room; room = PieceLength) {
+            append(text, room);
+            Flush();
+            text += room;
+            length -= room;
         }
+        append(text, length);
     }
 
     void Flush()
@@ -75,6 +72,14 @@ public:
     bool IsTaken() const { return m_isTaken; }
 
 private:
+    void append(const QChar* text, qsizetype length)
+    {
+        if (length > 0) { // An empty text may have no characters to point to.
+            std::memcpy(static_cast<void*>(m_pEnd), text, static_cast<std::size_t>(length) * sizeof(QChar));
+            m_pEnd += length;
+        }
+    }
+
     bool isWithinLimit() const
     {
         const qint64 written = m_stream.string() ? qint64(m_stream.string()->size()) : m_stream.device()->pos();
@@ -94,25 +99,25 @@ private:
 };
 
 /// The reference that stands for @p character at @p place, empty when it stands for itself.
-QLatin1String referenceFor(QChar character, Place place, bool isEndOfSection)
+QStringView referenceFor(ushort character, Place place, bool isEndOfSection)
 {
-    switch (character.unicode()) {
+    switch (character) {
     case '<':
-        return QLatin1String("&lt;");
+        return QStringView(u"&lt;");
     case '&':
-        return QLatin1String("&amp;");
+        return QStringView(u"&amp;");
     case '>':
-        return isEndOfSection ? QLatin1String("&gt;") : QLatin1String();
+        return isEndOfSection ? QStringView(u"&gt;") : QStringView();
     case '"':
-        return place == Place::Text ? QLatin1String() : QLatin1String("&quot;");
+        return place == Place::Text ? QStringView() : QStringView(u"&quot;");
     case '\r':
-        return place == Place::NamespaceName ? QLatin1String() : QLatin1String("&#xd;");
+        return place == Place::NamespaceName ? QStringView() : QStringView(u"&#xd;");
     case '\n':
-        return place == Place::AttributeValue ? QLatin1String("&#xa;") : QLatin1String();
+        return place == Place::AttributeValue ? QStringView(u"&#xa;") : QStringView();
     case '\t':
-        return place == Place::AttributeValue ? QLatin1String("&#x9;") : QLatin1String();
+        return place == Place::AttributeValue ? QStringView(u"&#x9;") : QStringView();
     default:
-        return QLatin1String();
+        return QStringView();
     }
 }
 
@@ -221,8 +226,12 @@ private:
     void putEscaped(const QString& text, Place place);
     void putQuoted(const QString& text);
     void put(const QString& text) { m_pieces.Put(text.constData(), text.size()); }
-    void put(QLatin1String text) { m_pieces.Put(text); }
+    void put(QStringView text) { m_pieces.Put(text.data(), text.size()); }
     void put(char character) { m_pieces.Put(character); }
+    template <std::size_t Size> void put(const char16_t (&text)[Size])
+    {
+        m_pieces.Put(reinterpret_cast<const QChar*>(text), Size - 1);
+    }
     template <class First, class... Others> void put(const First& first, const Others&... others)
     {
         put(first);
@@ -236,6 +245,7 @@ private:
     int m_topDepth = 1;
     bool m_isBehindText = false;
     std::vector<OpenElement> m_open;
+    QString m_blanks; ///< at least as many as have been needed
 };
 
 bool Serialiser::Save(const QDomNode& top)
@@ -279,7 +289,7 @@ QDomNode Serialiser::saveNode(const QDomNode& node, const QDomNode& next, bool i
     const QString name = putStartOfTag(node);
     const QDomNode child = node.firstChild();
     if (child.isNull()) {
-        put(QLatin1String("/>"));
+        put(u"/>");
         putLineEnd(isBeforeText);
     } else {
         put('>');
@@ -298,7 +308,7 @@ QDomNode Serialiser::closeElement()
     if (!m_isBehindText) {
         putIndent();
     }
-    put(QLatin1String("</"), element.name, '>');
+    put(u"</", element.name, '>');
     putLineEnd(element.isBeforeText);
     m_isBehindText = false;
     return element.next;
@@ -311,13 +321,13 @@ void Serialiser::putLeaf(const QDomNode& node, bool isBeforeText)
         putEscaped(node.nodeValue(), node.parentNode().isElement() ? Place::Text : Place::TextOutsideOfElements);
         break;
     case QDomNode::CDATASectionNode:
-        put(QLatin1String("<![CDATA["), node.nodeValue(), QLatin1String("]]>"));
+        put(u"<![CDATA[", node.nodeValue(), u"]]>");
         break;
     case QDomNode::CommentNode:
         putComment(node.nodeValue(), isBeforeText);
         break;
     case QDomNode::ProcessingInstructionNode:
-        put(QLatin1String("<?"), node.nodeName(), ' ', node.nodeValue(), QLatin1String("?>\n"));
+        put(u"<?", node.nodeName(), ' ', node.nodeValue(), u"?>\n");
         break;
     case QDomNode::EntityReferenceNode:
         put('&', node.nodeName(), ';');
@@ -346,11 +356,11 @@ void Serialiser::putComment(const QString& comment, bool isBeforeText)
     if (!m_isBehindText) {
         putIndent();
     }
-    put(QLatin1String("<!--"), comment);
+    put(u"<!--", comment);
     if (comment.endsWith(QLatin1Char('-'))) {
         put(' ');
     }
-    put(QLatin1String("-->"));
+    put(u"-->");
     if (!isBeforeText) {
         put('\n');
     }
@@ -370,7 +380,7 @@ QString Serialiser::putStartOfTag(const QDomNode& element)
     }
     put('<', name);
     if (!namespaceName.isNull()) {
-        put(QLatin1String(prefix.isEmpty() ? " xmlns" : " xmlns:"), prefix, QLatin1String("=\""));
+        put(prefix.isEmpty() ? QStringView(u" xmlns") : QStringView(u" xmlns:"), prefix, u"=\"");
         putEscaped(namespaceName, Place::NamespaceName);
         put('"');
     }
@@ -395,11 +405,11 @@ void Serialiser::putAttribute(const QDomNode& attribute, const QDomNode& owner, 
     if (!namespaceName.isNull()) {
         put(prefix, ':');
     }
-    put(plainName(attribute), QLatin1String("=\""));
+    put(plainName(attribute), u"=\"");
     putEscaped(attribute.nodeValue(), Place::AttributeValue);
     put('"');
     if (!namespaceName.isNull() && owner.prefix() != prefix && !declaredPrefixes.contains(prefix)) {
-        put(QLatin1String(" xmlns:"), prefix, QLatin1String("=\""));
+        put(u" xmlns:", prefix, u"=\"");
         putEscaped(namespaceName, Place::AttributeValue);
         put('"');
         declaredPrefixes.insert(prefix);
@@ -411,19 +421,19 @@ void Serialiser::putType(const QDomDocumentType& type)
     if (type.name().isEmpty()) {
         return;
     }
-    put(QLatin1String("<!DOCTYPE "), type.name());
+    put(u"<!DOCTYPE ", type.name());
     if (!type.publicId().isNull()) {
-        put(QLatin1String(" PUBLIC "));
+        put(u" PUBLIC ");
         putQuoted(type.publicId());
     }
     if (!type.systemId().isNull()) {
-        put(QLatin1String(type.publicId().isNull() ? " SYSTEM " : " "));
+        put(type.publicId().isNull() ? QStringView(u" SYSTEM ") : QStringView(u" "));
         putQuoted(type.systemId());
     }
     const QDomNamedNodeMap notations = type.notations();
     const QDomNamedNodeMap entities = type.entities();
     if (notations.count() > 0 || entities.count() > 0) {
-        put(QLatin1String(" [\n"));
+        put(u" [\n");
         for (int i = 0; i < notations.count(); ++i) {
             putNotation(notations.item(i).toNotation());
         }
@@ -432,47 +442,47 @@ void Serialiser::putType(const QDomDocumentType& type)
         }
         put(']');
     }
-    put(QLatin1String(">\n"));
+    put(u">\n");
 }
 
 void Serialiser::putEntity(const QDomEntity& entity)
 {
     const QString name = entity.nodeName();
     const bool isParameter = name.startsWith(QLatin1Char('%'));
-    put(QLatin1String("<!ENTITY "), isParameter ? QLatin1String("% ") : QLatin1String(), name.mid(isParameter ? 1 : 0));
+    put(u"<!ENTITY ", isParameter ? QStringView(u"% ") : QStringView(), name.mid(isParameter ? 1 : 0));
     put(' ');
     if (entity.systemId().isNull() && entity.publicId().isNull()) {
         putEntityValue(entity.nodeValue());
     } else if (entity.publicId().isNull()) {
-        put(QLatin1String("SYSTEM "));
+        put(u"SYSTEM ");
         putQuoted(entity.systemId());
     } else {
-        put(QLatin1String("PUBLIC "));
+        put(u"PUBLIC ");
         putQuoted(entity.publicId());
         put(' ');
         putQuoted(entity.systemId());
     }
     if (!entity.notationName().isNull()) {
-        put(QLatin1String(" NDATA "), entity.notationName());
+        put(u" NDATA ", entity.notationName());
     }
-    put(QLatin1String(">\n"));
+    put(u">\n");
 }
 
 void Serialiser::putNotation(const QDomNotation& notation)
 {
-    put(QLatin1String("<!NOTATION "), notation.nodeName(), ' ');
+    put(u"<!NOTATION ", notation.nodeName(), ' ');
     if (!notation.publicId().isNull()) {
-        put(QLatin1String("PUBLIC "));
+        put(u"PUBLIC ");
         putQuoted(notation.publicId());
         if (!notation.systemId().isNull()) {
             put(' ');
             putQuoted(notation.systemId());
         }
     } else {
-        put(QLatin1String("SYSTEM "));
+        put(u"SYSTEM ");
         putQuoted(notation.systemId());
     }
-    put(QLatin1String(">\n"));
+    put(u">\n");
 }
 
 /// Qt writes the reference of another character for a percent sign.
@@ -482,11 +492,11 @@ void Serialiser::putEntityValue(const QString& value)
     for (int i = 0; i < value.size(); ++i) {
         const QChar character = value.at(i);
         if (character == QLatin1Char('%')) {
-            put(QLatin1String("&#60;"));
+            put(u"&#60;");
         } else if (character == QLatin1Char('"')) {
-            put(QLatin1String("&#34;"));
+            put(u"&#34;");
         } else if (character == QLatin1Char('&') && i + 1 < value.size() && value.at(i + 1) == QLatin1Char('#')) {
-            put(QLatin1String("&#38;"));
+            put(u"&#38;");
         } else {
             m_pieces.Put(&character, 1);
         }
@@ -496,9 +506,11 @@ void Serialiser::putEntityValue(const QString& value)
 
 void Serialiser::putIndent()
 {
-    for (qint64 i = (m_topDepth + static_cast<qint64>(m_open.size())) * m_indent; i > 0; --i) {
-        put(' ');
+    const int blanks = (m_topDepth + static_cast<int>(m_open.size())) * m_indent;
+    if (m_blanks.size() < blanks) {
+        m_blanks = QString(2 * blanks, QLatin1Char(' '));
     }
+    m_pieces.Put(m_blanks.constData(), std::max(blanks, 0));
 }
 
 /// Ends the line of a tag, but would not add to a text.
@@ -511,27 +523,28 @@ void Serialiser::putLineEnd(bool isBeforeText)
 
 void Serialiser::putEscaped(const QString& text, Place place)
 {
-    const QChar* const begin = text.constData();
-    const QChar* const end = begin + text.size();
-    const QChar* plain = begin;
-    for (const QChar* c = begin; c != end; ++c) {
-        if (c->unicode() > '>' && m_encoding.HasAll()) {
+    const bool hasAll = m_encoding.HasAll();
+    const ushort* const begin = text.utf16();
+    const ushort* const end = begin + text.size();
+    const ushort* plain = begin;
+    for (const ushort* c = begin; c != end; ++c) {
+        if (*c > '>' && hasAll) {
             continue;
         }
-        const bool isEndOfSection = c - begin >= 2 && c[-2] == QLatin1Char(']') && c[-1] == QLatin1Char(']');
-        const QLatin1String reference = referenceFor(*c, place, isEndOfSection);
-        if (reference.size() == 0 && m_encoding.Has(*c)) {
+        const bool isEndOfSection = c - begin >= 2 && c[-2] == ']' && c[-1] == ']';
+        const QStringView reference = referenceFor(*c, place, isEndOfSection);
+        if (reference.isEmpty() && m_encoding.Has(QChar(*c))) {
             continue;
         }
-        m_pieces.Put(plain, c - plain);
-        if (reference.size() > 0) {
+        put(QStringView(plain, c));
+        if (!reference.isEmpty()) {
             put(reference);
         } else {
-            put(QLatin1String("&#x"), QString::number(c->unicode(), 16), ';');
+            put(u"&#x", QString::number(*c, 16), ';');
         }
         plain = c + 1;
     }
-    m_pieces.Put(plain, end - plain);
+    put(QStringView(plain, end));
 }
 
 void Serialiser::putQuoted(const QString& text)
