@@ -13,9 +13,9 @@
 /// Shows the summary of a finished measurement report, takes the operator's comment and writes the report's file.
 ///
 /// The report builder makes the dialog, gives it the document and the file name and calls ShowReportSummary(), which
-/// shows it without blocking; several may be open at once. The file is written when the operator saves, with or
-/// without a comment, or closes the dialog; Escape does what closing the window does. Only a close that is answered
-/// with Cancel, or a dialog that is never answered, leaves the report unwritten.
+/// shows it without blocking; several may be open at once. The file is written when the operator saves, with or without
+/// a comment, or closes the dialog; Escape does what closing the window does. Only a close that is answered with
+/// Cancel, or a dialog that is never answered, leaves the report unwritten.
 ///
 /// The keyboard does everything: the focus starts in the comment, Tab goes on to "Save" and "No Comment", Ctrl+Enter
 /// saves. A screen reader reads each value with its caption. When the application changes its language, an open dialog
@@ -36,7 +36,8 @@ public:
 
     /// The document to summarise, comment and write; not owned.
     void SetDocument(QDomDocument* document);
-    /// The document that was set, for the dialog's own. When the dialog has been answered, it goes at once.
+    /// The document that was set, for the dialog's own. When the dialog has been answered and its file is written, the
+    /// document goes at once.
     void OwnDocument(std::unique_ptr<QDomDocument> document);
     /// The full path of the file to write.
     void SetFileName(QString fileName);

@@ -15,9 +15,10 @@ QString openableFileName(const QString& fileName);
 /// reads, are left alone.
 ///
 /// The new file is written beside the old one, under a hidden temporary name, and takes its place when it is complete:
-/// owner, group and permissions stay, a link keeps pointing. So one of the two is there whole, whenever the process ends
-/// and whoever else saves under the same name. What could be written only in part is traced and removed. A temporary
-/// file is left only by a process that is killed; the first save into a folder removes those of more than a day ago.
+/// owner, group and permissions stay, a link keeps pointing. So one of the two is there whole, whenever the process
+/// ends and whoever else saves under the same name. What could be written only in part is traced and removed. A
+/// temporary file is left only by a process that is killed; the first save into a folder removes those of more than a
+/// day ago.
 ///
 /// A device, a pipe, and a file in a folder that takes no new ones or whose owner cannot be kept, are written in place.
 /// A file there of which only a part could be written is removed or, behind a link, emptied.

@@ -37,8 +37,7 @@ class IXMLHelper;
 /// Which elements are optional is decided by names, so elements of equal name in different places count as the same.
 ///
 /// Observer and document are not owned. Removed nodes stay alive as long as the parser, so that its operations can be
-/// called whatever was removed. One made with a null observer
-/// traces it and must not be used.
+/// called whatever was removed. One made with a null observer traces it and must not be used.
 class DomParser
 {
 public:

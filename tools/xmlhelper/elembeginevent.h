@@ -13,7 +13,8 @@ QT_WARNING_DISABLE_DEPRECATED // QXmlAttributes: Qt keeps it, with a warning, fo
     /// An element begins, or the report builder announces it to be filled.
     ///
     /// All members are values. The node is a handle into the sender's document: a receiver that keeps a copy keeps the
-    /// node alive and sees later changes to it, but must not use it to reach the document once the sender is gone.
+    /// node alive and sees later changes to it. The document of a reader stays until XMLReader::ReleaseContent(); that
+    /// of a report builder must not be reached through the node once the builder is gone.
     class XMLHELPER_EXPORT ElemBeginEvent : public XmlEvent
 {
 public:

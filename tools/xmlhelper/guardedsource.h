@@ -41,7 +41,7 @@ private:
 };
 
 /// Hands XML to the SAX parser, and ends it early, so that the parse fails, when its document type asks for more than a
-/// process should give: the limits are in constants.h. Qt itself has no sufficient ones. Its parser replaces references
+/// process should give: the limits are in limits_p.h. Qt itself has no sufficient ones. Its parser replaces references
 /// without end when an entity is declared before those it refers to, compares each entity with all others, and recurses
 /// over the parentheses of content models.
 ///

@@ -7,9 +7,9 @@ class XmlEvent;
 
 /// The observer to which every component of the library reports.
 ///
-/// A client implements XmlUpdate() and hands a pointer to its observer to the component that it uses
-/// (XMLReader, XmlCreateReport). The library never owns an observer and never deletes one, which is why the class
-/// has no virtual destructor: the observer must outlive every component that was given the pointer.
+/// A client implements XmlUpdate() and hands a pointer to its observer to the component that it uses (XMLReader,
+/// XmlCreateReport). The library never owns an observer and never deletes one, which is why the class has no virtual
+/// destructor: the observer must outlive every component that was given the pointer.
 ///
 /// Everything happens on the thread of the component, as plain synchronous calls without any lock. An observer that
 /// serves components of several threads has to protect itself.
@@ -36,8 +36,8 @@ public:
     /// Receives one event.
     ///
     /// The sender owns @p event and deletes it as soon as the call returns: keep neither the pointer nor a reference
-    /// obtained through it; the getters of the events return copies, which may be kept. The receiver learns the kind
-    /// by XmlEvent::GetType() and casts down accordingly.
+    /// obtained through it; the getters of the events return copies, which may be kept. The receiver learns the kind by
+    /// XmlEvent::GetType() and casts down accordingly.
     ///
     /// The receiver may call back into the sender. Errors that this causes arrive nested, before the outer call has
     /// returned. An error event does not stop the sender: it abandons the one operation that failed.

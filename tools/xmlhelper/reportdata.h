@@ -119,8 +119,8 @@ public:
     /// Reads a number: from the value of the tree, if it is numeric or a selection, else from the fixed text. Explicit
     /// values are not read.
     ///
-    /// The number of a selection whose text is a frequency, such as "98.5 MHz", is the one shown, with its prefix (k,
-    /// m or M for mega, g), unless the stored number shows the same digits.
+    /// The number of a selection whose text is a frequency, such as "98.5 MHz", is the one shown, with its prefix (k, m
+    /// or M for mega, g), unless the stored number shows the same digits.
     ///
     /// @param value  receives the number
     /// @return false, with @p value untouched, when there is no number; true with @p value untouched for a selection

@@ -16,8 +16,8 @@ struct TypeDefinition
     /// used, which makes it a candidate for the document's root.
     qint32 usedFlag;
 
-    /// How many references inside the definition still wait for their own definitions. 0: usable. Above 0: the
-    /// fragment is incomplete, users are deferred. -1: expanded at the end of the document.
+    /// How many references inside the definition still wait for their own definitions. 0: usable. Above 0: the fragment
+    /// is incomplete, users are deferred. -1: expanded at the end of the document.
     qint32 pendingCount;
 
     /// The content, in the node space of the document of the handler that read it; owned by the schema handler.

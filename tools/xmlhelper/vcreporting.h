@@ -19,20 +19,20 @@ class ReportAnswerer;
 class VCButton;
 class XmlCreateReport;
 
-/// The "To Report" button of a measurement screen: writes the current measurement values as an XML report that
-/// conforms to a schema.
+/// The "To Report" button of a measurement screen: writes the current measurement values as an XML report that conforms
+/// to a schema.
 ///
-/// The screen makes the widget with a schema, a directory for the reports and its tool bar, adds the widget to the
-/// tool bar, and registers report items that name elements (or attributes) of the schema and the sources of their
-/// values. Every ten seconds the widget looks whether schema and directory exist, keeps its button enabled only
-/// while both do, and says so with ReportDirAndSchemaAvailable().
+/// The screen makes the widget with a schema, a directory for the reports and its tool bar, adds the widget to the tool
+/// bar, and registers report items that name elements (or attributes) of the schema and the sources of their values.
+/// Every ten seconds the widget looks whether schema and directory exist, keeps its button enabled only while both do,
+/// and says so with ReportDirAndSchemaAvailable().
 ///
 /// A press runs SlotToReport(): PrepareToReport() gives the screen the opportunity to add or change items, then a
-/// report builder (XmlCreateReport) announces the elements of the schema to this widget, which answers with the
-/// values of the matching items. A value that the builder refuses for its type is offered as the next one:
-/// floating-point number, integer, text, ISO date and time. Elements and attributes called "DateTime" and
-/// "DFDateTime" receive the current time. The file is named after the time and lies in the report directory; with
-/// the comment dialog it is written when the operator answers.
+/// report builder (XmlCreateReport) announces the elements of the schema to this widget, which answers with the values
+/// of the matching items. A value that the builder refuses for its type is offered as the next one: floating-point
+/// number, integer, text, ISO date and time. Elements and attributes called "DateTime" and "DFDateTime" receive the
+/// current time. The file is named after the time and lies in the report directory; with the comment dialog it is
+/// written when the operator answers.
 ///
 /// The widget owns its items, its button and its timer, not the tool bar. Report builders are never deleted, with the
 /// comment dialogs that an operator may answer long after the screen is gone. A report that is over leaves no more than

@@ -29,10 +29,10 @@ QT_WARNING_DISABLE_DEPRECATED // QXmlSimpleReader: Qt keeps the SAX classes, wit
     /// every element the schema declares, and announces these elements one by one to the observer with an
     /// ElemBeginEvent. The observer answers from inside IXMLHelper::XmlUpdate() with the operations below, which all
     /// act on the element just announced. Refusals arrive at once as ErrorEvent, while the refused call is still on the
-    /// stack; the observer may answer them with another call, which may be refused again. An observer that answers
-    /// without end is heard out: errors are sent while no more than 100 are nested in each other, a million within an
-    /// outermost one. Elements that stay unfilled are removed when the schema allows them to be missing. In the end the
-    /// document is written to the report file, or handed to a comment dialog that writes it later.
+    /// stack; the observer may answer them with another call, which may be refused again. So that answers come to an
+    /// end, errors are sent while no more than 100 are nested in each other, and a million within an outermost one;
+    /// what is cut off is traced. Elements that stay unfilled are removed when the schema allows them to be missing. In
+    /// the end the document is written to the report file, or handed to a comment dialog that writes it later.
     ///
     /// A builder makes one document. The operations stay callable afterwards and then act on the element announced
     /// last; before, they act as with no current element.
@@ -160,8 +160,8 @@ public:
     void SetAttributeValue(QString name, int value);
 
     /// Sets a declared attribute to a floating-point number. Its type must contain "double". Checks as for integers;
-    /// facets are read as integers, a fractional one counts as 0. Sends NO_CURRENT_ELEMENT,
-    /// CURRENT_TYPE_IS_NOT_DOUBLE, VALUE_IS_NOT_VALID.
+    /// facets are read as integers, a fractional one counts as 0. Sends NO_CURRENT_ELEMENT, CURRENT_TYPE_IS_NOT_DOUBLE,
+    /// VALUE_IS_NOT_VALID.
     /// @param name   the attribute
     /// @param value  written with 12 significant digits
     void SetAttributeValue(QString name, double value);

@@ -12,16 +12,15 @@ class QFile;
 
 /// Builds a small XML document element by element and writes it to a file, in UTF-8 with four spaces of indentation.
 ///
-/// CreateXmlFile() starts the document; the cursor, the current element, stands on its root. CreateXmlElement()
-/// appends below the cursor and may enter the new element, SetXmlAttribute() works on the cursor, GoToXmlParent()
-/// leaves it. SaveXmlFile() may be called as often as the document changes.
+/// CreateXmlFile() starts the document; the cursor, the current element, stands on its root. CreateXmlElement() appends
+/// below the cursor and may enter the new element, SetXmlAttribute() works on the cursor, GoToXmlParent() leaves it.
+/// SaveXmlFile() may be called as often as the document changes.
 ///
 /// Operations report failure by false; a failed one leaves document and cursor as they were, but that a value tree is
-/// written as far as it can be. Every file that is written
-/// is well-formed W3C XML 1.0: names that it does not allow and elements nested deeper than 512 levels are refused, and
-/// of texts the characters that it cannot carry (control characters, halves of surrogate pairs, U+FFFE, U+FFFF) are
-/// dropped. Both is traced. Of the names that its fifth edition allows, Qt's own parsers, and so XMLReader, do not know
-/// all: those of the earlier editions are safe.
+/// written as far as it can be. Every file that is written is well-formed W3C XML 1.0: names that it does not allow and
+/// elements nested deeper than 512 levels are refused, and of texts the characters that it cannot carry (control
+/// characters, halves of surrogate pairs, U+FFFE, U+FFFF) are dropped. Both is traced. Of the names that its fifth
+/// edition allows, Qt's own parsers, and so XMLReader, do not know all: those of the earlier editions are safe.
 ///
 /// The writer owns its document. Copies are shallow: of a writer and its copies exactly one may be destroyed.
 class XMLHELPER_EXPORT XMLWriter
@@ -67,7 +66,7 @@ public:
     bool GoToXmlParent();
 
     /// Writes the document, replacing what was in the file.
-    /// @return false without a document; a file that cannot be opened is not reported
+    /// @return false without a document; a file that cannot be written is not reported
     bool SaveXmlFile();
 
     /// Appends the values of a value-tree node below the current element: an element for the node and, in order, one
