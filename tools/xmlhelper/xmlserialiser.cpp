@@ -216,6 +216,7 @@ private:
     void putComment(const QString& comment, bool isBeforeText);
     QString putStartOfTag(const QDomNode& element);
     void putAttributes(const QDomElement& element);
+    bool isInsideElement(const QDomNode& node) const { return !m_open.empty() || node.parentNode().isElement(); }
     void putAttribute(const QDomNode& attribute, const QDomNode& owner, QSet<QString>& declaredPrefixes);
     void putType(const QDomDocumentType& type);
     void putEntity(const QDomEntity& entity);
@@ -318,7 +319,7 @@ void Serialiser::putLeaf(const QDomNode& node, bool isBeforeText)
 {
     switch (node.nodeType()) {
     case QDomNode::TextNode:
-        putEscaped(node.nodeValue(), node.parentNode().isElement() ? Place::Text : Place::TextOutsideOfElements);
+        putEscaped(node.nodeValue(), isInsideElement(node) ? Place::Text : Place::TextOutsideOfElements);
         break;
     case QDomNode::CDATASectionNode:
         put(u"<![CDATA[", node.nodeValue(), u"]]>");
@@ -374,17 +375,21 @@ QString Serialiser::putStartOfTag(const QDomNode& element)
     }
     QString name = plainName(element);
     const QString namespaceName = element.namespaceURI();
-    const QString prefix = namespaceName.isNull() ? QString() : element.prefix();
-    if (!prefix.isEmpty()) {
-        name.prepend(prefix + QLatin1Char(':'));
-    }
-    put('<', name);
-    if (!namespaceName.isNull()) {
+    if (namespaceName.isNull()) {
+        put('<', name);
+    } else {
+        const QString prefix = element.prefix();
+        if (!prefix.isEmpty()) {
+            name.prepend(prefix + QLatin1Char(':'));
+        }
+        put('<', name);
         put(prefix.isEmpty() ? QStringView(u" xmlns") : QStringView(u" xmlns:"), prefix, u"=\"");
         putEscaped(namespaceName, Place::NamespaceName);
         put('"');
     }
-    putAttributes(element.toElement());
+    if (element.hasAttributes()) {
+        putAttributes(element.toElement());
+    }
     return name;
 }
 
