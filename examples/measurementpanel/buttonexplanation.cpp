@@ -10,6 +10,9 @@ ButtonExplanation::ButtonExplanation(QWidget& button)
     , m_sShown(m_sOwnToolTip)
 {
     m_button.installEventFilter(this);
+    if (m_button.parentWidget()) {
+        m_button.parentWidget()->installEventFilter(this);
+    }
 }
 
 ButtonExplanation::~ButtonExplanation() = default;
@@ -22,9 +25,13 @@ void ButtonExplanation::Explain(const QString& explanation)
 
 bool ButtonExplanation::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::ToolTipChange && m_button.toolTip() != m_sShown) {
+    if (watched == &m_button && event->type() == QEvent::ToolTipChange && m_button.toolTip() != m_sShown) {
         m_sOwnToolTip = m_button.toolTip();
         apply();
+    } else if (watched != &m_button && event->type() == QEvent::LanguageChange) {
+        m_sShown = m_sOwnToolTip;
+        m_button.setToolTip(m_sOwnToolTip);
+        QMetaObject::invokeMethod(this, &ButtonExplanation::apply, Qt::QueuedConnection);
     }
     return QObject::eventFilter(watched, event);
 }

@@ -8,8 +8,8 @@ class QWidget;
 
 /// Adds to a button's tool tip why the button is disabled, in lines of their own.
 ///
-/// The tool tip stays the button's: when its owner changes it, as with the language, the explanation is added to the
-/// new one.
+/// The tool tip stays the button's: when its owner changes it, the explanation is added to the new one. An owner lets
+/// the tool tip follow the language only while it is its own, so the explanation makes room for the change.
 class ButtonExplanation : public QObject
 {
     Q_OBJECT
