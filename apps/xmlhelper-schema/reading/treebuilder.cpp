@@ -1,6 +1,8 @@
 #include "treebuilder.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include <QDomElement>
 #include <QHash>
@@ -37,6 +39,22 @@ int enumerationNumber(const QString& attribute)
     }
     const QString number = attribute.mid(EnumerationFacet.size(), end - int(EnumerationFacet.size()));
     return number.toInt();
+}
+
+/// The values of the attributes called @p names in the order of their numbers.
+QStringList valuesByNumber(const QDomElement& element, const QStringList& names)
+{
+    std::vector<std::pair<int, QString>> values;
+    for (const QString& name : names) {
+        values.emplace_back(enumerationNumber(name), element.attribute(name));
+    }
+    std::sort(values.begin(), values.end(),
+              [](const auto& left, const auto& right) { return left.first < right.first; });
+    QStringList sorted;
+    for (const auto& value : values) {
+        sorted.append(value.second);
+    }
+    return sorted;
 }
 
 /// What the text says about names, for the lines and for telling declared attributes from facets.
@@ -231,12 +249,7 @@ void TreeBuilder::annotate(LaidOutElement& laidOut, const QDomElement& element, 
             enumeration.append(name);
         }
     }
-    std::sort(enumeration.begin(), enumeration.end(), [](const QString& left, const QString& right) {
-        return enumerationNumber(left) < enumerationNumber(right);
-    });
-    for (const QString& name : enumeration) {
-        laidOut.enumeration.append(element.attribute(name));
-    }
+    laidOut.enumeration = valuesByNumber(element, enumeration);
     for (const QLatin1String& facet : RangeFacets) {
         if (element.hasAttribute(facet) && !m_names.IsAttribute(facet)) {
             laidOut.facets.append({facet, element.attribute(facet), true});
@@ -312,12 +325,7 @@ DeclaredAttribute TreeBuilder::declaredAttribute(const QString& name, const QStr
             enumeration.append(other);
         }
     }
-    std::sort(enumeration.begin(), enumeration.end(), [](const QString& left, const QString& right) {
-        return enumerationNumber(left) < enumerationNumber(right);
-    });
-    for (const QString& one : enumeration) {
-        declared.enumeration.append(element.attribute(one));
-    }
+    declared.enumeration = valuesByNumber(element, enumeration);
     return declared;
 }
 
