@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QMutex>
 #include <QRandomGenerator>
+#include <QScopeGuard>
 #include <QSet>
 #include <QTextStream>
 #ifdef Q_OS_UNIX
@@ -33,6 +34,14 @@ constexpr int MaxEntriesLookedAt = 10000;
 
 constexpr QLatin1String TemporaryPrefix(".xmlhelper-");
 constexpr QLatin1String TemporarySuffix(".part");
+
+/// Whether a file that cannot be put in its place is written there. On Windows a folder does not tell beforehand whether
+/// it takes new files, nor a file whether somebody reads it, who keeps it from being replaced.
+#ifdef Q_OS_WIN
+constexpr bool IsTriedInPlace = true;
+#else
+constexpr bool IsTriedInPlace = false;
+#endif
 
 /// Takes everything, to tell its size.
 class Counter : public QIODevice
@@ -126,7 +135,7 @@ bool isReplaceable(const QFileInfo& target)
 {
     const bool isFile = target.exists() ? target.isFile() && target.isWritable() : !target.isSymbolicLink();
     return isFile && !target.fileName().isEmpty() && !target.fileName().contains(QChar::Null)
-        && QFileInfo(target.path()).isWritable();
+        && (IsTriedInPlace || QFileInfo(target.path()).isWritable());
 }
 
 /// The old file's owner, group and permissions, for the one that takes its place. Gives whether there is no old one, or
@@ -214,15 +223,16 @@ bool saveDocument(const QDomDocument& document, const QString& fileName)
     removeStrays(target.absolutePath());
     QFile file(temporaryNameBeside(target));
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-        return false;
+        return IsTriedInPlace && saveInPlace(document, name);
     }
     if (!takeAccess(file, target)) {
         file.remove();
         return saveInPlace(document, name);
     }
-    const bool isSaved = writeAndClose(document, file, name) && replace(target.filePath(), file.fileName());
-    if (!isSaved) {
-        file.remove();
+    const auto removeTemporary = qScopeGuard([&file] { file.remove(); }); // renamed, it is there no more
+    const bool isWritten = writeAndClose(document, file, name);
+    if (isWritten && replace(target.filePath(), file.fileName())) {
+        return true;
     }
-    return isSaved;
+    return isWritten && IsTriedInPlace && saveInPlace(document, name);
 }
