@@ -89,6 +89,11 @@ bool ReportAnswerer::MakeReport(XmlCreateReport* builder, const QString& schemaP
     const TreeSnapshot snapshot; // Values that have moved are sought once for all.
     releaseBuilder();
     m_pBuilder = builder;
+    // An exception may have ended the report before.
+    m_bValueSet = false;
+    m_bAttributePending = false;
+    m_dPending = IdlePendingValue;
+    m_pPendingItem.reset();
     return builder->CreateXmlFromSchema(schemaPath, reportPath, showComment);
 }
 
