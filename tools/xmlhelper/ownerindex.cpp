@@ -31,6 +31,32 @@ OwnerIndex::OwnerIndex(const QDomDocument& document, const QSet<QString>& names)
 
 bool OwnerIndex::GoTo(const QDomNode& node)
 {
+    noticeChanges();
+    if (!m_bOutdated && isBelowPath(node)) {
+        m_iAllowed += NodesOfQuestion;
+    } else if (!followTo(node)) {
+        return false;
+    }
+    seeChildrenUpTo(m_path.back(), node);
+    return true;
+}
+
+/// Whether the last step leads to the parent of @p node, and no step was moved or renamed. Nearly every question is
+/// about such a node, and is answered without a list of what stands above it.
+bool OwnerIndex::isBelowPath(const QDomNode& node) const
+{
+    QDomNode above = node.parentNode();
+    std::size_t level = m_path.size();
+    while (level > 0 && above == m_path[level - 1].element && above.nodeName() == m_path[level - 1].name) {
+        above = above.parentNode();
+        --level;
+    }
+    return level == 0 && !m_path.empty() && above == m_document;
+}
+
+/// Makes the steps lead to the parent of @p node. Gives false, and changes none, when it is not below the root.
+bool OwnerIndex::followTo(const QDomNode& node)
+{
     std::vector<QDomElement> elements;
     QDomNode top = node.parentNode();
     for (; top.isElement(); top = top.parentNode()) {
@@ -41,7 +67,6 @@ bool OwnerIndex::GoTo(const QDomNode& node)
     }
     std::reverse(elements.begin(), elements.end());
 
-    noticeChanges();
     const std::size_t matching = matchingLevels(elements);
     lookAgainIfAllowed();
     while (m_path.size() > matching) {
@@ -50,7 +75,6 @@ bool OwnerIndex::GoTo(const QDomNode& node)
     while (m_path.size() < elements.size()) {
         enter(elements[m_path.size()]);
     }
-    seeChildrenUpTo(m_path.back(), node);
     return true;
 }
 

@@ -87,6 +87,8 @@ private:
     void beginOwnChange();
     void endOwnChange();
     void noticeChanges();
+    bool isBelowPath(const QDomNode& node) const;
+    bool followTo(const QDomNode& node);
     void lookAgainIfAllowed();
     std::size_t matchingLevels(const std::vector<QDomElement>& elements);
     void leave();
