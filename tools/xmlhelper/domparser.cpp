@@ -43,6 +43,9 @@ bool isFacetName(const QString& name)
         || name.contains(MinExclusiveFacet) || name.contains(MaxExclusiveFacet);
 }
 
+/// Up to here listing the attributes takes less than knowing those that were listed.
+constexpr int FewAttributes = 16;
+
 /// Up to here a list of owners is looked through as it is.
 constexpr std::size_t FewOwners = 8;
 
@@ -259,28 +262,43 @@ void DomParser::InsertCopies(const QDomElement& element, int copies)
     }
 }
 
-void DomParser::ChangeAttribute(const QString& name, const QString& value)
+void DomParser::SetAttribute(const QString& name, const QString& value)
 {
-    const bool areKnown = areFacetsKnown();
-    {
-        const OwnerIndex::OwnChange change = Change();
-        if (value.isNull()) {
-            m_currentElement.removeAttribute(name);
-        } else {
-            m_currentElement.setAttribute(name, value);
-        }
-    }
-    if (areKnown) {
-        m_pFacetChanges->Reset();
-    }
+    changeAttributes([&] { m_currentElement.setAttribute(name, value); });
 }
 
-const QStringList& DomParser::FacetNames()
+void DomParser::RemoveAttribute(const QString& name)
 {
-    if (areFacetsKnown()) {
-        return m_facetNames;
+    changeAttributes([&] { m_currentElement.removeAttribute(name); });
+}
+
+void DomParser::RemoveAttributes(const DomAttributes& attributes)
+{
+    changeAttributes([&] {
+        for (const QDomAttr& attribute : attributes) {
+            m_currentElement.removeAttribute(attribute.name());
+        }
+    });
+}
+
+const QStringList* DomParser::FacetNames()
+{
+    if (m_currentElement.attributes().count() <= FewAttributes) {
+        return nullptr;
     }
-    m_facetElement = m_currentElement;
+    if (m_facetElement != m_currentElement) {
+        m_facetElement = m_currentElement;
+        m_pFacetChanges.reset();
+        return nullptr;
+    }
+    if (!areFacetsKnown()) {
+        listFacets();
+    }
+    return &m_facetNames;
+}
+
+void DomParser::listFacets()
+{
     m_facetNames.clear();
     for (const QDomAttr& attribute : attributesOf(m_currentElement)) {
         if (isFacetName(attribute.name())) {
@@ -291,7 +309,19 @@ const QStringList& DomParser::FacetNames()
         m_pFacetChanges = std::make_unique<TreeChangeDetector>(*m_pDocument);
     }
     m_pFacetChanges->Reset();
-    return m_facetNames;
+}
+
+/// The names of the facets stay known over changes of our own.
+template <class Edit> void DomParser::changeAttributes(const Edit& edit)
+{
+    const bool areKnown = areFacetsKnown();
+    {
+        const OwnerIndex::OwnChange change = Change();
+        edit();
+    }
+    if (areKnown) {
+        m_pFacetChanges->Reset();
+    }
 }
 
 bool DomParser::areFacetsKnown() const

@@ -15,6 +15,7 @@
 #include <QStringList>
 
 #include "constants.h"
+#include "domattributes.h"
 #include "ownerindex.h"
 #include "schemamodel.h"
 #include "treechangedetector.h"
@@ -90,12 +91,19 @@ public:
     /// Inserts @p copies deep copies of @p element behind it.
     void InsertCopies(const QDomElement& element, int copies);
 
-    /// Sets or removes an attribute of the current element; null removes it.
-    void ChangeAttribute(const QString& name, const QString& value);
+    /// Sets an attribute of the current element.
+    void SetAttribute(const QString& name, const QString& value);
+
+    /// Removes an attribute of the current element, if it is there.
+    void RemoveAttribute(const QString& name);
+
+    /// Removes @p attributes of the current element.
+    void RemoveAttributes(const DomAttributes& attributes);
 
     /// The names of the attributes of the current element that may be facets: those that contain the name of one. Some
-    /// of them may be gone. They are listed once, and again when somebody else has changed something.
-    const QStringList& FacetNames();
+    /// of them may be gone. They are listed once, and again when somebody else has changed something. Null when it
+    /// costs less to look at all attributes, because there are few or this is the first question about the element.
+    const QStringList* FacetNames();
 
     /// To be held while texts and attributes are changed.
     OwnerIndex::OwnChange Change() { return OwnerIndex::OwnChange(m_pOwners.get()); }
@@ -115,6 +123,8 @@ private:
         QString text; ///< of the last sibling that had one
     };
 
+    template <class Edit> void changeAttributes(const Edit& edit);
+    void listFacets();
     bool areFacetsKnown() const;
     void standOn(const QDomNode& node);
     void keepParent();
@@ -141,9 +151,9 @@ private:
     QDomElement m_root; ///< at which the walk began
     QDomElement m_currentElement;
     QDomNode m_currentParent;
-    QDomElement m_facetElement; ///< of which the names of facets are known
+    QDomElement m_facetElement; ///< about whose facets was asked last
     QStringList m_facetNames;
-    std::unique_ptr<TreeChangeDetector> m_pFacetChanges;
+    std::unique_ptr<TreeChangeDetector> m_pFacetChanges; ///< null until the names are listed
     QDomElement m_probationElement; ///< kept only if something inside it is filled; null when there is none
     IXMLHelper* m_pCallback;
     OccursMap m_occurs;

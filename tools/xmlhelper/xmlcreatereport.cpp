@@ -75,17 +75,37 @@ template <typename Number> RangeBounds<Number> boundsOfElement(const QDomElement
     return bounds;
 }
 
+/// The attributes of the current element with facets' names for which @p isWanted holds, and perhaps others for which
+/// it holds.
+template <class IsWanted> DomAttributes facetsOf(DomParser& parser, const IsWanted& isWanted)
+{
+    QDomElement& element = *parser.GetCurrentElement();
+    DomAttributes facets;
+    if (const QStringList* const names = parser.FacetNames()) {
+        for (const QString& name : *names) {
+            if (isWanted(name) && element.hasAttribute(name)) {
+                facets.append(element.attributeNode(name));
+            }
+        }
+        return facets;
+    }
+    for (const QDomAttr& attribute : attributesOf(element)) {
+        if (isWanted(attribute.name())) {
+            facets.append(attribute);
+        }
+    }
+    return facets;
+}
+
 /// The facets of an attribute are those whose names contain its name. They are read as integers for numbers of every
 /// kind, so that a fractional one counts as 0. One might expect 0.5 to bound a double; it is kept because schemas have
 /// been written to it.
 template <typename Number> RangeBounds<Number> boundsOfAttribute(DomParser& parser, const QString& name)
 {
     RangeBounds<Number> bounds;
-    for (const QString& facet : parser.FacetNames()) {
-        if (!facet.contains(name) || !parser.GetCurrentElement()->hasAttribute(facet)) {
-            continue;
-        }
-        const int value = parser.GetCurrentElement()->attribute(facet).toInt();
+    for (const QDomAttr& attribute : facetsOf(parser, [&](const QString& facet) { return facet.contains(name); })) {
+        const QString facet = attribute.name();
+        const int value = attribute.value().toInt();
         if (facet.contains(MinInclusiveFacet)) {
             bounds.minInclusive = value;
         } else if (facet.contains(MaxInclusiveFacet)) {
@@ -116,16 +136,6 @@ int stepsToAnnounce(const QDomElement& element)
     constexpr int stepsOfCall = 30;
     constexpr int stepsOfAttribute = 15;
     return stepsOfCall + stepsOfAttribute * element.attributes().count() + levelOf(element);
-}
-
-void setAttribute(DomParser& parser, const QString& name, const QString& value)
-{
-    parser.ChangeAttribute(name, value.isNull() ? QLatin1String("") : value);
-}
-
-void removeAttribute(DomParser& parser, const QString& name)
-{
-    parser.ChangeAttribute(name, QString());
 }
 
 } // namespace
@@ -218,7 +228,7 @@ void XmlCreateReport::SetXmlValue(int value)
         return;
     }
     // Removed before the range is checked, unlike the other numbers: a refused integer leaves no type behind.
-    removeAttribute(*m_pDomParser, TypeAttribute());
+    m_pDomParser->RemoveAttribute(TypeAttribute());
     if (useRange(value)) {
         CreateAndAppendTextNode(QString::number(value));
     }
@@ -263,7 +273,7 @@ void XmlCreateReport::SetAttributeValue(QString name, QString value)
     }
     const QString text = representableText(value, "XmlCreateReport::SetAttributeValue");
     if (useEnumeration(text, isEnumerationOfAttribute)) {
-        setAttribute(*m_pDomParser, name, text);
+        m_pDomParser->SetAttribute(name, text);
     }
 }
 
@@ -271,7 +281,7 @@ void XmlCreateReport::SetAttributeValue(QString name, QDateTime value)
 {
     if (refreshCurrentElement()
         && isAttributeTypeAccepted(name, QStringLiteral("dateTime"), IXMLHelper::CURRENT_TYPE_IS_NOT_DATETIME)) {
-        setAttribute(*m_pDomParser, name, value.toString(Qt::ISODate));
+        m_pDomParser->SetAttribute(name, value.toString(Qt::ISODate));
     }
 }
 
@@ -296,7 +306,7 @@ void XmlCreateReport::SetAttributeValue(QString name, double value)
 void XmlCreateReport::RemoveAttribute(QString name)
 {
     if (refreshCurrentElement()) {
-        removeAttribute(*m_pDomParser, name);
+        m_pDomParser->RemoveAttribute(name);
     }
 }
 
@@ -492,23 +502,18 @@ bool XmlCreateReport::isAttributeTypeAccepted(const QString& name, const QString
 template <class IsEnumerationName>
 bool XmlCreateReport::useEnumeration(const QString& value, IsEnumerationName isEnumerationName)
 {
-    QStringList names;
+    const DomAttributes facets = facetsOf(*m_pDomParser, isEnumerationName);
     QString lastValue;
     bool isFound = false;
-    for (const QString& name : m_pDomParser->FacetNames()) {
-        if (isEnumerationName(name) && m_pCurrentElement->hasAttribute(name)) {
-            names.append(name);
-            lastValue = m_pCurrentElement->attribute(name);
-            isFound = isFound || lastValue == value;
-        }
+    for (const QDomAttr& facet : facets) {
+        lastValue = facet.value();
+        isFound = isFound || lastValue == value;
     }
     if (!lastValue.isEmpty() && !isFound && m_pCurrentElement->attributes().count() >= 2) {
         Error(IXMLHelper::VALUE_IS_NOT_VALID);
         return false;
     }
-    for (const QString& name : std::as_const(names)) {
-        removeAttribute(*m_pDomParser, name);
-    }
+    m_pDomParser->RemoveAttributes(facets);
     return true;
 }
 
@@ -522,7 +527,7 @@ template <typename Number> bool XmlCreateReport::useRange(Number value)
         return false;
     }
     for (const QLatin1String facet : verdict.usedFacets) {
-        removeAttribute(*m_pDomParser, facet);
+        m_pDomParser->RemoveAttribute(facet);
     }
     return true;
 }
@@ -538,9 +543,9 @@ void XmlCreateReport::setCheckedAttribute(const QString& name, const QString& te
         return;
     }
     for (const QLatin1String facet : verdict.usedFacets) {
-        removeAttribute(*m_pDomParser, facet + name);
+        m_pDomParser->RemoveAttribute(facet + name);
     }
-    setAttribute(*m_pDomParser, name, text);
+    m_pDomParser->SetAttribute(name, text);
 }
 
 /// Makes the current element occur @p count times. A root has no place for copies, which counts as success. Gives
