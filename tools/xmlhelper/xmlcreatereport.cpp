@@ -513,7 +513,9 @@ bool XmlCreateReport::useEnumeration(const QString& value, IsEnumerationName isE
         Error(IXMLHelper::VALUE_IS_NOT_VALID);
         return false;
     }
-    m_pDomParser->RemoveAttributes(facets);
+    if (!facets.isEmpty()) {
+        m_pDomParser->RemoveAttributes(facets);
+    }
     return true;
 }
 
