@@ -107,21 +107,23 @@ bool isRepresentableText(const QString& text)
 
 bool isName(const QString& name)
 {
-    for (Index index = 0; index < name.size(); ++index) {
-        uint character = name.at(index).unicode();
+    const QChar* const units = name.constData();
+    const Index size = name.size();
+    for (Index index = 0; index < size; ++index) {
+        uint character = units[index].unicode();
         const bool isFirst = index == 0;
         if (isAsciiLetter(character) || (!isFirst && character >= '0' && character <= '9')) {
             continue;
         }
         if (isPairAt(name, index)) {
-            character = QChar::surrogateToUcs4(name.at(index), name.at(index + 1));
+            character = QChar::surrogateToUcs4(units[index], units[index + 1]);
             ++index;
         }
         if (!isInside(NameStartRanges, character) && (isFirst || !isInside(FurtherNameRanges, character))) {
             return false;
         }
     }
-    return !name.isEmpty();
+    return size > 0;
 }
 
 bool isRepresentableName(const QString& name, const char* place)
