@@ -51,6 +51,9 @@ void ReportItems::Clear()
 
 ReportItems::Item ReportItems::At(int index) const
 {
+    if (index == NO_INDEX) {
+        return nullptr;
+    }
     const auto found = m_items.find(index);
     return found == m_items.end() ? nullptr : found->second;
 }
@@ -69,6 +72,9 @@ int ReportItems::First(const QString& name) const
 std::vector<ReportItems::Item> ReportItems::Before(int end, const std::vector<QString>& names, int others) const
 {
     std::vector<int> ends = indicesBefore(end, names);
+    if (ends.empty() && others == 0) {
+        return {};
+    }
     ends.push_back(end);
     std::vector<Item> found;
     auto next = m_items.cbegin();
