@@ -11,7 +11,7 @@
 /// in which every sender of the library reports, so that an observer may rely on it.
 template <class Event, class... Arguments> void deliver(IXMLHelper* observer, Arguments&&... arguments)
 {
-    const std::unique_ptr<XmlEvent> event = std::make_unique<Event>(std::forward<Arguments>(arguments)...);
+    const std::unique_ptr<XmlEvent> event(new Event(std::forward<Arguments>(arguments)...));
     observer->XmlUpdate(event.get());
 }
 
