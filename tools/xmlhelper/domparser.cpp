@@ -215,7 +215,7 @@ bool DomParser::isBelowOwnerOf(const Limits& limits, const QString& tagName, con
         return false;
     }
     // A search for the root's name reports the top node in its place, whose name is searched for then.
-    const QString topName = isOwner(root.tagName()) ? top.nodeName() : QString();
+    const QString topName = top != root && isOwner(root.tagName()) ? top.nodeName() : QString();
     for (std::size_t level = index.Levels(); level-- > 0;) {
         const QString& name = index.NameAt(level);
         if (index.IsFirstAt(level) && (isOwner(name) || name == topName)) {
