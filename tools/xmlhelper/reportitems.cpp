@@ -106,7 +106,9 @@ std::vector<int> ReportItems::indicesBefore(int end, const std::vector<QString>&
             found.push_back(index);
         }
     }
-    std::sort(found.begin(), found.end());
-    found.erase(std::unique(found.begin(), found.end()), found.end());
+    if (found.size() > 1) {
+        std::sort(found.begin(), found.end());
+        found.erase(std::unique(found.begin(), found.end()), found.end());
+    }
     return found;
 }
