@@ -50,6 +50,7 @@ private Q_SLOTS:
     void reportsARemovalThatFails();
     void reportsNothingOfAContainerThatIsGone();
     void announcesTheChildrenOfARootThatWasRemoved();
+    void followsNoSiblingsOfAnElementWhoseParentIsGone();
     void hasNoCurrentElementBeforeTheFirstAnnouncement();
     void givesOneCurrentElementForTheWholeWalk();
     void givesANullElementForOtherNodes();
@@ -761,6 +762,20 @@ void TestDomParser::announcesTheChildrenOfARootThatWasRemoved()
                               [&](ElemBeginEvent& event) { walker.document.removeChild(event.GetElementNode()); });
     QVERIFY(walker.parser.Walk());
     QCOMPARE(walker.Log(), QStringLiteral("r, a, error 16, b, error 16"));
+}
+
+/// Qt leaves the element its siblings when it frees the parent.
+void TestDomParser::followsNoSiblingsOfAnElementWhoseParentIsGone()
+{
+    Walker walker(QStringLiteral("<r><a type='t'/><b type='t'/></r>"), QStringLiteral("a 1 r, b 1 r"),
+                  QStringLiteral("a"));
+    walker.observer.OnElement(QStringLiteral("a"), [&](ElemBeginEvent& event) {
+        QDomDocumentFragment fragment = walker.document.createDocumentFragment();
+        fragment.appendChild(event.GetElementNode());
+        fragment.appendChild(walker.document.createElement(QStringLiteral("x")));
+    });
+    QVERIFY(walker.parser.Walk());
+    QCOMPARE(walker.Log(), QStringLiteral("r, a, error -1"));
 }
 
 void TestDomParser::hasNoCurrentElementBeforeTheFirstAnnouncement()

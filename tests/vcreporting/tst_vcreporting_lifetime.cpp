@@ -132,6 +132,7 @@ private Q_SLOTS:
 
     void nodeKeptOfAReportThatIsOverStandsAlone_data();
     void nodeKeptOfAReportThatIsOverStandsAlone();
+    void nodeThatTheWalkRemovedStandsAloneToo();
     void dialogsShowAndWriteNothingAfterTheyHaveGivenBackAll_data();
     void dialogsShowAndWriteNothingAfterTheyHaveGivenBackAll();
     void dialogThatCouldNotWriteKeepsEverything();
@@ -396,6 +397,30 @@ void TestVCReportingLifetime::nodeKeptOfAReportThatIsOverStandsAlone()
         QVERIFY(value.ownerDocument().documentElement().isNull());
         value.appendChild(value.ownerDocument().createElement(QStringLiteral("New")));
         QCOMPARE(value.childNodes().count(), 2);
+    }
+}
+
+void TestVCReportingLifetime::nodeThatTheWalkRemovedStandsAloneToo()
+{
+    const QString content = QStringLiteral("<xs:element name='Group' minOccurs='0'><xs:complexType><xs:sequence>"
+                                           "<xs:element name='First' type='xs:string'/>"
+                                           "<xs:element name='Last' type='xs:string'/>"
+                                           "</xs:sequence></xs:complexType></xs:element>");
+    ReportingScene scene(content);
+    QVERIFY(scene.Reporting().SlotToReport());
+    const QDomElement group = scene.Reporting().Element(QStringLiteral("Group"));
+    const QDomElement first = scene.Reporting().Element(QStringLiteral("First"));
+    QVERIFY(group.parentNode().isNull()); // nothing in it was filled
+    QCOMPARE(first.parentNode().nodeName(), QStringLiteral("Group"));
+
+    scene.Reporting().Forget();
+    QVERIFY(scene.Reporting().SlotToReport());
+    scene.Reporting().Forget();
+    scene.DeleteReporting();
+    for (const QDomElement& kept : {group, first}) {
+        QVERIFY(kept.parentNode().isNull());
+        QVERIFY(kept.nextSibling().isNull());
+        QVERIFY(kept.ownerDocument().documentElement().isNull());
     }
 }
 

@@ -18,3 +18,13 @@ QDomNode nextBelow(const QDomNode& start, const QDomNode& node, bool isToSkipChi
     }
     return QDomNode();
 }
+
+QDomNode siblingBehind(const QDomNode& node)
+{
+    return node.parentNode().isNull() ? QDomNode() : node.nextSibling();
+}
+
+QDomNode siblingBefore(const QDomNode& node)
+{
+    return node.parentNode().isNull() ? QDomNode() : node.previousSibling();
+}

@@ -12,6 +12,7 @@
 #include "docbeginevent.h"
 #include "docendevent.h"
 #include "domattributes.h"
+#include "domorder.h"
 #include "elembeginevent.h"
 #include "elementsearch.h"
 #include "errorevent.h"
@@ -218,7 +219,7 @@ bool DomParser::isBelowOwnerOf(const Limits& limits, const QString& tagName, con
     const QString topName = top != root && isOwner(root.tagName()) ? top.nodeName() : QString();
     for (std::size_t level = index.Levels(); level-- > 0;) {
         const QString& name = index.NameAt(level);
-        if (index.IsFirstAt(level) && (isOwner(name) || name == topName)) {
+        if ((isOwner(name) || name == topName) && index.IsFirstAt(level)) {
             return true;
         }
         if (name == tagName) {
@@ -350,7 +351,7 @@ void DomParser::leave(Level& level)
     if (level.node.parentNode().isNull()) {
         m_removedNodes.push_back(level.node);
     }
-    level.node = level.node.nextSibling();
+    level.node = siblingBehind(level.node);
 }
 
 /// Announces the node on which the walk stands and moves on from it.
@@ -366,7 +367,7 @@ void DomParser::visit()
         if (!isTopLevel) {
             m_probationElement = QDomElement();
         }
-        level.node = m_bRevisit ? m_resumeNode : m_resumeNode.nextSibling();
+        level.node = m_bRevisit ? m_resumeNode : siblingBehind(m_resumeNode);
     } else if (!checkCurrentElement()) {
         // Below the top level the node takes the place of what a notice from inside an error of the check has named.
         if (!isTopLevel) {
@@ -492,7 +493,7 @@ bool DomParser::isChoiceAlternative() const
 /// The walk goes on behind the container, one level deeper than the container stood.
 void DomParser::removeProbationElement()
 {
-    m_resumeNode = m_probationElement.nextSibling();
+    m_resumeNode = siblingBehind(m_probationElement);
     standOn(m_resumeNode);
     Remove(m_probationElement);
     m_probationElement = QDomElement();
@@ -500,7 +501,7 @@ void DomParser::removeProbationElement()
 
 void DomParser::removeCurrentElement()
 {
-    m_resumeNode = m_currentElement.nextSibling();
+    m_resumeNode = siblingBehind(m_currentElement);
     if (Remove(m_currentElement).isNull()) {
         deliver<ErrorEvent>(m_pCallback, IXMLHelper::GENERAL_ERROR);
     }

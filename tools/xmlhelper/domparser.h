@@ -88,6 +88,9 @@ public:
     /// Removes @p node from its parent; gives a null node when it could not be removed.
     QDomNode Remove(const QDomNode& node);
 
+    /// What is kept alive although it is in the document no more.
+    const std::list<QDomNode>& RemovedNodes() const { return m_removedNodes; }
+
     /// Inserts @p copies deep copies of @p element behind it.
     void InsertCopies(const QDomElement& element, int copies);
 

@@ -90,9 +90,11 @@ bool OwnerIndex::IsFirstAt(std::size_t level)
 void OwnerIndex::Forget(const QDomNode& node)
 {
     for (Step& step : m_path) {
-        step.rank = Rank::Unknown;
+        if (step.rank == Rank::Later) { // What is first stays it.
+            step.rank = Rank::Unknown;
+        }
         if (step.lastSeen == node) {
-            step.lastSeen = node.previousSibling();
+            step.lastSeen = siblingBefore(node);
         }
     }
 }

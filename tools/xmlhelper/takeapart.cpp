@@ -25,13 +25,28 @@ void moveChildren(const QDomNode& parent)
     }
 }
 
+void emptyPlace()
+{
+    for (QDomNode node = place().firstChild(); !node.isNull(); node = place().firstChild()) {
+        moveChildren(node);
+        place().removeChild(node);
+    }
+}
+
 } // namespace
 
 void takeApart(const QDomDocument& document)
 {
     moveChildren(document);
-    for (QDomNode node = place().firstChild(); !node.isNull(); node = place().firstChild()) {
-        moveChildren(node);
-        place().removeChild(node);
+    emptyPlace();
+}
+
+void takeApart(const std::list<QDomNode>& nodes)
+{
+    for (const QDomNode& node : nodes) {
+        if (node.parentNode().isNull()) {
+            place().appendChild(node);
+        }
     }
+    emptyPlace();
 }

@@ -14,6 +14,7 @@
 #include "documentfile.h"
 #include "domattributes.h"
 #include "domextent.h"
+#include "domorder.h"
 #include "domparser.h"
 #include "errorevent.h"
 #include "eventdelivery.h"
@@ -333,7 +334,7 @@ void XmlCreateReport::DiscardChoiceItem()
         Error(IXMLHelper::GENERAL_ERROR);
         return;
     }
-    QDomElement follower = discarded.nextSibling().toElement();
+    QDomElement follower = siblingBehind(discarded).toElement();
     const bool isRemoved = !m_pDomParser->Remove(discarded).isNull();
     m_pDomParser->ContinueAt(&follower, false);
     if (isRemoved) {
@@ -602,6 +603,9 @@ void XmlCreateReport::releaseReport()
     m_pCurrentElement = nullptr;
     delete std::exchange(m_pReader, nullptr);
     delete std::exchange(m_pContentHandler, nullptr);
+    if (m_pDomParser) {
+        takeApart(m_pDomParser->RemovedNodes());
+    }
     delete std::exchange(m_pDomParser, nullptr);
     m_unresolvedTypes.clear();
     m_occurs.clear();
