@@ -340,7 +340,7 @@ void DomParser::standOn(const QDomNode& node)
 void DomParser::keepParent()
 {
     const QDomNode parent = m_currentElement.parentNode();
-    if (!parent.isNull()) {
+    if (parent != m_currentParent && !parent.isNull()) {
         m_currentParent = parent;
     }
 }

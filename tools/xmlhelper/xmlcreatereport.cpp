@@ -76,11 +76,10 @@ template <typename Number> RangeBounds<Number> boundsOfElement(const QDomElement
     return bounds;
 }
 
-/// The attributes of the current element with facets' names for which @p isWanted holds, and perhaps others for which
-/// it holds.
-template <class IsWanted> DomAttributes facetsOf(DomParser& parser, const IsWanted& isWanted)
+/// The attributes of @p element, the current one, with facets' names for which @p isWanted holds, and perhaps others
+/// for which it holds.
+template <class IsWanted> DomAttributes facetsOf(DomParser& parser, QDomElement& element, const IsWanted& isWanted)
 {
-    QDomElement& element = *parser.GetCurrentElement();
     DomAttributes facets;
     if (const QStringList* const names = parser.FacetNames()) {
         for (const QString& name : *names) {
@@ -101,10 +100,12 @@ template <class IsWanted> DomAttributes facetsOf(DomParser& parser, const IsWant
 /// The facets of an attribute are those whose names contain its name. They are read as integers for numbers of every
 /// kind, so that a fractional one counts as 0. One might expect 0.5 to bound a double; it is kept because schemas have
 /// been written to it.
-template <typename Number> RangeBounds<Number> boundsOfAttribute(DomParser& parser, const QString& name)
+template <typename Number>
+RangeBounds<Number> boundsOfAttribute(DomParser& parser, QDomElement& element, const QString& name)
 {
     RangeBounds<Number> bounds;
-    for (const QDomAttr& attribute : facetsOf(parser, [&](const QString& facet) { return facet.contains(name); })) {
+    for (const QDomAttr& attribute :
+         facetsOf(parser, element, [&](const QString& facet) { return facet.contains(name); })) {
         const QString facet = attribute.name();
         const int value = attribute.value().toInt();
         if (facet.contains(MinInclusiveFacet)) {
@@ -503,7 +504,7 @@ bool XmlCreateReport::isAttributeTypeAccepted(const QString& name, const QString
 template <class IsEnumerationName>
 bool XmlCreateReport::useEnumeration(const QString& value, IsEnumerationName isEnumerationName)
 {
-    const DomAttributes facets = facetsOf(*m_pDomParser, isEnumerationName);
+    const DomAttributes facets = facetsOf(*m_pDomParser, *m_pCurrentElement, isEnumerationName);
     QString lastValue;
     bool isFound = false;
     for (const QDomAttr& facet : facets) {
@@ -539,8 +540,8 @@ template <typename Number> bool XmlCreateReport::useRange(Number value)
 template <typename Number>
 void XmlCreateReport::setCheckedAttribute(const QString& name, const QString& text, Number value)
 {
-    const RangeVerdict verdict
-        = boundsOfAttribute<Number>(*m_pDomParser, name).Check(value, UpperBoundBehindLower::Strict);
+    const RangeVerdict verdict = boundsOfAttribute<Number>(*m_pDomParser, *m_pCurrentElement, name)
+                                     .Check(value, UpperBoundBehindLower::Strict);
     if (!verdict.isAccepted) {
         Error(IXMLHelper::VALUE_IS_NOT_VALID);
         return;
