@@ -1,10 +1,11 @@
 #include "documentfile.h"
 
+#include <mutex>
+
 #include <QDateTime>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QMutex>
 #include <QRandomGenerator>
 #include <QScopeGuard>
 #include <QSet>
@@ -173,9 +174,9 @@ bool replace(const QString& target, const QString& file)
 /// for each folder, and not through all of a large one, because the operator waits.
 void removeStrays(const QString& folder)
 {
-    static QMutex mutex;
+    static std::mutex mutex;
     static QSet<QString> seenFolders;
-    const QMutexLocker locker(&mutex);
+    const std::lock_guard<std::mutex> lock(mutex);
     if (seenFolders.contains(folder)) {
         return;
     }
