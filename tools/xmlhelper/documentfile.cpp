@@ -33,8 +33,8 @@ constexpr int MaxLinks = 40;
 constexpr qint64 SecondsOfAStray = 24 * 60 * 60;
 constexpr int MaxEntriesLookedAt = 10000;
 
-constexpr QLatin1String TemporaryPrefix(".xmlhelper-");
-constexpr QLatin1String TemporarySuffix(".part");
+const QLatin1String TemporaryPrefix(".xmlhelper-");
+const QLatin1String TemporarySuffix(".part");
 
 /// Whether a file that cannot be put in its place is written there. On Windows a folder does not tell beforehand
 /// whether it takes new files, nor a file whether somebody reads it, who keeps it from being replaced.
