@@ -27,7 +27,8 @@ std::atomic<long> liveBlocks {0};
 
 #ifndef __SANITIZE_ADDRESS__ // which has functions of its own, and keeps what is given back
 // The blocks that the program and, where programs and libraries share these functions, Qt have not given back.
-void* operator new(std::size_t size)
+// Inlined, compilers would take them for a mismatch of what they call.
+Q_NEVER_INLINE void* operator new(std::size_t size)
 {
     void* const block = std::malloc(size == 0 ? 1 : size);
     if (!block) {
@@ -37,13 +38,13 @@ void* operator new(std::size_t size)
     return block;
 }
 
-void operator delete(void* block) noexcept
+Q_NEVER_INLINE void operator delete(void* block) noexcept
 {
     liveBlocks -= block ? 1 : 0;
     std::free(block);
 }
 
-void operator delete(void* block, std::size_t) noexcept
+Q_NEVER_INLINE void operator delete(void* block, std::size_t) noexcept
 {
     operator delete(block);
 }
