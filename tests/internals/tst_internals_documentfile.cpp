@@ -351,7 +351,7 @@ void TestDocumentFile::leavesAFileThatMustNotBeWritten()
 {
     write(path("saved.xml"), "earlier");
     QVERIFY(QFile::setPermissions(path("saved.xml"), QFile::ReadOwner));
-    if (QFileInfo(path("saved.xml")).isWritable()) {
+    if (QFile(path("saved.xml")).open(QIODevice::ReadWrite)) {
         QSKIP("This user may write everything.");
     }
     QVERIFY(!saveDocument(documentOf(QStringLiteral("<r/>")), path("saved.xml")));
