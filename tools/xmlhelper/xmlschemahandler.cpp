@@ -885,8 +885,8 @@ void XmlSchemaHandler::reviveExpandedDefinitions()
     }
 }
 
-/// Makes passes over the names that are referred to, in their order, until all are laid out. What becomes usable under
-/// way is laid out in the same pass when its name is still to come, else in the next one. Gives false when the first
+/// Lays out the names that are referred to in the order of passes over them, looking at each only once it is usable.
+/// What becomes usable under way belongs to the same pass when its name is still to come, else to the next one. Gives false when the first
 /// pass comes to a name that has no definition, and when definitions are left that wait for each other.
 bool XmlSchemaHandler::resolveReferences()
 {
