@@ -6,7 +6,7 @@
 #include <QDateTime>
 #include <QDomDocument>
 
-#include <xmlhelper/numberconversion.h>
+#include <xmlhelper/numberconversion_p.h>
 #include <xmlhelper/xmlhelper.h>
 
 #include "observers.h"

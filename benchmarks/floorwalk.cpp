@@ -6,7 +6,7 @@
 #include <xmlhelper/docendevent.h>
 #include <xmlhelper/elembeginevent.h>
 #include <xmlhelper/errorevent.h>
-#include <xmlhelper/eventdelivery.h>
+#include <xmlhelper/eventdelivery_p.h>
 
 QT_WARNING_DISABLE_DEPRECATED
 

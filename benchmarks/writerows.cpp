@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QTextStream>
 
-#include <xmlhelper/documentfile.h>
+#include <xmlhelper/documentfile_p.h>
 #include <xmlhelper/xmlwriter.h>
 
 #include "baredom.h"

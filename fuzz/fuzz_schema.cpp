@@ -4,7 +4,7 @@
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
-#include <xmlhelper/domextent.h>
+#include <xmlhelper/domextent_p.h>
 #include <xmlhelper/ixmlhelper.h>
 #include <xmlhelper/limits_p.h>
 #include <xmlhelper/xmlschemahandler.h>

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <tuple>
 
-#include <xmlhelper/documentfile.h>
+#include <xmlhelper/documentfile_p.h>
 
 #include "reading/doctorlimits.h"
 #include "reading/grammarcheck.h"

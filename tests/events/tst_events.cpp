@@ -7,7 +7,7 @@
 
 #include <QDomDocument>
 
-#include <xmlhelper/eventdelivery.h>
+#include <xmlhelper/eventdelivery_p.h>
 #include <xmlhelper/xmlhelper.h>
 
 #include "domtext.h"

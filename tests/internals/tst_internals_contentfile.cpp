@@ -5,7 +5,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include <xmlhelper/contentfile.h>
+#include <xmlhelper/contentfile_p.h>
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>

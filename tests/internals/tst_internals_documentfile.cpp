@@ -11,7 +11,7 @@
 #include <QTextCodec>
 #endif
 
-#include <xmlhelper/documentfile.h>
+#include <xmlhelper/documentfile_p.h>
 #include <xmlhelper/limits_p.h>
 
 #include "domtext.h"

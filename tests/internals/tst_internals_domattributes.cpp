@@ -4,7 +4,7 @@
 
 #include <ctime>
 
-#include <xmlhelper/domattributes.h>
+#include <xmlhelper/domattributes_p.h>
 
 #include "domtext.h"
 

@@ -4,7 +4,7 @@
 
 #include <QDomDocument>
 
-#include <xmlhelper/domextent.h>
+#include <xmlhelper/domextent_p.h>
 
 #include "domtext.h"
 #include "randomtree.h"

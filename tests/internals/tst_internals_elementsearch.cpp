@@ -6,7 +6,7 @@
 
 #include <QDomDocument>
 
-#include <xmlhelper/elementsearch.h>
+#include <xmlhelper/elementsearch_p.h>
 
 #include "domtext.h"
 #include "randomtree.h"

@@ -4,8 +4,8 @@
 #include <QXmlDefaultHandler>
 #include <QXmlSimpleReader>
 
-#include <xmlhelper/constants.h>
-#include <xmlhelper/guardedsource.h>
+#include <xmlhelper/constants_p.h>
+#include <xmlhelper/guardedsource_p.h>
 
 QT_WARNING_DISABLE_DEPRECATED
 

@@ -7,7 +7,7 @@
 #include <QXmlSimpleReader>
 
 #include <xmlhelper/limits_p.h>
-#include <xmlhelper/nestingguard.h>
+#include <xmlhelper/nestingguard_p.h>
 
 QT_WARNING_DISABLE_DEPRECATED
 

@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include <xmlhelper/numberconversion.h>
+#include <xmlhelper/numberconversion_p.h>
 
 class TestNumberConversion : public QObject
 {

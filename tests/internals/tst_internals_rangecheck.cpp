@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-#include <xmlhelper/rangecheck.h>
+#include <xmlhelper/rangecheck_p.h>
 
 class TestRangeCheck : public QObject
 {

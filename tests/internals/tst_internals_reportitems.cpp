@@ -1,6 +1,6 @@
 #include <QtTest>
 
-#include <xmlhelper/reportitems.h>
+#include <xmlhelper/reportitems_p.h>
 
 class TestReportItems : public QObject
 {

@@ -1,7 +1,7 @@
 #include <QBuffer>
 #include <QtTest>
 
-#include <xmlhelper/tagscanner.h>
+#include <xmlhelper/tagscanner_p.h>
 
 class TestTagScanner : public QObject
 {

@@ -3,7 +3,7 @@
 #include <QDomDocument>
 #include <QtTest>
 
-#include <xmlhelper/treechangedetector.h>
+#include <xmlhelper/treechangedetector_p.h>
 
 #include "domtext.h"
 

@@ -2,7 +2,7 @@
 
 #include <QDomDocument>
 
-#include <xmlhelper/xmltext.h>
+#include <xmlhelper/xmltext_p.h>
 
 #include "domtext.h"
 #include "tracecollector.h"

@@ -9,7 +9,7 @@
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
-#include <xmlhelper/domextent.h>
+#include <xmlhelper/domextent_p.h>
 
 #include "domtext.h"
 

@@ -13,9 +13,9 @@
 #include <arbase/vorndatetime.h>
 #include <arbase/vornos.h>
 
-#include "documentfile.h"
+#include "documentfile_p.h"
 #include "takeapart_p.h"
-#include "xmltext.h"
+#include "xmltext_p.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
-#include "contentfile.h"
+#include "contentfile_p.h"
 
 #include <QFileInfo>
 
-#include "documentfile.h"
+#include "documentfile_p.h"
 
 ContentFile::ContentFile(const QString& fileName)
     : QFile(openableFileName(fileName))

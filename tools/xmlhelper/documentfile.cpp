@@ -1,4 +1,4 @@
-#include "documentfile.h"
+#include "documentfile_p.h"
 
 #include <mutex>
 
@@ -21,7 +21,7 @@
 #endif
 
 #include "limits_p.h"
-#include "tracing.h"
+#include "tracing_p.h"
 #include "xmlserialiser_p.h"
 
 namespace {

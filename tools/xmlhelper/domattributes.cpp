@@ -1,4 +1,4 @@
-#include "domattributes.h"
+#include "domattributes_p.h"
 
 #include <algorithm>
 
@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <QTextStream>
 
-#include "domorder.h"
+#include "domorder_p.h"
 
 namespace {
 

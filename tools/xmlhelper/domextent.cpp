@@ -1,4 +1,4 @@
-#include "domextent.h"
+#include "domextent_p.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "domorder.h"
+#include "domorder_p.h"
 
 #include <QDomNode>
 

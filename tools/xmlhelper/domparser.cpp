@@ -8,16 +8,16 @@
 
 #include <QXmlAttributes>
 
-#include "constants.h"
+#include "constants_p.h"
 #include "docbeginevent.h"
 #include "docendevent.h"
-#include "domattributes.h"
-#include "domorder.h"
+#include "domattributes_p.h"
+#include "domorder_p.h"
 #include "elembeginevent.h"
-#include "elementsearch.h"
+#include "elementsearch_p.h"
 #include "errorevent.h"
-#include "eventdelivery.h"
-#include "tracing.h"
+#include "eventdelivery_p.h"
+#include "tracing_p.h"
 
 QT_WARNING_DISABLE_DEPRECATED
 

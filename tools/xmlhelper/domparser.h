@@ -14,11 +14,11 @@
 #include <QString>
 #include <QStringList>
 
-#include "constants.h"
-#include "domattributes.h"
-#include "ownerindex.h"
+#include "constants_p.h"
+#include "domattributes_p.h"
+#include "ownerindex_p.h"
 #include "schemamodel.h"
-#include "treechangedetector.h"
+#include "treechangedetector_p.h"
 
 class IXMLHelper;
 

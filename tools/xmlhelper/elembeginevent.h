@@ -10,12 +10,12 @@
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED // QXmlAttributes: Qt keeps it, with a warning, for as long as it has the SAX classes.
 
-    /// An element begins, or the report builder announces it to be filled.
-    ///
-    /// All members are values. The node is a handle into the sender's document: a receiver that keeps a copy keeps the
-    /// node alive and sees later changes to it. The document of a reader stays until XMLReader::ReleaseContent(); that
-    /// of a report builder must not be reached through the node once the builder is gone.
-    class XMLHELPER_EXPORT ElemBeginEvent : public XmlEvent
+/// An element begins, or the report builder announces it to be filled.
+///
+/// All members are values. The node is a handle into the sender's document: a receiver that keeps a copy keeps the
+/// node alive and sees later changes to it. The document of a reader stays until XMLReader::ReleaseContent(); that
+/// of a report builder must not be reached through the node once the builder is gone.
+class XMLHELPER_EXPORT ElemBeginEvent : public XmlEvent
 {
 public:
     /// @param node        the element in the sender's document; null when the sender has none

@@ -1,6 +1,6 @@
-#include "elementsearch.h"
+#include "elementsearch_p.h"
 
-#include "domorder.h"
+#include "domorder_p.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "guardedsource.h"
+#include "guardedsource_p.h"
 
 #include <algorithm>
 

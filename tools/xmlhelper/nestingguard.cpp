@@ -1,4 +1,4 @@
-#include "nestingguard.h"
+#include "nestingguard_p.h"
 
 #include "limits_p.h"
 

@@ -1,4 +1,4 @@
-#include "numberconversion.h"
+#include "numberconversion_p.h"
 
 #include <algorithm>
 #include <cmath>

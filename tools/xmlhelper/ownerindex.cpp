@@ -1,9 +1,9 @@
-#include "ownerindex.h"
+#include "ownerindex_p.h"
 
 #include <algorithm>
 
-#include "domorder.h"
-#include "elementsearch.h"
+#include "domorder_p.h"
+#include "elementsearch_p.h"
 #include "limits_p.h"
 
 namespace {

@@ -7,11 +7,11 @@
 #include <QDomNode>
 #include <QScopedValueRollback>
 
-#include "constants.h"
+#include "constants_p.h"
 #include "elembeginevent.h"
 #include "errorevent.h"
-#include "numberconversion.h"
-#include "tracing.h"
+#include "numberconversion_p.h"
+#include "tracing_p.h"
 #include "treesnapshot_p.h"
 #include "vcreporting.h"
 #include "xmlcreatereport.h"

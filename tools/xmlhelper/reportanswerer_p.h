@@ -1,12 +1,12 @@
-#ifndef XMLHELPER_REPORTANSWERER_H
-#define XMLHELPER_REPORTANSWERER_H
+#ifndef XMLHELPER_REPORTANSWERER_P_H
+#define XMLHELPER_REPORTANSWERER_P_H
 
 #include <QPointer>
 #include <QString>
 #include <QXmlAttributes>
 
 #include "ixmlhelper.h"
-#include "reportitems.h"
+#include "reportitems_p.h"
 
 class ElemBeginEvent;
 class QDomNode;
@@ -16,19 +16,19 @@ class XmlCreateReport;
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED // QXmlAttributes: Qt keeps the SAX classes, with a warning.
 
-    /// Has the reports of a report button made, and fills them with the values of the button's items.
-    ///
-    /// The button makes one, which is the observer of all its report builders. It hands each event to the button, whose
-    /// XmlUpdate() an application may have overridden, and gets it back by Answer().
-    ///
-    /// Reading a value, and answering an error of the builder, may run anything, an event loop too: items may come and
-    /// go meanwhile, and the button may be deleted. Therefore whoever has the answerer work keeps a share in it, an
-    /// element is answered with the items that there were when it was announced, and the report of a button that is
-    /// gone is filled all the same.
-    ///
-    /// Builders are never deleted: an operator may answer a comment dialog long after the screen is gone. All but the
-    /// latest, which late announcements still reach, give back what they hold, and so does that when the answerer goes.
-    class ReportAnswerer final : public IXMLHelper
+/// Has the reports of a report button made, and fills them with the values of the button's items.
+///
+/// The button makes one, which is the observer of all its report builders. It hands each event to the button, whose
+/// XmlUpdate() an application may have overridden, and gets it back by Answer().
+///
+/// Reading a value, and answering an error of the builder, may run anything, an event loop too: items may come and
+/// go meanwhile, and the button may be deleted. Therefore whoever has the answerer work keeps a share in it, an
+/// element is answered with the items that there were when it was announced, and the report of a button that is
+/// gone is filled all the same.
+///
+/// Builders are never deleted: an operator may answer a comment dialog long after the screen is gone. All but the
+/// latest, which late announcements still reach, give back what they hold, and so does that when the answerer goes.
+class ReportAnswerer final : public IXMLHelper
 {
 public:
     /// @param button   gets every event while it lives; not owned

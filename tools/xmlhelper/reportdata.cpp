@@ -8,7 +8,7 @@
 #include <valueframework/valuebase.h>
 #include <valueframework/valueselection.h>
 
-#include "numberconversion.h"
+#include "numberconversion_p.h"
 #include "treesnapshot_p.h"
 
 namespace {

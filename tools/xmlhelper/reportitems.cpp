@@ -1,4 +1,4 @@
-#include "reportitems.h"
+#include "reportitems_p.h"
 
 #include <algorithm>
 #include <utility>

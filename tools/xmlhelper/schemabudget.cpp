@@ -1,9 +1,9 @@
 #include "schemabudget_p.h"
 
-#include "domextent.h"
+#include "domextent_p.h"
 #include "limits_p.h"
-#include "tracing.h"
-#include "xmltext.h"
+#include "tracing_p.h"
+#include "xmltext_p.h"
 
 void SchemaBudget::Refuse(const QString& reason)
 {

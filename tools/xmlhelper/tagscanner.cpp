@@ -1,4 +1,4 @@
-#include "tagscanner.h"
+#include "tagscanner_p.h"
 
 #include <QByteArray>
 #include <QIODevice>

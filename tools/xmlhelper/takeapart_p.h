@@ -1,5 +1,5 @@
-#ifndef XMLHELPER_TAKEAPART_H
-#define XMLHELPER_TAKEAPART_H
+#ifndef XMLHELPER_TAKEAPART_P_H
+#define XMLHELPER_TAKEAPART_P_H
 
 #include <list>
 

@@ -1,4 +1,4 @@
-#include "tracing.h"
+#include "tracing_p.h"
 
 #include <arbase/errorhandler.h>
 #include <arbase/trace.h>

@@ -1,4 +1,4 @@
-#include "treechangedetector.h"
+#include "treechangedetector_p.h"
 
 #include <QDomDocument>
 

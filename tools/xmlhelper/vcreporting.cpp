@@ -18,10 +18,10 @@
 #include <valueframework/valuebase.h>
 #include <valueframework/valueitem.h>
 
-#include "numberconversion.h"
+#include "numberconversion_p.h"
 #include "reportanswerer_p.h"
 #include "toreport.xpm"
-#include "tracing.h"
+#include "tracing_p.h"
 #include "xmlcreatereport.h"
 
 namespace {

@@ -1,12 +1,12 @@
 #include "xmlcontenthandler.h"
 
-#include "constants.h"
+#include "constants_p.h"
 #include "docbeginevent.h"
 #include "docendevent.h"
 #include "elembeginevent.h"
 #include "elemendevent.h"
-#include "eventdelivery.h"
-#include "tracing.h"
+#include "eventdelivery_p.h"
+#include "tracing_p.h"
 
 QT_WARNING_DISABLE_DEPRECATED
 

@@ -12,20 +12,20 @@ class IXMLHelper;
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED // The SAX classes: Qt keeps them, with a warning.
 
-    /// Turns the callbacks of Qt's SAX parser into the library's events and pairs every start tag with the element of a
-    /// DOM document that holds the same content.
-    ///
-    /// XMLReader makes the handler, gives it to its parser and keeps it for all its parses. The parser calls the five
-    /// SAX operations below; the handler moves a cursor through the DOM in step with them and delivers one event each
-    /// to the observer. The observer and the document belong to others and must outlive the handler.
-    ///
-    /// The walk is a simple one: it descends only into elements whose first child is no text, CDATA section or comment,
-    /// and it climbs only when an end tag differs from the start tag before it. Text before a child and nested elements
-    /// of equal name therefore lead it astray; receivers know these limits.
-    ///
-    /// Without a document an element is announced by the first character data after its start tag, with that text and a
-    /// null node. A handler made with a null observer traces it and must not be used.
-    class XmlContentHandler : public QXmlDefaultHandler
+/// Turns the callbacks of Qt's SAX parser into the library's events and pairs every start tag with the element of a
+/// DOM document that holds the same content.
+///
+/// XMLReader makes the handler, gives it to its parser and keeps it for all its parses. The parser calls the five
+/// SAX operations below; the handler moves a cursor through the DOM in step with them and delivers one event each
+/// to the observer. The observer and the document belong to others and must outlive the handler.
+///
+/// The walk is a simple one: it descends only into elements whose first child is no text, CDATA section or comment,
+/// and it climbs only when an end tag differs from the start tag before it. Text before a child and nested elements
+/// of equal name therefore lead it astray; receivers know these limits.
+///
+/// Without a document an element is announced by the first character data after its start tag, with that text and a
+/// null node. A handler made with a null observer traces it and must not be used.
+class XmlContentHandler : public QXmlDefaultHandler
 {
 public:
     /// @param pCallback  the observer, not owned

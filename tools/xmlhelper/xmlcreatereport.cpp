@@ -10,23 +10,23 @@
 #include <QXmlSimpleReader>
 
 #include "commentdialogimpl.h"
-#include "constants.h"
-#include "documentfile.h"
-#include "domattributes.h"
-#include "domextent.h"
-#include "domorder.h"
+#include "constants_p.h"
+#include "documentfile_p.h"
+#include "domattributes_p.h"
+#include "domextent_p.h"
+#include "domorder_p.h"
 #include "domparser.h"
 #include "errorevent.h"
-#include "eventdelivery.h"
+#include "eventdelivery_p.h"
 #include "limits_p.h"
-#include "numberconversion.h"
-#include "rangecheck.h"
+#include "numberconversion_p.h"
+#include "rangecheck_p.h"
 #include "takeapart_p.h"
-#include "tracing.h"
+#include "tracing_p.h"
 #include "xmlcontenthandler.h"
 #include "xmlreader.h"
 #include "xmlschemahandler.h"
-#include "xmltext.h"
+#include "xmltext_p.h"
 
 QT_WARNING_DISABLE_DEPRECATED
 

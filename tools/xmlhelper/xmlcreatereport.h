@@ -23,36 +23,36 @@ class XmlSchemaHandler;
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED // QXmlSimpleReader: Qt keeps the SAX classes, with a warning.
 
-    /// Builds a report document from an XSD schema (W3C XML Schema), filled by an observer under the schema's rules.
-    ///
-    /// CreateXmlFromSchema() does the whole job in one call. It reads the schema into a skeleton document that holds
-    /// every element the schema declares, and announces these elements one by one to the observer with an
-    /// ElemBeginEvent. The observer answers from inside IXMLHelper::XmlUpdate() with the operations below, which all
-    /// act on the element just announced. Refusals arrive at once as ErrorEvent, while the refused call is still on the
-    /// stack; the observer may answer them with another call, which may be refused again. So that answers come to an
-    /// end, errors are sent while no more than 100 are nested in each other, and a million within an outermost one;
-    /// what is cut off is traced. Elements that stay unfilled are removed when the schema allows them to be missing. In
-    /// the end the document is written to the report file, or handed to a comment dialog that writes it later.
-    ///
-    /// A builder makes one document. The operations stay callable afterwards and then act on the element announced
-    /// last; before, they act as with no current element.
-    ///
-    /// Every report that is written can be read back, as far as the observer does not edit the document by itself: of
-    /// texts the characters that W3C XML cannot carry (control characters, halves of surrogate pairs, U+FFFE, U+FFFF)
-    /// are dropped before they are checked, with a trace. The observer may edit the document through the nodes it is
-    /// given, and keep these, but must not give the document other content (QDomDocument::setContent()): Qt would free
-    /// nodes that are in use.
-    ///
-    /// The observer is not owned and must outlive the builder's use of it, the end of CreateXmlFromSchema(). The
-    /// builder owns the document and the comment dialogs, and must not be destroyed while CreateXmlFromSchema() runs.
-    /// Everything runs on the caller's thread, which must be the GUI thread when the comment dialog is used.
-    ///
-    /// A builder made with a null observer traces "XmlCreateReport: pCallback is NULL!"; it refuses
-    /// CreateXmlFromSchema(), and its other operations do nothing.
-    ///
-    /// Copies are shallow: a copy shares the document, the dialogs and the duty to delete them with its source. Of a
-    /// builder and its copies exactly one may be destroyed.
-    class XMLHELPER_EXPORT XmlCreateReport
+/// Builds a report document from an XSD schema (W3C XML Schema), filled by an observer under the schema's rules.
+///
+/// CreateXmlFromSchema() does the whole job in one call. It reads the schema into a skeleton document that holds
+/// every element the schema declares, and announces these elements one by one to the observer with an
+/// ElemBeginEvent. The observer answers from inside IXMLHelper::XmlUpdate() with the operations below, which all
+/// act on the element just announced. Refusals arrive at once as ErrorEvent, while the refused call is still on the
+/// stack; the observer may answer them with another call, which may be refused again. So that answers come to an
+/// end, errors are sent while no more than 100 are nested in each other, and a million within an outermost one;
+/// what is cut off is traced. Elements that stay unfilled are removed when the schema allows them to be missing. In
+/// the end the document is written to the report file, or handed to a comment dialog that writes it later.
+///
+/// A builder makes one document. The operations stay callable afterwards and then act on the element announced
+/// last; before, they act as with no current element.
+///
+/// Every report that is written can be read back, as far as the observer does not edit the document by itself: of
+/// texts the characters that W3C XML cannot carry (control characters, halves of surrogate pairs, U+FFFE, U+FFFF)
+/// are dropped before they are checked, with a trace. The observer may edit the document through the nodes it is
+/// given, and keep these, but must not give the document other content (QDomDocument::setContent()): Qt would free
+/// nodes that are in use.
+///
+/// The observer is not owned and must outlive the builder's use of it, the end of CreateXmlFromSchema(). The
+/// builder owns the document and the comment dialogs, and must not be destroyed while CreateXmlFromSchema() runs.
+/// Everything runs on the caller's thread, which must be the GUI thread when the comment dialog is used.
+///
+/// A builder made with a null observer traces "XmlCreateReport: pCallback is NULL!"; it refuses
+/// CreateXmlFromSchema(), and its other operations do nothing.
+///
+/// Copies are shallow: a copy shares the document, the dialogs and the duty to delete them with its source. Of a
+/// builder and its copies exactly one may be destroyed.
+class XMLHELPER_EXPORT XmlCreateReport
 {
 public:
     /// @param pCallback  receives every event; not owned

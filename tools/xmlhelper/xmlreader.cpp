@@ -8,14 +8,14 @@
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
-#include "contentfile.h"
-#include "domextent.h"
-#include "elementsearch.h"
-#include "guardedsource.h"
+#include "contentfile_p.h"
+#include "domextent_p.h"
+#include "elementsearch_p.h"
+#include "guardedsource_p.h"
 #include "limits_p.h"
-#include "nestingguard.h"
-#include "tagscanner.h"
-#include "tracing.h"
+#include "nestingguard_p.h"
+#include "tagscanner_p.h"
+#include "tracing_p.h"
 #include "xmlcontenthandler.h"
 #include "xmlserialiser_p.h"
 

@@ -28,34 +28,34 @@ struct ReaderRun;
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED // QXmlSimpleReader: Qt keeps the SAX classes, with a warning.
 
-    /// Reads XML: delivers its structure to an observer as events, and finds elements in it by name.
-    ///
-    /// Give the reader content in one of five forms with SetXmlContent(), then call ParseXml() any number of times: the
-    /// observer receives DocBeginEvent, ElemBeginEvent and ElemEndEvent for the elements in document order, and
-    /// DocEndEvent. Begin events carry the element of the content's DOM for the file and document forms, and a null
-    /// node for fragments and nodes, unless the node is itself a document. Their text is empty: it is read from the
-    /// node. During and after a parse GetElement() and SearchBelowCurrentElement() search the content.
-    ///
-    /// The nodes in the events, and the current element of the searches, come from the content that was set first: the
-    /// reader stays bound to that document when other content is set later. Use a reader for each content, or call
-    /// ReleaseContent() between them.
-    ///
-    /// Nodes may be kept: whatever content a reader has been given stays when it is replaced and when the reader is
-    /// gone, because Qt's nodes do not keep their document. The memory comes back by ReleaseContent() only, which a
-    /// program that reads without end calls whenever it needs no node of the content any more.
-    ///
-    /// Everything runs on the caller's thread; events arrive while ParseXml() is on the stack. From within such an
-    /// event the searches may be used. Content that is set there is taken, and becomes the content when the parse has
-    /// returned, by an exception too; until then the searches see the content that is being parsed. ParseXml() is
-    /// refused there (false) with a trace. The reader must not be destroyed there.
-    ///
-    /// A reader made with a null observer traces "XMLReader: pCallback is NULL!" and is unusable: ParseXml() gives
-    /// false.
-    ///
-    /// Copies are shallow: a copy shares handler, parser and content with its source until either is given other
-    /// content. Each of them may be used, be given content and be destroyed, whatever becomes of the other; only while
-    /// one of them parses, the others that share its handler cannot parse.
-    class XMLHELPER_EXPORT XMLReader
+/// Reads XML: delivers its structure to an observer as events, and finds elements in it by name.
+///
+/// Give the reader content in one of five forms with SetXmlContent(), then call ParseXml() any number of times: the
+/// observer receives DocBeginEvent, ElemBeginEvent and ElemEndEvent for the elements in document order, and
+/// DocEndEvent. Begin events carry the element of the content's DOM for the file and document forms, and a null
+/// node for fragments and nodes, unless the node is itself a document. Their text is empty: it is read from the
+/// node. During and after a parse GetElement() and SearchBelowCurrentElement() search the content.
+///
+/// The nodes in the events, and the current element of the searches, come from the content that was set first: the
+/// reader stays bound to that document when other content is set later. Use a reader for each content, or call
+/// ReleaseContent() between them.
+///
+/// Nodes may be kept: whatever content a reader has been given stays when it is replaced and when the reader is
+/// gone, because Qt's nodes do not keep their document. The memory comes back by ReleaseContent() only, which a
+/// program that reads without end calls whenever it needs no node of the content any more.
+///
+/// Everything runs on the caller's thread; events arrive while ParseXml() is on the stack. From within such an
+/// event the searches may be used. Content that is set there is taken, and becomes the content when the parse has
+/// returned, by an exception too; until then the searches see the content that is being parsed. ParseXml() is
+/// refused there (false) with a trace. The reader must not be destroyed there.
+///
+/// A reader made with a null observer traces "XMLReader: pCallback is NULL!" and is unusable: ParseXml() gives
+/// false.
+///
+/// Copies are shallow: a copy shares handler, parser and content with its source until either is given other
+/// content. Each of them may be used, be given content and be destroyed, whatever becomes of the other; only while
+/// one of them parses, the others that share its handler cannot parse.
+class XMLHELPER_EXPORT XMLReader
 {
 public:
     /// @param pCallback  the observer; not owned, must outlive the reader

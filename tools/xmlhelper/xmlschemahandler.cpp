@@ -12,15 +12,15 @@
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
-#include "constants.h"
-#include "contentfile.h"
-#include "documentfile.h"
-#include "domattributes.h"
-#include "domextent.h"
-#include "domorder.h"
-#include "guardedsource.h"
-#include "tracing.h"
-#include "xmltext.h"
+#include "constants_p.h"
+#include "contentfile_p.h"
+#include "documentfile_p.h"
+#include "domattributes_p.h"
+#include "domextent_p.h"
+#include "domorder_p.h"
+#include "guardedsource_p.h"
+#include "tracing_p.h"
+#include "xmltext_p.h"
 
 QT_WARNING_DISABLE_DEPRECATED
 
@@ -886,8 +886,9 @@ void XmlSchemaHandler::reviveExpandedDefinitions()
 }
 
 /// Lays out the names that are referred to in the order of passes over them, looking at each only once it is usable.
-/// What becomes usable under way belongs to the same pass when its name is still to come, else to the next one. Gives false when the first
-/// pass comes to a name that has no definition, and when definitions are left that wait for each other.
+/// What becomes usable under way belongs to the same pass when its name is still to come, else to the next one. Gives
+/// false when the first pass comes to a name that has no definition, and when definitions are left that wait for each
+/// other.
 bool XmlSchemaHandler::resolveReferences()
 {
     ReferredNames& names = m_pReading->names;

@@ -19,33 +19,33 @@ struct SchemaReading;
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED // The SAX classes: Qt keeps them, with a warning.
 
-    /// Reads an XSD file (W3C XML Schema, a fixed small part of it) and leaves behind the skeleton document, which
-    /// holds every element that the schema declares with its type and constraints as attributes, and the schema model
-    /// of four maps.
-    ///
-    /// The report builder makes one handler for the schema, sets it as content and error handler of a SAX parser,
-    /// parses the file once, takes the maps with HandOver() and works on the document of GetDocument(). Files named by
-    /// xs:include are read when their tag is met, each by a handler of its own that begins with these maps and hands
-    /// them back.
-    ///
-    /// Understood are the qualified names xs:include, xs:complexType, xs:simpleType, xs:element, xs:attribute,
-    /// xs:restriction with its range and enumeration facets, xs:extension and xs:choice, recognised by the literal
-    /// prefix; every other tag is passed over and its children are read as if they stood in its place. Attributes are
-    /// mostly addressed by position: what counts is the first one.
-    ///
-    /// The content is built in fragments, one for each named type and global declaration. References to definitions
-    /// that are not usable yet are recorded and laid out at the end of the document; then the skeleton becomes a clone
-    /// of the fragment of the global declaration that nothing has used, the one with the greatest name when there are
-    /// several.
-    ///
-    /// The parse fails at the end of the document when a definition never comes, and early when one of the limits in
-    /// limits_p.h is exceeded or a local declaration has a name that W3C XML does not allow; all of it is traced. A
-    /// global declaration of such a name is left out, and characters that XML cannot carry are dropped from what the
-    /// schema says, with a trace too. No event is ever sent.
-    ///
-    /// The handler owns the document, the fragments and the elements that the maps point to. Maps that were handed over
-    /// dangle once it is destroyed. A handler made with a null observer traces it and must not be used.
-    class XmlSchemaHandler : public QXmlDefaultHandler
+/// Reads an XSD file (W3C XML Schema, a fixed small part of it) and leaves behind the skeleton document, which
+/// holds every element that the schema declares with its type and constraints as attributes, and the schema model
+/// of four maps.
+///
+/// The report builder makes one handler for the schema, sets it as content and error handler of a SAX parser,
+/// parses the file once, takes the maps with HandOver() and works on the document of GetDocument(). Files named by
+/// xs:include are read when their tag is met, each by a handler of its own that begins with these maps and hands
+/// them back.
+///
+/// Understood are the qualified names xs:include, xs:complexType, xs:simpleType, xs:element, xs:attribute,
+/// xs:restriction with its range and enumeration facets, xs:extension and xs:choice, recognised by the literal
+/// prefix; every other tag is passed over and its children are read as if they stood in its place. Attributes are
+/// mostly addressed by position: what counts is the first one.
+///
+/// The content is built in fragments, one for each named type and global declaration. References to definitions
+/// that are not usable yet are recorded and laid out at the end of the document; then the skeleton becomes a clone
+/// of the fragment of the global declaration that nothing has used, the one with the greatest name when there are
+/// several.
+///
+/// The parse fails at the end of the document when a definition never comes, and early when one of the limits in
+/// limits_p.h is exceeded or a local declaration has a name that W3C XML does not allow; all of it is traced. A
+/// global declaration of such a name is left out, and characters that XML cannot carry are dropped from what the
+/// schema says, with a trace too. No event is ever sent.
+///
+/// The handler owns the document, the fragments and the elements that the maps point to. Maps that were handed over
+/// dangle once it is destroyed. A handler made with a null observer traces it and must not be used.
+class XmlSchemaHandler : public QXmlDefaultHandler
 {
 public:
     /// @param pCallback   the observer; checked and handed on, never called, not owned

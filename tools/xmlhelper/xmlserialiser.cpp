@@ -13,9 +13,9 @@
 #include <QTextCodec>
 #endif
 
-#include "domattributes.h"
+#include "domattributes_p.h"
 #include "limits_p.h"
-#include "tracing.h"
+#include "tracing_p.h"
 
 namespace {
 

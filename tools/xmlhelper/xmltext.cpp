@@ -1,8 +1,8 @@
-#include "xmltext.h"
+#include "xmltext_p.h"
 
 #include <algorithm>
 
-#include "tracing.h"
+#include "tracing_p.h"
 
 namespace {
 

@@ -8,11 +8,11 @@
 #include <valueframework/valuebase.h>
 #include <valueframework/valueitem.h>
 
-#include "documentfile.h"
-#include "domextent.h"
+#include "documentfile_p.h"
+#include "domextent_p.h"
 #include "limits_p.h"
-#include "tracing.h"
-#include "xmltext.h"
+#include "tracing_p.h"
+#include "xmltext_p.h"
 
 XMLWriter::XMLWriter()
     : m_pFile(nullptr)

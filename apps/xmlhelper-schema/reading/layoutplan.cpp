@@ -7,10 +7,10 @@
 #include <QFileInfo>
 #include <QHash>
 
-#include <xmlhelper/constants.h>
-#include <xmlhelper/documentfile.h>
+#include <xmlhelper/constants_p.h>
+#include <xmlhelper/documentfile_p.h>
 #include <xmlhelper/limits_p.h>
-#include <xmlhelper/xmltext.h>
+#include <xmlhelper/xmltext_p.h>
 
 #include "doctorlimits.h"
 

@@ -3,7 +3,7 @@
 #include <QXmlParseException>
 #include <QXmlSimpleReader>
 
-#include <xmlhelper/documentfile.h>
+#include <xmlhelper/documentfile_p.h>
 #include <xmlhelper/ixmlhelper.h>
 #include <xmlhelper/xmlschemahandler.h>
 

@@ -8,7 +8,7 @@
 #include <QHash>
 #include <QSet>
 
-#include <xmlhelper/constants.h>
+#include <xmlhelper/constants_p.h>
 
 namespace schemadoctor {
 

@@ -1,4 +1,4 @@
-#include <xmlhelper/constants.h>
+#include <xmlhelper/constants_p.h>
 
 #include "bounds.h"
 #include "rule.h"

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include <xmlhelper/constants.h>
+#include <xmlhelper/constants_p.h>
 
 #include "reading/doctorlimits.h"
 

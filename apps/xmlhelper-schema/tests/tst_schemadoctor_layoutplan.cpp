@@ -2,7 +2,7 @@
 #include <QDomElement>
 #include <QTest>
 
-#include <xmlhelper/domextent.h>
+#include <xmlhelper/domextent_p.h>
 
 #include "reading/layoutplan.h"
 #include "reading/libraryreading.h"

@@ -13,7 +13,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <xmlhelper/documentfile.h>
+#include <xmlhelper/documentfile_p.h>
 #include <xmlhelper/limits_p.h>
 #include <xmlhelper/xmlcreatereport.h>
 #include <xmlhelper/xmlreader.h>

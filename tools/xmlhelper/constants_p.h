@@ -1,5 +1,5 @@
-#ifndef XMLHELPER_CONSTANTS_H
-#define XMLHELPER_CONSTANTS_H
+#ifndef XMLHELPER_CONSTANTS_P_H
+#define XMLHELPER_CONSTANTS_P_H
 
 #include <QLatin1String>
 #include <QString>

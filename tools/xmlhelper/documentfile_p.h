@@ -1,5 +1,5 @@
-#ifndef XMLHELPER_DOCUMENTFILE_H
-#define XMLHELPER_DOCUMENTFILE_H
+#ifndef XMLHELPER_DOCUMENTFILE_P_H
+#define XMLHELPER_DOCUMENTFILE_P_H
 
 #include <QDomDocument>
 #include <QString>

@@ -1,5 +1,5 @@
-#ifndef XMLHELPER_EVENTDELIVERY_H
-#define XMLHELPER_EVENTDELIVERY_H
+#ifndef XMLHELPER_EVENTDELIVERY_P_H
+#define XMLHELPER_EVENTDELIVERY_P_H
 
 #include <memory>
 #include <utility>

@@ -1,5 +1,5 @@
-#ifndef XMLHELPER_REPORTITEMS_H
-#define XMLHELPER_REPORTITEMS_H
+#ifndef XMLHELPER_REPORTITEMS_P_H
+#define XMLHELPER_REPORTITEMS_P_H
 
 #include <list>
 #include <map>
@@ -9,7 +9,7 @@
 #include <QHash>
 #include <QString>
 
-#include "constants.h"
+#include "constants_p.h"
 #include "reportdata.h"
 
 /// The items of a report button, in the order in which they were added and found by name without a scan.

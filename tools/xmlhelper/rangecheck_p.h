@@ -1,12 +1,12 @@
-#ifndef XMLHELPER_RANGECHECK_H
-#define XMLHELPER_RANGECHECK_H
+#ifndef XMLHELPER_RANGECHECK_P_H
+#define XMLHELPER_RANGECHECK_P_H
 
 #include <initializer_list>
 #include <vector>
 
 #include <QLatin1String>
 
-#include "constants.h"
+#include "constants_p.h"
 
 /// What the range check answers: whether the value is accepted, and which facets have been used up then, in the order
 /// in which they are to be removed.

@@ -1,5 +1,5 @@
-#ifndef XMLHELPER_XMLTEXT_H
-#define XMLHELPER_XMLTEXT_H
+#ifndef XMLHELPER_XMLTEXT_P_H
+#define XMLHELPER_XMLTEXT_P_H
 
 #include <QString>
 

@@ -1,14 +1,14 @@
-#ifndef XMLHELPER_NESTINGGUARD_H
-#define XMLHELPER_NESTINGGUARD_H
+#ifndef XMLHELPER_NESTINGGUARD_P_H
+#define XMLHELPER_NESTINGGUARD_P_H
 
 #include <QXmlDefaultHandler>
 
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED // The SAX classes: Qt keeps them, with a warning.
 
-    /// Stands between the SAX parser and a content handler and fails the parse when elements are nested too deep,
-    /// because Qt recurses over the levels of such content until the stack is gone.
-    class NestingGuard : public QXmlDefaultHandler
+/// Stands between the SAX parser and a content handler and fails the parse when elements are nested too deep,
+/// because Qt recurses over the levels of such content until the stack is gone.
+class NestingGuard : public QXmlDefaultHandler
 {
 public:
     /// @param handler  receives everything within the limit; not owned

@@ -1,5 +1,5 @@
-#ifndef XMLHELPER_OWNERINDEX_H
-#define XMLHELPER_OWNERINDEX_H
+#ifndef XMLHELPER_OWNERINDEX_P_H
+#define XMLHELPER_OWNERINDEX_P_H
 
 #include <vector>
 
@@ -9,7 +9,7 @@
 #include <QSet>
 #include <QString>
 
-#include "treechangedetector.h"
+#include "treechangedetector_p.h"
 
 /// Knows of the elements above the place where a walk stands which are the first of their name in the document, as
 /// ElementSearch::FirstMatch() would find it from the root, without a search for every question.

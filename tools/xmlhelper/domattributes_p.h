@@ -1,5 +1,5 @@
-#ifndef XMLHELPER_DOMATTRIBUTES_H
-#define XMLHELPER_DOMATTRIBUTES_H
+#ifndef XMLHELPER_DOMATTRIBUTES_P_H
+#define XMLHELPER_DOMATTRIBUTES_P_H
 
 #include <QDomAttr>
 #include <QVarLengthArray>

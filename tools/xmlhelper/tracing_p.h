@@ -1,5 +1,5 @@
-#ifndef XMLHELPER_TRACING_H
-#define XMLHELPER_TRACING_H
+#ifndef XMLHELPER_TRACING_P_H
+#define XMLHELPER_TRACING_P_H
 
 #include <QString>
 

@@ -1,5 +1,5 @@
-#ifndef XMLHELPER_GUARDEDSOURCE_H
-#define XMLHELPER_GUARDEDSOURCE_H
+#ifndef XMLHELPER_GUARDEDSOURCE_P_H
+#define XMLHELPER_GUARDEDSOURCE_P_H
 
 #include <map>
 #include <set>
@@ -13,8 +13,8 @@ class QXmlSimpleReader;
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED // The SAX classes: Qt keeps them, with a warning.
 
-    /// Finds the references to entities in a text that comes character by character.
-    class ReferenceFinder
+/// Finds the references to entities in a text that comes character by character.
+class ReferenceFinder
 {
 public:
     /// Whether @p c is the last character of a reference.
