@@ -1,13 +1,13 @@
 #include "documentfile_p.h"
 
 #include <mutex>
+#include <string>
 
 #include <QDateTime>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
-#include <QScopeGuard>
 #include <QSet>
 #include <QTextStream>
 #ifdef Q_OS_UNIX
@@ -53,6 +53,39 @@ public:
 private:
     qint64 readData(char*, qint64) override { return -1; }
     qint64 writeData(const char*, qint64 size) override { return size; }
+};
+
+/// Removes the file of a name when it goes. That takes no memory, the lack of which may be why nothing was saved.
+class Remover
+{
+public:
+#ifdef Q_OS_UNIX
+    explicit Remover(const QString& fileName)
+        : m_name(QFile::encodeName(fileName))
+    {
+    }
+    ~Remover()
+    {
+        ::unlink(m_name.constData());
+    }
+#else
+    explicit Remover(const QString& fileName)
+        : m_name(fileName.toStdWString())
+    {
+    }
+    ~Remover()
+    {
+        DeleteFileW(m_name.c_str());
+    }
+#endif
+
+private:
+    Q_DISABLE_COPY(Remover)
+#ifdef Q_OS_UNIX
+    const QByteArray m_name;
+#else
+    const std::wstring m_name;
+#endif
 };
 
 bool write(const QDomDocument& document, QIODevice& device)
@@ -222,17 +255,17 @@ bool saveDocument(const QDomDocument& document, const QString& fileName)
         return saveInPlace(document, name);
     }
     removeStrays(target.absolutePath());
-    QFile file(temporaryNameBeside(target));
+    const QString temporaryName = temporaryNameBeside(target);
+    const Remover remover(temporaryName); // behind the closing; renamed, the file is there no more
+    QFile file(temporaryName);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
         return IsTriedInPlace && saveInPlace(document, name);
     }
     if (!takeAccess(file, target)) {
-        file.remove();
         return saveInPlace(document, name);
     }
-    const auto removeTemporary = qScopeGuard([&file] { file.remove(); }); // renamed, it is there no more
     const bool isWritten = writeAndClose(document, file, name);
-    if (isWritten && replace(target.filePath(), file.fileName())) {
+    if (isWritten && replace(target.filePath(), temporaryName)) {
         return true;
     }
     return isWritten && IsTriedInPlace && saveInPlace(document, name);

@@ -10,6 +10,7 @@
 #include <new>
 
 #include <QApplication>
+#include <QDirIterator>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -29,7 +30,7 @@ Q_DECLARE_METATYPE(Fault)
 
 /// Every flow with each of its writes, opens and allocations failing in turn. The process lives; for an allocation it
 /// may end, by std::bad_alloc or inside Qt, which is not made for that. What was written can be read and
-/// is complete, or the caller has been told; the next run succeeds.
+/// is complete, or the caller has been told; nothing else is left; the next run succeeds.
 ///
 /// The flows run in a process of their own, so that an end of that is seen and gone on behind.
 class TestRobustnessFaults : public QObject
@@ -126,6 +127,18 @@ QString fileOf(const Flow& flow, const QString& folder)
     return folder + QLatin1Char('/') + flow.writtenFile;
 }
 
+/// What is being saved in the folder or those in it, or was when a process ended.
+QStringList temporaryFiles(const QString& folder)
+{
+    QStringList files;
+    QDirIterator entries(folder, {QStringLiteral(".xmlhelper-*.part")}, QDir::Files | QDir::Hidden,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        files += entries.next();
+    }
+    return files;
+}
+
 /// What comes of a flow: its result, and the file that it writes.
 struct Outcome
 {
@@ -174,6 +187,9 @@ public:
             if (!faulty.file.isEmpty() && faulty.file != m_expected.file
                 && faulty.result.startsWith(QLatin1String("succeeded"))) {
                 endWith(QStringLiteral("leaves a file that looks like a whole one:\n") + faulty.file);
+            }
+            if (!temporaryFiles(m_folder).isEmpty()) {
+                endWith(QStringLiteral("leaves a temporary file"));
             }
             const Outcome next = outcomeOf(m_flow, m_folder);
             if (next.result != m_expected.result) {
@@ -230,6 +246,9 @@ void prepareToEnd(const Flow& flow)
 /// Runs the flow in a child process and gives how that has ended.
 int statusOfRuns(const Flow& flow, Fault fault, const QString& folder, const Outcome& expected, Report& report)
 {
+    for (const QString& file : temporaryFiles(folder)) {
+        QFile::remove(file); // The process before has ended over it.
+    }
     const pid_t child = fork();
     if (child == 0) {
         prepareToEnd(flow);
