@@ -19,6 +19,8 @@
 #include "tracecollector.h"
 
 #ifdef Q_OS_UNIX
+#include <climits>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -59,6 +61,8 @@ private Q_SLOTS:
     void followsNoRingOfLinks();
     void leavesAnotherNameOfTheFileItsContent();
     void savesUnderALongName();
+    void savesUnderALongPath();
+    void savesToADevice();
     void writesInPlaceWhereNoFileCanBeMade();
     void writesNoDocumentThatIsTooLong_data();
     void writesNoDocumentThatIsTooLong();
@@ -426,6 +430,38 @@ void TestDocumentFile::savesUnderALongName()
 #else
     QSKIP("Names are limited together with their folders here.");
 #endif
+}
+
+/// One beside which no temporary name has room.
+void TestDocumentFile::savesUnderALongPath()
+{
+#ifdef Q_OS_UNIX
+    constexpr int LongestPath = PATH_MAX - 1;
+    QString folder = m_folder->path();
+    while (folder.size() < LongestPath - 202) {
+        folder += QLatin1Char('/') + QString(200, QLatin1Char('d'));
+    }
+    folder += QLatin1Char('/') + QString(LongestPath - folder.size() - 3, QLatin1Char('d'));
+    QVERIFY(QDir().mkpath(folder));
+    for (int save = 0; save < 2; ++save) {
+        QVERIFY(saveDocument(documentOf(QStringLiteral("<r/>")), folder + QStringLiteral("/r")));
+        QCOMPARE(bytesOf(folder + QStringLiteral("/r")), QByteArray("<r/>\n"));
+    }
+#else
+    QSKIP("Paths are made longer than that here.");
+#endif
+}
+
+void TestDocumentFile::savesToADevice()
+{
+    const QString device = QStringLiteral("/dev/null");
+    if (!QFile::exists(device)) {
+        QSKIP("There is no device here that takes everything.");
+    }
+    QVERIFY(QFile::link(device, path("device.xml")));
+    QVERIFY(saveDocument(documentOf(QStringLiteral("<r/>")), path("device.xml")));
+    QVERIFY(QFileInfo(path("device.xml")).isSymLink());
+    QVERIFY(!QFileInfo(device).isFile());
 }
 
 void TestDocumentFile::writesInPlaceWhereNoFileCanBeMade()

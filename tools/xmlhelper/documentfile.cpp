@@ -1,5 +1,6 @@
 #include "documentfile_p.h"
 
+#include <climits>
 #include <mutex>
 #include <string>
 
@@ -40,8 +41,10 @@ const QLatin1String TemporarySuffix(".part");
 /// whether it takes new files, nor a file whether somebody reads it, who keeps it from being replaced.
 #ifdef Q_OS_WIN
 constexpr bool IsTriedInPlace = true;
+constexpr int MaxPath = INT_MAX;
 #else
 constexpr bool IsTriedInPlace = false;
+constexpr int MaxPath = PATH_MAX;
 #endif
 
 /// Takes everything, to tell its size.
@@ -251,11 +254,11 @@ bool saveDocument(const QDomDocument& document, const QString& fileName)
 {
     const QString name = openableFileName(fileName);
     const QFileInfo target = targetOf(name);
-    if (!isReplaceable(target)) {
+    const QString temporaryName = temporaryNameBeside(target);
+    if (!isReplaceable(target) || QFile::encodeName(temporaryName).size() >= MaxPath) {
         return saveInPlace(document, name);
     }
     removeStrays(target.absolutePath());
-    const QString temporaryName = temporaryNameBeside(target);
     const Remover remover(temporaryName); // behind the closing; renamed, the file is there no more
     QFile file(temporaryName);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {

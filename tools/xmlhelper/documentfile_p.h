@@ -20,8 +20,9 @@ QString openableFileName(const QString& fileName);
 /// temporary file is left only by a process that is killed; the first save into a folder removes those of more than a
 /// day ago.
 ///
-/// A device, a pipe, and a file in a folder that takes no new ones or whose owner cannot be kept, are written in place.
-/// A file there of which only a part could be written is removed or, behind a link, emptied.
+/// A device, a pipe, and a file in a folder that takes no new ones, beside which no temporary name has room or whose
+/// owner cannot be kept, are written in place. A file there of which only a part could be written is removed or, behind
+/// a link, emptied.
 ///
 /// A document that would take more than limits().savedBytes is not written, which is traced.
 bool saveDocument(const QDomDocument& document, const QString& fileName);

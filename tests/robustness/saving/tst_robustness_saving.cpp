@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 
 #include <poll.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -34,6 +35,8 @@ private Q_SLOTS:
     void keepsTheOldFileWhenACallFails();
     void leavesNoFileWhenACallFails_data();
     void leavesNoFileWhenACallFails();
+    void writesInPlaceWhatCannotBeReplaced_data();
+    void writesInPlaceWhatCannotBeReplaced();
     void keepsAWholeFileWhenTheProcessIsKilled();
     void neverMixesTheFilesOfTwoProcesses();
     void endsWithoutAFileWhenTheReportIsTooLong();
@@ -78,6 +81,13 @@ QByteArray bytesOf(const QString& fileName)
 {
     QFile file(fileName);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
+}
+
+/// What tells a file from one that has taken its place.
+ino_t fileNumber(const QByteArray& name)
+{
+    struct stat status = {};
+    return ::stat(name.constData(), &status) == 0 ? status.st_ino : 0;
 }
 
 /// What a file is saved to.
@@ -152,6 +162,48 @@ void TestRobustnessSaving::leavesNoFileWhenACallFails()
     }
     QVERIFY(FailingCall::HasFailed());
     QCOMPARE(entries(), QStringList(QStringLiteral("other.xml")));
+}
+
+void TestRobustnessSaving::writesInPlaceWhatCannotBeReplaced_data()
+{
+    QTest::addColumn<int>("folderMode");
+    QTest::addColumn<bool>("isOwnFile");
+    QTest::addColumn<bool>("isWrittenInPlace");
+    QTest::newRow("folder-takes-no-new-files") << 0555 << true << true;
+    QTest::newRow("owner-cannot-be-kept") << 0755 << false << true;
+    QTest::newRow("neither-of-the-two") << 0755 << true << false;
+}
+
+/// In a process of a user who may not do everything.
+void TestRobustnessSaving::writesInPlaceWhatCannotBeReplaced()
+{
+    QFETCH(int, folderMode);
+    QFETCH(bool, isOwnFile);
+    QFETCH(bool, isWrittenInPlace);
+    constexpr uid_t Nobody = 65534;
+    if (geteuid() != 0) {
+        QSKIP("Only the superuser can become another.");
+    }
+    const QByteArray folder = QFile::encodeName(m_pFolder->path());
+    const QByteArray name = QFile::encodeName(pathOf(QStringLiteral("report.xml")));
+    const QDomDocument document = documentOf(QStringLiteral("<r/>"));
+    QVERIFY(saveDocument(documentOf(QStringLiteral("<earlier-and-longer/>")), QFile::decodeName(name)));
+    QCOMPARE(::chmod(name.constData(), 0666), 0);
+    QCOMPARE(::chown(name.constData(), isOwnFile ? Nobody : 0, isOwnFile ? Nobody : 0), 0);
+    QCOMPARE(::chown(folder.constData(), Nobody, Nobody), 0);
+    QCOMPARE(::chmod(folder.constData(), mode_t(folderMode)), 0);
+    const ino_t before = fileNumber(name);
+
+    const pid_t process = start([&] {
+        const bool isNobody = ::setgid(Nobody) == 0 && ::setuid(Nobody) == 0;
+        _exit(isNobody && saveDocument(document, QFile::decodeName(name)) ? 0 : 1);
+    });
+    int status = -1;
+    QCOMPARE(waitpid(process, &status, 0), process);
+    QCOMPARE(status, 0);
+    QCOMPARE(bytesOf(QFile::decodeName(name)), savedBytes(document));
+    QCOMPARE(fileNumber(name) == before, isWrittenInPlace);
+    QCOMPARE(entries(), QStringList(QStringLiteral("report.xml")));
 }
 
 void TestRobustnessSaving::keepsAWholeFileWhenTheProcessIsKilled()
