@@ -14,6 +14,7 @@
 #include <valueframework/node.h>
 #include <valueframework/tree.h>
 #include <valueframework/valueitem.h>
+#include <valueframework/valuenumeric.h>
 #include <valueframework/valuetext.h>
 
 #include <xmlhelper/commentdialogimpl.h>
@@ -26,6 +27,10 @@ namespace {
 
 using Signal = void (VCReporting::*)();
 using Report = void (*)(VCReporting&);
+
+struct Thrown
+{
+};
 
 /// A value that does something else, once, before it tells its text.
 class ActingValue : public ValueText
@@ -129,6 +134,11 @@ private Q_SLOTS:
     void itemsTakenOutWhileAnElementIsAnsweredStillServeIt();
     void itemAddedWhileAnElementIsAnsweredIsNotConsumedForIt();
     void schemaChangedWhileAReportIsFilledServesTheNextOne();
+
+    void exceptionLeavesTheButton_data();
+    void exceptionLeavesTheButton();
+    void exceptionLeavesNothingToTheNextReport_data();
+    void exceptionLeavesNothingToTheNextReport();
 
     void nodeKeptOfAReportThatIsOverStandsAlone_data();
     void nodeKeptOfAReportThatIsOverStandsAlone();
@@ -352,6 +362,82 @@ void TestVCReportingLifetime::schemaChangedWhileAReportIsFilledServesTheNextOne(
     scene.Value().Act([&] { scene.Reporting().SetSchema(QStringLiteral("/missing/other.xsd")); });
     QCOMPARE(scene.MakeReport(), scene.CompleteBody());
     QVERIFY(!scene.Reporting().SlotToReport());
+}
+
+void TestVCReportingLifetime::exceptionLeavesTheButton_data()
+{
+    QTest::addColumn<Signal>("signal");
+    QTest::addColumn<bool>("isDeleted");
+    QTest::newRow("before-the-report") << Signal(&VCReporting::PrepareToReport) << false;
+    QTest::newRow("after-success") << Signal(&VCReporting::ReportSuccessful) << false;
+    QTest::newRow("from-a-slot-that-deletes-it") << Signal(&VCReporting::PrepareToReport) << true;
+}
+
+/// It can be pressed again, and goes with its widget.
+void TestVCReportingLifetime::exceptionLeavesTheButton()
+{
+    QFETCH(Signal, signal);
+    QFETCH(bool, isDeleted);
+    ActingScene scene;
+    const QPointer<VCReporting> reporting(&scene.Reporting());
+    const QPointer<QToolButton> button(reporting->GetReportButton());
+    const QMetaObject::Connection throwing = connect(reporting, signal, this, [&] {
+        if (isDeleted) {
+            scene.DeleteReporting();
+        }
+        throw Thrown();
+    });
+    QVERIFY_EXCEPTION_THROWN(button->click(), Thrown);
+    QCOMPARE(reporting.isNull(), isDeleted);
+    if (isDeleted) {
+        QCoreApplication::sendPostedEvents(button, QEvent::DeferredDelete);
+    } else {
+        disconnect(throwing);
+        const QSignalSpy successful(reporting, &VCReporting::ReportSuccessful);
+        button->click();
+        QCOMPARE(int(successful.count()), 1);
+        QCOMPARE(bodyText(scene.Report()), scene.CompleteBody());
+        scene.DeleteReporting();
+    }
+    QVERIFY(button.isNull());
+}
+
+void TestVCReportingLifetime::exceptionLeavesNothingToTheNextReport_data()
+{
+    QTest::addColumn<QString>("acting");
+    const QString text = QStringLiteral("string");
+    const QString attribute = declaredAttribute(QStringLiteral("Acting"), text);
+    const QString first = declaredAttribute(QStringLiteral("First"), text);
+    QTest::newRow("at-an-element") << declaredElement(QStringLiteral("Acting"), text);
+    QTest::newRow("at-a-refusal") << declaredElement(QStringLiteral("Acting"), QStringLiteral("dateTime"));
+    QTest::newRow("at-an-attribute") << declaredElement(QStringLiteral("Owner"), text, attribute);
+    QTest::newRow("behind-an-attribute") << declaredElement(QStringLiteral("Owner"), text, first + attribute);
+}
+
+/// The value acts when its text is asked for. The number in front of it is offered to an int, so that it is refused and
+/// offered again.
+void TestVCReportingLifetime::exceptionLeavesNothingToTheNextReport()
+{
+    QFETCH(QString, acting);
+    const QString level = declaredElement(QStringLiteral("Level"), QStringLiteral("int"));
+    QStringList bodies;
+    for (const bool isThrown : {false, true}) {
+        ReportingScene scene(level + acting);
+        Tree tree;
+        auto* const value = new ActingValue(QStringLiteral("Acting"), QStringLiteral("2"));
+        new ValueItem(value, tree.GetRoot());
+        new ValueItem(new ValueNumeric(QStringLiteral("Level"), 1.9), tree.GetRoot());
+        scene.AddText(QStringLiteral("First"), QStringLiteral("1"));
+        scene.Reporting().AddReportData(tree.GetRoot());
+        if (isThrown) {
+            value->Act([] { throw Thrown(); });
+            QVERIFY_EXCEPTION_THROWN(scene.Reporting().SlotToReport(), Thrown);
+            QCOMPARE(scene.ReportFiles(), QStringList());
+        }
+        bodies += scene.MakeReport();
+    }
+    QVERIFY2(bodies[0].contains(QLatin1String("<Level>\n  \"1\"\n</Level>")), qPrintable(bodies[0]));
+    QCOMPARE(bodies[1], bodies[0]);
 }
 
 void TestVCReportingLifetime::nodeKeptOfAReportThatIsOverStandsAlone_data()

@@ -1,11 +1,14 @@
 #include "vcreporting.h"
 
+#include <utility>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QPointer>
+#include <QScopeGuard>
 #include <QTimer>
 #include <QToolBar>
 
@@ -300,14 +303,15 @@ void VCReporting::press()
 {
     const QPointer<VCReporting> self(this);
     const QPointer<QToolButton> button(m_pReportButton);
-    const bool isOutermost = !m_bPressing;
-    m_bPressing = true;
+    const bool isOutermost = !std::exchange(m_bPressing, true);
+    const auto leave = qScopeGuard([&] { // An exception may be why.
+        if (self) {
+            m_bPressing = !isOutermost;
+        } else if (button && isOutermost) {
+            button->deleteLater();
+        }
+    });
     SlotToReport();
-    if (self && isOutermost) {
-        m_bPressing = false;
-    } else if (button && isOutermost) {
-        button->deleteLater();
-    }
 }
 
 QString VCReporting::newReportPath() const
