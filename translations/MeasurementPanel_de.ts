@@ -419,6 +419,14 @@
         <source>The file is there, well-formed, and keeps to its schema.</source>
         <translation>Die Datei ist da, wohlgeformt und hält sich an ihr Schema.</translation>
     </message>
+    <message>
+        <source>not in order: several roots</source>
+        <translation>nicht in Ordnung: mehrere Wurzeln</translation>
+    </message>
+    <message>
+        <source>Report %1 is not in order: its schema lays out several roots, so it is no XML document.</source>
+        <translation>Bericht %1 ist nicht in Ordnung: sein Schema legt mehrere Wurzeln an, daher ist er kein XML-Dokument.</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>

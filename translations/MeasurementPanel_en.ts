@@ -419,6 +419,14 @@
         <source>The file is there, well-formed, and keeps to its schema.</source>
         <translation>The file is there, well-formed, and keeps to its schema.</translation>
     </message>
+    <message>
+        <source>not in order: several roots</source>
+        <translation>not in order: several roots</translation>
+    </message>
+    <message>
+        <source>Report %1 is not in order: its schema lays out several roots, so it is no XML document.</source>
+        <translation>Report %1 is not in order: its schema lays out several roots, so it is no XML document.</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>

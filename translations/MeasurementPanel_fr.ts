@@ -419,6 +419,14 @@
         <source>The file is there, well-formed, and keeps to its schema.</source>
         <translation>Le fichier est là, il est bien formé et respecte son schéma.</translation>
     </message>
+    <message>
+        <source>not in order: several roots</source>
+        <translation>incorrect : plusieurs racines</translation>
+    </message>
+    <message>
+        <source>Report %1 is not in order: its schema lays out several roots, so it is no XML document.</source>
+        <translation>Le rapport %1 est incorrect : son schéma produit plusieurs racines, ce n’est donc pas un document XML.</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>

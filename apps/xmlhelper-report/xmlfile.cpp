@@ -65,6 +65,12 @@ ReadFile parserFailure(const Parser& parser, const Tally& tally)
         return unreadable(QStringLiteral("It holds no element. The schema that it was made from gave none: "
                                          "xmlhelper-schema says why."));
     }
+    if (error && error->code == XML_ERR_DOCUMENT_END) {
+        return unreadable(
+            QStringLiteral("It is not well-formed XML: something follows its root. A schema that lays out "
+                           "several roots gives such a report: xmlhelper-schema says so."),
+            error->line);
+    }
     const QString message = error ? QString::fromUtf8(error->message).trimmed() : QString();
     return unreadable(QStringLiteral("It is not well-formed XML: %1")
                           .arg(message.isEmpty() ? QStringLiteral("there is no root element") : message),

@@ -58,6 +58,15 @@ QString noTreeReasonOf(const LayoutPlan& plan)
     return QString();
 }
 
+int rootCountOf(const LibraryReading& reading)
+{
+    int count = 0;
+    for (QDomElement root = reading.GetRoot(); !root.isNull(); root = root.nextSiblingElement()) {
+        ++count;
+    }
+    return count;
+}
+
 /// Errors first; then the files in the order of reading, and the lines.
 void sortFindings(QVector<Finding>& findings, const LayoutPlan& plan)
 {
@@ -108,6 +117,7 @@ Examination examine(const QString& file)
                 + withLine(reading.GetFault(), reading.GetFaultLine());
         } else {
             examination.tree = builtTree(reading, plan);
+            examination.tree.rootCount = rootCountOf(reading);
         }
         if (examination.tree.IsEmpty()) {
             examination.noTreeReason = QStringLiteral("The library lays nothing out.");

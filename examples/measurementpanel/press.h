@@ -17,6 +17,7 @@ struct Press
         NotASchema, ///< the name of the schema does not end in ".xsd": nothing was made
         SchemaGone,
         SchemaNotUnderstood, ///< what was written, if anything, is no measurement report
+        SeveralRoots, ///< the file is there, but the schema gave it several roots, so that it is no XML document
         DirectoryGone,
         FileInPlaceOfDirectory,
         DirectoryNotWritable,

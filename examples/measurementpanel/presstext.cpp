@@ -22,6 +22,8 @@ QString PressText::Verdict(const Press& press)
         return tr("not in order: schema gone");
     case Press::State::SchemaNotUnderstood:
         return tr("not in order: schema not understood");
+    case Press::State::SeveralRoots:
+        return tr("not in order: several roots");
     case Press::State::DirectoryGone:
         return tr("not saved: directory gone");
     case Press::State::FileInPlaceOfDirectory:
@@ -57,6 +59,9 @@ QString PressText::Sentence(const Press& press)
         return tr("Report %1 is not in order: the schema could not be read, it is gone.").arg(press.number);
     case Press::State::SchemaNotUnderstood:
         return tr("Report %1 is not in order: the schema could not be read.").arg(press.number);
+    case Press::State::SeveralRoots:
+        return tr("Report %1 is not in order: its schema lays out several roots, so it is no XML document.")
+            .arg(press.number);
     case Press::State::DirectoryGone:
         return tr("Report %1 could not be written: the report directory is gone.").arg(press.number);
     case Press::State::FileInPlaceOfDirectory:
@@ -116,6 +121,7 @@ QString PressText::Advice(const Press& press)
         return tr("Bring the schema %1 back, or choose another one in the menu Settings. Then press the button again.")
             .arg(schema);
     case Press::State::SchemaNotUnderstood:
+    case Press::State::SeveralRoots:
         return sentences(press.finding,
                          tr("Have the schema %1 mended, or choose another one in the menu Settings. "
                             "Then press the button again; what this press has written is no report.")

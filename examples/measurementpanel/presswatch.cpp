@@ -104,6 +104,9 @@ void PressWatch::judgeReport(Press& press) const
     case FileVerdict::Kind::Malformed:
         findReason(press, Press::State::Malformed);
         break;
+    case FileVerdict::Kind::SeveralRoots:
+        press.state = Press::State::SeveralRoots;
+        break;
     case FileVerdict::Kind::Sound:
         press.isChecked = areReportsChecked();
         press.finding = firstFindingInReport(press.path, press.schema);

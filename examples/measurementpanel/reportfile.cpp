@@ -32,8 +32,15 @@ FileVerdict judgeFile(const QString& path)
     }
     QXmlStreamReader reader(&file);
     reader.setNamespaceProcessing(false);
+    int depth = 0;
+    bool isRootOver = false;
     while (!reader.atEnd()) {
-        reader.readNext();
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        depth += token == QXmlStreamReader::StartElement ? 1 : token == QXmlStreamReader::EndElement ? -1 : 0;
+        isRootOver = isRootOver || (token == QXmlStreamReader::EndElement && depth == 0);
+    }
+    if (reader.hasError() && isRootOver) {
+        return {FileVerdict::Kind::SeveralRoots, reader.lineNumber(), reader.columnNumber()};
     }
     if (reader.hasError()) {
         return {FileVerdict::Kind::Malformed, reader.lineNumber(), reader.columnNumber()};

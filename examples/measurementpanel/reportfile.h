@@ -6,7 +6,13 @@
 /// What is at a path where a report should be.
 struct FileVerdict
 {
-    enum class Kind { Missing, Empty, Malformed, Sound };
+    enum class Kind {
+        Missing,
+        Empty,
+        Malformed,
+        SeveralRoots, ///< something follows the root: the file was written to its end, but is no XML
+        Sound,
+    };
 
     Kind kind = Kind::Missing;
     qint64 line = 0; ///< where a malformed file stops being XML

@@ -154,12 +154,21 @@ void ReportFiller::XmlUpdate(XmlEvent* event)
 {
     if (event->GetType() == XmlEvent::EVENT_DOC_END) {
         noteRemovals();
+        complainOfRoots();
     } else if (event->GetType() == XmlEvent::EVENT_ELEM_BEGIN) {
         noteRemovals();
+        m_document = static_cast<ElemBeginEvent*>(event)->GetElementNode().ownerDocument();
         noteAnnouncement(*static_cast<ElemBeginEvent*>(event));
         answerElement(*static_cast<ElemBeginEvent*>(event));
     } else if (event->GetType() == XmlEvent::EVENT_ERROR) {
         answerError(static_cast<ErrorEvent*>(event)->GetErrorID());
+    }
+}
+
+void ReportFiller::complainOfRoots()
+{
+    if (!m_document.documentElement().nextSiblingElement().isNull()) {
+        m_complaints.append(QStringLiteral("The schema lays out several roots: the report is no XML document"));
     }
 }
 

@@ -5,6 +5,7 @@
 #include <list>
 #include <vector>
 
+#include <QDomDocument>
 #include <QDomNode>
 #include <QString>
 #include <QStringList>
@@ -56,6 +57,7 @@ private:
     void note(const QString& line) const;
     void noteAnnouncement(ElemBeginEvent& event);
     void noteRemovals();
+    void complainOfRoots();
     void answerElement(ElemBeginEvent& event);
     void answerError(ErrorID error);
     void setElement(Value& value, const QString& type);
@@ -69,6 +71,7 @@ private:
     XmlCreateReport m_builder;
     std::list<Value> m_values;
     const Value* m_pOffered = nullptr; ///< being set right now; null while the walk itself reports
+    QDomDocument m_document; ///< the report
     QString m_sElement; ///< announced last
     bool m_bElementHasType = false;
     QStringList m_complaints;

@@ -109,6 +109,8 @@ void TestReportCheck::refusesWhatItCannotRead_data()
     QTest::newRow("declaration-alone-is-what-an-unread-schema-leaves")
         << QStringLiteral("<?xml version='1.0' encoding='UTF-8'?>\n") << QStringLiteral("xmlhelper-schema says why");
     QTest::newRow("fault-is-named-with-its-line") << QStringLiteral("<a>\n<b>\n</a>") << QStringLiteral("line 3: ");
+    QTest::newRow("several-roots") << QStringLiteral("<?xml version='1.0'?>\n<a/>\n<b/>\n")
+                                   << QStringLiteral("line 3: It is not well-formed XML: something follows its root.");
     QTest::newRow("deeper-than-the-parser-reads")
         << QStringLiteral("<a>").repeated(2000) + QStringLiteral("</a>").repeated(2000)
         << QStringLiteral("not well-formed");

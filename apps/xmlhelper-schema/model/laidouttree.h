@@ -91,6 +91,7 @@ struct LaidOutElement
 struct LaidOutTree
 {
     std::vector<LaidOutElement> elements; ///< [0] is the root; empty when nothing is laid out
+    int rootCount = 0; ///< more than 1: further elements stand behind the root, which are none of these
 
     bool IsEmpty() const { return elements.empty(); }
 };

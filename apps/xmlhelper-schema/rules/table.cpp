@@ -49,6 +49,7 @@ namespace schemadoctor {
     RULE("optional-that-stays", optionalThatStays)                                                                     \
     RULE("required-without-maximum", requiredWithoutMaximum)                                                           \
     RULE("root", rootChoice)                                                                                           \
+    RULE("several-roots", severalRoots)                                                                                \
     RULE("root-attribute", rootAttribute)                                                                              \
     RULE("missing-type", missingType)                                                                                  \
     RULE("recursion", recursion)                                                                                       \

@@ -71,6 +71,7 @@ private Q_SLOTS:
     void saysWhyNothingIsWritten();
     void aFullDiskIsTold();
     void aSchemaThatIsNotUnderstoodIsTold();
+    void aReportOfSeveralRootsIsTold();
     void theDoctorSaysWhatIsWrongWithASchema();
     void aReportThatBreaksItsSchemaIsDoubtful();
 
@@ -161,6 +162,18 @@ void TestPressWatch::aSchemaThatIsNotUnderstoodIsTold()
     QVERIFY(writeFile(schema(), "<xs:schema><xs:element name='a'>"));
     WatchedReporting reporting(schema(), reports());
     QCOMPARE(reporting.PressButton().state, Press::State::SchemaNotUnderstood);
+}
+
+void TestPressWatch::aReportOfSeveralRootsIsTold()
+{
+    QVERIFY(writeFile(schema(),
+                      "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'><xs:complexType name='T'><xs:sequence>"
+                      "<xs:element name='a'/><xs:element name='b'/></xs:sequence></xs:complexType></xs:schema>"));
+    WatchedReporting reporting(schema(), reports());
+    const Press& press = reporting.PressButton();
+    QCOMPARE(press.state, Press::State::SeveralRoots);
+    QVERIFY(press.IsFailed());
+    QVERIFY(!press.path.isEmpty());
 }
 
 void TestPressWatch::theDoctorSaysWhatIsWrongWithASchema()

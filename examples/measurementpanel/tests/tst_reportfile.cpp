@@ -41,6 +41,8 @@ void TestReportFile::judgesAFile_data()
     QTest::newRow("empty") << QByteArray() << FileVerdict::Kind::Empty;
     QTest::newRow("broken-off") << QByteArray("<a><b/>") << FileVerdict::Kind::Malformed;
     QTest::newRow("declaration-alone") << QByteArray("<?xml version='1.0'?>\n") << FileVerdict::Kind::Malformed;
+    QTest::newRow("several-roots") << QByteArray("<a><c/></a>\n<b/>\n") << FileVerdict::Kind::SeveralRoots;
+    QTest::newRow("broken-off-in-the-second-root") << QByteArray("<a/>\n<b") << FileVerdict::Kind::SeveralRoots;
     QTest::newRow("no-xml") << QByteArray("report") << FileVerdict::Kind::Malformed;
 }
 
