@@ -425,7 +425,7 @@
     </message>
     <message>
         <source>Report %1 is not in order: its schema lays out several roots, so it is no XML document.</source>
-        <translation>Bericht %1 ist nicht in Ordnung: sein Schema legt mehrere Wurzeln an, daher ist er kein XML-Dokument.</translation>
+        <translation>Bericht %1 ist nicht in Ordnung: Sein Schema legt mehrere Wurzeln an, daher ist er kein XML-Dokument.</translation>
     </message>
 </context>
 <context>

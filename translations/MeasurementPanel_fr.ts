@@ -425,7 +425,7 @@
     </message>
     <message>
         <source>Report %1 is not in order: its schema lays out several roots, so it is no XML document.</source>
-        <translation>Le rapport %1 est incorrect : son schéma produit plusieurs racines, ce n’est donc pas un document XML.</translation>
+        <translation>Le rapport %1 est incorrect : son schéma produit plusieurs racines, ce n&apos;est donc pas un document XML.</translation>
     </message>
 </context>
 <context>
