@@ -60,7 +60,7 @@ struct SchemaReading
 {
     std::list<QDomDocument> includedDocuments; ///< of included files: nodes do not keep their document alive
     std::list<QDomDocumentFragment> fragments;
-    std::set<const QDomDocumentFragment*> fragmentsOfNamedTypes;
+    std::map<const QDomDocumentFragment*, SchemaBudget::Share> shares; ///< of fragments; null: of what lies in none
     std::map<const QDomDocumentFragment*, CountedAttributes> countedAttributes; ///< of fragments
     std::list<QDomElement> elements; ///< the handles of the reference records
     std::set<QString> unusedGlobals; ///< the names of global declarations with content, until one is seen to be used
@@ -259,6 +259,7 @@ XmlSchemaHandler::XmlSchemaHandler(const std::shared_ptr<SchemaReading>& reading
     , m_eRootUse(RootUse::Copied)
     , m_iNesting(0)
     , m_pReading(reading)
+    , m_pShare(&m_pReading->shares[nullptr])
 {
 }
 
@@ -557,7 +558,7 @@ void XmlSchemaHandler::layOutNamedElement(const ElementDeclaration& declaration)
 bool XmlSchemaHandler::mayRepeat(const ElementDeclaration& declaration)
 {
     const int copies = declaration.Copies();
-    if (!m_pReading->budget.CheckElements(copies, m_fragmentShare)) {
+    if (!m_pReading->budget.CheckElements(copies, *m_pShare)) {
         return false;
     }
     const bool isTypeRepeated = copies > 1 && !hasSchemaPrefix(declaration.type);
@@ -579,11 +580,11 @@ void XmlSchemaHandler::deferNamedElement(const ElementDeclaration& declaration, 
         return;
     }
     recordReference(declaration.name, declaration.minOccurs - 1, recordOf(m_currentElement, first));
-    const SchemaBudget::Share ofGlobal = m_fragmentShare;
+    SchemaBudget::Share* const shareOfFirst = m_pShare;
     beginFragment(true);
     m_typeLevelElement = createElement(declaration.name, currentFragment());
     if (m_bInsideGlobal) {
-        m_fragmentShare = ofGlobal; // What follows still goes there.
+        m_pShare = shareOfFirst; // What follows still goes there.
     }
     define(declaration.name, TypeDefinition {1, 1, m_pCurrentFragment});
     ElementPathRecord record = recordOf(m_typeLevelElement);
@@ -707,10 +708,8 @@ QString XmlSchemaHandler::firstValue() const
 void XmlSchemaHandler::beginFragment(bool isOfNamedType)
 {
     m_pCurrentFragment = &m_pReading->fragments.emplace_back(m_pDocument->createDocumentFragment());
-    m_fragmentShare = SchemaBudget::Share {0, isOfNamedType};
-    if (isOfNamedType) {
-        m_pReading->fragmentsOfNamedTypes.insert(m_pCurrentFragment);
-    }
+    m_pShare = &m_pReading->shares[m_pCurrentFragment];
+    m_pShare->isOfNamedType = isOfNamedType;
 }
 
 /// The fragment of the definition being read; null outside of any.
@@ -722,14 +721,14 @@ QDomNode XmlSchemaHandler::currentFragment() const
 /// Creates an element and appends it to @p owner; a null element when the limits do not allow it.
 QDomElement XmlSchemaHandler::createElement(const QString& name, QDomNode owner)
 {
-    if (!m_pReading->budget.TakeElements({1, 1, 0}, 0, 1, levelOf(owner), m_fragmentShare)) {
+    if (!m_pReading->budget.TakeElements({1, 1, 0}, 0, 1, levelOf(owner), *m_pShare)) {
         return QDomElement();
     }
     QDomElement element = m_pDocument->createElement(name);
     if (!owner.isNull()) {
         owner.appendChild(element);
     }
-    if (owner.isDocumentFragment() && !m_fragmentShare.isOfNamedType) {
+    if (owner.isDocumentFragment() && !m_pShare->isOfNamedType) {
         m_pReading->unusedGlobals.insert(m_sDefinitionName);
     }
     return element;
@@ -814,7 +813,7 @@ void XmlSchemaHandler::layOut(TypeDefinition& definition, QDomElement owner, con
 
 void XmlSchemaHandler::layOutNow(TypeDefinition& definition, const QDomElement& owner, int copies)
 {
-    layOut(definition, owner, QDomNode(), copies, m_fragmentShare);
+    layOut(definition, owner, QDomNode(), copies, *m_pShare);
 }
 
 void XmlSchemaHandler::copyAttributes(const QDomElement& from, QDomElement to)
@@ -986,13 +985,8 @@ void XmlSchemaHandler::serve(const QString& name, int copies, const ElementPathR
 
 SchemaBudget::Share& XmlSchemaHandler::shareOf(const QString& definitionName)
 {
-    const auto [share, isNew] = m_shares.emplace(definitionName, SchemaBudget::Share());
-    const TypeDefinition* const definition = isNew ? findDefinition(definitionName) : nullptr;
-    if (definition) {
-        share->second.elements = extentOf(*definition->fragment).elements;
-        share->second.isOfNamedType = m_pReading->fragmentsOfNamedTypes.count(definition->fragment) > 0;
-    }
-    return share->second;
+    const TypeDefinition* const definition = findDefinition(definitionName);
+    return m_pReading->shares[definition ? definition->fragment : nullptr];
 }
 
 /// The values of enumerations among the attributes that a definition holds. None is ever taken away, so they are

@@ -170,9 +170,8 @@ private:
     RootUse m_eRootUse;
 
     int m_iNesting; ///< of the tags of this file
-    SchemaBudget::Share m_fragmentShare; ///< of the current fragment
-    std::map<QString, SchemaBudget::Share> m_shares; ///< of the definitions, counted at the end of the document
     std::shared_ptr<SchemaReading> m_pReading; ///< shared with the handlers of included files
+    SchemaBudget::Share* m_pShare; ///< of the fragment that is being filled; one of those that are shared
 };
 
 QT_WARNING_POP
