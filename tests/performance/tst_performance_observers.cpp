@@ -84,13 +84,49 @@ QString rows(int count)
     return QStringLiteral("<xs:element name='Row' type='xs:string' minOccurs='%1' maxOccurs='unbounded'/>").arg(count);
 }
 
-/// Containers of which each holds an optional value.
+/// Containers of which each holds an optional value. They are declared one by one: of what is declared once to occur
+/// often only the last one has content.
 QString groups(int count)
 {
-    return QStringLiteral("<xs:element name='Group' minOccurs='%1' maxOccurs='unbounded'><xs:complexType><xs:sequence>"
+    return QStringLiteral("<xs:element name='Group'><xs:complexType><xs:sequence>"
                           "<xs:element name='Value' type='xs:string' minOccurs='0'/></xs:sequence></xs:complexType>"
                           "</xs:element>")
-        .arg(count);
+        .repeated(count);
+}
+
+QString requiredGroups(int count)
+{
+    return groups(count).replace(QLatin1String("minOccurs='0'"), QLatin1String("maxOccurs='5'"));
+}
+
+/// Groups, and behind them parts that hold what others of the name do.
+QString groupsThenRow(int count)
+{
+    return groups(count)
+        + QStringLiteral("<xs:element name='Part'><xs:complexType><xs:sequence>"
+                         "<xs:element name='Survey' type='xs:string' minOccurs='0'/></xs:sequence></xs:complexType>"
+                         "</xs:element>")
+              .repeated(count);
+}
+
+/// Groups whose values have the name of one that may be missing below the root.
+QString groupsAndValue(int count)
+{
+    return QStringLiteral("<xs:element name='Value' type='xs:string' minOccurs='0'/>") + groups(count);
+}
+
+QDomElement takeEverySecondChild(const QDomElement& element)
+{
+    QDomElement taker = element.ownerDocument().createElement(QStringLiteral("Taker"));
+    for (QDomNode kept = element.firstChild(); !kept.isNull(); kept = kept.nextSibling()) {
+        taker.appendChild(kept.nextSibling());
+    }
+    return taker;
+}
+
+QDomElement prefixed(const QDomElement& neighbour, const QString& name)
+{
+    return neighbour.ownerDocument().createElementNS(QStringLiteral("urn:notes"), QStringLiteral("p:") + name);
 }
 
 QString alternatives(int count)
@@ -141,6 +177,7 @@ void TestPerformanceObservers::takesATimeInProportionToTheSchema_data()
     };
     const QString note = QStringLiteral("note");
     row("nothing", groups, 2000, [](XmlCreateReport&, const QDomElement&) {});
+    row("nothing-where-all-declarations-are-alike", requiredGroups, 2000, [](XmlCreateReport&, const QDomElement&) {});
     row("sets-each-attribute-of-one-element", attributes, 1000, [](XmlCreateReport& builder, const QDomElement& e) {
         for (int i = e.attributes().count(); i-- > 0;) {
             builder.SetAttributeValue(QStringLiteral("a%1").arg(i), QStringLiteral("v"));
@@ -179,6 +216,43 @@ void TestPerformanceObservers::takesATimeInProportionToTheSchema_data()
     row("removes-an-element-of-each-group", groups, 2000, [](XmlCreateReport&, QDomElement element) {
         element.removeChild(element.firstChildElement(QStringLiteral("Value")));
     });
+    row("adds-a-root", groups, 2000, [=](XmlCreateReport&, const QDomElement& element) {
+        QDomDocument document = element.ownerDocument();
+        if (element == document.lastChild()) {
+            document.appendChild(document.createElement(note));
+        }
+    });
+    row("adds-a-root-of-a-name-that-comes-late", groupsThenRow, 2000,
+        [=](XmlCreateReport&, const QDomElement& element) {
+            QDomDocument document = element.ownerDocument();
+            if (element == document.lastChild()) {
+                document.appendChild(document.createElement(QStringLiteral("Part")));
+            }
+        });
+    row("adds-an-element-with-a-prefix", groups, 2000, [=](XmlCreateReport&, QDomElement element) {
+        if (element == element.ownerDocument().documentElement()) {
+            element.insertBefore(prefixed(element, note), QDomNode());
+        }
+    });
+    row("adds-an-element-with-a-prefix-to-each-group", groups, 2000, [=](XmlCreateReport&, QDomElement element) {
+        if (element.tagName() == QLatin1String("Value")) {
+            element.parentNode().insertBefore(prefixed(element, note), element);
+        }
+    });
+    row("gives-each-group-a-namesake-with-a-prefix", groups, 2000, [=](XmlCreateReport&, QDomElement element) {
+        if (element.tagName() == QLatin1String("Value")) {
+            element.parentNode().insertBefore(prefixed(element, QStringLiteral("Group")), element);
+        }
+    });
+    row("moves-half-of-the-groups-below-another-root", groupsAndValue, 2000,
+        [=](XmlCreateReport& builder, QDomElement element) {
+            QDomDocument document = element.ownerDocument();
+            if (document.lastChild() == document.documentElement()) {
+                document.appendChild(takeEverySecondChild(element));
+                element.setAttribute(QStringLiteral("type"), QStringLiteral("string"));
+                builder.SetXmlValue(note);
+            }
+        });
     row("discards-each-alternative", alternatives, 3000,
         [](XmlCreateReport& builder, const QDomElement&) { builder.DiscardChoiceItem(); });
 }

@@ -30,7 +30,8 @@ struct Operations
 enum class Manners {
     Answering, ///< only uses the operations
     Meddling, ///< changes the document through the nodes that it is given, too
-    Annotating ///< changes attributes, comments and what stands where the walk stands, in the same way
+    Annotating, ///< changes attributes, comments and what stands where the walk stands, in the same way
+    Enlarging ///< adds roots, and elements with prefixes before the place where the walk stands
 };
 
 /// Answers every event by what a random generator says, so that two guests with the same seed that receive the same
@@ -64,6 +65,8 @@ public:
                 meddle(begin->GetElementNode());
             } else if (m_manners == Manners::Annotating && below(2) == 0) {
                 annotate(begin->GetElementNode());
+            } else if (m_manners == Manners::Enlarging && below(4) == 0) {
+                enlarge(begin->GetElementNode());
             }
             answer(begin->GetElementName());
         } else if (event->GetType() == XmlEvent::EVENT_ERROR && !m_bBusy && below(8) == 0) {
@@ -160,6 +163,52 @@ private:
         }
     }
 
+    void enlarge(QDomNode node)
+    {
+        QDomNode parent = node.parentNode();
+        QDomDocument document = node.ownerDocument();
+        const QString name = QString(QLatin1Char(static_cast<char>('a' + below(4))));
+        const QDomElement prefixed = document.createElementNS(QStringLiteral("urn:p"), QStringLiteral("p:") + name);
+        switch (below(8)) {
+        case 0:
+            document.appendChild(document.createElement(name));
+            break;
+        case 1: // where the walk may go on
+            document.appendChild(node == document.documentElement() ? node.lastChild().toElement() : prefixed);
+            break;
+        case 2: // where a search does not start
+            document.appendChild(document.createComment(name));
+            break;
+        case 3:
+            if (node != document.documentElement()) {
+                document.documentElement().insertBefore(prefixed, QDomNode());
+            }
+            break;
+        case 4:
+            if (parent.isElement()) {
+                parent.insertBefore(prefixed, node)
+                    .appendChild(document.createElement(QString(QLatin1Char(static_cast<char>('a' + below(4))))));
+            }
+            break;
+        case 5: // what no rule speaks of: a namespace without a prefix
+            if (parent.isElement()) {
+                parent.insertBefore(document.createElementNS(QStringLiteral("urn:p"), name), node);
+            }
+            break;
+        case 6:
+            if (parent.isElement()) {
+                parent.insertBefore(document.createProcessingInstruction(name, name), node);
+            }
+            break;
+        default:
+            if (node == document.documentElement()) {
+                node.toElement().setAttribute(QStringLiteral("type"), QStringLiteral("string"));
+                operations.setXmlValue(QStringLiteral("r"));
+            }
+            break;
+        }
+    }
+
     EventRecorder m_recorder;
     std::mt19937 m_random;
     Manners m_manners;
@@ -209,6 +258,7 @@ void TestWalk::walksByTheRules_data()
     QTest::newRow("observers-that-answer") << static_cast<int>(Manners::Answering);
     QTest::newRow("observers-that-change-the-document") << static_cast<int>(Manners::Meddling);
     QTest::newRow("observers-that-annotate-without-a-second-look") << static_cast<int>(Manners::Annotating);
+    QTest::newRow("observers-that-add-roots-and-prefixes") << static_cast<int>(Manners::Enlarging);
 }
 
 void TestWalk::walksByTheRules()

@@ -78,6 +78,14 @@ bool isAmong(const std::vector<std::pair<QString, int>>& declarations, const QSt
     return declaration != declarations.end() && declaration->first == owner;
 }
 
+/// Whether a search for one of the owners meets an element that bears the name behind a prefix.
+template <class IsOwner> bool isAnyBehindPrefix(OwnerIndex& index, const IsOwner& isOwner)
+{
+    const QStringList names = index.HasPrefixes() ? index.NamesBehindPrefixes() : QStringList();
+    return std::any_of(names.begin(), names.end(),
+                       [&](const QString& name) { return isOwner(name) && index.IsBehindPrefix(name); });
+}
+
 /// Whether an occurs code is one of minOccurs 0.
 bool isOptionalCode(int occursCode)
 {
@@ -200,24 +208,20 @@ bool DomParser::isBelowOwnerOf(const Limits& limits, const QString& tagName, con
     };
     const QDomElement root = m_pDocument->documentElement();
     const QDomNode top = m_pDocument->lastChild();
-    const bool hasOneRoot = !top.isElement() || top == root;
-    if (hasOneRoot && element == root) {
+    if (element == root) {
         return top == root && isOwner(tagName); // A search that starts at the root reports the root too.
     }
     OwnerIndex& index = owners();
-    const bool isBelowRoot = index.GoTo(element);
-    if (!hasOneRoot || index.HasPrefixes()) {
-        const QSet<QString> names = ownerNames();
-        return std::any_of(names.begin(), names.end(), [&](const QString& owner) {
-            return isOwner(owner) && isBelowAnyCalled(owner, tagName, element);
-        });
+    if (!root.prefix().isEmpty()) {
+        return isFoundBelowOwner(isOwner, tagName, element);
     }
-    if (!isBelowRoot) {
-        return false;
+    if (!index.GoTo(element)) {
+        return top != root && top.isElement() && isBelowTop(isOwner, tagName, element);
     }
-    // A search for the root's name reports the top node in its place, whose name is searched for then.
-    const QString topName = top != root && isOwner(root.tagName()) ? top.nodeName() : QString();
-    for (std::size_t level = index.Levels(); level-- > 0;) {
+    // A search for the root's name, or for one behind a prefix, reports the top node, whose name is searched for then.
+    const bool isTopReported = (top != root && isOwner(root.tagName())) || isAnyBehindPrefix(index, isOwner);
+    const QString topName = isTopReported ? top.nodeName() : QString();
+    for (std::size_t level = element.prefix().isEmpty() ? index.Levels() : 0; level-- > 0;) {
         const QString& name = index.NameAt(level);
         if ((isOwner(name) || name == topName) && index.IsFirstAt(level)) {
             return true;
@@ -227,6 +231,31 @@ bool DomParser::isBelowOwnerOf(const Limits& limits, const QString& tagName, con
         }
     }
     return false;
+}
+
+/// The same for an element outside of the root, where a search may start at the top node only.
+template <class IsOwner>
+bool DomParser::isBelowTop(const IsOwner& isOwner, const QString& tagName, const QDomNode& element)
+{
+    OwnerIndex& index = owners();
+    index.GoToEnd();
+    const QDomElement top = m_pDocument->lastChild().toElement();
+    const QString rootName = m_pDocument->documentElement().tagName();
+    if (element == top || index.HasPrefixes()) {
+        return isFoundBelowOwner(isOwner, tagName, element);
+    }
+    return isOwner(rootName) && ElementSearch(top).IsMatch(tagName, top, element)
+        && (top.nodeName() == rootName || index.IsBelowRoot(rootName));
+}
+
+/// The same, found by searches.
+template <class IsOwner>
+bool DomParser::isFoundBelowOwner(const IsOwner& isOwner, const QString& tagName, const QDomNode& element)
+{
+    const QSet<QString> names = ownerNames();
+    return std::any_of(names.begin(), names.end(), [&](const QString& owner) {
+        return isOwner(owner) && isBelowAnyCalled(owner, tagName, element);
+    });
 }
 
 bool DomParser::IsDeclaredAbove(const QString& name, const QString& tagName, const QDomNode& element,
@@ -481,6 +510,7 @@ const DomParser::Declarations& DomParser::sortedDeclarations(const Limits& limit
             }
         }
         std::sort(declarations.begin(), declarations.end());
+        declarations.erase(std::unique(declarations.begin(), declarations.end()), declarations.end());
     }
     return declarations;
 }

@@ -116,7 +116,7 @@ private:
 
     using Limits = OccursMap::value_type; ///< a name with what limits its occurrence
 
-    /// The owners of a name and the occurs codes that they go with, in the order of the owners' names.
+    /// The owners of a name and the occurs codes that they go with, in the order of the owners' names, each once.
     using Declarations = std::vector<std::pair<QString, int>>;
 
     /// Where the walk stands among the children of one element.
@@ -147,6 +147,9 @@ private:
     template <class IsWanted>
     bool isBelowOwnerOf(const Limits& limits, const QString& tagName, const QDomNode& element,
                         const IsWanted& isWanted);
+    template <class IsOwner> bool isBelowTop(const IsOwner& isOwner, const QString& tagName, const QDomNode& element);
+    template <class IsOwner>
+    bool isFoundBelowOwner(const IsOwner& isOwner, const QString& tagName, const QDomNode& element);
     const Declarations& sortedDeclarations(const Limits& limits);
 
     QDomDocument* m_pDocument;

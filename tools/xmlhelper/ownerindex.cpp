@@ -16,7 +16,6 @@ constexpr qint64 NodesOfQuestion = 50;
 OwnerIndex::OwnerIndex(const QDomDocument& document, const QSet<QString>& names)
     : m_document(document)
     , m_changes(document)
-    , m_bPrefixes(false)
     , m_bOutdated(false)
     , m_iOwnChanges(0)
     , m_iSeen(0)
@@ -26,6 +25,7 @@ OwnerIndex::OwnerIndex(const QDomDocument& document, const QSet<QString>& names)
     for (const QString& name : names) {
         m_bearers.insert(name, Bearers());
     }
+    m_bearers.insert(document.lastChild().nodeName(), Bearers()); // A search may name the top node.
     m_changes.Reset();
 }
 
@@ -76,6 +76,49 @@ bool OwnerIndex::followTo(const QDomNode& node)
         enter(elements[m_path.size()]);
     }
     return true;
+}
+
+void OwnerIndex::GoToEnd()
+{
+    noticeChanges();
+    lookAgainIfAllowed();
+    const QDomElement root = m_document.documentElement();
+    if (m_path.empty() || m_path.front().element != root) {
+        m_path.clear();
+        enter(root);
+    }
+    while (m_path.size() > 1) {
+        leave();
+    }
+    seeChildrenUpTo(m_path.front(), QDomNode());
+}
+
+bool OwnerIndex::IsBelowRoot(const QString& name) const
+{
+    const QDomElement root = m_document.documentElement();
+    const auto bearers = m_bearers.find(name);
+    if (bearers == m_bearers.end() || bearers->isHidden) {
+        std::list<QDomNode> matches;
+        ElementSearch(m_document.lastChild()).AppendMatches(name, root, matches);
+        return matches.size() > 1; // The first stands for the root.
+    }
+    return std::any_of(bearers->elements.begin(), bearers->elements.end(), [&](const QDomElement& element) {
+        return element.nodeName() == name && element != root && isInDocument(element);
+    });
+}
+
+bool OwnerIndex::IsBehindPrefix(const QString& name)
+{
+    const auto found = m_prefixed.find(name);
+    if (found == m_prefixed.end()) {
+        return false;
+    }
+    const auto isReported = [&](const QDomElement& element) {
+        return element.tagName() == name && element.nodeName() != name && isInDocument(element)
+            && !isBelowCalled(element, name);
+    };
+    found->erase(found->begin(), std::find_if(found->begin(), found->end(), isReported));
+    return !found->empty();
 }
 
 bool OwnerIndex::IsFirstAt(std::size_t level)
@@ -149,6 +192,7 @@ void OwnerIndex::lookAgainIfAllowed()
     m_iSeen = 0;
     m_bOutdated = false;
     m_path.clear();
+    m_prefixed.clear();
     for (Bearers& bearers : m_bearers) {
         bearers = Bearers();
     }
@@ -159,7 +203,7 @@ std::size_t OwnerIndex::matchingLevels(const std::vector<QDomElement>& elements)
 {
     std::size_t level = 0;
     while (level < m_path.size() && level < elements.size() && m_path[level].element == elements[level]) {
-        const QString name = elements[level].tagName();
+        const QString name = elements[level].nodeName();
         if (name != m_path[level].name) {
             m_path[level].name = name;
             m_path[level].rank = Rank::Unknown;
@@ -188,7 +232,7 @@ void OwnerIndex::enter(const QDomElement& element)
         seeChildrenUpTo(m_path.back(), element);
     }
     see(element);
-    m_path.push_back({element, element.tagName(), QDomNode(), Rank::Unknown});
+    m_path.push_back({element, element.nodeName(), QDomNode(), Rank::Unknown});
 }
 
 /// Looks at the children of a step that come before @p end, null for all, and at what is below them.
@@ -216,12 +260,24 @@ void OwnerIndex::see(const QDomNode& node)
     ++m_iSeen;
     const auto bearers = m_bearers.find(node.nodeName());
     if (node.isElement()) {
-        m_bPrefixes = m_bPrefixes || !node.localName().isNull();
         if (bearers != m_bearers.end()) {
             bearers->elements.push_back(node.toElement());
         }
+        if (!node.prefix().isEmpty()) {
+            seePrefixed(node.toElement());
+        }
     } else if (bearers != m_bearers.end()) {
         bearers->isHidden = true;
+    }
+}
+
+/// Keeps an element whose tag name lacks its prefix.
+void OwnerIndex::seePrefixed(const QDomElement& element)
+{
+    const auto bearers = m_bearers.find(element.tagName());
+    if (bearers != m_bearers.end()) {
+        bearers->elements.push_back(element);
+        m_prefixed[element.tagName()].push_back(element);
     }
 }
 
@@ -231,24 +287,31 @@ bool OwnerIndex::isFirst(const QDomElement& element, const QString& name)
         return m_document.lastChild() == element; // A search names the top node in place of the root.
     }
     const auto bearers = m_bearers.find(name);
-    const bool isSearched = bearers != m_bearers.end();
-    if (!isSearched && name != m_document.lastChild().nodeName()) {
+    if (bearers == m_bearers.end() && name != m_document.lastChild().nodeName()) {
         return false;
     }
-    if (!isSearched || bearers->isHidden) {
-        return ElementSearch(m_document.lastChild()).FirstMatch(name, m_document.documentElement()) == element;
+    if (bearers == m_bearers.end() || bearers->isHidden) {
+        return isFound(element, name);
     }
     const std::vector<QDomElement>& elements = bearers->elements;
     for (; bearers->first < elements.size(); ++bearers->first) {
         const QDomElement& first = elements[bearers->first];
         if (isInDocument(first)) {
-            if (first.tagName() == name) {
+            if (first.nodeName() == name) {
                 return first == element;
+            }
+            if (first.tagName() == name) { // In its place a search finds the top node, if that is an element.
+                return !m_document.lastChild().isElement() && isFound(element, name);
             }
             m_bOutdated = true; // It was renamed.
         }
     }
     return false;
+}
+
+bool OwnerIndex::isFound(const QDomElement& element, const QString& name) const
+{
+    return ElementSearch(m_document.lastChild()).FirstMatch(name, m_document.documentElement()) == element;
 }
 
 bool OwnerIndex::isInDocument(const QDomNode& node) const
@@ -258,4 +321,14 @@ bool OwnerIndex::isInDocument(const QDomNode& node) const
         top = top.parentNode();
     }
     return !top.isNull();
+}
+
+/// Whether @p element stands below one called @p name, other than the root.
+bool OwnerIndex::isBelowCalled(const QDomElement& element, const QString& name) const
+{
+    QDomNode above = element.parentNode();
+    while (!above.isNull() && above != m_document.documentElement() && above.nodeName() != name) {
+        above = above.parentNode();
+    }
+    return above != m_document.documentElement();
 }

@@ -1,6 +1,7 @@
 #ifndef XMLHELPER_OWNERINDEX_P_H
 #define XMLHELPER_OWNERINDEX_P_H
 
+#include <list>
 #include <vector>
 
 #include <QDomDocument>
@@ -8,6 +9,7 @@
 #include <QHash>
 #include <QSet>
 #include <QString>
+#include <QStringList>
 
 #include "treechangedetector_p.h"
 
@@ -23,7 +25,8 @@
 /// such a change from any other, such as that of an attribute; so after each change of others the index looks again, as
 /// far as Limits::nodesLookedAtAgain and some nodes more for each question allow: the work stays in proportion to the
 /// walk. Of elements that are renamed, which nothing tells of, it notices those above the walk's place and those that
-/// it takes for the first. The document is not owned.
+/// it takes for the first. Of elements with prefixes, in whose place a search finds the top node, it knows those before
+/// the walk's place. The document is not owned.
 class OwnerIndex
 {
 public:
@@ -42,8 +45,20 @@ public:
     /// searched ones or that of the top node; false for other names.
     bool IsFirstAt(std::size_t level);
 
+    /// Takes the end of what is below the root for the walk's place.
+    void GoToEnd();
+
+    /// Whether a node has the root's name, @p name, too. To be asked at the end.
+    bool IsBelowRoot(const QString& name) const;
+
     /// Whether elements with prefixes have been met, of which a search compares the names in other ways.
-    bool HasPrefixes() const { return m_bPrefixes; }
+    bool HasPrefixes() const { return !m_prefixed.isEmpty(); }
+
+    /// The searched names that such elements bear behind their prefixes. A search for one of these finds the top node.
+    QStringList NamesBehindPrefixes() const { return m_prefixed.keys(); }
+
+    /// Whether a search for @p name meets such an element, not only inside of elements of that very name.
+    bool IsBehindPrefix(const QString& name);
 
     /// Says that @p node is about to be removed.
     void Forget(const QDomNode& node);
@@ -79,7 +94,7 @@ private:
     /// The nodes of one name that have been passed, in document order.
     struct Bearers
     {
-        std::vector<QDomElement> elements;
+        std::vector<QDomElement> elements; ///< those that bear it behind a prefix among them
         std::size_t first = 0; ///< those before it are gone
         bool isHidden = false; ///< other nodes bear the name, behind which a search does not look
     };
@@ -95,14 +110,17 @@ private:
     void enter(const QDomElement& element);
     void seeChildrenUpTo(Step& step, const QDomNode& end);
     void see(const QDomNode& node);
+    void seePrefixed(const QDomElement& element);
     bool isFirst(const QDomElement& element, const QString& name);
+    bool isFound(const QDomElement& element, const QString& name) const;
     bool isInDocument(const QDomNode& node) const;
+    bool isBelowCalled(const QDomElement& element, const QString& name) const;
 
     QDomDocument m_document;
     TreeChangeDetector m_changes;
     QHash<QString, Bearers> m_bearers;
+    QHash<QString, std::list<QDomElement>> m_prefixed; ///< that bear a name behind a prefix, in document order
     std::vector<Step> m_path; ///< from the root down
-    bool m_bPrefixes;
     bool m_bOutdated; ///< others have changed something since all was seen
     int m_iOwnChanges; ///< under way
     qint64 m_iSeen; ///< nodes, since the index looked at the root
