@@ -1,6 +1,8 @@
 #ifndef XMLHELPER_LIMITS_P_H
 #define XMLHELPER_LIMITS_P_H
 
+#include <limits>
+
 #include <QtGlobal>
 
 /// What one content, schema or document may ask for: the limits that protect the process that loads the library.
@@ -40,6 +42,9 @@ struct Limits
 
     /// Schema files read for one report, repeated reads of a file and missing ones included.
     int schemaFiles = 1000;
+
+    /// Bytes of these files. The library itself reads them however long they are: the text is not what costs.
+    qint64 schemaBytes = std::numeric_limits<qint64>::max();
 
     /// Schema files that may be open at once, each included by the one before it.
     int includeDepth = 64;

@@ -2,20 +2,53 @@
 
 #include "domextent_p.h"
 #include "limits_p.h"
+#include "schemareadinglog_p.h"
 #include "tracing_p.h"
 #include "xmltext_p.h"
+
+namespace {
+
+const char Component[] = "schemabudget";
+
+} // namespace
 
 void SchemaBudget::Refuse(const QString& reason)
 {
     if (!m_bRefused) {
         m_bRefused = true;
-        trace(reason, "schemabudget", __LINE__);
+        trace(reason, Component, __LINE__);
+        if (m_pLog) {
+            m_pLog->ContentRefused(reason);
+        }
     }
 }
 
-bool SchemaBudget::CheckName(const QString& name)
+template <typename Number> bool SchemaBudget::refuse(const char* sentence, qint64 asked, Number Limits::*limit)
 {
-    m_bRefused = !isRepresentableName(name, "XmlSchemaHandler") || m_bRefused;
+    return refuse(sentence, asked, limit, limits().*limit);
+}
+
+template <typename Number>
+bool SchemaBudget::refuse(const char* sentence, qint64 asked, Number Limits::*limit, qint64 traced)
+{
+    if (!m_bRefused) {
+        m_bRefused = true;
+        const QString text = QString::fromLatin1(sentence);
+        trace(text.arg(traced), Component, __LINE__);
+        if (m_pLog) {
+            m_pLog->Refused(text, asked, limits().*limit, Limits().*limit);
+        }
+    }
+    return false;
+}
+
+bool SchemaBudget::CheckName(const QString& name, const SchemaTag& tag)
+{
+    const bool isAllowed = isRepresentableName(name, "XmlSchemaHandler");
+    if (!isAllowed && !m_bRefused && m_pLog) {
+        m_pLog->NameRefused(name, tag);
+    }
+    m_bRefused = !isAllowed || m_bRefused;
     return !m_bRefused;
 }
 
@@ -27,12 +60,19 @@ bool SchemaBudget::MayOpen(const QString& identity) const
 bool SchemaBudget::OpenFile(const QString& identity, int openTags)
 {
     if (++m_iFiles > limits().schemaFiles) {
-        Refuse(QStringLiteral("The schema consists of more than %1 files!").arg(limits().schemaFiles));
-        return false;
+        return refuse("The schema consists of more than %1 files!", m_iFiles, &Limits::schemaFiles);
     }
     m_openFiles.append(identity);
     m_iOpenTags += openTags;
     return true;
+}
+
+bool SchemaBudget::TakeBytes(qint64 bytes)
+{
+    m_iBytes += bytes;
+    return m_iBytes <= limits().schemaBytes
+        || refuse("The schema consists of more than %1 bytes, repeated includes counted again!", m_iBytes,
+                  &Limits::schemaBytes);
 }
 
 void SchemaBudget::CloseFile(int openTags)
@@ -44,10 +84,10 @@ void SchemaBudget::CloseFile(int openTags)
 bool SchemaBudget::CheckTag(int nesting)
 {
     if (nesting > limits().elementNesting) {
-        Refuse(QStringLiteral("The schema is nested deeper than %1 elements!").arg(limits().elementNesting));
+        refuse("The schema is nested deeper than %1 elements!", nesting, &Limits::elementNesting);
     } else if (m_iOpenTags + nesting > limits().openTags) {
-        Refuse(
-            QStringLiteral("The schema and its includes are nested deeper than %1 elements!").arg(limits().openTags));
+        refuse("The schema and its includes are nested deeper than %1 elements!", m_iOpenTags + nesting,
+               &Limits::openTags);
     }
     return !m_bRefused;
 }
@@ -56,30 +96,33 @@ bool SchemaBudget::TakeEnumerationValue(int number)
 {
     m_bEnumerations = true;
     if (number > limits().enumerationValues) {
-        Refuse(QStringLiteral("An enumeration has more than %1 values!").arg(limits().enumerationValues));
+        refuse("An enumeration has more than %1 values!", number, &Limits::enumerationValues);
     }
     return !m_bRefused;
 }
 
 bool SchemaBudget::CheckElements(qint64 elements, const Share& share)
 {
-    return share.elements + elements <= limits().elements || refuseElements();
+    return share.elements + elements <= limits().elements
+        || refuseElements(share.elements + elements, &Limits::elements);
 }
 
 bool SchemaBudget::TakeElements(const DomExtent& extent, int enumerationValues, int copies, int level, Share& share)
 {
     if (level + extent.levels > limits().elementNesting) {
-        Refuse(QStringLiteral("The schema lays out elements nested deeper than %1!").arg(limits().elementNesting));
-        return false;
+        return refuse("The schema lays out elements nested deeper than %1!", level + extent.levels,
+                      &Limits::elementNesting);
     }
     const qint64 elements = qint64(copies) * extent.elements;
     const qint64 forNamedTypes = share.isOfNamedType ? elements : 0;
     if (!CheckElements(elements, share)) {
         return false;
     }
-    if (m_iElements + elements > limits().elementsOfAllDefinitions
-        || m_iElementsOfNamedTypes + forNamedTypes > limits().elementsOfNamedTypes) {
-        return refuseElements();
+    if (m_iElements + elements > limits().elementsOfAllDefinitions) {
+        return refuseElements(m_iElements + elements, &Limits::elementsOfAllDefinitions);
+    }
+    if (m_iElementsOfNamedTypes + forNamedTypes > limits().elementsOfNamedTypes) {
+        return refuseElements(m_iElementsOfNamedTypes + forNamedTypes, &Limits::elementsOfNamedTypes);
     }
     if (!CheckAttributes(qint64(copies) * extent.attributes, qint64(copies) * enumerationValues)) {
         return false;
@@ -93,10 +136,10 @@ bool SchemaBudget::TakeElements(const DomExtent& extent, int enumerationValues, 
 bool SchemaBudget::CheckAttributes(qint64 attributes, qint64 enumerationValues)
 {
     if (m_iAttributes + attributes > limits().attributes) {
-        Refuse(QStringLiteral("The schema lays out more than %1 attributes!").arg(limits().attributes));
+        refuse("The schema lays out more than %1 attributes!", m_iAttributes + attributes, &Limits::attributes);
     } else if (m_iEnumerationValues + enumerationValues > limits().copiedEnumerationValues) {
-        Refuse(QStringLiteral("The schema gives elements more than %1 values of enumerations!")
-                   .arg(limits().copiedEnumerationValues));
+        refuse("The schema gives elements more than %1 values of enumerations!",
+               m_iEnumerationValues + enumerationValues, &Limits::copiedEnumerationValues);
     }
     return !m_bRefused;
 }
@@ -110,9 +153,8 @@ bool SchemaBudget::TakeAttributes(int attributes, int enumerationValues)
     return !m_bRefused;
 }
 
-/// Gives false.
-bool SchemaBudget::refuseElements()
+/// Gives false. What is traced is the limit of a document: that is what all definitions are limited for.
+bool SchemaBudget::refuseElements(qint64 asked, int Limits::*limit)
 {
-    Refuse(QStringLiteral("The schema lays out more than %1 elements!").arg(limits().elements));
-    return false;
+    return refuse("The schema lays out more than %1 elements!", asked, limit, limits().elements);
 }

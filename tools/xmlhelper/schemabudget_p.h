@@ -5,6 +5,9 @@
 #include <QStringList>
 
 struct DomExtent;
+struct Limits;
+struct SchemaTag;
+class SchemaReadingLog;
 
 /// Counts what the files of one schema ask for together, and refuses what goes beyond the limits in force: one sentence
 /// is traced, and the schema has failed from then on.
@@ -21,18 +24,25 @@ public:
         bool isOfNamedType = false;
     };
 
+    /// Hears of the refusal; null for nobody, not owned.
+    void SetLog(SchemaReadingLog* log) { m_pLog = log; }
+
     bool IsRefused() const { return m_bRefused; }
-    /// Fails the schema. Only the first reason is traced.
+    /// Fails the schema for its content. Only the first reason is traced.
     void Refuse(const QString& reason);
 
     /// Whether an element or an attribute of the skeleton may have the name; traces and refuses one that XML does not
     /// allow.
-    bool CheckName(const QString& name);
+    /// @param tag  the one that gives the name
+    bool CheckName(const QString& name, const SchemaTag& tag);
 
     /// Whether a file may be read inside those that are being read: it is none of them, and they are not too many.
     bool MayOpen(const QString& identity) const;
+    bool IsOpen(const QString& identity) const { return m_openFiles.contains(identity); }
     /// @param openTags  of the file that includes it
     bool OpenFile(const QString& identity, int openTags);
+    /// Whether so many bytes more may be read.
+    bool TakeBytes(qint64 bytes);
     void CloseFile(int openTags);
 
     /// @param nesting  of the tag in its file
@@ -51,17 +61,22 @@ public:
     bool TakeAttributes(int attributes, int enumerationValues);
 
 private:
-    bool refuseElements();
+    /// Gives false. The sentence has "%1" where the limit in force stands.
+    template <typename Number> bool refuse(const char* sentence, qint64 asked, Number Limits::*limit);
+    template <typename Number> bool refuse(const char* sentence, qint64 asked, Number Limits::*limit, qint64 traced);
+    bool refuseElements(qint64 asked, int Limits::*limit);
 
     QStringList m_openFiles;
     int m_iOpenTags = 0; ///< of the files that include the one being read
     int m_iFiles = 0;
+    qint64 m_iBytes = 0;
     int m_iElements = 0;
     int m_iElementsOfNamedTypes = 0;
     int m_iAttributes = 0;
     int m_iEnumerationValues = 0; ///< that elements have received by copying
     bool m_bEnumerations = false; ///< some have been read
     bool m_bRefused = false;
+    SchemaReadingLog* m_pLog = nullptr;
 };
 
 #endif

@@ -10,15 +10,17 @@
 #include <QFileInfo>
 #include <QStringList>
 #include <QXmlInputSource>
+#include <QXmlLocator>
+#include <QXmlParseException>
 #include <QXmlSimpleReader>
 
 #include "constants_p.h"
 #include "contentfile_p.h"
 #include "documentfile_p.h"
-#include "domattributes_p.h"
 #include "domextent_p.h"
 #include "domorder_p.h"
 #include "guardedsource_p.h"
+#include "schemaorigin_p.h"
 #include "tracing_p.h"
 #include "xmltext_p.h"
 
@@ -68,6 +70,12 @@ struct SchemaReading
     ReferredNames names;
     SchemaBudget budget;
     int choiceCounter = 0;
+
+    // For the listener.
+    SchemaReadingLog* log = nullptr; ///< null: nobody listens, and nothing below is filled; not owned
+    int files = 0; ///< that have been begun
+    std::set<QString> begunFiles; ///< one name for each
+    std::map<const QDomElement*, SchemaTag> referringTags; ///< by the owner elements of the records
 };
 
 /// What the attributes of an xs:element say.
@@ -126,11 +134,6 @@ bool isFacet(const QString& attributeName)
     return attributeName.contains(EnumerationFacet) || attributeName.contains(RangeFacetMark);
 }
 
-bool isCarrier(const QDomNode& node)
-{
-    return node.nodeName() == CarrierName;
-}
-
 int enumerationValuesAmong(const DomAttributes& attributes)
 {
     return static_cast<int>(std::count_if(attributes.begin(), attributes.end(), [](const QDomAttr& attribute) {
@@ -148,16 +151,6 @@ int enumerationValuesBelow(const QDomNode& fragment)
         }
     }
     return values;
-}
-
-/// Gives the facets among @p attributes to @p to, with @p suffix appended to their names.
-void copyFacets(const DomAttributes& attributes, QDomElement to, const QString& suffix = QString())
-{
-    for (const QDomAttr& attribute : attributes) {
-        if (isFacet(attribute.name())) {
-            to.setAttribute(attribute.name() + suffix, attribute.value());
-        }
-    }
 }
 
 bool isNamespaceDeclaration(const QString& attributeName)
@@ -258,12 +251,20 @@ XmlSchemaHandler::XmlSchemaHandler(const std::shared_ptr<SchemaReading>& reading
     , m_sSchemaPath(schemaPath)
     , m_eRootUse(RootUse::Copied)
     , m_iNesting(0)
+    , m_bFaultIsTold(false)
+    , m_pLocator(nullptr)
     , m_pReading(reading)
     , m_pShare(&m_pReading->shares[nullptr])
 {
 }
 
 XmlSchemaHandler::~XmlSchemaHandler() = default;
+
+void XmlSchemaHandler::SetLog(SchemaReadingLog* log)
+{
+    m_pReading->log = log;
+    m_pReading->budget.SetLog(log);
+}
 
 bool XmlSchemaHandler::HandOver(UnresolvedTypeMap& unresolvedTypes, OccursMap& occurs,
                                 TypeDefinitionMap& typeDefinitions, ChoiceMap& choices) &
@@ -287,15 +288,45 @@ bool XmlSchemaHandler::HandOver(UnresolvedTypeMap& unresolvedTypes, OccursMap& o
 
 bool XmlSchemaHandler::ReadFile(const QString& fileName, QXmlSimpleReader& parser)
 {
-    ContentFile file(fileName);
-    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    SchemaReadingLog* const log = m_pReading->log;
+    const bool isTop = m_eRootUse != RootUse::Unused;
+    if (isTop) {
+        m_eRootUse = RootUse::Moved;
+        if (log) {
+            tellFileBegun(m_sSchemaPath, fileName, SchemaTag());
+        }
+    }
+    const QByteArray bytes = readBytes(fileName);
     // Qualified names are all that counts.
     parser.setFeature(QStringLiteral("http://xml.org/sax/features/namespaces"), false);
     parser.setContentHandler(this);
     parser.setErrorHandler(this);
-    if (m_eRootUse == RootUse::Copied) {
-        m_eRootUse = RootUse::Moved;
+    const bool isParsed = parse(bytes, parser);
+    if (log) {
+        log->FileEnded(m_tag.file);
+        if (isTop) {
+            takeOffAllOrigins();
+        }
     }
+    return isParsed;
+}
+
+/// Nothing when the file cannot be opened or is more than may be read.
+QByteArray XmlSchemaHandler::readBytes(const QString& fileName)
+{
+    ContentFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly)) {
+        m_bFaultIsTold = true;
+        if (SchemaReadingLog* const log = m_pReading->log) {
+            log->FileMissing(m_tag.file);
+        }
+        return QByteArray();
+    }
+    return m_pReading->budget.TakeBytes(file.size()) ? file.readAll() : QByteArray();
+}
+
+bool XmlSchemaHandler::parse(const QByteArray& bytes, QXmlSimpleReader& parser)
+{
     QXmlInputSource plainSource;
     plainSource.setData(bytes);
     if (!GuardedSource::IsNeededFor(plainSource.data())) {
@@ -325,7 +356,13 @@ bool XmlSchemaHandler::endDocument()
         trace(QStringLiteral("Callback-Pointer is NULL!"), Component, __LINE__);
         return false;
     }
-    return resolveReferences() && chooseRoot();
+    m_bFaultIsTold = true;
+    const bool isResolved = resolveReferences();
+    const bool isGivenUp = !isResolved && !m_pReading->budget.IsRefused() && m_eRootUse != RootUse::Unused;
+    if (isGivenUp && m_pReading->log) {
+        tellMissingReferences();
+    }
+    return isResolved && chooseRoot();
 }
 
 bool XmlSchemaHandler::startElement(const QString&, const QString&, const QString& qName,
@@ -336,6 +373,10 @@ bool XmlSchemaHandler::startElement(const QString&, const QString&, const QStrin
     }
     m_sCurrentName = qName;
     m_attributes = usableAttributes(attributes);
+    ++m_tag.number;
+    if (SchemaReadingLog* const log = m_pReading->log) {
+        log->TagBegun(m_tag, qName, m_pLocator ? m_pLocator->lineNumber() : 0);
+    }
     if (!m_pReading->budget.CheckTag(++m_iNesting)) {
         return false;
     }
@@ -371,6 +412,67 @@ bool XmlSchemaHandler::characters(const QString&)
     return true;
 }
 
+void XmlSchemaHandler::setDocumentLocator(QXmlLocator* locator)
+{
+    m_pLocator = locator;
+}
+
+/// Comes for every parse that fails, also for what a function of this handler has refused.
+bool XmlSchemaHandler::fatalError(const QXmlParseException& exception)
+{
+    SchemaReadingLog* const log = m_pReading->log;
+    if (log && !m_bFaultIsTold && !m_pReading->budget.IsRefused()) {
+        m_bFaultIsTold = true;
+        log->FileMalformed(m_tag.file, exception.message(), exception.lineNumber());
+    }
+    return false;
+}
+
+void XmlSchemaHandler::tellFileBegun(const QString& written, const QString& opened, const SchemaTag& include)
+{
+    m_tag.file = m_pReading->files++;
+    const bool isAgain = !m_pReading->begunFiles.insert(identityOfFile(opened)).second;
+    m_pReading->log->FileBegun(m_tag.file, written, opened, include, isAgain);
+}
+
+/// What is left when the whole schema is given up.
+void XmlSchemaHandler::tellMissingReferences() const
+{
+    const ReferredNames& names = m_pReading->names;
+    for (const std::set<QString>* const kind : {&names.missing, &names.blocked}) {
+        for (const QString& name : *kind) {
+            const auto unserved = names.unserved.find(name);
+            if (unserved == names.unserved.end()) {
+                continue;
+            }
+            for (const auto& ofCopies : unserved->second) {
+                for (const ElementPathRecord* const record : ofCopies.second) {
+                    m_pReading->log->ReferenceNeverCame(name, m_pReading->referringTags[record->ownerElement],
+                                                        record->definitionName, kind == &names.blocked);
+                }
+            }
+        }
+    }
+}
+
+/// From what the model points to, too, so that it is the same with a listener as without. The skeleton is told.
+void XmlSchemaHandler::takeOffAllOrigins()
+{
+    takeOffOrigins(*m_pDocument, m_pReading->log);
+    for (const QDomDocumentFragment& fragment : m_pReading->fragments) {
+        takeOffOrigins(fragment, nullptr);
+    }
+    for (const QDomElement& element : m_pReading->elements) {
+        QDomNode top = element;
+        while (!top.parentNode().isNull()) {
+            top = top.parentNode();
+        }
+        if (nameOf(top) != top.nodeName()) { // lost elements: they stand in no fragment
+            takeOffOrigins(top, nullptr);
+        }
+    }
+}
+
 void XmlSchemaHandler::readTag()
 {
     const QString& tag = m_sCurrentName;
@@ -390,6 +492,8 @@ void XmlSchemaHandler::readTag()
         readAttribute();
     } else if (tag == ChoiceTag) {
         m_bInsideChoice = true;
+    } else if (SchemaReadingLog* const log = m_pReading->log) {
+        log->TagPassedOver(m_tag);
     }
 }
 
@@ -401,6 +505,9 @@ void XmlSchemaHandler::readInclude()
     SchemaBudget& budget = m_pReading->budget;
     if (!budget.MayOpen(identity)) {
         trace(QStringLiteral("Include was skipped, it is already being read!"), Component, __LINE__);
+        if (SchemaReadingLog* const log = m_pReading->log) {
+            log->FileSkipped(firstValue(), fileName, m_tag, budget.IsOpen(identity));
+        }
         return;
     }
     if (!budget.OpenFile(identity, m_iNesting)) {
@@ -413,6 +520,9 @@ void XmlSchemaHandler::readInclude()
     std::move(*this).HandOver(included.m_unresolvedTypes, included.m_occurs, included.m_typeDefinitions,
                               included.m_choices);
     included.m_eRootUse = RootUse::Unused;
+    if (m_pReading->log) {
+        included.tellFileBegun(firstValue(), fileName, m_tag);
+    }
     QXmlSimpleReader parser;
     included.ReadFile(fileName, parser);
     budget.CloseFile(m_iNesting);
@@ -477,6 +587,9 @@ void XmlSchemaHandler::beginGlobalDeclaration()
             m_currentElement = createElement(m_sDefinitionName, currentFragment());
         } else {
             m_pReading->isGlobalLeftOut = true;
+            if (SchemaReadingLog* const log = m_pReading->log) {
+                log->GlobalLeftOut(m_sDefinitionName, m_tag);
+            }
         }
     }
     define(m_sDefinitionName, TypeDefinition {0, 0, m_pCurrentFragment});
@@ -487,7 +600,7 @@ void XmlSchemaHandler::beginGlobalDeclaration()
             return; // What stands behind a type that is not usable yet is not read.
         }
         if (name == DefaultAttribute()) {
-            m_currentElement.setAttribute(DefaultAttribute(), m_attributes.value(i));
+            annotate(m_currentElement, DefaultAttribute(), m_attributes.value(i));
         }
     }
 }
@@ -496,7 +609,7 @@ void XmlSchemaHandler::beginGlobalDeclaration()
 bool XmlSchemaHandler::readGlobalType(const QString& type)
 {
     if (hasSchemaPrefix(type)) {
-        m_currentElement.setAttribute(TypeAttribute(), withoutSchemaPrefix(type));
+        annotate(m_currentElement, TypeAttribute(), withoutSchemaPrefix(type));
     } else if (TypeDefinition* const definition = findUsableDefinition(type)) {
         layOutNow(*definition, m_currentElement);
     } else {
@@ -509,7 +622,7 @@ bool XmlSchemaHandler::readGlobalType(const QString& type)
 void XmlSchemaHandler::readLocalElement()
 {
     const ElementDeclaration declaration(m_attributes);
-    if (!declaration.name.isEmpty() && m_pReading->budget.CheckName(declaration.name)) {
+    if (!declaration.name.isEmpty() && m_pReading->budget.CheckName(declaration.name, m_tag)) {
         layOutNamedElement(declaration);
         enterOccurs(declaration.name, declaration);
     } else if (!declaration.ref.isEmpty()) {
@@ -539,10 +652,10 @@ void XmlSchemaHandler::layOutNamedElement(const ElementDeclaration& declaration)
             = createElement(declaration.name, m_bInsideGlobal ? QDomNode(m_currentElement) : currentFragment());
         m_typeLevelElement = element;
         if (!declaration.defaultValue.isEmpty()) {
-            element.setAttribute(DefaultAttribute(), declaration.defaultValue);
+            annotate(element, DefaultAttribute(), declaration.defaultValue);
         }
         if (hasSchemaPrefix(declaration.type)) {
-            element.setAttribute(TypeAttribute(), withoutSchemaPrefix(declaration.type));
+            annotate(element, TypeAttribute(), withoutSchemaPrefix(declaration.type));
         } else if (!declaration.type.isEmpty()) {
             TypeDefinition* const definition = findUsableDefinition(declaration.type);
             if (!definition) {
@@ -595,7 +708,7 @@ void XmlSchemaHandler::deferNamedElement(const ElementDeclaration& declaration, 
 void XmlSchemaHandler::enterOccurs(QString name, const ElementDeclaration& declaration)
 {
     if (declaration.HasOccursCode()) {
-        const QString owner = m_bInsideGlobal ? m_currentElement.tagName() : m_sDefinitionName;
+        const QString owner = m_bInsideGlobal ? nameOf(m_currentElement) : m_sDefinitionName;
         const auto entry = m_occurs.try_emplace(name).first;
         if (entry == m_occurs.end()) { // unreached: what was entered is there
             name = LostElementName;
@@ -614,7 +727,7 @@ void XmlSchemaHandler::beginRestriction()
         if (!m_bInsideGlobal && m_typeLevelElement.isNull()) {
             beginCarrier();
         }
-        annotatedElement().setAttribute(TypeAttribute(), withoutSchemaPrefix(firstValue()));
+        annotate(annotatedElement(), TypeAttribute(), withoutSchemaPrefix(firstValue()));
     }
     m_bInsideRestriction = true;
 }
@@ -628,8 +741,11 @@ void XmlSchemaHandler::readFacet()
         }
         facet += QString::number(m_iEnumerationCounter++);
     }
-    if (m_pReading->budget.CheckName(facet)) {
-        annotatedElement().setAttribute(facet, firstValue());
+    if (m_pReading->budget.CheckName(facet, m_tag)) {
+        annotate(annotatedElement(), facet, firstValue());
+        if (SchemaReadingLog* const log = m_pReading->log) {
+            log->FacetRead(m_tag, facet);
+        }
     }
 }
 
@@ -643,7 +759,7 @@ void XmlSchemaHandler::beginExtension()
     }
     const QString base = firstValue();
     if (hasSchemaPrefix(base)) {
-        lastChildOrCurrent().setAttribute(TypeAttribute(), withoutSchemaPrefix(base));
+        annotate(lastChildOrCurrent(), TypeAttribute(), withoutSchemaPrefix(base));
     } else {
         extendDefinition(base);
     }
@@ -677,8 +793,9 @@ void XmlSchemaHandler::readAttribute()
 {
     const QString name = m_attributes.value(QLatin1String("name"));
     const QString ref = m_attributes.value(QLatin1String("ref"));
-    if (!name.isEmpty() && m_pReading->budget.CheckName(name)) {
-        attributedElement().setAttribute(name, m_attributes.value(QLatin1String("type")));
+    if (!name.isEmpty() && m_pReading->budget.CheckName(name, m_tag)) {
+        annotate(attributedElement(), name, m_attributes.value(QLatin1String("type")),
+                 SchemaReadingLog::AttributeKind::Declared);
     } else if (!ref.isEmpty()) {
         readAttributeReference(ref);
     }
@@ -724,7 +841,7 @@ QDomElement XmlSchemaHandler::createElement(const QString& name, QDomNode owner)
     if (!m_pReading->budget.TakeElements({1, 1, 0}, 0, 1, levelOf(owner), *m_pShare)) {
         return QDomElement();
     }
-    QDomElement element = m_pDocument->createElement(name);
+    QDomElement element = m_pDocument->createElement(m_pReading->log ? nameFrom(m_tag, name) : name);
     if (!owner.isNull()) {
         owner.appendChild(element);
     }
@@ -739,6 +856,42 @@ void XmlSchemaHandler::beginCarrier()
 {
     m_currentElement = createElement(CarrierName, currentFragment());
     m_typeLevelElement = m_currentElement;
+}
+
+/// The name of an element without where it comes from.
+QString XmlSchemaHandler::nameOf(const QDomNode& node) const
+{
+    return m_pReading->log ? withoutOrigin(node.nodeName()) : node.nodeName();
+}
+
+bool XmlSchemaHandler::isCarrier(const QDomNode& node) const
+{
+    return nameOf(node) == CarrierName;
+}
+
+void XmlSchemaHandler::annotate(QDomElement element, const QString& name, const QString& value,
+                                SchemaReadingLog::AttributeKind kind) const
+{
+    if (m_pReading->log) {
+        element.setAttribute(name, valueFrom(m_tag, kind, value));
+    } else {
+        element.setAttribute(name, value);
+    }
+}
+
+/// Gives the facets among @p attributes to @p to, with @p suffix, the name of a declared attribute, appended to their
+/// names.
+void XmlSchemaHandler::copyFacets(const DomAttributes& attributes, QDomElement to, const QString& suffix) const
+{
+    const bool isOfDeclared = m_pReading->log && !suffix.isEmpty();
+    for (const QDomAttr& attribute : attributes) {
+        if (isFacet(attribute.name())) {
+            const QString value = attribute.value();
+            to.setAttribute(attribute.name() + suffix,
+                            isOfDeclared ? valueOfKind(SchemaReadingLog::AttributeKind::FacetOfDeclared, value)
+                                         : value);
+        }
+    }
 }
 
 QDomElement XmlSchemaHandler::lastChildOrCurrent() const
@@ -767,6 +920,9 @@ void XmlSchemaHandler::define(const QString& name, const TypeDefinition& definit
 {
     m_typeDefinitions[name] = definition;
     m_pReading->names.changed.insert(name);
+    if (SchemaReadingLog* const log = m_pReading->log) {
+        log->Defined(name, m_tag);
+    }
 }
 
 TypeDefinition* XmlSchemaHandler::findDefinition(const QString& name)
@@ -803,6 +959,9 @@ void XmlSchemaHandler::layOut(TypeDefinition& definition, QDomElement owner, con
             return;
         }
         const QDomNode content = definition.fragment->cloneNode(true);
+        if (m_pReading->log && m_pReading->fragmentsOfNamedTypes.count(definition.fragment) == 0) {
+            addReference(content, m_tag);
+        }
         if (anchor.isNull()) {
             owner.appendChild(content);
         } else {
@@ -835,8 +994,9 @@ void XmlSchemaHandler::setDeclaredAttribute(TypeDefinition& definition, QDomElem
     const DomAttributes attributes = attributesOf(declared);
     if (!declared.isNull()
         && m_pReading->budget.TakeAttributes(static_cast<int>(attributes.size()), enumerationValuesAmong(attributes))) {
-        owner.setAttribute(declared.tagName(), declared.attribute(TypeAttribute()));
-        copyFacets(attributes, owner, declared.tagName());
+        const QString name = nameOf(declared);
+        annotate(owner, name, declared.attribute(TypeAttribute()), SchemaReadingLog::AttributeKind::Declared);
+        copyFacets(attributes, owner, name);
     }
 }
 
@@ -856,6 +1016,10 @@ void XmlSchemaHandler::recordReference(const QString& name, int copies, const El
     records.push_back(record);
     m_pReading->names.unserved[name][copies].push_back(&records.back());
     m_pReading->names.changed.insert(name);
+    if (SchemaReadingLog* const log = m_pReading->log) {
+        m_pReading->referringTags[record.ownerElement] = m_tag;
+        log->ReferenceDeferred(m_tag, name);
+    }
 }
 
 ElementPathRecord XmlSchemaHandler::recordOf(const QDomElement& owner, const QDomElement& anchor)
@@ -966,12 +1130,17 @@ void XmlSchemaHandler::expand(const QString& name)
 void XmlSchemaHandler::serve(const QString& name, int copies, const ElementPathRecord& record)
 {
     TypeDefinition& definition = *findDefinition(name);
+    const SchemaTag lastTag = m_tag;
+    if (m_pReading->log) {
+        m_tag = m_pReading->referringTags[record.ownerElement];
+    }
     if (record.isAttributeReference) {
         setDeclaredAttribute(definition, *record.ownerElement);
     } else {
         layOut(definition, *record.ownerElement, record.anchorElement ? *record.anchorElement : QDomElement(), copies,
                shareOf(record.definitionName));
     }
+    m_tag = lastTag;
     TypeDefinition* const waiting = findDefinition(record.definitionName);
     if (!waiting || waiting->pendingCount <= 0) {
         return;
@@ -1008,11 +1177,15 @@ int XmlSchemaHandler::enumerationValuesOf(const TypeDefinition& definition, int 
 /// root is left because of a name that XML does not allow.
 bool XmlSchemaHandler::chooseRoot()
 {
+    SchemaReadingLog* const log = m_pReading->log;
     for (const QString& name : std::exchange(m_pReading->unusedGlobals, {})) {
         TypeDefinition* const definition = findDefinition(name);
         if (definition && definition->usedFlag == 0 && definition->fragment->hasChildNodes()) {
             m_pCurrentFragment = definition->fragment;
             definition->usedFlag = 1;
+            if (log) {
+                log->UnusedGlobal(m_tag.file, name);
+            }
         }
     }
     const QDomNode root = currentFragment();

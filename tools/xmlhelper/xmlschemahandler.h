@@ -9,8 +9,10 @@
 #include <QXmlAttributes>
 #include <QXmlDefaultHandler>
 
+#include "domattributes_p.h"
 #include "schemabudget_p.h"
 #include "schemamodel.h"
+#include "schemareadinglog_p.h"
 
 class IXMLHelper;
 class QXmlSimpleReader;
@@ -53,6 +55,9 @@ public:
     XmlSchemaHandler(IXMLHelper* pCallback, const QString& schemaPath);
     ~XmlSchemaHandler() override;
 
+    /// Hands over who hears what is made of the schema; null for nobody. Before the file is read; not owned.
+    void SetLog(SchemaReadingLog* log);
+
     /// Makes every given map a copy of the handler's own; one that is the handler's own stays as it is. Always true.
     bool HandOver(UnresolvedTypeMap& unresolvedTypes, OccursMap& occurs, TypeDefinitionMap& typeDefinitions,
                   ChoiceMap& choices) &;
@@ -73,6 +78,8 @@ public:
                       const QXmlAttributes& attributes) override;
     bool endElement(const QString& namespaceURI, const QString& localName, const QString& qName) override;
     bool characters(const QString& ch) override;
+    void setDocumentLocator(QXmlLocator* locator) override;
+    bool fatalError(const QXmlParseException& exception) override;
 
 private:
     Q_DISABLE_COPY(XmlSchemaHandler)
@@ -87,6 +94,14 @@ private:
     };
 
     XmlSchemaHandler(const std::shared_ptr<SchemaReading>& reading, IXMLHelper* pCallback, const QString& schemaPath);
+
+    // What a listener hears besides the constructs.
+    void tellFileBegun(const QString& written, const QString& opened, const SchemaTag& include);
+    void tellMissingReferences() const;
+    void takeOffAllOrigins();
+
+    QByteArray readBytes(const QString& fileName);
+    bool parse(const QByteArray& bytes, QXmlSimpleReader& parser);
 
     // One small function for each construct of a schema.
     void readTag();
@@ -119,6 +134,11 @@ private:
     QDomNode currentFragment() const;
     QDomElement createElement(const QString& name, QDomNode owner);
     void beginCarrier();
+    QString nameOf(const QDomNode& node) const;
+    bool isCarrier(const QDomNode& node) const;
+    void annotate(QDomElement element, const QString& name, const QString& value,
+                  SchemaReadingLog::AttributeKind kind = SchemaReadingLog::AttributeKind::Annotation) const;
+    void copyFacets(const DomAttributes& attributes, QDomElement to, const QString& suffix = QString()) const;
     QDomElement lastChildOrCurrent() const;
     QDomElement annotatedElement() const;
     QDomElement attributedElement() const;
@@ -170,6 +190,9 @@ private:
     RootUse m_eRootUse;
 
     int m_iNesting; ///< of the tags of this file
+    SchemaTag m_tag; ///< that is being read, or whose reference is laid out
+    bool m_bFaultIsTold; ///< or is none of the text
+    QXmlLocator* m_pLocator; ///< the parser's
     std::shared_ptr<SchemaReading> m_pReading; ///< shared with the handlers of included files
     SchemaBudget::Share* m_pShare; ///< of the fragment that is being filled; one of those that are shared
 };
