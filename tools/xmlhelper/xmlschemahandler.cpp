@@ -255,6 +255,7 @@ XmlSchemaHandler::XmlSchemaHandler(const std::shared_ptr<SchemaReading>& reading
     , m_pLocator(nullptr)
     , m_pReading(reading)
     , m_pShare(&m_pReading->shares[nullptr])
+    , m_pLog(reading->log)
 {
 }
 
@@ -262,7 +263,7 @@ XmlSchemaHandler::~XmlSchemaHandler() = default;
 
 void XmlSchemaHandler::SetLog(SchemaReadingLog* log)
 {
-    m_pReading->log = log;
+    m_pLog = m_pReading->log = log;
     m_pReading->budget.SetLog(log);
 }
 
@@ -288,11 +289,10 @@ bool XmlSchemaHandler::HandOver(UnresolvedTypeMap& unresolvedTypes, OccursMap& o
 
 bool XmlSchemaHandler::ReadFile(const QString& fileName, QXmlSimpleReader& parser)
 {
-    SchemaReadingLog* const log = m_pReading->log;
     const bool isTop = m_eRootUse != RootUse::Unused;
     if (isTop) {
         m_eRootUse = RootUse::Moved;
-        if (log) {
+        if (m_pLog) {
             tellFileBegun(m_sSchemaPath, fileName, SchemaTag());
         }
     }
@@ -302,8 +302,8 @@ bool XmlSchemaHandler::ReadFile(const QString& fileName, QXmlSimpleReader& parse
     parser.setContentHandler(this);
     parser.setErrorHandler(this);
     const bool isParsed = parse(bytes, parser);
-    if (log) {
-        log->FileEnded(m_tag.file);
+    if (m_pLog) {
+        m_pLog->FileEnded(m_tag.file);
         if (isTop) {
             takeOffAllOrigins();
         }
@@ -317,8 +317,8 @@ QByteArray XmlSchemaHandler::readBytes(const QString& fileName)
     ContentFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
         m_bFaultIsTold = true;
-        if (SchemaReadingLog* const log = m_pReading->log) {
-            log->FileMissing(m_tag.file);
+        if (m_pLog) {
+            m_pLog->FileMissing(m_tag.file);
         }
         return QByteArray();
     }
@@ -359,7 +359,7 @@ bool XmlSchemaHandler::endDocument()
     m_bFaultIsTold = true;
     const bool isResolved = resolveReferences();
     const bool isGivenUp = !isResolved && !m_pReading->budget.IsRefused() && m_eRootUse != RootUse::Unused;
-    if (isGivenUp && m_pReading->log) {
+    if (isGivenUp && m_pLog) {
         tellMissingReferences();
     }
     return isResolved && chooseRoot();
@@ -374,8 +374,8 @@ bool XmlSchemaHandler::startElement(const QString&, const QString&, const QStrin
     m_sCurrentName = qName;
     m_attributes = usableAttributes(attributes);
     ++m_tag.number;
-    if (SchemaReadingLog* const log = m_pReading->log) {
-        log->TagBegun(m_tag, qName, m_pLocator ? m_pLocator->lineNumber() : 0);
+    if (m_pLog) {
+        m_pLog->TagBegun(m_tag, qName, m_pLocator ? m_pLocator->lineNumber() : 0);
     }
     if (!m_pReading->budget.CheckTag(++m_iNesting)) {
         return false;
@@ -420,10 +420,9 @@ void XmlSchemaHandler::setDocumentLocator(QXmlLocator* locator)
 /// Comes for every parse that fails, also for what a function of this handler has refused.
 bool XmlSchemaHandler::fatalError(const QXmlParseException& exception)
 {
-    SchemaReadingLog* const log = m_pReading->log;
-    if (log && !m_bFaultIsTold && !m_pReading->budget.IsRefused()) {
+    if (m_pLog && !m_bFaultIsTold && !m_pReading->budget.IsRefused()) {
         m_bFaultIsTold = true;
-        log->FileMalformed(m_tag.file, exception.message(), exception.lineNumber());
+        m_pLog->FileMalformed(m_tag.file, exception.message(), exception.lineNumber());
     }
     return false;
 }
@@ -432,7 +431,7 @@ void XmlSchemaHandler::tellFileBegun(const QString& written, const QString& open
 {
     m_tag.file = m_pReading->files++;
     const bool isAgain = !m_pReading->begunFiles.insert(identityOfFile(opened)).second;
-    m_pReading->log->FileBegun(m_tag.file, written, opened, include, isAgain);
+    m_pLog->FileBegun(m_tag.file, written, opened, include, isAgain);
 }
 
 /// What is left when the whole schema is given up.
@@ -447,8 +446,8 @@ void XmlSchemaHandler::tellMissingReferences() const
             }
             for (const auto& ofCopies : unserved->second) {
                 for (const ElementPathRecord* const record : ofCopies.second) {
-                    m_pReading->log->ReferenceNeverCame(name, m_pReading->referringTags[record->ownerElement],
-                                                        record->definitionName, kind == &names.blocked);
+                    m_pLog->ReferenceNeverCame(name, m_pReading->referringTags[record->ownerElement],
+                                               record->definitionName, kind == &names.blocked);
                 }
             }
         }
@@ -458,7 +457,7 @@ void XmlSchemaHandler::tellMissingReferences() const
 /// From what the model points to, too, so that it is the same with a listener as without. The skeleton is told.
 void XmlSchemaHandler::takeOffAllOrigins()
 {
-    takeOffOrigins(*m_pDocument, m_pReading->log);
+    takeOffOrigins(*m_pDocument, m_pLog);
     for (const QDomDocumentFragment& fragment : m_pReading->fragments) {
         takeOffOrigins(fragment, nullptr);
     }
@@ -492,8 +491,8 @@ void XmlSchemaHandler::readTag()
         readAttribute();
     } else if (tag == ChoiceTag) {
         m_bInsideChoice = true;
-    } else if (SchemaReadingLog* const log = m_pReading->log) {
-        log->TagPassedOver(m_tag);
+    } else if (m_pLog) {
+        m_pLog->TagPassedOver(m_tag);
     }
 }
 
@@ -505,8 +504,8 @@ void XmlSchemaHandler::readInclude()
     SchemaBudget& budget = m_pReading->budget;
     if (!budget.MayOpen(identity)) {
         trace(QStringLiteral("Include was skipped, it is already being read!"), Component, __LINE__);
-        if (SchemaReadingLog* const log = m_pReading->log) {
-            log->FileSkipped(firstValue(), fileName, m_tag, budget.IsOpen(identity));
+        if (m_pLog) {
+            m_pLog->FileSkipped(firstValue(), fileName, m_tag, budget.IsOpen(identity));
         }
         return;
     }
@@ -520,7 +519,7 @@ void XmlSchemaHandler::readInclude()
     std::move(*this).HandOver(included.m_unresolvedTypes, included.m_occurs, included.m_typeDefinitions,
                               included.m_choices);
     included.m_eRootUse = RootUse::Unused;
-    if (m_pReading->log) {
+    if (m_pLog) {
         included.tellFileBegun(firstValue(), fileName, m_tag);
     }
     QXmlSimpleReader parser;
@@ -587,8 +586,8 @@ void XmlSchemaHandler::beginGlobalDeclaration()
             m_currentElement = createElement(m_sDefinitionName, currentFragment());
         } else {
             m_pReading->isGlobalLeftOut = true;
-            if (SchemaReadingLog* const log = m_pReading->log) {
-                log->GlobalLeftOut(m_sDefinitionName, m_tag);
+            if (m_pLog) {
+                m_pLog->GlobalLeftOut(m_sDefinitionName, m_tag);
             }
         }
     }
@@ -743,8 +742,8 @@ void XmlSchemaHandler::readFacet()
     }
     if (m_pReading->budget.CheckName(facet, m_tag)) {
         annotate(annotatedElement(), facet, firstValue());
-        if (SchemaReadingLog* const log = m_pReading->log) {
-            log->FacetRead(m_tag, facet);
+        if (m_pLog) {
+            m_pLog->FacetRead(m_tag, facet);
         }
     }
 }
@@ -841,7 +840,7 @@ QDomElement XmlSchemaHandler::createElement(const QString& name, QDomNode owner)
     if (!m_pReading->budget.TakeElements({1, 1, 0}, 0, 1, levelOf(owner), *m_pShare)) {
         return QDomElement();
     }
-    QDomElement element = m_pDocument->createElement(m_pReading->log ? nameFrom(m_tag, name) : name);
+    QDomElement element = m_pDocument->createElement(m_pLog ? nameFrom(m_tag, name) : name);
     if (!owner.isNull()) {
         owner.appendChild(element);
     }
@@ -861,7 +860,7 @@ void XmlSchemaHandler::beginCarrier()
 /// The name of an element without where it comes from.
 QString XmlSchemaHandler::nameOf(const QDomNode& node) const
 {
-    return m_pReading->log ? withoutOrigin(node.nodeName()) : node.nodeName();
+    return m_pLog ? withoutOrigin(node.nodeName()) : node.nodeName();
 }
 
 bool XmlSchemaHandler::isCarrier(const QDomNode& node) const
@@ -872,7 +871,7 @@ bool XmlSchemaHandler::isCarrier(const QDomNode& node) const
 void XmlSchemaHandler::annotate(QDomElement element, const QString& name, const QString& value,
                                 SchemaReadingLog::AttributeKind kind) const
 {
-    if (m_pReading->log) {
+    if (m_pLog) {
         element.setAttribute(name, valueFrom(m_tag, kind, value));
     } else {
         element.setAttribute(name, value);
@@ -883,7 +882,7 @@ void XmlSchemaHandler::annotate(QDomElement element, const QString& name, const 
 /// names.
 void XmlSchemaHandler::copyFacets(const DomAttributes& attributes, QDomElement to, const QString& suffix) const
 {
-    const bool isOfDeclared = m_pReading->log && !suffix.isEmpty();
+    const bool isOfDeclared = m_pLog && !suffix.isEmpty();
     for (const QDomAttr& attribute : attributes) {
         if (isFacet(attribute.name())) {
             const QString value = attribute.value();
@@ -920,8 +919,8 @@ void XmlSchemaHandler::define(const QString& name, const TypeDefinition& definit
 {
     m_typeDefinitions[name] = definition;
     m_pReading->names.changed.insert(name);
-    if (SchemaReadingLog* const log = m_pReading->log) {
-        log->Defined(name, m_tag);
+    if (m_pLog) {
+        m_pLog->Defined(name, m_tag);
     }
 }
 
@@ -959,7 +958,7 @@ void XmlSchemaHandler::layOut(TypeDefinition& definition, QDomElement owner, con
             return;
         }
         const QDomNode content = definition.fragment->cloneNode(true);
-        if (m_pReading->log && m_pReading->fragmentsOfNamedTypes.count(definition.fragment) == 0) {
+        if (m_pLog && m_pReading->fragmentsOfNamedTypes.count(definition.fragment) == 0) {
             addReference(content, m_tag);
         }
         if (anchor.isNull()) {
@@ -1016,9 +1015,9 @@ void XmlSchemaHandler::recordReference(const QString& name, int copies, const El
     records.push_back(record);
     m_pReading->names.unserved[name][copies].push_back(&records.back());
     m_pReading->names.changed.insert(name);
-    if (SchemaReadingLog* const log = m_pReading->log) {
+    if (m_pLog) {
         m_pReading->referringTags[record.ownerElement] = m_tag;
-        log->ReferenceDeferred(m_tag, name);
+        m_pLog->ReferenceDeferred(m_tag, name);
     }
 }
 
@@ -1131,7 +1130,7 @@ void XmlSchemaHandler::serve(const QString& name, int copies, const ElementPathR
 {
     TypeDefinition& definition = *findDefinition(name);
     const SchemaTag lastTag = m_tag;
-    if (m_pReading->log) {
+    if (m_pLog) {
         m_tag = m_pReading->referringTags[record.ownerElement];
     }
     if (record.isAttributeReference) {
@@ -1177,14 +1176,13 @@ int XmlSchemaHandler::enumerationValuesOf(const TypeDefinition& definition, int 
 /// root is left because of a name that XML does not allow.
 bool XmlSchemaHandler::chooseRoot()
 {
-    SchemaReadingLog* const log = m_pReading->log;
     for (const QString& name : std::exchange(m_pReading->unusedGlobals, {})) {
         TypeDefinition* const definition = findDefinition(name);
         if (definition && definition->usedFlag == 0 && definition->fragment->hasChildNodes()) {
             m_pCurrentFragment = definition->fragment;
             definition->usedFlag = 1;
-            if (log) {
-                log->UnusedGlobal(m_tag.file, name);
+            if (m_pLog) {
+                m_pLog->UnusedGlobal(m_tag.file, name);
             }
         }
     }

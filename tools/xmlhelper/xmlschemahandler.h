@@ -195,6 +195,7 @@ private:
     QXmlLocator* m_pLocator; ///< the parser's
     std::shared_ptr<SchemaReading> m_pReading; ///< shared with the handlers of included files
     SchemaBudget::Share* m_pShare; ///< of the fragment that is being filled; one of those that are shared
+    SchemaReadingLog* m_pLog; ///< null: nobody listens
 };
 
 QT_WARNING_POP
