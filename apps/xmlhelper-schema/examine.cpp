@@ -7,8 +7,7 @@
 
 #include "reading/doctorlimits.h"
 #include "reading/grammarcheck.h"
-#include "reading/layoutplan.h"
-#include "reading/libraryreading.h"
+#include "reading/schemarecord.h"
 #include "reading/schematext.h"
 #include "reading/treebuilder.h"
 #include "rules/rule.h"
@@ -38,40 +37,39 @@ QString unreadableReasonOf(const TextFile& file)
     return QString();
 }
 
-QString noTreeReasonOf(const LayoutPlan& plan)
+/// Why there is no tree.
+QString noTreeReasonOf(const SchemaRecord& record)
 {
-    switch (plan.GetEnd()) {
-    case LayoutPlan::End::TypeIsMissing:
+    switch (record.GetEnd()) {
+    case SchemaRecord::End::TypeIsMissing:
         return QStringLiteral("The library gives the schema up: a definition that it refers to never comes.");
-    case LayoutPlan::End::TypesWaitForEachOther:
+    case SchemaRecord::End::TypesWaitForEachOther:
         return QStringLiteral("The library gives the schema up: definitions wait for each other.");
-    case LayoutPlan::End::LimitExceeded:
-        return QStringLiteral("The library gives the schema up: ") + plan.GetLimit();
-    case LayoutPlan::End::TooMuchForTheDoctor:
-        return QStringLiteral("Too much to be shown: ") + plan.GetLimit();
-    case LayoutPlan::End::Reached:
+    case SchemaRecord::End::NameRefused:
+    case SchemaRecord::End::LimitExceeded:
+        return QStringLiteral("The library gives the schema up: ") + record.GetLimit();
+    case SchemaRecord::End::TooMuchForTheDoctor:
+        return QStringLiteral("Too much to be shown: ") + record.GetLimit();
+    case SchemaRecord::End::Reached:
         break;
     }
-    if (plan.GetCount().elements > MaxShownElements || plan.GetElementsOfAllDefinitions() > MaxLaidOutElements) {
-        return QStringLiteral("Too much to be shown: trees of up to %1 elements are.").arg(MaxShownElements);
-    }
-    return QString();
+    return QStringLiteral("The library lays nothing out.");
 }
 
-int rootCountOf(const LibraryReading& reading)
+int rootCountOf(const SchemaRecord& record)
 {
     int count = 0;
-    for (QDomElement root = reading.GetRoot(); !root.isNull(); root = root.nextSiblingElement()) {
+    for (QDomElement root = record.GetRoot(); !root.isNull(); root = root.nextSiblingElement()) {
         ++count;
     }
     return count;
 }
 
 /// Errors first; then the files in the order of reading, and the lines.
-void sortFindings(QVector<Finding>& findings, const LayoutPlan& plan)
+void sortFindings(QVector<Finding>& findings, const SchemaRecord& record)
 {
     QHash<QString, int> ranks;
-    for (const TextFile* const file : plan.GetReadFiles()) {
+    for (const TextFile* const file : record.GetReadFiles()) {
         ranks.insert(file->name, int(ranks.size()));
     }
     std::stable_sort(findings.begin(), findings.end(), [&ranks](const Finding& left, const Finding& right) {
@@ -100,37 +98,32 @@ Examination examine(const QString& file)
         return examination;
     }
 
-    // From the text first: it says whether the rest can be afforded.
-    const LayoutPlan plan(text, file);
-    examination.count = plan.GetCount();
-    examination.includes = plan.GetIncludes();
-    examination.rootCandidates = plan.GetRootCandidates();
-    for (const TextFile* const read : plan.GetReadFiles()) {
+    const SchemaRecord record(text, file);
+    examination.includes = record.GetIncludes();
+    examination.rootCandidates = record.GetRootCandidates();
+    for (const TextFile* const read : record.GetReadFiles()) {
         examination.texts[read->name] = read->text;
     }
-    const QVector<GrammarFault> faults = grammarFaultsOf(top.name);
-    examination.noTreeReason = noTreeReasonOf(plan);
-    if (examination.noTreeReason.isEmpty()) {
-        const LibraryReading reading(file);
-        if (!reading.GetFault().isEmpty()) {
-            examination.unreadableReason = QStringLiteral("The library cannot read the file, ")
-                + withLine(reading.GetFault(), reading.GetFaultLine());
-        } else {
-            examination.tree = builtTree(reading, plan);
-            examination.tree.rootCount = rootCountOf(reading);
-        }
-        if (examination.tree.IsEmpty()) {
-            examination.noTreeReason = QStringLiteral("The library lays nothing out.");
-        }
+    if (examination.includes.state == IncludeState::Malformed) {
+        examination.unreadableReason = QStringLiteral("The library cannot read the file, ")
+            + withLine(examination.includes.fault, examination.includes.faultLine);
     }
+    examination.tree = builtTree(record);
+    examination.tree.rootCount = rootCountOf(record);
+    if (examination.tree.IsEmpty()) {
+        examination.noTreeReason = noTreeReasonOf(record);
+    }
+    examination.count = {int(examination.tree.elements.size()), record.GetEnd() == SchemaRecord::End::LimitExceeded,
+                         record.GetLimit()};
 
-    const Schema schema(plan, examination.tree, faults);
+    const QVector<GrammarFault> faults = grammarFaultsOf(top.name);
+    const Schema schema(record, examination.tree, faults);
     for (const Rule& rule : allRules()) {
         Findings findings(schema, QString::fromLatin1(rule.name));
         rule.check(schema, findings);
         examination.findings += findings.Take();
     }
-    sortFindings(examination.findings, plan);
+    sortFindings(examination.findings, record);
     return examination;
 }
 

@@ -165,7 +165,7 @@ private:
                   .arg(counted(severityCount(Severity::Error), QStringLiteral("error")),
                        counted(severityCount(Severity::Warning), QStringLiteral("warning")),
                        counted(severityCount(Severity::Note), QStringLiteral("note")));
-        return m_examination.count.isBeyondLimit
+        return !m_examination.count.limit.isEmpty()
             ? m_examination.count.limit + QLatin1Char(' ') + findings
             : QStringLiteral("%1 laid out. ").arg(counted(m_examination.count.elements, QStringLiteral("element")))
                 + findings;

@@ -22,11 +22,11 @@ struct RootCandidate
     Place place;
 };
 
-/// How many elements the schema lays out; computed before anything is laid out.
+/// How many elements the schema lays out.
 struct ElementCount
 {
-    int elements = 0; ///< of the report's skeleton
-    bool isBeyondLimit = false; ///< the library refuses the schema; `elements` is where the counting ended
+    int elements = 0; ///< of the report's skeleton; 0 when none is laid out
+    bool isBeyondLimit = false; ///< the library refuses the schema; else a limit is that of the doctor
     QString limit; ///< which limit, in a sentence; empty when none is reached
 };
 

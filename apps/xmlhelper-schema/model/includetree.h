@@ -24,6 +24,8 @@ struct IncludedFile
     QString written; ///< the location as the schema gives it; for the top file, as the caller gave it
     QString file; ///< where the library looks for it, as in Examination::texts
     IncludeState state = IncludeState::Read;
+    QString fault; ///< why it is malformed
+    int faultLine = 0;
     bool isOutsideOfFolder = false; ///< not in the folder of the top schema nor below it
     Place place; ///< of the xs:include; nothing for the top file
     std::vector<IncludedFile> includes;

@@ -85,6 +85,7 @@ struct LaidOutElement
     Setters setters; ///< none for a container, and for a value that can never be filled
 
     Place place; ///< of the declaration
+    Place particle; ///< of the tag that says how often it occurs: the declaration, or the reference to a global one
 };
 
 /// The skeleton document. Elements stand in document order, so what is below an element follows it.

@@ -1,15 +1,13 @@
 #ifndef SCHEMADOCTOR_TREEBUILDER_H
 #define SCHEMADOCTOR_TREEBUILDER_H
 
-#include "layoutplan.h"
-#include "libraryreading.h"
 #include "model/laidouttree.h"
+#include "schemarecord.h"
 
 namespace schemadoctor {
 
-/// The tree of the document that the library has laid out, with what its model says about each element. The plan adds
-/// the places: where it has another shape than the document, the places are those of the first tag of the name.
-LaidOutTree builtTree(const LibraryReading& reading, const LayoutPlan& plan);
+/// The tree of the document that the library has laid out, with what its model and its origins say about each element.
+LaidOutTree builtTree(const SchemaRecord& record);
 
 /// The setters that take the type of an element, as the skeleton holds it.
 Setters settersOfElement(const QString& type);

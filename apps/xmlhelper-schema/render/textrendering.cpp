@@ -166,7 +166,7 @@ QString findingText(const Finding& finding)
 QString countText(const Examination& examination)
 {
     const ElementCount& count = examination.count;
-    return count.isBeyondLimit ? count.limit : QStringLiteral("%1 elements are laid out.").arg(count.elements);
+    return count.limit.isEmpty() ? QStringLiteral("%1 elements are laid out.").arg(count.elements) : count.limit;
 }
 
 QString summaryOf(const QVector<Finding>& findings)

@@ -23,7 +23,7 @@ void look(const IncludedFile& file, Findings& findings)
 
 void cyclicInclude(const Schema& schema, Findings& findings)
 {
-    look(schema.GetPlan().GetIncludes(), findings);
+    look(schema.GetRecord().GetIncludes(), findings);
 }
 
 } // namespace schemadoctor

@@ -23,7 +23,7 @@ QSet<QString> namesReferredTo(const Schema& schema)
 void declarationBeforeInclude(const Schema& schema, Findings& findings)
 {
     const QSet<QString> used = namesReferredTo(schema);
-    for (const auto& [declaration, include] : schema.GetPlan().GetHiddenRoots()) {
+    for (const auto& [declaration, include] : schema.GetRecord().GetHiddenRoots()) {
         if (!declaration->Is("element") || used.contains(declaration->FirstValue())) {
             continue;
         }

@@ -38,7 +38,7 @@ void look(const IncludedFile& file, const QString& topFile, Findings& findings)
 
 void missingInclude(const Schema& schema, Findings& findings)
 {
-    const IncludedFile& top = schema.GetPlan().GetIncludes();
+    const IncludedFile& top = schema.GetRecord().GetIncludes();
     look(top, top.written, findings);
 }
 

@@ -4,15 +4,14 @@ namespace schemadoctor {
 
 void missingType(const Schema& schema, Findings& findings)
 {
-    const auto& definitions = schema.GetPlan().GetDefinitions();
-    for (const auto& [name, references] : schema.GetPlan().GetMissing()) {
-        if (definitions.count(name) > 0) {
-            continue;
-        }
+    const SchemaRecord& record = schema.GetRecord();
+    const QString nowhere = record.IsEverythingRead() ? QStringLiteral("which is defined nowhere")
+                                                      : QStringLiteral("which nothing defines that could be read");
+    for (const auto& [name, references] : record.GetMissing()) {
         for (const TextNode* const reference : references) {
             findings.Add(
                 Severity::Error, *reference,
-                QStringLiteral("%1 refers to '%2', which is defined nowhere.").arg(described(*reference), name),
+                QStringLiteral("%1 refers to '%2', %3.").arg(described(*reference), name, nowhere),
                 QStringLiteral("The whole schema is given up: the report holds nothing."),
                 QStringLiteral("Define '%1', include the file that does, or write xs:%1 if it is a type of XML "
                                "Schema.")

@@ -4,7 +4,7 @@ namespace schemadoctor {
 
 void oneNameInSeveralSpaces(const Schema& schema, Findings& findings)
 {
-    for (const LayoutPlan::Replacement& replacement : schema.GetPlan().GetReplacements()) {
+    for (const SchemaRecord::Replacement& replacement : schema.GetRecord().GetReplacements()) {
         const TextNode& earlier = *replacement.earlier;
         const TextNode& later = *replacement.later;
         findings.Add(

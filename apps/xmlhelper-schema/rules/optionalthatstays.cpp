@@ -12,12 +12,12 @@ void optionalThatStays(const Schema& schema, Findings& findings)
     const LaidOutTree& tree = schema.GetTree();
     for (int index = 0; index < int(tree.elements.size()); ++index) {
         const LaidOutElement& element = tree.elements[std::size_t(index)];
-        const QPair<QString, int> place(element.place.file, element.place.line);
+        const QPair<QString, int> place(element.particle.file, element.particle.line);
         if (element.minOccurs != 0 || element.fate != Fate::Stays || told.contains(place)) {
             continue;
         }
         told.insert(place);
-        findings.Add(Severity::Warning, element.place, element.name,
+        findings.Add(Severity::Warning, element.particle, element.name,
                      QStringLiteral("The element '%1' is optional, but not known to be.").arg(element.name),
                      QStringLiteral("When nothing fills it, it stays, with its annotations: what is optional is looked "
                                     "for below the first element that is called like its owner, and in a named type "

@@ -35,7 +35,7 @@ class CycleSearch
 {
 public:
     CycleSearch(const Schema& schema, Findings& findings)
-        : m_isGivenUp(schema.GetPlan().GetEnd() == LayoutPlan::End::TypesWaitForEachOther)
+        : m_isGivenUp(schema.GetRecord().GetEnd() == SchemaRecord::End::TypesWaitForEachOther)
         , m_graph(referencesOf(schema, m_order))
         , m_findings(findings)
     {

@@ -6,7 +6,7 @@ void repeatedElementOfLaterType(const Schema& schema, Findings& findings)
 {
     for (const TextNode* const tag : schema.Tags({"element"})) {
         const TextNode* const type = namedTypeAround(*tag);
-        if (!type || !tag->Has("name") || occursOf(*tag, "minOccurs", 1) < 2 || !schema.GetPlan().IsDeferred(tag)) {
+        if (!type || !tag->Has("name") || occursOf(*tag, "minOccurs", 1) < 2 || !schema.GetRecord().IsDeferred(tag)) {
             continue;
         }
         Finding& finding = findings.Add(

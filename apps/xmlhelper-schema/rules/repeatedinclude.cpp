@@ -22,7 +22,7 @@ void look(const IncludedFile& file, Findings& findings)
 
 void repeatedInclude(const Schema& schema, Findings& findings)
 {
-    look(schema.GetPlan().GetIncludes(), findings);
+    look(schema.GetRecord().GetIncludes(), findings);
 }
 
 } // namespace schemadoctor

@@ -7,7 +7,7 @@ namespace schemadoctor {
 /// The global declarations that nothing refers to compete, and the greatest name wins.
 void rootChoice(const Schema& schema, Findings& findings)
 {
-    const QVector<RootCandidate>& candidates = schema.GetPlan().GetRootCandidates();
+    const QVector<RootCandidate>& candidates = schema.GetRecord().GetRootCandidates();
     const LaidOutTree& tree = schema.GetTree();
     if (tree.IsEmpty()) {
         return;

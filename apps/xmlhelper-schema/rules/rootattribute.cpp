@@ -4,7 +4,7 @@ namespace schemadoctor {
 
 void rootAttribute(const Schema& schema, Findings& findings)
 {
-    for (const RootCandidate& candidate : schema.GetPlan().GetRootCandidates()) {
+    for (const RootCandidate& candidate : schema.GetRecord().GetRootCandidates()) {
         if (candidate.isAttribute) {
             findings.Add(
                 candidate.isChosen ? Severity::Error : Severity::Warning, candidate.place, candidate.name,

@@ -17,8 +17,8 @@ QPair<QPair<QString, int>, QString> keyOf(const Place& place, const QString& nam
 
 } // namespace
 
-Schema::Schema(const LayoutPlan& plan, const LaidOutTree& tree, const QVector<GrammarFault>& faults)
-    : m_plan(plan)
+Schema::Schema(const SchemaRecord& record, const LaidOutTree& tree, const QVector<GrammarFault>& faults)
+    : m_record(record)
     , m_tree(tree)
     , m_faults(faults)
 {

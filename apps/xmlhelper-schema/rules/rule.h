@@ -12,7 +12,7 @@
 #include "model/finding.h"
 #include "model/laidouttree.h"
 #include "reading/grammarcheck.h"
-#include "reading/layoutplan.h"
+#include "reading/schemarecord.h"
 #include "reading/schematext.h"
 
 namespace schemadoctor {
@@ -21,12 +21,12 @@ namespace schemadoctor {
 class Schema
 {
 public:
-    Schema(const LayoutPlan& plan, const LaidOutTree& tree, const QVector<GrammarFault>& faults);
+    Schema(const SchemaRecord& record, const LaidOutTree& tree, const QVector<GrammarFault>& faults);
 
-    const LayoutPlan& GetPlan() const { return m_plan; }
+    const SchemaRecord& GetRecord() const { return m_record; }
     const LaidOutTree& GetTree() const { return m_tree; }
     const QVector<GrammarFault>& GetFaults() const { return m_faults; }
-    const std::vector<const TextFile*>& GetFiles() const { return m_plan.GetReadFiles(); }
+    const std::vector<const TextFile*>& GetFiles() const { return m_record.GetReadFiles(); }
 
     /// The tags of these names that the library can see, in all files, in the order of reading.
     std::vector<const TextNode*> Tags(std::initializer_list<const char*> names) const;
@@ -38,7 +38,7 @@ public:
     int FirstElementOf(const TextNode& declaration) const;
 
 private:
-    const LayoutPlan& m_plan;
+    const SchemaRecord& m_record;
     const LaidOutTree& m_tree;
     const QVector<GrammarFault>& m_faults;
     QHash<QPair<QPair<QString, int>, QString>, int> m_firstElements;

@@ -43,6 +43,7 @@ namespace schemadoctor {
     RULE("one-name-in-several-spaces", oneNameInSeveralSpaces)                                                         \
     RULE("one-name-under-several-owners", oneNameUnderSeveralOwners)                                                   \
     RULE("contained-attribute-names", containedAttributeNames)                                                         \
+    RULE("invalid-name", invalidName)                                                                                  \
     RULE("annotation-name", annotationName)                                                                            \
     RULE("optional-without-maximum", optionalWithoutMaximum)                                                           \
     RULE("optional-with-maximum", optionalWithMaximum)                                                                 \

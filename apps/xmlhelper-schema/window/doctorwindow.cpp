@@ -68,10 +68,10 @@ QString summaryOf(const Examination& examination)
     if (examination.tree.IsEmpty()) {
         return examination.noTreeReason;
     }
-    return examination.count.isBeyondLimit ? examination.count.limit
-                                           : QStringLiteral("Elements laid out: %1. Findings: %2.")
-                                                 .arg(examination.count.elements)
-                                                 .arg(examination.findings.size());
+    return !examination.count.limit.isEmpty() ? examination.count.limit
+                                              : QStringLiteral("Elements laid out: %1. Findings: %2.")
+                                                    .arg(examination.count.elements)
+                                                    .arg(examination.findings.size());
 }
 
 } // namespace
