@@ -3,13 +3,12 @@
 #include <algorithm>
 #include <iterator>
 
-#include <QRegularExpression>
+#include <xmlhelper/skeletonwords_p.h>
+#include <xmlhelper/valuerules_p.h>
 
 namespace reportcheck {
 
 namespace {
-
-const char* const rangeFacets[] = {"minInclusive", "maxInclusive", "minExclusive", "maxExclusive"};
 
 const char* const otherFacets[] = {"pattern",        "length",     "minLength", "maxLength",       "totalDigits",
                                    "fractionDigits", "whiteSpace", "assertion", "explicitTimezone"};
@@ -64,52 +63,31 @@ const char* const builtInTypes[] = {"anySimpleType",
                                     "unsignedShort",
                                     "yearMonthDuration"};
 
-// The report builder looks for these words in a type's name.
-const char* const fillableWords[] = {"string", "double", "integer", "bool", "dateTime", "time", "short", "long"};
-
 template <std::size_t Count> bool isAmong(const QString& name, const char* const (&names)[Count])
 {
     return std::any_of(std::begin(names), std::end(names),
                        [&](const char* candidate) { return name == QLatin1String(candidate); });
 }
 
-Annotation enumerationIn(const QString& name)
-{
-    static const QRegularExpression pattern(QStringLiteral("^enumeration[0-9]+(.*)$"));
-    const QRegularExpressionMatch match = pattern.match(name);
-    if (!match.hasMatch()) {
-        return {};
-    }
-    const QString attribute = match.captured(1);
-    return {attribute.isEmpty() ? AnnotationKind::Enumeration : AnnotationKind::AttributeFacet, attribute};
-}
-
-Annotation attributeRangeIn(const QString& name)
-{
-    for (const char* facet : rangeFacets) {
-        if (name.startsWith(QLatin1String(facet))) {
-            return {AnnotationKind::AttributeFacet, name.mid(QLatin1String(facet).size())};
-        }
-    }
-    return {};
-}
-
 Annotation annotationNamed(const QString& name)
 {
-    if (name == QLatin1String("type")) {
+    if (name == TypeAttribute()) {
         return {AnnotationKind::Type, {}};
     }
-    if (name == QLatin1String("default")) {
+    if (name == DefaultAttribute()) {
         return {AnnotationKind::Default, {}};
-    }
-    if (isAmong(name, rangeFacets)) {
-        return {AnnotationKind::Range, {}};
     }
     if (isAmong(name, otherFacets)) {
         return {AnnotationKind::OtherFacet, {}};
     }
-    const Annotation enumeration = enumerationIn(name);
-    return enumeration.kind == AnnotationKind::None ? attributeRangeIn(name) : enumeration;
+    const FacetName facet = facetNameIn(name);
+    if (facet.facet.size() == 0) {
+        return {};
+    }
+    if (!facet.attribute.isEmpty()) {
+        return {AnnotationKind::AttributeFacet, facet.attribute};
+    }
+    return {facet.facet == EnumerationFacet ? AnnotationKind::Enumeration : AnnotationKind::Range, {}};
 }
 
 } // namespace
@@ -134,9 +112,7 @@ QStringList annotationsOf(const ReportElement& element, const DeclaredAttributes
 
 bool canBeFilled(const QString& type)
 {
-    return type == QLatin1String("int")
-        || std::any_of(std::begin(fillableWords), std::end(fillableWords),
-                       [&](const char* word) { return type.contains(QLatin1String(word)); });
+    return settersOfElement(type) != Setters();
 }
 
 bool isBuiltInType(const QString& name)

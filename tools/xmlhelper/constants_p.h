@@ -2,38 +2,13 @@
 #define XMLHELPER_CONSTANTS_P_H
 
 #include <QLatin1String>
-#include <QString>
 
-// Words that the skeleton document and its readers share.
-
-inline const QLatin1String SchemaPrefix("xs:");
-
-// Asked for several times for each element, and so without a conversion.
-inline QString TypeAttribute()
-{
-    return QStringLiteral("type");
-}
-inline QString DefaultAttribute()
-{
-    return QStringLiteral("default");
-}
-
-inline const QLatin1String EnumerationFacet("enumeration");
-inline const QLatin1String MinInclusiveFacet("minInclusive");
-inline const QLatin1String MaxInclusiveFacet("maxInclusive");
-inline const QLatin1String MinExclusiveFacet("minExclusive");
-inline const QLatin1String MaxExclusiveFacet("maxExclusive");
+// Deliberate oddities.
 
 /// What all four range facets have in common; attributes are recognised as range facets by containing it.
 /// One might expect the four exact names. It is kept because declared attributes carry facets named facet + attribute,
 /// which are found by the same substring.
 inline const QLatin1String RangeFacetMark("clusive");
-
-/// The declaration that every skeleton, and so every report, begins with. Its quotes differ from each other, which Qt
-/// evens out when it saves the document.
-inline const QLatin1String SkeletonDeclaration("<?xml version='1.0' encoding=\"UTF-8\"?>");
-
-// Deliberate oddities.
 
 /// The element that carries the annotations of a simple type: users of the type receive its attributes and no child.
 /// One might expect a dedicated record. It is kept because every reader of a fragment recognises carriers by this name.

@@ -8,7 +8,6 @@
 
 #include <QXmlAttributes>
 
-#include "constants_p.h"
 #include "docbeginevent.h"
 #include "docendevent.h"
 #include "domattributes_p.h"
@@ -17,7 +16,9 @@
 #include "elementsearch_p.h"
 #include "errorevent.h"
 #include "eventdelivery_p.h"
+#include "skeletonwords_p.h"
 #include "tracing_p.h"
+#include "valuerules_p.h"
 
 QT_WARNING_DISABLE_DEPRECATED
 
@@ -35,13 +36,7 @@ QXmlAttributes saxAttributesOf(const QDomNode& node)
 
 bool isValueElement(const QDomElement& element)
 {
-    return !element.attribute(TypeAttribute()).isEmpty();
-}
-
-bool isFacetName(const QString& name)
-{
-    return name.contains(EnumerationFacet) || name.contains(MinInclusiveFacet) || name.contains(MaxInclusiveFacet)
-        || name.contains(MinExclusiveFacet) || name.contains(MaxExclusiveFacet);
+    return isValueType(element.attribute(TypeAttribute()));
 }
 
 /// Up to here listing the attributes takes less than knowing those that were listed.
@@ -84,12 +79,6 @@ template <class IsOwner> bool isAnyBehindPrefix(OwnerIndex& index, const IsOwner
     const QStringList names = index.HasPrefixes() ? index.NamesBehindPrefixes() : QStringList();
     return std::any_of(names.begin(), names.end(),
                        [&](const QString& name) { return isOwner(name) && index.IsBehindPrefix(name); });
-}
-
-/// Whether an occurs code is one of minOccurs 0.
-bool isOptionalCode(int occursCode)
-{
-    return occursCode % OptionalOccursFactor == 0;
 }
 
 } // namespace
@@ -331,7 +320,7 @@ void DomParser::listFacets()
 {
     m_facetNames.clear();
     for (const QDomAttr& attribute : attributesOf(m_currentElement)) {
-        if (isFacetName(attribute.name())) {
+        if (isPossibleFacet(attribute.name())) {
             m_facetNames.append(attribute.name());
         }
     }

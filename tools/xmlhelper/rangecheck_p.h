@@ -7,6 +7,7 @@
 #include <QLatin1String>
 
 #include "constants_p.h"
+#include "skeletonwords_p.h"
 
 /// What the range check answers: whether the value is accepted, and which facets have been used up then, in the order
 /// in which they are to be removed.
@@ -34,6 +35,20 @@ template <typename Number> struct RangeBounds
     Number maxInclusive = AbsentBound;
     Number minExclusive = AbsentBound;
     Number maxExclusive = AbsentBound;
+
+    /// Takes a bound. Facets without a name are passed over.
+    void Set(QLatin1String facet, Number bound)
+    {
+        if (facet == MinInclusiveFacet) {
+            minInclusive = bound;
+        } else if (facet == MaxInclusiveFacet) {
+            maxInclusive = bound;
+        } else if (facet == MinExclusiveFacet) {
+            minExclusive = bound;
+        } else if (facet == MaxExclusiveFacet) {
+            maxExclusive = bound;
+        }
+    }
 
     RangeVerdict Check(Number value, UpperBoundBehindLower rule) const
     {

@@ -11,6 +11,7 @@
 #include "elembeginevent.h"
 #include "errorevent.h"
 #include "numberconversion_p.h"
+#include "skeletonwords_p.h"
 #include "tracing_p.h"
 #include "treesnapshot_p.h"
 #include "vcreporting.h"

@@ -1,6 +1,7 @@
 #include "xmlcreatereport.h"
 
 #include <memory>
+#include <type_traits>
 #include <utility>
 
 #include <QDateTime>
@@ -21,8 +22,10 @@
 #include "limits_p.h"
 #include "numberconversion_p.h"
 #include "rangecheck_p.h"
+#include "skeletonwords_p.h"
 #include "takeapart_p.h"
 #include "tracing_p.h"
+#include "valuerules_p.h"
 #include "xmlcontenthandler.h"
 #include "xmlreader.h"
 #include "xmlschemahandler.h"
@@ -32,45 +35,28 @@ QT_WARNING_DISABLE_DEPRECATED
 
 namespace {
 
-const QLatin1String ShortType("short");
-const QLatin1String LongType("long");
-const QLatin1String IntType("int");
-const QLatin1String IntegerType("integer");
-
 /// The namespace of schema instances, fixed by W3C XML Schema, Structures.
 const QLatin1String SchemaInstanceNamespace("http://www.w3.org/2001/XMLSchema-instance");
 
-bool isEnumerationOfElement(const QString& attributeName)
-{
-    return !attributeName.isEmpty() && attributeName.back().isDigit() && attributeName.contains(EnumerationFacet);
-}
-
 /// A facet's number; one that does not convert counts as 0.
-void readBound(const QString& text, int& bound)
+template <typename Number> Number boundIn(const QString& text)
 {
-    bound = text.toInt();
-}
-
-void readBound(const QString& text, double& bound)
-{
-    bool isNumber = false;
-    const double number = text.toDouble(&isNumber);
-    bound = isNumber ? number : 0.0;
+    if constexpr (std::is_same_v<Number, int>) {
+        return text.toInt();
+    } else {
+        bool isNumber = false;
+        const double number = text.toDouble(&isNumber);
+        return isNumber ? number : 0.0;
+    }
 }
 
 template <typename Number> RangeBounds<Number> boundsOfElement(const QDomElement& element)
 {
     RangeBounds<Number> bounds;
     for (const QDomAttr& attribute : attributesOf(element)) {
-        const QString facet = attribute.name();
-        if (facet == MinInclusiveFacet) {
-            readBound(attribute.value(), bounds.minInclusive);
-        } else if (facet == MaxInclusiveFacet) {
-            readBound(attribute.value(), bounds.maxInclusive);
-        } else if (facet == MinExclusiveFacet) {
-            readBound(attribute.value(), bounds.minExclusive);
-        } else if (facet == MaxExclusiveFacet) {
-            readBound(attribute.value(), bounds.maxExclusive);
+        const QLatin1String facet = rangeFacetOfElement(attribute.name());
+        if (facet.size() > 0) {
+            bounds.Set(facet, boundIn<Number>(attribute.value()));
         }
     }
     return bounds;
@@ -97,39 +83,17 @@ template <class IsWanted> DomAttributes facetsOf(DomParser& parser, QDomElement&
     return facets;
 }
 
-/// The facets of an attribute are those whose names contain its name. They are read as integers for numbers of every
-/// kind, so that a fractional one counts as 0. One might expect 0.5 to bound a double; it is kept because schemas have
-/// been written to it.
+/// The facets of an attribute are read as integers for numbers of every kind, so that a fractional one counts as 0. One
+/// might expect 0.5 to bound a double; it is kept because schemas have been written to it.
 template <typename Number>
 RangeBounds<Number> boundsOfAttribute(DomParser& parser, QDomElement& element, const QString& name)
 {
     RangeBounds<Number> bounds;
-    for (const QDomAttr& attribute :
-         facetsOf(parser, element, [&](const QString& facet) { return facet.contains(name); })) {
-        const QString facet = attribute.name();
-        const int value = attribute.value().toInt();
-        if (facet.contains(MinInclusiveFacet)) {
-            bounds.minInclusive = value;
-        } else if (facet.contains(MaxInclusiveFacet)) {
-            bounds.maxInclusive = value;
-        } else if (facet.contains(MinExclusiveFacet)) {
-            bounds.minExclusive = value;
-        } else if (facet.contains(MaxExclusiveFacet)) {
-            bounds.maxExclusive = value;
-        }
+    const auto isBound = [&](const QString& facet) { return rangeFacetOfAttribute(facet, name).size() > 0; };
+    for (const QDomAttr& attribute : facetsOf(parser, element, isBound)) {
+        bounds.Set(rangeFacetOfAttribute(attribute.name(), name), attribute.value().toInt());
     }
     return bounds;
-}
-
-/// Whether an occurs code allows an element to occur @p count times. The code is compared as it is, so an optional
-/// element takes up to a hundred times its maxOccurs.
-bool isCountAllowed(int occursCode, int count)
-{
-    if (count > 0) {
-        return occursCode == UnboundedOccurs || occursCode / OptionalOccursFactor == UnboundedOccurs
-            || count <= occursCode;
-    }
-    return count < 0 || occursCode % OptionalOccursFactor == 0;
 }
 
 /// What it takes to announce an element once more, in the steps of Limits::multiplyingSteps.
@@ -198,7 +162,7 @@ bool XmlCreateReport::CreateXmlFromSchema(QString schemaPath, QString reportPath
 
 void XmlCreateReport::SetXmlValue(QString value)
 {
-    if (!isTypeAccepted(QStringLiteral("string"), IXMLHelper::CURRENT_TYPE_IS_NOT_STRING)) {
+    if (!isTypeAccepted(wordOf(Setter::Text), IXMLHelper::CURRENT_TYPE_IS_NOT_STRING)) {
         return;
     }
     const QString text = representableText(value, "XmlCreateReport::SetXmlValue");
@@ -214,7 +178,7 @@ void XmlCreateReport::SetXmlValue(double value)
     // The type is asked before the element is refreshed: the object is the same for the whole walk, so only the first
     // operation of all does not know its type. One might expect to ask once; it is kept because an element without a
     // type is reported as unknown twice, and receivers count on that.
-    const QString wanted = QStringLiteral("double");
+    const QString wanted = wordOf(Setter::Floating);
     const bool isShort = m_pCurrentElement && TypeControl(wanted) == ShortType;
     const QString text = isShort ? QString::number(toInt32(value)) : toReportText(value);
     if (isTypeAccepted(wanted, IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE) && useRange(value)) {
@@ -226,7 +190,7 @@ void XmlCreateReport::SetXmlValue(double value)
 
 void XmlCreateReport::SetXmlValue(int value)
 {
-    if (!isTypeAccepted(IntegerType, IXMLHelper::CURRENT_TYPE_IS_NOT_INTEGER)) {
+    if (!isTypeAccepted(wordOf(Setter::Integer), IXMLHelper::CURRENT_TYPE_IS_NOT_INTEGER)) {
         return;
     }
     // Removed before the range is checked, unlike the other numbers: a refused integer leaves no type behind.
@@ -238,7 +202,7 @@ void XmlCreateReport::SetXmlValue(int value)
 
 void XmlCreateReport::SetXmlValue(bool value)
 {
-    if (isTypeAccepted(QStringLiteral("bool"), IXMLHelper::CURRENT_TYPE_IS_NOT_BOOLEAN)) {
+    if (isTypeAccepted(wordOf(Setter::Truth), IXMLHelper::CURRENT_TYPE_IS_NOT_BOOLEAN)) {
         const OwnerIndex::OwnChange change = m_pDomParser->Change();
         m_pCurrentElement->removeAttribute(TypeAttribute());
         CreateAndAppendTextNode(value ? QStringLiteral("true") : QStringLiteral("false"));
@@ -247,7 +211,7 @@ void XmlCreateReport::SetXmlValue(bool value)
 
 void XmlCreateReport::SetXmlValue(QDateTime value)
 {
-    if (isTypeAccepted(QStringLiteral("dateTime"), IXMLHelper::CURRENT_TYPE_IS_NOT_DATETIME)) {
+    if (isTypeAccepted(wordOf(Setter::DateTime), IXMLHelper::CURRENT_TYPE_IS_NOT_DATETIME)) {
         const OwnerIndex::OwnChange change = m_pDomParser->Change();
         CreateAndAppendTextNode(value.toString(Qt::ISODate));
         m_pCurrentElement->removeAttribute(TypeAttribute());
@@ -256,7 +220,7 @@ void XmlCreateReport::SetXmlValue(QDateTime value)
 
 void XmlCreateReport::SetXmlValue(QTime value)
 {
-    if (isTypeAccepted(QStringLiteral("time"), IXMLHelper::CURRENT_TYPE_IS_NOT_TIME)) {
+    if (isTypeAccepted(wordOf(Setter::Time), IXMLHelper::CURRENT_TYPE_IS_NOT_TIME)) {
         const OwnerIndex::OwnChange change = m_pDomParser->Change();
         CreateAndAppendTextNode(value.toString(Qt::ISODate));
         m_pCurrentElement->removeAttribute(TypeAttribute());
@@ -265,16 +229,12 @@ void XmlCreateReport::SetXmlValue(QTime value)
 
 void XmlCreateReport::SetAttributeValue(QString name, QString value)
 {
-    const auto isEnumerationOfAttribute = [&name](const QString& attributeName) {
-        return attributeName.size() >= EnumerationFacet.size() && attributeName.contains(EnumerationFacet)
-            && attributeName.contains(name);
-    };
     if (!refreshCurrentElement()
-        || !isAttributeTypeAccepted(name, QStringLiteral("string"), IXMLHelper::CURRENT_TYPE_IS_NOT_STRING)) {
+        || !isAttributeTypeAccepted(name, wordOf(Setter::Text), IXMLHelper::CURRENT_TYPE_IS_NOT_STRING)) {
         return;
     }
     const QString text = representableText(value, "XmlCreateReport::SetAttributeValue");
-    if (useEnumeration(text, isEnumerationOfAttribute)) {
+    if (useEnumeration(text, [&name](const QString& facet) { return isEnumerationOfAttribute(facet, name); })) {
         m_pDomParser->SetAttribute(name, text);
     }
 }
@@ -282,7 +242,7 @@ void XmlCreateReport::SetAttributeValue(QString name, QString value)
 void XmlCreateReport::SetAttributeValue(QString name, QDateTime value)
 {
     if (refreshCurrentElement()
-        && isAttributeTypeAccepted(name, QStringLiteral("dateTime"), IXMLHelper::CURRENT_TYPE_IS_NOT_DATETIME)) {
+        && isAttributeTypeAccepted(name, wordOf(Setter::DateTime), IXMLHelper::CURRENT_TYPE_IS_NOT_DATETIME)) {
         m_pDomParser->SetAttribute(name, value.toString(Qt::ISODate));
     }
 }
@@ -291,7 +251,7 @@ void XmlCreateReport::SetAttributeValue(QString name, int value)
 {
     if (!refreshCurrentElement()) {
         Error(IXMLHelper::NO_CURRENT_ELEMENT);
-    } else if (isAttributeTypeAccepted(name, IntegerType, IXMLHelper::CURRENT_TYPE_IS_NOT_INTEGER)) {
+    } else if (isAttributeTypeAccepted(name, wordOf(Setter::Integer), IXMLHelper::CURRENT_TYPE_IS_NOT_INTEGER)) {
         setCheckedAttribute(name, QString::number(value), value);
     }
 }
@@ -300,7 +260,7 @@ void XmlCreateReport::SetAttributeValue(QString name, double value)
 {
     if (!refreshCurrentElement()) {
         Error(IXMLHelper::NO_CURRENT_ELEMENT);
-    } else if (isAttributeTypeAccepted(name, QStringLiteral("double"), IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE)) {
+    } else if (isAttributeTypeAccepted(name, wordOf(Setter::Floating), IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE)) {
         setCheckedAttribute(name, toReportText(value), value);
     }
 }
@@ -362,8 +322,7 @@ void XmlCreateReport::CreateAndAppendTextNode(QString text)
     m_pDomParser->ContinueAt(m_pCurrentElement, false);
 }
 
-/// The type of the current element when it fits @p wanted, "" when it does not. "short" and "long" fit everything: one
-/// might expect numbers only, but modules write texts and flags into such elements. An "int" takes integers.
+/// The type of the current element when it fits @p wanted, "" when it does not.
 QString XmlCreateReport::TypeControl(QString wanted)
 {
     const QString type = m_pCurrentElement->attribute(TypeAttribute());
@@ -371,15 +330,7 @@ QString XmlCreateReport::TypeControl(QString wanted)
         Error(IXMLHelper::CURRENT_TYPE_IS_UNKNOWN);
         return QString();
     }
-    if (type.contains(wanted) || (wanted == IntegerType && type == IntType)) {
-        return type;
-    }
-    for (const QLatin1String universal : {ShortType, LongType}) {
-        if (type.contains(universal)) {
-            return universal;
-        }
-    }
-    return QString();
+    return typeTakenBy(wanted, type);
 }
 
 void XmlCreateReport::Error(int id)
@@ -493,7 +444,7 @@ bool XmlCreateReport::isTypeAccepted(const QString& wanted, IXMLHelper::ErrorID 
 /// An attribute holds its declared type until it is set.
 bool XmlCreateReport::isAttributeTypeAccepted(const QString& name, const QString& wanted, IXMLHelper::ErrorID refusal)
 {
-    if (m_pCurrentElement->attribute(name).contains(wanted)) {
+    if (isAttributeTakenBy(wanted, m_pCurrentElement->attribute(name))) {
         return true;
     }
     Error(refusal);

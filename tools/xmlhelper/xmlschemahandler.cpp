@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
-#include <limits>
+#include <optional>
 #include <set>
 #include <utility>
 #include <vector>
@@ -21,7 +21,9 @@
 #include "domorder_p.h"
 #include "guardedsource_p.h"
 #include "schemaorigin_p.h"
+#include "skeletonwords_p.h"
 #include "tracing_p.h"
+#include "valuerules_p.h"
 #include "xmltext_p.h"
 
 QT_WARNING_DISABLE_DEPRECATED
@@ -84,8 +86,6 @@ struct XmlSchemaHandler::ElementDeclaration
     explicit ElementDeclaration(const QXmlAttributes& attributes);
 
     int Copies() const { return std::max(1, minOccurs); }
-    bool HasOccursCode() const { return maxOccurs != OccursNotGiven || minOccurs == 0; }
-    int OccursCode() const;
 
     QString name;
     QString type;
@@ -127,11 +127,6 @@ bool isTypeTag(const QString& qName)
 bool isDeclarationTag(const QString& qName)
 {
     return qName == ElementTag || qName == AttributeTag;
-}
-
-bool isFacet(const QString& attributeName)
-{
-    return attributeName.contains(EnumerationFacet) || attributeName.contains(RangeFacetMark);
 }
 
 int enumerationValuesAmong(const DomAttributes& attributes)
@@ -212,16 +207,6 @@ XmlSchemaHandler::ElementDeclaration::ElementDeclaration(const QXmlAttributes& a
         const QString value = attributes.value(maxIndex);
         maxOccurs = value == QLatin1String("unbounded") ? UnboundedOccurs : value.toInt();
     }
-}
-
-int XmlSchemaHandler::ElementDeclaration::OccursCode() const
-{
-    if (maxOccurs == OccursNotGiven) {
-        return 0;
-    }
-    constexpr int greatestFactor = std::numeric_limits<int>::max() / OptionalOccursFactor;
-    constexpr int leastFactor = std::numeric_limits<int>::min() / OptionalOccursFactor;
-    return minOccurs == 0 ? std::clamp(maxOccurs, leastFactor, greatestFactor) * OptionalOccursFactor : maxOccurs;
 }
 
 XmlSchemaHandler::XmlSchemaHandler(IXMLHelper* pCallback, const QString& schemaPath)
@@ -706,13 +691,13 @@ void XmlSchemaHandler::deferNamedElement(const ElementDeclaration& declaration, 
 
 void XmlSchemaHandler::enterOccurs(QString name, const ElementDeclaration& declaration)
 {
-    if (declaration.HasOccursCode()) {
+    if (const std::optional<int> code = occursCodeOf(declaration.minOccurs, declaration.maxOccurs)) {
         const QString owner = m_bInsideGlobal ? nameOf(m_currentElement) : m_sDefinitionName;
         const auto entry = m_occurs.try_emplace(name).first;
         if (entry == m_occurs.end()) { // unreached: what was entered is there
             name = LostElementName;
         } else {
-            entry->second[declaration.OccursCode()].push_back(owner);
+            entry->second[*code].push_back(owner);
         }
     }
     if (m_bInsideChoice) {
@@ -884,7 +869,7 @@ void XmlSchemaHandler::copyFacets(const DomAttributes& attributes, QDomElement t
 {
     const bool isOfDeclared = m_pLog && !suffix.isEmpty();
     for (const QDomAttr& attribute : attributes) {
-        if (isFacet(attribute.name())) {
+        if (isFacetOfType(attribute.name())) {
             const QString value = attribute.value();
             to.setAttribute(attribute.name() + suffix,
                             isOfDeclared ? valueOfKind(SchemaReadingLog::AttributeKind::FacetOfDeclared, value)

@@ -1,5 +1,7 @@
 #include "rule.h"
 
+#include <xmlhelper/constants_p.h>
+
 #include "../annotations.h"
 
 namespace reportcheck {
@@ -19,7 +21,7 @@ QString whyItStays(const ReportAttribute& attribute, AnnotationKind kind)
     case AnnotationKind::OtherFacet:
         return QStringLiteral("This facet is not checked and never removed. Take it out of the schema.");
     case AnnotationKind::Range:
-        if (attribute.value.toDouble() == 65535.0) {
+        if (attribute.value.toDouble() == double(AbsentBound)) {
             return QStringLiteral("A bound of 65535 counts as not given and is never removed. Write another one in the "
                                   "schema, such as the next number behind it with the exclusive facet.");
         }

@@ -63,7 +63,7 @@ int findByPath(const LaidOutTree& tree, const QString& path)
 
 bool isContainer(const LaidOutElement& element)
 {
-    return element.type.isEmpty();
+    return !isValueType(element.type);
 }
 
 QString wordsFor(Fate fate)

@@ -3,10 +3,11 @@
 
 #include <vector>
 
-#include <QFlags>
 #include <QString>
 #include <QStringList>
 #include <QVector>
+
+#include <xmlhelper/valuerules_p.h>
 
 #include "finding.h"
 
@@ -19,18 +20,6 @@ struct Facet
     QString value;
     bool isChecked = false; ///< false: the library only keeps it, as an attribute of the report
 };
-
-/// The operations of the report builder that can give a value.
-enum class Setter {
-    Text = 1, ///< QString
-    Floating = 2, ///< double
-    Integer = 4, ///< int
-    Truth = 8, ///< bool
-    DateTime = 16, ///< QDateTime
-    Time = 32, ///< QTime
-};
-Q_DECLARE_FLAGS(Setters, Setter)
-Q_DECLARE_OPERATORS_FOR_FLAGS(Setters)
 
 /// What the report builder accepts as count of an element, SetElementMaxOccurs().
 struct AcceptedCounts

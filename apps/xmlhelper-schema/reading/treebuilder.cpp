@@ -8,41 +8,22 @@
 #include <QHash>
 
 #include <xmlhelper/constants_p.h>
+#include <xmlhelper/skeletonwords_p.h>
+#include <xmlhelper/valuerules_p.h>
 
 namespace schemadoctor {
 
 namespace {
 
+/// In the order in which they are shown.
 const QLatin1String RangeFacets[] = {MinInclusiveFacet, MinExclusiveFacet, MaxInclusiveFacet, MaxExclusiveFacet};
-
-bool isEnumerationOfElement(const QString& attribute)
-{
-    bool isNumber = false;
-    attribute.mid(EnumerationFacet.size()).toInt(&isNumber); // clazy:exclude=qstring-ref, which Qt 6 lacks
-    return isNumber && attribute.startsWith(EnumerationFacet);
-}
-
-int enumerationNumber(const QString& attribute)
-{
-    int end = int(EnumerationFacet.size());
-    while (end < attribute.size() && attribute.at(end).isDigit()) {
-        ++end;
-    }
-    const QString number = attribute.mid(EnumerationFacet.size(), end - int(EnumerationFacet.size()));
-    return number.toInt();
-}
-
-bool isRangeFacet(const QString& name)
-{
-    return std::find(std::begin(RangeFacets), std::end(RangeFacets), name) != std::end(RangeFacets);
-}
 
 /// The values of the attributes called @p names in the order of their numbers.
 QStringList valuesByNumber(const QDomElement& element, const QStringList& names)
 {
     std::vector<std::pair<int, QString>> values;
     for (const QString& name : names) {
-        values.emplace_back(enumerationNumber(name), element.attribute(name));
+        values.emplace_back(facetNameIn(name).number, element.attribute(name));
     }
     std::sort(values.begin(), values.end(),
               [](const auto& left, const auto& right) { return left.first < right.first; });
@@ -66,14 +47,10 @@ DeclaredAttribute declaredAttribute(const SchemaRecord::AttributeOrigin& origin,
     }
     QStringList enumeration;
     for (const QString& other : all) {
-        if (!other.contains(origin.name)) {
-            continue;
-        }
-        const auto facet = std::find_if(std::begin(RangeFacets), std::end(RangeFacets),
-                                        [&other](const QLatin1String& one) { return other.contains(one); });
-        if (facet != std::end(RangeFacets)) {
-            declared.facets.append({*facet, element.attribute(other), true});
-        } else if (other.contains(EnumerationFacet)) {
+        const QLatin1String facet = rangeFacetOfAttribute(other, origin.name);
+        if (facet.size() > 0) {
+            declared.facets.append({facet, element.attribute(other), true});
+        } else if (isEnumerationOfAttribute(other, origin.name)) {
             enumeration.append(other);
         }
     }
@@ -212,7 +189,7 @@ void TreeBuilder::annotate(LaidOutElement& laidOut, const QDomElement& element,
             laidOut.defaultValue = value;
         } else if (isEnumerationOfElement(origin.name)) {
             enumeration.append(origin.name);
-        } else if (isRangeFacet(origin.name)) {
+        } else if (rangeFacetOfElement(origin.name).size() > 0) {
             laidOut.facets.append({origin.name, value, true});
         } else {
             unchecked.append({origin.name, value, false});
@@ -234,13 +211,13 @@ void TreeBuilder::applyOccurs(int index)
                              [&](const QString& owner) { return isBelowOwner(index, owner); })) {
                 continue;
             }
-            const bool isOfMinimumZero = code % OptionalOccursFactor == 0;
-            isOptional = isOptional || isOfMinimumZero;
-            element.counts.takesZero = element.counts.takesZero || isOfMinimumZero;
-            if (code == UnboundedOccurs || code / OptionalOccursFactor == UnboundedOccurs) {
+            isOptional = isOptional || isOptionalCode(code);
+            element.counts.takesZero = isOptional;
+            const int greatest = greatestCountOf(code);
+            if (greatest == UnboundedOccurs) {
                 element.counts.greatest = AcceptedCounts::Unbounded;
             } else if (element.counts.greatest != AcceptedCounts::Unbounded) {
-                element.counts.greatest = std::max(element.counts.greatest, code);
+                element.counts.greatest = std::max(element.counts.greatest, greatest);
             }
         }
     }
@@ -273,33 +250,6 @@ bool TreeBuilder::isBelowOwner(int index, const QString& owner) const
 LaidOutTree builtTree(const SchemaRecord& record)
 {
     return TreeBuilder(record).Build();
-}
-
-Setters settersOfElement(const QString& type)
-{
-    const auto has = [&type](const char* word) { return type.contains(QLatin1String(word)); };
-    if (has("short") || has("long")) {
-        return Setter::Text | Setter::Floating | Setter::Integer | Setter::Truth | Setter::DateTime | Setter::Time;
-    }
-    Setters setters;
-    setters.setFlag(Setter::Text, has("string"));
-    setters.setFlag(Setter::Floating, has("double"));
-    setters.setFlag(Setter::Integer, has("integer") || type == QLatin1String("int"));
-    setters.setFlag(Setter::Truth, has("bool"));
-    setters.setFlag(Setter::DateTime, has("dateTime"));
-    setters.setFlag(Setter::Time, has("time"));
-    return setters;
-}
-
-Setters settersOfAttribute(const QString& type)
-{
-    const auto has = [&type](const char* word) { return type.contains(QLatin1String(word)); };
-    Setters setters;
-    setters.setFlag(Setter::Text, has("string"));
-    setters.setFlag(Setter::Floating, has("double"));
-    setters.setFlag(Setter::Integer, has("integer"));
-    setters.setFlag(Setter::DateTime, has("dateTime"));
-    return setters;
 }
 
 } // namespace schemadoctor

@@ -9,12 +9,6 @@ namespace schemadoctor {
 /// The tree of the document that the library has laid out, with what its model and its origins say about each element.
 LaidOutTree builtTree(const SchemaRecord& record);
 
-/// The setters that take the type of an element, as the skeleton holds it.
-Setters settersOfElement(const QString& type);
-
-/// The setters that take the type of a declared attribute, prefix included.
-Setters settersOfAttribute(const QString& type);
-
 } // namespace schemadoctor
 
 #endif

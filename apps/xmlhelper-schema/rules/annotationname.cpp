@@ -1,4 +1,6 @@
 #include <xmlhelper/constants_p.h>
+#include <xmlhelper/skeletonwords_p.h>
+#include <xmlhelper/valuerules_p.h>
 
 #include "rule.h"
 
@@ -8,8 +10,7 @@ namespace {
 
 bool isAnnotation(const QString& name)
 {
-    return name == TypeAttribute() || name == DefaultAttribute() || name.contains(EnumerationFacet)
-        || name.contains(RangeFacetMark);
+    return name == TypeAttribute() || name == DefaultAttribute() || isFacetOfType(name);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <xmlhelper/constants_p.h>
+#include <xmlhelper/skeletonwords_p.h>
 
 #include "reading/doctorlimits.h"
 
