@@ -86,6 +86,7 @@ template <class IsOwner> bool isAnyBehindPrefix(OwnerIndex& index, const IsOwner
 DomParser::DomParser(IXMLHelper* pCallback, OccursMap occurs, const ChoiceMap& choices)
     : m_pDocument(nullptr)
     , m_pCallback(pCallback)
+    , m_pLog(nullptr)
     , m_bResume(false)
     , m_bRevisit(false)
     , m_bAnnounced(false)
@@ -108,6 +109,17 @@ bool DomParser::SetDocument(QDomDocument* document)
     m_pDocument = document;
     m_pOwners.reset();
     return true;
+}
+
+WalkLog::Kind DomParser::kindOf(const QDomNode& node) const
+{
+    if (node == m_root) {
+        return WalkLog::Kind::Root;
+    }
+    if (!node.isElement()) {
+        return WalkLog::Kind::Other;
+    }
+    return isValueElement(node.toElement()) ? WalkLog::Kind::Value : WalkLog::Kind::Container;
 }
 
 bool DomParser::Walk()
@@ -254,6 +266,16 @@ bool DomParser::IsDeclaredAbove(const QString& name, const QString& tagName, con
     return limits != m_occurs.end() && m_pDocument && isBelowOwnerOf(*limits, tagName, element, isWanted);
 }
 
+bool DomParser::IsCountDeclared(const QString& name, const QString& tagName, int count, const QDomElement& element)
+{
+    const auto isAllowed = [count](int occursCode) { return isCountAllowed(occursCode, count); };
+    const bool isDeclared = IsDeclaredAbove(name, tagName, element, isAllowed);
+    if (!isDeclared && m_pLog) {
+        m_pLog->CountRefused(element, count);
+    }
+    return isDeclared;
+}
+
 /// Asks for the names of the nodes that are found, because a search that starts at its owner finds the top node.
 bool DomParser::isBelowAnyCalled(const QString& ownerName, const QString& tagName, const QDomNode& element)
 {
@@ -263,6 +285,14 @@ bool DomParser::isBelowAnyCalled(const QString& ownerName, const QString& tagNam
 }
 
 QDomNode DomParser::Remove(const QDomNode& node)
+{
+    if (m_pLog) {
+        m_pLog->Removed(node.toElement(), WalkLog::Removal::Builder);
+    }
+    return takeOut(node);
+}
+
+QDomNode DomParser::takeOut(const QDomNode& node)
 {
     if (m_pOwners) {
         m_pOwners->Forget(node);
@@ -274,6 +304,9 @@ QDomNode DomParser::Remove(const QDomNode& node)
 
 void DomParser::InsertCopies(const QDomElement& element, int copies)
 {
+    if (m_pLog) {
+        m_pLog->Copied(element, copies);
+    }
     const OwnerIndex::OwnChange change = Change();
     QDomNode parent = element.parentNode();
     for (int copy = 0; copy < copies; ++copy) {
@@ -382,8 +415,9 @@ void DomParser::visit()
     announce(level.node, level.text);
 
     if (takeNotice()) {
+        keep(m_bRevisit ? WalkLog::Keeping::AnnouncedAgain : WalkLog::Keeping::Answered);
         if (!isTopLevel) {
-            m_probationElement = QDomElement();
+            endProbation();
         }
         level.node = m_bRevisit ? m_resumeNode : siblingBehind(m_resumeNode);
     } else if (!checkCurrentElement()) {
@@ -420,6 +454,9 @@ void DomParser::takeText(Level& level, bool isTopLevel)
 void DomParser::announce(const QDomNode& node, const QString& text)
 {
     m_bAnnounced = true;
+    if (m_pLog) {
+        m_pLog->Announced(node, kindOf(node));
+    }
     deliver<ElemBeginEvent>(m_pCallback, node, node.nodeName(), saxAttributesOf(node), text);
 }
 
@@ -430,23 +467,44 @@ bool DomParser::takeNotice()
     return isPending;
 }
 
+void DomParser::endProbation()
+{
+    if (m_pLog && !m_probationElement.isNull()) {
+        m_pLog->EndedProbation(m_probationElement);
+    }
+    m_probationElement = QDomElement();
+}
+
+void DomParser::keep(WalkLog::Keeping why)
+{
+    if (m_pLog) {
+        m_pLog->Kept(m_currentElement, why);
+    }
+}
+
 /// Decides what becomes of an element without a notice. Gives whether the position of the walk was changed.
 bool DomParser::checkCurrentElement()
 {
     if (!m_probationElement.isNull()) {
         if (!isValueElement(m_currentElement)) {
+            keep(WalkLog::Keeping::Unjudged);
             return false;
         }
         removeProbationElement();
         return true;
     }
-    if (!isOptional() && !isChoiceAlternative()) {
+    const bool isOptionalElement = isOptional();
+    if (!isOptionalElement && !isChoiceAlternative()) {
+        keep(WalkLog::Keeping::Mandatory);
         deliver<ErrorEvent>(m_pCallback, IXMLHelper::MAX_OCCURS_EXCEEDED);
         return false;
     }
     if (isValueElement(m_currentElement)) {
-        removeCurrentElement();
+        removeCurrentElement(isOptionalElement ? WalkLog::Removal::Optional : WalkLog::Removal::Alternative);
     } else {
+        if (m_pLog) {
+            m_pLog->PutOnProbation(m_currentElement);
+        }
         m_probationElement = m_currentElement;
         m_resumeNode = m_currentElement;
     }
@@ -512,16 +570,22 @@ bool DomParser::isChoiceAlternative() const
 /// The walk goes on behind the container, one level deeper than the container stood.
 void DomParser::removeProbationElement()
 {
+    if (m_pLog) {
+        m_pLog->Removed(m_probationElement, WalkLog::Removal::Probation);
+    }
     m_resumeNode = siblingBehind(m_probationElement);
     standOn(m_resumeNode);
-    Remove(m_probationElement);
+    takeOut(m_probationElement);
     m_probationElement = QDomElement();
 }
 
-void DomParser::removeCurrentElement()
+void DomParser::removeCurrentElement(WalkLog::Removal why)
 {
+    if (m_pLog) {
+        m_pLog->Removed(m_currentElement, why);
+    }
     m_resumeNode = siblingBehind(m_currentElement);
-    if (Remove(m_currentElement).isNull()) {
+    if (takeOut(m_currentElement).isNull()) {
         deliver<ErrorEvent>(m_pCallback, IXMLHelper::GENERAL_ERROR);
     }
 }

@@ -19,6 +19,7 @@
 #include "ownerindex_p.h"
 #include "schemamodel.h"
 #include "treechangedetector_p.h"
+#include "walklog_p.h"
 
 class IXMLHelper;
 
@@ -49,6 +50,9 @@ public:
 
     /// Takes the document to walk, not owned. Null is refused (false) and changes nothing.
     bool SetDocument(QDomDocument* document);
+
+    /// Tells @p log from now on what becomes of the elements; not owned, null for nobody.
+    void SetLog(WalkLog* log) { m_pLog = log; }
 
     /// Announces the document, its elements and its end. Gives false, and announces nothing, without a document that
     /// has a root element.
@@ -81,6 +85,9 @@ public:
     /// stands, not on the number of owners or elements.
     bool IsDeclaredAbove(const QString& name, const QString& tagName, const QDomNode& element,
                          const std::function<bool(int)>& isWanted);
+
+    /// Whether @p name was declared to occur @p count times under an owner above @p element, see IsDeclaredAbove().
+    bool IsCountDeclared(const QString& name, const QString& tagName, int count, const QDomElement& element);
 
     // The changes of the builder, which are to be made with these. Anything else that happens to the document is taken
     // for somebody else's change (see OwnerIndex).
@@ -129,18 +136,22 @@ private:
     template <class Edit> void changeAttributes(const Edit& edit);
     void listFacets();
     bool areFacetsKnown() const;
+    QDomNode takeOut(const QDomNode& node);
     void standOn(const QDomNode& node);
     void keepParent();
     void leave(Level& level);
     void visit();
     void takeText(Level& level, bool isTopLevel);
     void announce(const QDomNode& node, const QString& text);
+    WalkLog::Kind kindOf(const QDomNode& node) const;
     bool takeNotice();
+    void endProbation();
+    void keep(WalkLog::Keeping why);
     bool checkCurrentElement();
     bool isOptional();
     bool isChoiceAlternative() const;
     void removeProbationElement();
-    void removeCurrentElement();
+    void removeCurrentElement(WalkLog::Removal why);
     bool isBelowAnyCalled(const QString& ownerName, const QString& tagName, const QDomNode& element);
     OwnerIndex& owners();
     QSet<QString> ownerNames() const;
@@ -162,6 +173,7 @@ private:
     std::unique_ptr<TreeChangeDetector> m_pFacetChanges; ///< null until the names are listed
     QDomElement m_probationElement; ///< kept only if something inside it is filled; null when there is none
     IXMLHelper* m_pCallback;
+    WalkLog* m_pLog; ///< null: nobody wants to know
     OccursMap m_occurs;
     QHash<QString, Declarations> m_sortedDeclarations; ///< of names with many owners that have been asked for
     QHash<QString, int> m_alternatives; ///< the greatest number of each name

@@ -373,8 +373,7 @@ bool XmlCreateReport::CheckOccursMap(QString name, QString tagName, int count, Q
         Error(IXMLHelper::MAX_OCCURS_EXCEEDED);
         return false;
     }
-    const auto isAllowed = [count](int occursCode) { return isCountAllowed(occursCode, count); };
-    return m_pDomParser->IsDeclaredAbove(name, tagName, *element, isAllowed);
+    return m_pDomParser->IsCountDeclared(name, tagName, count, *element);
 }
 
 bool XmlCreateReport::readSchema(const QString& schemaPath)
