@@ -12,6 +12,8 @@ CommandLine commandLineOf(const QStringList& arguments)
     const QCommandLineOption html(QStringLiteral("html"), QStringLiteral("Write them as a page of HTML into <file>."),
                                   QStringLiteral("file"));
     const QCommandLineOption window(QStringLiteral("window"), QStringLiteral("Show them in a window."));
+    const QCommandLineOption noProof(QStringLiteral("no-proof"),
+                                     QStringLiteral("Do not fill and validate reports on trial."));
     const QCommandLineOption fill(
         QStringLiteral("fill"),
         QStringLiteral("Fill a report from the name=value lines of <file>, and print what happens."),
@@ -20,7 +22,7 @@ CommandLine commandLineOf(const QStringList& arguments)
     parser.setApplicationDescription(
         QStringLiteral("Shows how XMLHelper understands an XML schema, and what its author should know.\n\n"
                        "Exit status: 0 nothing to say, 1 warnings, 2 errors, 3 unreadable or wrong usage."));
-    parser.addOptions({tree, json, html, window, fill});
+    parser.addOptions({tree, json, html, window, fill, noProof});
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("schema"), QStringLiteral("The schema to examine, an .xsd file."));
@@ -46,6 +48,7 @@ CommandLine commandLineOf(const QStringList& arguments)
     if (parser.positionalArguments().size() != 1) {
         return wrong(QStringLiteral("Name one schema."));
     }
+    line.isToProve = !parser.isSet(noProof);
     line.schema = parser.positionalArguments().constFirst();
     if (int(parser.isSet(tree)) + int(parser.isSet(json)) + int(parser.isSet(html)) + int(parser.isSet(window))
             + int(parser.isSet(fill))

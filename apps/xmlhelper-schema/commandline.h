@@ -14,6 +14,7 @@ struct CommandLine
     Show show = Show::Tree;
     QString schema;
     QString otherFile; ///< the page to write, or the values to read
+    bool isToProve = true; ///< by reports that are filled on trial
     QString message; ///< the help, the version, or what is wrong
 };
 

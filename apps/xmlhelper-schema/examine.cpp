@@ -5,6 +5,7 @@
 
 #include <xmlhelper/documentfile_p.h>
 
+#include "proof/proof.h"
 #include "reading/doctorlimits.h"
 #include "reading/grammarcheck.h"
 #include "reading/schemarecord.h"
@@ -83,7 +84,7 @@ void sortFindings(QVector<Finding>& findings, const SchemaRecord& record)
 
 } // namespace
 
-Examination examine(const QString& file)
+Examination examine(const QString& file, bool isToProve)
 {
     Examination examination;
     examination.file = file;
@@ -122,6 +123,9 @@ Examination examine(const QString& file)
         Findings findings(schema, QString::fromLatin1(rule.name));
         rule.check(schema, findings);
         examination.findings += findings.Take();
+    }
+    if (isToProve && !examination.tree.IsEmpty()) {
+        prove(file, record.GetReadFiles(), examination);
     }
     sortFindings(examination.findings, record);
     return examination;

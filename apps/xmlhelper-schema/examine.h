@@ -5,11 +5,13 @@
 
 namespace schemadoctor {
 
-/// Examines a schema file: reads it as the library does and by a look of its own, and applies every rule.
+/// Examines a schema file: reads it as the library does and by a look of its own, applies every rule, and tries
+/// what reports come out.
 ///
 /// Never fails, whatever the file holds: a file that cannot be read gives an examination that says so. Nothing is
 /// fetched from a network and nothing is written.
-Examination examine(const QString& file);
+/// @param isToProve  whether reports are filled and validated on trial too, see prove()
+Examination examine(const QString& file, bool isToProve = true);
 
 } // namespace schemadoctor
 

@@ -60,7 +60,7 @@ DryRunEnd dryRun(const QString& schema, const QString& valuesFile, const std::fu
         return DryRunEnd::NoValues;
     }
     // The limits of the doctor hold for this, too.
-    const Examination examination = examine(schema);
+    const Examination examination = examine(schema, false);
     if (!examination.IsReadable() || examination.tree.IsEmpty()) {
         write(QStringLiteral("%1: %2").arg(
             schema, examination.IsReadable() ? examination.noTreeReason : examination.unreadableReason));

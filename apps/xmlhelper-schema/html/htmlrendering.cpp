@@ -145,7 +145,7 @@ private:
         m_writer.Start(QLatin1String("header"));
         m_writer.Element(QLatin1String("h1"), m_examination.file);
         m_writer.Start(QLatin1String("p"));
-        m_writer.Text(summary());
+        m_writer.Text(summary() + QLatin1Char(' ') + wordsFor(m_examination.proof));
         m_writer.Text(QStringLiteral(" "));
         m_writer.Element(QLatin1String("a"), QStringLiteral("To the findings"),
                          {{QLatin1String("href"), QStringLiteral("#findings")}});

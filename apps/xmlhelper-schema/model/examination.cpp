@@ -4,6 +4,16 @@
 
 namespace schemadoctor {
 
+QString wordsFor(const Proof& proof)
+{
+    if (proof.reports == 0) {
+        return proof.leftOut;
+    }
+    const QString tried
+        = QStringLiteral("Reports filled on trial: %1, of which valid: %2.").arg(proof.reports).arg(proof.validReports);
+    return proof.leftOut.isEmpty() ? tried : tried + QLatin1Char(' ') + proof.leftOut;
+}
+
 ExitStatus exitStatusOf(const Examination& examination)
 {
     if (!examination.IsReadable()) {

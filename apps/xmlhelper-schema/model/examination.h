@@ -30,6 +30,14 @@ struct ElementCount
     QString limit; ///< which limit, in a sentence; empty when none is reached
 };
 
+/// What became of the reports that were filled on trial, see prove().
+struct Proof
+{
+    int reports = 0; ///< that were filled and validated
+    int validReports = 0;
+    QString leftOut; ///< what was not tried, and why, in a sentence; empty when everything was
+};
+
 /// All that the doctor knows about a schema. Plain data: it refers to nothing outside of itself and is copied freely.
 struct Examination
 {
@@ -45,10 +53,14 @@ struct Examination
     QVector<RootCandidate> rootCandidates;
     ElementCount count;
     IncludedFile includes; ///< the top file and what it includes
+    Proof proof;
     std::map<QString, QString> texts; ///< the text of each file that was read, by the name that places give
 
     bool IsReadable() const { return unreadableReason.isEmpty(); }
 };
+
+/// "Reports filled on trial: 6, of which valid: 5.", and what was left out; empty when nothing was to be tried.
+QString wordsFor(const Proof& proof);
 
 enum ExitStatus { NothingToSay = 0, HasWarnings = 1, HasErrors = 2, Unreadable = 3 };
 

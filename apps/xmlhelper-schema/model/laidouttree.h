@@ -38,6 +38,7 @@ struct DeclaredAttribute
     QVector<Facet> facets; ///< those that the library finds for it by name
     QStringList enumeration; ///< likewise
     Setters setters; ///< none: it can be removed, but never be filled
+    bool isRequired = false; ///< also where only the reference could say that it is not
     Place place;
 };
 
@@ -69,6 +70,7 @@ struct LaidOutElement
     AcceptedCounts counts;
     bool isChoiceAlternative = false; ///< by name, anywhere in the schema: as the library decides it
     int choiceGroup = None; ///< the number of the xs:choice around its declaration, in reading order, from 1
+    int choiceBranch = None; ///< the position below that xs:choice, from 1, of what it stands in
     int choiceNumber = None; ///< the number by which the library lets it be discarded
     Fate fate = Fate::Stays;
     Setters setters; ///< none for a container, and for a value that can never be filled

@@ -21,6 +21,9 @@ constexpr int MaxLaidOutAnnotations = 300000;
 /// Findings of one rule; behind them only their number is told.
 constexpr int MaxFindingsOfARule = 100;
 
+/// Elements of all reports together that are filled on trial.
+constexpr int MaxProofElements = 20000;
+
 /// Lines of each of the two trees beside each other.
 constexpr int MaxTreeLines = 24;
 

@@ -44,6 +44,7 @@ DeclaredAttribute declaredAttribute(const SchemaRecord::AttributeOrigin& origin,
     declared.setters = settersOfAttribute(declared.type);
     if (origin.tag) {
         declared.place = origin.tag->GetPlace();
+        declared.isRequired = origin.tag->IsGlobal() || origin.tag->Value("use") == QLatin1String("required");
     }
     QStringList enumeration;
     for (const QString& other : all) {
@@ -56,6 +57,19 @@ DeclaredAttribute declaredAttribute(const SchemaRecord::AttributeOrigin& origin,
     }
     declared.enumeration = valuesByNumber(element, enumeration);
     return declared;
+}
+
+/// The position below the nearest xs:choice around a tag of what the tag stands in; None outside of any.
+int branchOf(const TextNode* tag)
+{
+    const TextNode* const choice = tag->Around("choice");
+    while (choice && tag->parent != choice) {
+        tag = tag->parent;
+    }
+    const auto isTag = [tag](const std::unique_ptr<TextNode>& child) { return child.get() == tag; };
+    return choice ? 1
+            + int(std::find_if(choice->children.begin(), choice->children.end(), isTag) - choice->children.begin())
+                  : LaidOutElement::None;
 }
 
 class TreeBuilder
@@ -155,6 +169,7 @@ void TreeBuilder::applyDeclaration(LaidOutElement& laidOut, const SchemaRecord::
     const TextNode& particle = isReferred ? *origin.reference : *origin.declaration;
     laidOut.particle = particle.GetPlace();
     laidOut.choiceGroup = m_choices.value(particle.Around("choice"), LaidOutElement::None);
+    laidOut.choiceBranch = branchOf(&particle);
     if (particle.IsGlobal()) {
         return;
     }

@@ -117,6 +117,11 @@ QJsonObject jsonFor(const ElementCount& count)
     return {{key("elements"), count.elements}, {key("beyondLimit"), count.isBeyondLimit}, {key("limit"), count.limit}};
 }
 
+QJsonObject jsonFor(const Proof& proof)
+{
+    return {{key("reports"), proof.reports}, {key("valid"), proof.validReports}, {key("leftOut"), proof.leftOut}};
+}
+
 template <typename Items> QJsonArray jsonForAll(const Items& items)
 {
     QJsonArray all;
@@ -138,6 +143,7 @@ QByteArray jsonOf(const Examination& examination)
                               {key("elements"), jsonForAll(examination.tree.elements)},
                               {key("noTree"), examination.noTreeReason},
                               {key("includes"), jsonFor(examination.includes)},
+                              {key("proof"), jsonFor(examination.proof)},
                               {key("findings"), jsonForAll(examination.findings)}};
     return QJsonDocument(object).toJson();
 }

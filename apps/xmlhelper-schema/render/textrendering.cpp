@@ -182,6 +182,12 @@ QString summaryOf(const QVector<Finding>& findings)
                                     .arg(counts[int(Severity::Note)]);
 }
 
+QString proofText(const Proof& proof)
+{
+    const QString tried = wordsFor(proof);
+    return tried.isEmpty() ? tried : tried + QLatin1Char('\n');
+}
+
 } // namespace
 
 QString textOf(const Examination& examination)
@@ -201,7 +207,7 @@ QString textOf(const Examination& examination)
         for (const Finding& finding : examination.findings) {
             text += findingText(finding);
         }
-        text += summaryOf(examination.findings) + QLatin1Char('\n');
+        text += summaryOf(examination.findings) + QLatin1Char('\n') + proofText(examination.proof);
     }
     return text;
 }

@@ -68,10 +68,11 @@ QString summaryOf(const Examination& examination)
     if (examination.tree.IsEmpty()) {
         return examination.noTreeReason;
     }
-    return !examination.count.limit.isEmpty() ? examination.count.limit
-                                              : QStringLiteral("Elements laid out: %1. Findings: %2.")
-                                                    .arg(examination.count.elements)
-                                                    .arg(examination.findings.size());
+    const QString summary = !examination.count.limit.isEmpty() ? examination.count.limit
+                                                               : QStringLiteral("Elements laid out: %1. Findings: %2.")
+                                                                     .arg(examination.count.elements)
+                                                                     .arg(examination.findings.size());
+    return QStringLiteral("%1 %2").arg(summary, wordsFor(examination.proof)).trimmed();
 }
 
 } // namespace

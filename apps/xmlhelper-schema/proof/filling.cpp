@@ -1,0 +1,294 @@
+#include "filling.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <set>
+#include <tuple>
+#include <utility>
+
+#include <QDateTime>
+#include <QDomDocument>
+#include <QPair>
+#include <QTextStream>
+
+#include <xmlhelper/constants_p.h>
+#include <xmlhelper/xmlhelper.h>
+#include <xmlhelper/xmlserialiser_p.h>
+
+#include "reading/treebuilder.h"
+
+QT_WARNING_DISABLE_DEPRECATED
+
+namespace schemadoctor {
+
+namespace {
+
+QString valueOf(const QVector<Facet>& facets, const QString& name)
+{
+    const auto found
+        = std::find_if(facets.begin(), facets.end(), [&name](const Facet& facet) { return facet.name == name; });
+    return found == facets.end() ? QString() : found->value;
+}
+
+/// A number within the bounds that is far from none of them: halfway, or one off the only one.
+double fittingNumber(const QVector<Facet>& facets, double otherwise)
+{
+    const auto bound = [&facets](const QLatin1String& inclusive, const QLatin1String& exclusive, double beyond) {
+        bool isNumber = false;
+        const double number = valueOf(facets, inclusive).toDouble(&isNumber);
+        if (isNumber) {
+            return number;
+        }
+        const double excluded = valueOf(facets, exclusive).toDouble(&isNumber);
+        return isNumber ? excluded + beyond : std::nan("");
+    };
+    const double lowest = bound(MinInclusiveFacet, MinExclusiveFacet, 0);
+    const double highest = bound(MaxInclusiveFacet, MaxExclusiveFacet, 0);
+    if (std::isnan(lowest) && std::isnan(highest)) {
+        return otherwise;
+    }
+    if (std::isnan(highest)) {
+        return lowest + 1;
+    }
+    return std::isnan(lowest) ? highest - 1 : lowest + (highest - lowest) / 2;
+}
+
+/// A text of a length that fits.
+QString fittingText(const QVector<Facet>& facets, const QString& otherwise)
+{
+    for (const char* const facet : {"length", "minLength"}) {
+        const int length = valueOf(facets, QLatin1String(facet)).toInt();
+        if (length > otherwise.size() && length <= 1000) {
+            return otherwise.leftJustified(length, QLatin1Char('x'));
+        }
+    }
+    bool isBounded = false;
+    const int longest = valueOf(facets, QStringLiteral("maxLength")).toInt(&isBounded);
+    return isBounded ? otherwise.left(std::max(longest, 0)) : otherwise;
+}
+
+QDateTime someTime()
+{
+    return QDateTime(QDate(2026, 1, 2), QTime(3, 4, 5), Qt::UTC);
+}
+
+/// Fills as it is told, and asks the tree what was declared.
+class FillingObserver : public IXMLHelper
+{
+public:
+    FillingObserver(const LaidOutTree& tree, const Filling& filling)
+        : m_tree(tree)
+        , m_filling(filling)
+        , m_builder(this)
+    {
+    }
+
+    QByteArray Fill(const QString& schema);
+    void XmlUpdate(XmlEvent* event) override;
+
+private:
+    int indexOf(const QDomElement& element) const;
+    bool multiply(const QDomElement& element, const LaidOutElement& declared);
+    void setAttributes(const QDomElement& element, const LaidOutElement& declared);
+    void removeAttribute(const QDomElement& element, const QString& name);
+    void setAttribute(const DeclaredAttribute& attribute);
+    void setValue(const LaidOutElement& declared);
+    QString nextText() { return QStringLiteral("text %1").arg(++m_values); }
+
+    const LaidOutTree& m_tree;
+    const Filling& m_filling;
+    QDomDocument m_document;
+    int m_values = 0; ///< given so far: keys of XML Schema must differ
+    QList<QPair<QDomNode, QString>> m_multiplied; ///< below which parent, and the name
+    XmlCreateReport m_builder;
+};
+
+QByteArray FillingObserver::Fill(const QString& schema)
+{
+    m_builder.CreateXmlFromSchema(schema, QStringLiteral("/dev/null"), false);
+    QByteArray bytes;
+    QTextStream stream(&bytes);
+    if (!m_document.isNull()) {
+        serialise(m_document, stream, 1);
+        stream.flush();
+    }
+    return bytes;
+}
+
+void FillingObserver::XmlUpdate(XmlEvent* event)
+{
+    if (event->GetType() != XmlEvent::EVENT_ELEM_BEGIN) {
+        return;
+    }
+    const QDomNode node = static_cast<ElemBeginEvent*>(event)->GetElementNode();
+    m_document = node.ownerDocument();
+    const QDomElement element = node.toElement(); // A text below the root is announced, too.
+    const int index = indexOf(element);
+    if (index == LaidOutElement::None || !m_filling.isWanted[std::size_t(index)]) {
+        return;
+    }
+    const LaidOutElement& declared = m_tree.elements[std::size_t(index)];
+    if (m_filling.isTwice && multiply(element, declared)) {
+        return; // It is announced once more.
+    }
+    setAttributes(element, declared);
+    setValue(declared);
+    m_builder.RemoveAttribute(DefaultAttribute()); // as whoever gives a value does
+}
+
+/// The first element of the tree under the same names; LaidOutElement::None when there is none.
+int FillingObserver::indexOf(const QDomElement& element) const
+{
+    if (!element.parentNode().isElement()) {
+        return m_tree.IsEmpty() || m_tree.elements.front().name != element.tagName() ? LaidOutElement::None : 0;
+    }
+    const int parent = indexOf(element.parentNode().toElement());
+    if (parent == LaidOutElement::None) {
+        return parent;
+    }
+    const std::vector<int>& children = m_tree.elements[std::size_t(parent)].children;
+    const auto found = std::find_if(children.begin(), children.end(), [&](int child) {
+        return m_tree.elements[std::size_t(child)].name == element.tagName();
+    });
+    return found == children.end() ? LaidOutElement::None : *found;
+}
+
+/// Makes a second one of an element that stands alone and may repeat. Gives whether there is one now.
+bool FillingObserver::multiply(const QDomElement& element, const LaidOutElement& declared)
+{
+    const bool mayRepeat = declared.counts.greatest == AcceptedCounts::Unbounded || declared.counts.greatest > 1;
+    const bool isMeantToRepeat = declared.maxOccurs == AcceptedCounts::Unbounded || declared.maxOccurs > 1;
+    const QPair<QDomNode, QString> place {element.parentNode(), declared.name};
+    if (!mayRepeat || !isMeantToRepeat || declared.minOccurs > 1 || m_multiplied.contains(place)) {
+        return false;
+    }
+    m_multiplied.append(place);
+    m_builder.SetElementMaxOccurs(declared.name, 2);
+    return element.nextSiblingElement().tagName() == declared.name;
+}
+
+/// Optional attributes belong to everything, and are removed where only what is required is filled.
+void FillingObserver::setAttributes(const QDomElement& element, const LaidOutElement& declared)
+{
+    for (const DeclaredAttribute& attribute : declared.attributes) {
+        if (attribute.isRequired || m_filling.isWithOptionalAttributes) {
+            setAttribute(attribute);
+        } else {
+            removeAttribute(element, attribute.name);
+        }
+    }
+}
+
+/// Removes a declared attribute and the annotations that carry its name at their end.
+void FillingObserver::removeAttribute(const QDomElement& element, const QString& name)
+{
+    QStringList removed {name};
+    const QDomNamedNodeMap attributes = element.attributes();
+    for (int i = 0; i < attributes.count(); ++i) {
+        const QString other = attributes.item(i).nodeName();
+        if (other.endsWith(name) && (other.contains(EnumerationFacet) || other.contains(RangeFacetMark))) {
+            removed.append(other);
+        }
+    }
+    for (const QString& attribute : removed) {
+        m_builder.RemoveAttribute(attribute);
+    }
+}
+
+void FillingObserver::setAttribute(const DeclaredAttribute& attribute)
+{
+    if (attribute.setters.testFlag(Setter::Text)) {
+        m_builder.SetAttributeValue(attribute.name,
+                                    attribute.enumeration.value(0, fittingText(attribute.facets, nextText())));
+    } else if (attribute.setters.testFlag(Setter::Integer)) {
+        m_builder.SetAttributeValue(attribute.name, int(fittingNumber(attribute.facets, ++m_values)));
+    } else if (attribute.setters.testFlag(Setter::Floating)) {
+        m_builder.SetAttributeValue(attribute.name, fittingNumber(attribute.facets, 1.5));
+    } else if (attribute.setters.testFlag(Setter::DateTime)) {
+        m_builder.SetAttributeValue(attribute.name, someTime());
+    }
+}
+
+/// The kinds in the order in which a type that takes several of them is most likely to mean one.
+void FillingObserver::setValue(const LaidOutElement& declared)
+{
+    const Setters setters = declared.setters;
+    if (setters.testFlag(Setter::Integer)) {
+        m_builder.SetXmlValue(int(fittingNumber(declared.facets, ++m_values)));
+    } else if (setters.testFlag(Setter::Text)) {
+        m_builder.SetXmlValue(declared.enumeration.value(0, fittingText(declared.facets, nextText())));
+    } else if (setters.testFlag(Setter::Floating)) {
+        m_builder.SetXmlValue(fittingNumber(declared.facets, 1.5));
+    } else if (setters.testFlag(Setter::Truth)) {
+        m_builder.SetXmlValue(true);
+    } else if (setters.testFlag(Setter::DateTime)) {
+        m_builder.SetXmlValue(someTime());
+    } else if (setters.testFlag(Setter::Time)) {
+        m_builder.SetXmlValue(someTime().time());
+    }
+}
+
+/// Which elements belong to a report of which @p isLeftOut tells what does not, together with what is below that. Of
+/// each choice the first branch is filled.
+template <class IsLeftOut> std::vector<bool> wantedIn(const LaidOutTree& tree, const IsLeftOut& isLeftOut)
+{
+    std::vector<bool> isWanted(tree.elements.size(), false);
+    std::map<std::pair<int, int>, int> branches; // of the choices below each parent
+    for (std::size_t index = 0; index < tree.elements.size(); ++index) {
+        const LaidOutElement& element = tree.elements[index];
+        const bool isParentWanted = element.parent == LaidOutElement::None || isWanted[std::size_t(element.parent)];
+        const bool isOfBranch = element.choiceGroup == LaidOutElement::None
+            || branches.emplace(std::make_pair(element.parent, element.choiceGroup), element.choiceBranch).first->second
+                == element.choiceBranch;
+        isWanted[index] = isParentWanted && isOfBranch && !isLeftOut(int(index));
+    }
+    return isWanted;
+}
+
+bool isOptional(const LaidOutElement& element)
+{
+    return element.parent != LaidOutElement::None && element.minOccurs == 0;
+}
+
+bool isAround(const LaidOutTree& tree, int outer, int inner)
+{
+    while (inner != LaidOutElement::None && inner != outer) {
+        inner = tree.elements[std::size_t(inner)].parent;
+    }
+    return inner == outer;
+}
+
+} // namespace
+
+std::vector<Filling> fillingsOf(const LaidOutTree& tree)
+{
+    const auto isOptionalAt = [&tree](int index) { return isOptional(tree.elements[std::size_t(index)]); };
+    const std::vector<bool> all = wantedIn(tree, [](int) { return false; });
+    const std::vector<bool> required = wantedIn(tree, isOptionalAt);
+    std::vector<Filling> fillings {
+        {QStringLiteral("with nothing but what is required"), required, false, false},
+        {QStringLiteral("with nothing but what is required, and twice what may repeat"), required, false, true},
+        {QStringLiteral("with everything"), all, true, false},
+        {QStringLiteral("with everything, and twice what may repeat"), all, true, true},
+    };
+    std::set<std::tuple<QString, int, QString>> declarations; // of the containers tried
+    for (int container = 0; container < int(tree.elements.size()); ++container) {
+        const LaidOutElement& element = tree.elements[std::size_t(container)];
+        if (!isContainer(element) || !isOptional(element) || !all[std::size_t(container)]
+            || !declarations.emplace(element.place.file, element.place.line, element.name).second) {
+            continue;
+        }
+        const auto isLeftOut = [&](int index) { return isOptionalAt(index) && !isAround(tree, index, container); };
+        fillings.push_back({QStringLiteral("with what is required and the optional '%1'").arg(element.name),
+                            wantedIn(tree, isLeftOut), false, false});
+    }
+    return fillings;
+}
+
+QByteArray filledReport(const QString& schema, const LaidOutTree& tree, const Filling& filling)
+{
+    return FillingObserver(tree, filling).Fill(schema);
+}
+
+} // namespace schemadoctor

@@ -1,0 +1,33 @@
+#ifndef SCHEMADOCTOR_FILLING_H
+#define SCHEMADOCTOR_FILLING_H
+
+#include <vector>
+
+#include <QByteArray>
+#include <QString>
+
+#include "model/laidouttree.h"
+
+namespace schemadoctor {
+
+/// Which elements of a report are filled.
+struct Filling
+{
+    QString words; ///< "with all that is required"; for the findings
+    std::vector<bool> isWanted; ///< for each element of the tree
+    bool isWithOptionalAttributes = false;
+    bool isTwice = false; ///< whatever may repeat
+};
+
+/// The fillings that together try what a schema allows: only what is required, and everything, each also with twice what
+/// may repeat; each optional container alone. Of the alternatives of a choice the first stands for all.
+std::vector<Filling> fillingsOf(const LaidOutTree& tree);
+
+/// The report that the library makes of a schema when it is filled so, as the bytes of its file. All values fit the
+/// types and the facets that the library hands out; optional attributes are filled with everything else, and removed
+/// from the smallest report.
+QByteArray filledReport(const QString& schema, const LaidOutTree& tree, const Filling& filling);
+
+} // namespace schemadoctor
+
+#endif

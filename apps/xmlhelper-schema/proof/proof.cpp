@@ -1,0 +1,252 @@
+#include "proof.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <tuple>
+#include <utility>
+
+#include <QDataStream>
+#include <QHash>
+#include <QSet>
+
+#include <xmlhelper/documentfile_p.h>
+
+#include "filling.h"
+#include "reading/confinedchild.h"
+#include "reading/doctorlimits.h"
+#include "validation.h"
+
+namespace schemadoctor {
+
+namespace {
+
+/// Reading a schema of so many characters takes about as long as filling one element.
+constexpr int CharactersOfAnElement = 50;
+
+/// As many of the fillings as the doctor has time for.
+int affordable(const std::vector<Filling>& fillings, const Examination& examination)
+{
+    qsizetype characters = 0;
+    for (const auto& text : examination.texts) {
+        characters += text.second.size();
+    }
+    const qsizetype cost = qsizetype(examination.tree.elements.size()) + characters / CharactersOfAnElement;
+    return int(std::min(qsizetype(fillings.size()), MaxProofElements / std::max(qsizetype(1), cost)));
+}
+
+QByteArray filledAndValidated(const QString& file, const LaidOutTree& tree, const std::vector<Filling>& fillings)
+{
+    QVector<QByteArray> reports;
+    for (const Filling& filling : fillings) {
+        reports.append(filledReport(file, tree, filling));
+    }
+    QVector<ValidityError> errors;
+    const bool isCompiled = validate(openableFileName(file), reports, errors);
+    QByteArray result;
+    QDataStream stream(&result, QIODevice::WriteOnly);
+    stream << isCompiled << errors;
+    return result;
+}
+
+using PlaceKey = std::pair<QString, int>;
+
+PlaceKey keyOf(const Place& place)
+{
+    return {place.file, place.line};
+}
+
+/// Knows which places have to do with an element of the tree.
+class Surroundings
+{
+public:
+    Surroundings(const LaidOutTree& tree, const std::vector<const TextFile*>& files);
+
+    /// The element of the tree under these names; the nearest around it when there is none.
+    int Find(const QStringList& names) const;
+
+    /// Whether a finding is about the element, its declaration or its type.
+    bool IsAbout(const Finding& finding, int element);
+
+private:
+    const std::set<PlaceKey>& placesOf(int element);
+    void addAround(const TextNode* tag, std::set<PlaceKey>& places) const;
+    void addBelow(const TextNode& tag, std::set<PlaceKey>& places, QSet<const TextNode*>& visited) const;
+
+    const LaidOutTree& m_tree;
+    QHash<QString, QHash<int, std::vector<const TextNode*>>> m_tags; ///< by file and line
+    QHash<QString, std::vector<const TextNode*>> m_globals;
+    std::map<int, std::set<PlaceKey>> m_places; ///< of the elements asked for
+};
+
+Surroundings::Surroundings(const LaidOutTree& tree, const std::vector<const TextFile*>& files)
+    : m_tree(tree)
+{
+    for (const TextFile* const file : files) {
+        for (const TextNode* const tag : file->tags) {
+            m_tags[file->name][tag->line].push_back(tag);
+            if (tag->IsGlobal()) {
+                m_globals[tag->Value("name")].push_back(tag);
+            }
+        }
+    }
+}
+
+int Surroundings::Find(const QStringList& names) const
+{
+    int found = LaidOutElement::None;
+    if (names.isEmpty() || m_tree.IsEmpty() || m_tree.elements.front().name != names.first()) {
+        return found;
+    }
+    int next = 0;
+    for (int level = 1; next != LaidOutElement::None; ++level) {
+        found = next;
+        const std::vector<int>& children = m_tree.elements[std::size_t(found)].children;
+        const auto child = std::find_if(children.begin(), children.end(), [&](int index) {
+            return m_tree.elements[std::size_t(index)].name == names.value(level);
+        });
+        next = child == children.end() ? LaidOutElement::None : *child;
+    }
+    return found;
+}
+
+bool Surroundings::IsAbout(const Finding& finding, int element)
+{
+    if (finding.severity == Severity::Note) {
+        return false;
+    }
+    const bool isAboutAll = finding.severity == Severity::Error && finding.place.line == 0;
+    return isAboutAll || (!finding.path.isEmpty() && finding.path == pathOf(m_tree, element))
+        || placesOf(element).count(keyOf(finding.place)) > 0;
+}
+
+const std::set<PlaceKey>& Surroundings::placesOf(int element)
+{
+    const auto [found, isNew] = m_places.emplace(element, std::set<PlaceKey>());
+    const LaidOutElement& laidOut = m_tree.elements[std::size_t(element)];
+    if (isNew) {
+        QSet<const TextNode*> visited;
+        for (const TextNode* const tag : m_tags.value(laidOut.place.file).value(laidOut.place.line)) {
+            addAround(tag->parent, found->second);
+            addBelow(*tag, found->second, visited);
+        }
+    }
+    return found->second;
+}
+
+void Surroundings::addAround(const TextNode* tag, std::set<PlaceKey>& places) const
+{
+    for (; tag; tag = tag->parent) {
+        places.insert(keyOf(tag->GetPlace()));
+    }
+}
+
+/// What stands inside a declaration, and inside the definitions that it names; of elements below it the tags alone.
+void Surroundings::addBelow(const TextNode& tag, std::set<PlaceKey>& places, QSet<const TextNode*>& visited) const
+{
+    std::vector<const TextNode*> open {&tag};
+    while (!open.empty()) {
+        const TextNode* const node = open.back();
+        open.pop_back();
+        if (visited.contains(node)) {
+            continue;
+        }
+        visited.insert(node);
+        places.insert(keyOf(node->GetPlace()));
+        if (node != &tag && node->Is("element")) {
+            continue;
+        }
+        for (const auto& child : node->children) {
+            open.push_back(child.get());
+        }
+        for (const char* const attribute : {"type", "ref", "base"}) {
+            const QString name = node->Value(attribute).section(QLatin1Char(':'), -1);
+            const std::vector<const TextNode*> named = m_globals.value(name);
+            open.insert(open.end(), named.begin(), named.end());
+        }
+    }
+}
+
+bool isForetold(const ValidityError& error, int element, Surroundings& surroundings, const Examination& examination)
+{
+    // A misplaced element is told at what stands there instead, and what is laid out wrongly may land on a sibling: the
+    // cause may lie with those around it.
+    const int parent = examination.tree.elements[std::size_t(element)].parent;
+    return std::any_of(examination.findings.begin(), examination.findings.end(), [&](const Finding& finding) {
+        const bool mayLieAround = error.isOfContent || finding.severity == Severity::Error;
+        return surroundings.IsAbout(finding, element)
+            || (mayLieAround && parent != LaidOutElement::None && surroundings.IsAbout(finding, parent))
+            || (error.names.isEmpty() && finding.severity == Severity::Error);
+    });
+}
+
+Finding findingOf(const ValidityError& error, int element, const Filling& filling, const LaidOutTree& tree)
+{
+    const LaidOutElement& laidOut = tree.elements[std::size_t(element)];
+    Finding finding;
+    finding.severity = Severity::Warning;
+    finding.rule = QStringLiteral("unforetold");
+    finding.place = laidOut.place;
+    finding.subject = laidOut.name;
+    finding.what = QStringLiteral("A report filled %1 is not valid: %2").arg(filling.words, error.sentence);
+    finding.effect = QStringLiteral("The library writes the report all the same and says nothing of it.");
+    finding.remedy = QStringLiteral("Compare the declaration with the tree, and write what differs in another way.");
+    finding.path = pathOf(tree, element);
+    return finding;
+}
+
+void addUnforetold(const QVector<ValidityError>& errors, const std::vector<Filling>& fillings,
+                   const std::vector<const TextFile*>& files, Examination& examination)
+{
+    Surroundings surroundings(examination.tree, files);
+    std::map<std::tuple<PlaceKey, QString>, bool> told;
+    QVector<Finding> unforetold;
+    for (const ValidityError& error : errors) {
+        const int element = std::max(0, surroundings.Find(error.names));
+        const PlaceKey place = keyOf(examination.tree.elements[std::size_t(element)].place);
+        if (unforetold.size() < MaxFindingsOfARule && told.emplace(std::make_tuple(place, error.sentence), true).second
+            && !isForetold(error, element, surroundings, examination)) {
+            unforetold.append(findingOf(error, element, fillings[std::size_t(error.report)], examination.tree));
+        }
+    }
+    examination.findings += unforetold;
+}
+
+} // namespace
+
+void prove(const QString& file, const std::vector<const TextFile*>& files, Examination& examination)
+{
+    Proof& proof = examination.proof;
+    std::vector<Filling> fillings = fillingsOf(examination.tree);
+    const int count = affordable(fillings, examination);
+    const int all = int(fillings.size());
+    fillings.erase(fillings.begin() + count, fillings.end());
+    const QByteArray result = count == 0
+        ? QByteArray()
+        : resultOfChild([&] { return filledAndValidated(file, examination.tree, fillings); });
+    bool isCompiled = false;
+    QVector<ValidityError> errors;
+    QDataStream stream(result);
+    stream >> isCompiled >> errors;
+    if (result.isEmpty()) {
+        proof.leftOut = QStringLiteral("No report was filled on trial: it would take too long.");
+    } else if (!isCompiled) {
+        proof.leftOut = QStringLiteral("No report was validated: libxml2 does not take the schema.");
+    } else {
+        std::set<int> invalid;
+        for (const ValidityError& error : errors) {
+            invalid.insert(error.report);
+        }
+        proof.reports = count;
+        proof.validReports = count - int(invalid.size());
+        if (count < all) {
+            proof.leftOut
+                = QStringLiteral("Of %1 reports to be filled on trial, %2 were left out: they would take too long.")
+                      .arg(all)
+                      .arg(all - count);
+        }
+        addUnforetold(errors, fillings, files, examination);
+    }
+}
+
+} // namespace schemadoctor

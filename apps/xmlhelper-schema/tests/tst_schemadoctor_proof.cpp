@@ -1,0 +1,232 @@
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "examine.h"
+
+using namespace schemadoctor;
+
+namespace {
+
+QString schemaOf(const QString& declarations)
+{
+    return QStringLiteral("<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>\n%1\n</xs:schema>\n")
+        .arg(declarations);
+}
+
+QStringList unforetoldPathsOf(const Examination& examination)
+{
+    QStringList paths;
+    for (const Finding& finding : examination.findings) {
+        if (finding.rule == QLatin1String("unforetold")) {
+            paths.append(finding.path);
+        }
+    }
+    return paths;
+}
+
+} // namespace
+
+/// Reports are filled and validated on trial, and what no rule foretells is told.
+class TestSchemaDoctorProof : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(m_folder.isValid()); }
+    void leavesNoErrorSilent_data();
+    void leavesNoErrorSilent();
+    void findsNothingWrong_data();
+    void findsNothingWrong();
+    void namesTheDeclarationAndTheSentence();
+    void tellsTheSameErrorOnce();
+    void isLeftOutOnRequest();
+    void saysWhatIsLeftOut();
+    void saysThatASchemaIsNotTaken();
+    void leavesNoFile();
+
+private:
+    Examination examined(const QString& schema, bool isToProve = true)
+    {
+        QFile file(m_folder.filePath(QStringLiteral("schema.xsd")));
+        if (!file.open(QIODevice::WriteOnly) || file.write(schema.toUtf8()) < 0) {
+            return Examination();
+        }
+        file.close();
+        return examine(file.fileName(), isToProve);
+    }
+
+    QTemporaryDir m_folder;
+};
+
+void TestSchemaDoctorProof::leavesNoErrorSilent_data()
+{
+    QTest::addColumn<QString>("declarations");
+    QTest::newRow("references-to-later-globals-come-in-reverse-order")
+        << QStringLiteral("<xs:element name='Report'><xs:complexType><xs:sequence>"
+                          "<xs:element name='Level' type='xs:double'/>"
+                          "<xs:element ref='First'/><xs:element ref='Second'/>"
+                          "</xs:sequence></xs:complexType></xs:element>"
+                          "<xs:element name='First'><xs:complexType><xs:sequence>"
+                          "<xs:element name='A' type='xs:string'/></xs:sequence></xs:complexType></xs:element>"
+                          "<xs:element name='Second'><xs:complexType><xs:sequence>"
+                          "<xs:element name='B' type='xs:string'/></xs:sequence></xs:complexType></xs:element>");
+    QTest::newRow("optional-element-with-attributes-only-stays")
+        << QStringLiteral("<xs:element name='Report'><xs:complexType><xs:sequence>"
+                          "<xs:element name='Level' type='xs:double'/>"
+                          "<xs:element name='Mark' minOccurs='0'><xs:complexType>"
+                          "<xs:attribute name='Width' type='xs:double' use='required'/>"
+                          "</xs:complexType></xs:element>"
+                          "</xs:sequence></xs:complexType></xs:element>");
+    QTest::newRow("optional-child-of-a-copy-stays")
+        << QStringLiteral("<xs:element name='Report'><xs:complexType><xs:sequence>"
+                          "<xs:element name='Signal' maxOccurs='unbounded'><xs:complexType><xs:sequence>"
+                          "<xs:element name='Level' type='xs:double'/>"
+                          "<xs:element name='Width' type='xs:double' minOccurs='0'/>"
+                          "</xs:sequence></xs:complexType></xs:element>"
+                          "</xs:sequence></xs:complexType></xs:element>");
+}
+
+void TestSchemaDoctorProof::leavesNoErrorSilent()
+{
+    QFETCH(QString, declarations);
+    const Examination examination = examined(schemaOf(declarations));
+    QVERIFY(examination.proof.reports > 0);
+    QVERIFY(examination.proof.validReports < examination.proof.reports);
+    QCOMPARE(exitStatusOf(examination), HasWarnings);
+}
+
+void TestSchemaDoctorProof::findsNothingWrong_data()
+{
+    QTest::addColumn<QString>("declarations");
+    const auto row = [](const char* name, const QString& children) {
+        QTest::newRow(name) << QStringLiteral("<xs:element name='Report'><xs:complexType><xs:sequence>%1</xs:sequence>"
+                                              "</xs:complexType></xs:element>")
+                                   .arg(children);
+    };
+    row("values-of-all-kinds",
+        QStringLiteral("<xs:element name='A' type='xs:string'/><xs:element name='B' type='xs:double'/>"
+                       "<xs:element name='C' type='xs:integer'/><xs:element name='D' type='xs:boolean'/>"
+                       "<xs:element name='E' type='xs:dateTime'/><xs:element name='F' type='xs:time'/>"
+                       "<xs:element name='G' type='xs:int'/><xs:element name='H' type='xs:short'/>"));
+    row("values-within-bounds",
+        QStringLiteral("<xs:element name='A'><xs:simpleType><xs:restriction base='xs:double'>"
+                       "<xs:minExclusive value='-1'/><xs:maxInclusive value='-0.5'/></xs:restriction></xs:simpleType>"
+                       "</xs:element><xs:element name='B'><xs:simpleType><xs:restriction base='xs:integer'>"
+                       "<xs:maxExclusive value='-7'/></xs:restriction></xs:simpleType></xs:element>"
+                       "<xs:element name='C'><xs:simpleType><xs:restriction base='xs:string'>"
+                       "<xs:enumeration value='low'/><xs:enumeration value='high'/></xs:restriction></xs:simpleType>"
+                       "</xs:element>"));
+    row("an-element-with-a-default", QStringLiteral("<xs:element name='A' type='xs:string' default='none'/>"));
+    row("one-alternative-of-a-choice",
+        QStringLiteral("<xs:choice><xs:element name='A' type='xs:string'/><xs:element name='B' type='xs:string'/>"
+                       "</xs:choice>"));
+    row("required-and-optional-attributes",
+        QStringLiteral("<xs:element name='A'><xs:complexType><xs:sequence><xs:element name='B' type='xs:string'/>"
+                       "</xs:sequence><xs:attribute name='Unit' type='xs:string' use='required'/>"
+                       "<xs:attribute name='Count' type='xs:integer'/></xs:complexType></xs:element>"));
+    row("repeated-elements",
+        QStringLiteral("<xs:element name='A' type='xs:double' maxOccurs='unbounded'/>"
+                       "<xs:element name='B' type='xs:double' minOccurs='2' maxOccurs='2'/>"));
+}
+
+void TestSchemaDoctorProof::findsNothingWrong()
+{
+    QFETCH(QString, declarations);
+    const Examination examination = examined(schemaOf(declarations));
+    QCOMPARE(unforetoldPathsOf(examination), QStringList());
+    QVERIFY(examination.proof.reports > 0);
+    QCOMPARE(examination.proof.validReports, examination.proof.reports);
+    QCOMPARE(examination.proof.leftOut, QString());
+}
+
+void TestSchemaDoctorProof::namesTheDeclarationAndTheSentence()
+{
+    const Examination examination
+        = examined(schemaOf(QStringLiteral("<xs:element name='Report'><xs:complexType><xs:sequence>\n"
+                                           "<xs:element name='A' type='xs:string'/>\n"
+                                           "<xs:element ref='First'/>\n<xs:element ref='Second'/>\n"
+                                           "</xs:sequence></xs:complexType></xs:element>\n"
+                                           "<xs:element name='First'><xs:complexType><xs:sequence>\n"
+                                           "<xs:element name='B' type='xs:string'/>\n"
+                                           "</xs:sequence></xs:complexType></xs:element>\n"
+                                           "<xs:element name='Second'><xs:complexType><xs:sequence>\n"
+                                           "<xs:element name='C' type='xs:string'/>\n"
+                                           "</xs:sequence></xs:complexType></xs:element>\n")));
+    for (const Finding& finding : examination.findings) {
+        if (finding.rule == QLatin1String("unforetold")) {
+            QCOMPARE(finding.severity, Severity::Warning);
+            QCOMPARE(finding.path, QStringLiteral("/Report/Second"));
+            QCOMPARE(finding.place.line, 10);
+            QVERIFY(finding.what.contains(QStringLiteral("Element 'Second': This element is not expected.")));
+            return;
+        }
+    }
+    QFAIL("The misplaced element is not told.");
+}
+
+void TestSchemaDoctorProof::tellsTheSameErrorOnce()
+{
+    const Examination examination
+        = examined(schemaOf(QStringLiteral("<xs:element name='Report'><xs:complexType><xs:sequence>"
+                                           "<xs:element name='Box' minOccurs='9' maxOccurs='9'><xs:complexType>"
+                                           "<xs:sequence><xs:element ref='First'/><xs:element ref='Second'/>"
+                                           "</xs:sequence></xs:complexType></xs:element>"
+                                           "</xs:sequence></xs:complexType></xs:element>"
+                                           "<xs:element name='First'><xs:complexType><xs:sequence>"
+                                           "<xs:element name='A' type='xs:string'/></xs:sequence></xs:complexType>"
+                                           "</xs:element><xs:element name='Second'><xs:complexType><xs:sequence>"
+                                           "<xs:element name='B' type='xs:string'/></xs:sequence></xs:complexType>"
+                                           "</xs:element>")));
+    QStringList paths = unforetoldPathsOf(examination);
+    paths.removeDuplicates();
+    QCOMPARE(paths.size(), unforetoldPathsOf(examination).size());
+}
+
+void TestSchemaDoctorProof::isLeftOutOnRequest()
+{
+    const QString schema = schemaOf(QStringLiteral("<xs:element name='Report' type='xs:string'/>"));
+    QCOMPARE(wordsFor(examined(schema).proof), QStringLiteral("Reports filled on trial: 4, of which valid: 4."));
+    QCOMPARE(wordsFor(examined(schema, false).proof), QString());
+}
+
+void TestSchemaDoctorProof::saysWhatIsLeftOut()
+{
+    QString children;
+    for (int i = 0; i < 200; ++i) {
+        children += QStringLiteral("<xs:element name='E%1' minOccurs='0'><xs:complexType><xs:sequence>"
+                                   "<xs:element name='A' type='xs:string'/></xs:sequence></xs:complexType>"
+                                   "</xs:element>\n")
+                        .arg(i);
+    }
+    const Examination examination
+        = examined(schemaOf(QStringLiteral("<xs:element name='Report'><xs:complexType><xs:sequence>%1</xs:sequence>"
+                                           "</xs:complexType></xs:element>")
+                                .arg(children)));
+    const Proof& proof = examination.proof;
+    QVERIFY(proof.reports > 4);
+    QVERIFY(proof.reports < 204);
+    QCOMPARE(proof.leftOut,
+             QStringLiteral("Of 204 reports to be filled on trial, %1 were left out: they would take too long.")
+                 .arg(204 - proof.reports));
+}
+
+void TestSchemaDoctorProof::saysThatASchemaIsNotTaken()
+{
+    const Examination examination
+        = examined(schemaOf(QStringLiteral("<xs:element name='Report'><xs:complexType><xs:sequence>"
+                                           "<xs:element name='A' type='xs:string'/>"
+                                           "<xs:element name='B' type='xs:quantity'/>"
+                                           "</xs:sequence></xs:complexType></xs:element>")));
+    QCOMPARE(examination.proof.reports, 0);
+    QCOMPARE(examination.proof.leftOut, QStringLiteral("No report was validated: libxml2 does not take the schema."));
+}
+
+void TestSchemaDoctorProof::leavesNoFile()
+{
+    examined(schemaOf(QStringLiteral("<xs:element name='Report' type='xs:string'/>")));
+    QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList {QStringLiteral("schema.xsd")});
+}
+
+QTEST_GUILESS_MAIN(TestSchemaDoctorProof)
+#include "tst_schemadoctor_proof.moc"
