@@ -31,9 +31,13 @@ QString valueOf(const QVector<Facet>& facets, const QString& name)
     return found == facets.end() ? QString() : found->value;
 }
 
-/// A number within the bounds that is far from none of them: halfway, or one off the only one.
-double fittingNumber(const QVector<Facet>& facets, double otherwise)
+/// The first number of the enumeration, or one within the bounds: halfway, or one off the only one.
+template <class Declared> double fittingNumber(const Declared& declared, double otherwise)
 {
+    if (!declared.enumeration.isEmpty()) {
+        return declared.enumeration.constFirst().toDouble();
+    }
+    const QVector<Facet>& facets = declared.facets;
     const auto bound = [&facets](const QLatin1String& inclusive, const QLatin1String& exclusive, double beyond) {
         bool isNumber = false;
         const double number = valueOf(facets, inclusive).toDouble(&isNumber);
@@ -54,9 +58,13 @@ double fittingNumber(const QVector<Facet>& facets, double otherwise)
     return std::isnan(lowest) ? highest - 1 : lowest + (highest - lowest) / 2;
 }
 
-/// A text of a length that fits.
-QString fittingText(const QVector<Facet>& facets, const QString& otherwise)
+/// The first text of the enumeration, or one of a length that fits.
+template <class Declared> QString fittingText(const Declared& declared, const QString& otherwise)
 {
+    if (!declared.enumeration.isEmpty()) {
+        return declared.enumeration.constFirst();
+    }
+    const QVector<Facet>& facets = declared.facets;
     for (const char* const facet : {"length", "minLength"}) {
         const int length = valueOf(facets, QLatin1String(facet)).toInt();
         if (length > otherwise.size() && length <= 1000) {
@@ -199,12 +207,11 @@ void FillingObserver::removeAttribute(const QDomElement& element, const QString&
 void FillingObserver::setAttribute(const DeclaredAttribute& attribute)
 {
     if (attribute.setters.testFlag(Setter::Text)) {
-        m_builder.SetAttributeValue(attribute.name,
-                                    attribute.enumeration.value(0, fittingText(attribute.facets, nextText())));
+        m_builder.SetAttributeValue(attribute.name, fittingText(attribute, nextText()));
     } else if (attribute.setters.testFlag(Setter::Integer)) {
-        m_builder.SetAttributeValue(attribute.name, int(fittingNumber(attribute.facets, ++m_values)));
+        m_builder.SetAttributeValue(attribute.name, int(fittingNumber(attribute, ++m_values)));
     } else if (attribute.setters.testFlag(Setter::Floating)) {
-        m_builder.SetAttributeValue(attribute.name, fittingNumber(attribute.facets, 1.5));
+        m_builder.SetAttributeValue(attribute.name, fittingNumber(attribute, 1.5));
     } else if (attribute.setters.testFlag(Setter::DateTime)) {
         m_builder.SetAttributeValue(attribute.name, someTime());
     }
@@ -215,11 +222,11 @@ void FillingObserver::setValue(const LaidOutElement& declared)
 {
     const Setters setters = declared.setters;
     if (setters.testFlag(Setter::Integer)) {
-        m_builder.SetXmlValue(int(fittingNumber(declared.facets, ++m_values)));
+        m_builder.SetXmlValue(int(fittingNumber(declared, ++m_values)));
     } else if (setters.testFlag(Setter::Text)) {
-        m_builder.SetXmlValue(declared.enumeration.value(0, fittingText(declared.facets, nextText())));
+        m_builder.SetXmlValue(fittingText(declared, nextText()));
     } else if (setters.testFlag(Setter::Floating)) {
-        m_builder.SetXmlValue(fittingNumber(declared.facets, 1.5));
+        m_builder.SetXmlValue(fittingNumber(declared, 1.5));
     } else if (setters.testFlag(Setter::Truth)) {
         m_builder.SetXmlValue(true);
     } else if (setters.testFlag(Setter::DateTime)) {
@@ -241,7 +248,7 @@ template <class IsLeftOut> std::vector<bool> wantedIn(const LaidOutTree& tree, c
         const bool isOfBranch = element.choiceGroup == LaidOutElement::None
             || branches.emplace(std::make_pair(element.parent, element.choiceGroup), element.choiceBranch).first->second
                 == element.choiceBranch;
-        isWanted[index] = isParentWanted && isOfBranch && !isLeftOut(int(index));
+        isWanted[index] = isParentWanted && isOfBranch && element.maxOccurs != 0 && !isLeftOut(int(index));
     }
     return isWanted;
 }

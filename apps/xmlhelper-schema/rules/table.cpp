@@ -64,6 +64,7 @@ namespace schemadoctor {
     RULE("attribute-upper-bound", attributeUpperBound)                                                                 \
     RULE("contradictory-bounds", contradictoryBounds)                                                                  \
     RULE("unconvertible-bound", unconvertibleBound)                                                                    \
+    RULE("enumeration-of-numbers", enumerationOfNumbers)                                                               \
     RULE("element-count", elementCount)                                                                                \
     RULE("invalid-schema", invalidSchema)
 
