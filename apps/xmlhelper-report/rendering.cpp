@@ -31,7 +31,7 @@ QString linesOf(const std::vector<Finding>& findings)
     return lines;
 }
 
-QString counted(std::ptrdiff_t count, const QString& thing)
+QString counted(int count, const QString& thing)
 {
     return count == 1 ? QStringLiteral("1 ") + thing : QStringLiteral("%1 %2s").arg(count).arg(thing);
 }
@@ -40,9 +40,12 @@ QString countsOf(const Result& result)
 {
     QStringList counts;
     for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note}) {
-        const auto hasSeverity = [severity](const Finding& finding) { return finding.severity == severity; };
-        const auto count = std::count_if(result.findings.begin(), result.findings.end(), hasSeverity)
-            + std::count_if(result.validation.begin(), result.validation.end(), hasSeverity);
+        int count = 0;
+        for (const std::vector<Finding>* const findings : {&result.findings, &result.validation}) {
+            for (const Finding& finding : *findings) {
+                count += finding.severity == severity ? finding.count : 0;
+            }
+        }
         if (count > 0) {
             counts.append(counted(count, nameOf(severity)));
         }
@@ -54,6 +57,9 @@ QString validationOf(const Result& result)
 {
     if (result.schema.isEmpty()) {
         return QStringLiteral("not validated, no schema");
+    }
+    if (result.isStopped) {
+        return QStringLiteral("not validated to the end, by %1").arg(result.schema);
     }
     if (!result.isValidated) {
         return QStringLiteral("not validated, the schema is no valid one: %1").arg(result.schema);
@@ -72,7 +78,8 @@ QJsonArray jsonOf(const std::vector<Finding>& findings)
                                   {QStringLiteral("line"), finding.line},
                                   {QStringLiteral("path"), finding.path},
                                   {QStringLiteral("text"), finding.text},
-                                  {QStringLiteral("advice"), finding.advice}});
+                                  {QStringLiteral("advice"), finding.advice},
+                                  {QStringLiteral("count"), finding.count}});
     }
     return array;
 }
@@ -85,6 +92,7 @@ QJsonObject jsonOf(const Result& result)
             {QStringLiteral("unreadableReason"), result.unreadableReason},
             {QStringLiteral("schema"), result.schema},
             {QStringLiteral("validated"), result.isValidated},
+            {QStringLiteral("stopped"), result.isStopped},
             {QStringLiteral("findings"), jsonOf(result.findings)},
             {QStringLiteral("validation"), jsonOf(result.validation)}};
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include <QFileInfo>
+#include <QHash>
+#include <QMap>
 
 #include "elementpaths.h"
 #include "rules/rule.h"
@@ -66,10 +68,14 @@ public:
 
     void ApplyRules(ElementPaths& paths)
     {
+
         for (const xmlNode* node = m_pRoot; node; node = nextInDocumentOrder(node)) {
             if (node->type == XML_ELEMENT_NODE) {
                 applyRulesTo(node, paths);
             }
+        }
+        for (const Finding& last : m_leftOut) {
+            m_result.findings.push_back(last);
         }
     }
 
@@ -79,15 +85,31 @@ private:
         const ReportElement element = reportElement(node);
         for (const Rule& rule : allRules()) {
             for (const Remark& remark : rule.apply(element, m_context)) {
+                if (++m_counts[rule.name] > MaxFindingsOfARule) {
+                    leaveOut(rule, remark);
+                    continue;
+                }
                 m_result.findings.push_back({remark.severity, QLatin1String(rule.name), m_result.report, lineOf(node),
                                              paths.PathOf(node), remark.text, remark.advice});
             }
         }
     }
 
+    void leaveOut(const Rule& rule, const Remark& remark)
+    {
+        Finding& last = m_leftOut[rule.name];
+        last.severity = last.rule.isEmpty() ? remark.severity : std::max(last.severity, remark.severity);
+        last.rule = QLatin1String(rule.name);
+        last.file = m_result.report;
+        last.count = m_counts[rule.name] - MaxFindingsOfARule;
+        last.text = QStringLiteral("%1 more of this kind are left out.").arg(last.count);
+    }
+
     const xmlNode* m_pRoot;
     Result& m_result;
     const RuleContext m_context;
+    QHash<const char*, int> m_counts; ///< of remarks, by the name of the rule
+    QMap<QByteArray, Finding> m_leftOut; ///< by the name of the rule
 };
 
 QString withLine(const ReadFile& read)
@@ -128,6 +150,7 @@ Result checkReport(const QString& report, const QString& schema)
         context.declared = DeclaredAttributes::FromSchema(result.schema);
         Validation validation = validate(read.document.get(), report, result.schema, paths);
         result.isValidated = validation.isDone;
+        result.isStopped = validation.isStopped;
         result.validation = std::move(validation.messages);
     }
     Check(root, result, context).ApplyRules(paths);

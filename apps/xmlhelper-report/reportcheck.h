@@ -29,6 +29,7 @@ struct Finding
     QString path; ///< of the element, such as "/Report/Signal/Sample[2]"; empty when it is about no element
     QString text; ///< what is there
     QString advice; ///< what it comes from, and what to do; empty when there is nothing to add
+    int count = 1; ///< greater for the last of a rule, when it stands for all those that are left out
 };
 
 struct Result
@@ -42,12 +43,19 @@ struct Result
     /// The file that the report was validated against; empty when there is none that can be read from here.
     QString schema;
     bool isValidated = false; ///< false as well when the schema is at fault itself; `validation` says how
+    bool isStopped = false; ///< the validation, for the time that it took; `validation` holds what it said until then
 
     std::vector<Finding> findings; ///< by the rules; in document order
     std::vector<Finding> validation; ///< by the validator, about the report or the schema; in the validator's order
 
     bool IsReadable() const { return unreadableReason.isEmpty(); }
 };
+
+/// Findings of one rule, and messages of the validator; behind them only their number is told.
+constexpr int MaxFindingsOfARule = 100;
+
+/// Processor time for the validation of one report.
+constexpr int MaxValidationSeconds = 10;
 
 /// Checks one report.
 ///

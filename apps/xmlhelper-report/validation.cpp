@@ -1,9 +1,14 @@
 #include "validation.h"
 
+#include <algorithm>
+#include <functional>
 #include <memory>
 
 #include <libxml/xmlschemas.h>
 
+#include <confinedchild.h>
+
+#include <QDataStream>
 #include <QFileInfo>
 #include <QUrl>
 
@@ -13,6 +18,9 @@ namespace reportcheck {
 
 namespace {
 
+/// The rule of the last message of a validation that came to its end.
+const char DoneMark[] = "done";
+
 template <auto Free> struct Release
 {
     template <typename Object> void operator()(Object* object) const { Free(object); }
@@ -21,14 +29,43 @@ using SchemaParser = std::unique_ptr<xmlSchemaParserCtxt, Release<xmlSchemaFreeP
 using Schema = std::unique_ptr<xmlSchema, Release<xmlSchemaFree>>;
 using Validator = std::unique_ptr<xmlSchemaValidCtxt, Release<xmlSchemaFreeValidCtxt>>;
 
-// What takes the messages of one run.
+using Write = std::function<void(const QByteArray&)>;
+
+// What takes the messages of one run, and sends the first of them off.
 struct Listener
 {
     QString file; // that the messages are about
     const char* rule;
     ElementPaths* pPaths; // null for messages about a schema
-    std::vector<Finding>* pMessages;
+    const Write& write;
+    Finding last; // stands for those that are not sent
+    int count = 0;
 };
+
+void send(const Finding& message, const Write& write)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream << int(message.severity) << message.rule << message.file << message.line << message.path << message.text
+           << message.count;
+    write(bytes);
+}
+
+std::vector<Finding> received(const QByteArray& bytes)
+{
+    std::vector<Finding> messages;
+    for (QDataStream stream(bytes); !stream.atEnd();) {
+        Finding message;
+        int severity = 0;
+        stream >> severity >> message.rule >> message.file >> message.line >> message.path >> message.text
+            >> message.count;
+        message.severity = Severity(severity);
+        if (stream.status() == QDataStream::Ok) { // The last one may have been cut off.
+            messages.push_back(message);
+        }
+    }
+    return messages;
+}
 
 Severity severityOf(const xmlError& error)
 {
@@ -53,46 +90,93 @@ const xmlNode* elementOf(const xmlError& error)
     return node && node->type == XML_ATTRIBUTE_NODE ? node->parent : node;
 }
 
-void takeMessage(void* data, xmlErrorPtr error)
+Finding messageOf(const xmlError& error, const Listener& listener)
 {
-    const auto* const listener = static_cast<Listener*>(data);
-    const xmlNode* const element = elementOf(*error);
+    const xmlNode* const element = elementOf(error);
     Finding message;
-    message.severity = severityOf(*error);
-    message.rule = QLatin1String(listener->rule);
-    message.line = element ? lineOf(element) : error->line;
-    message.text = QString::fromUtf8(error->message).trimmed();
-    if (listener->pPaths) {
-        message.file = listener->file;
-        message.path = listener->pPaths->PathOf(element);
+    message.severity = severityOf(error);
+    message.rule = QLatin1String(listener.rule);
+    message.line = element ? lineOf(element) : error.line;
+    message.text = QString::fromUtf8(error.message).trimmed();
+    if (listener.pPaths) {
+        message.file = listener.file;
+        message.path = listener.pPaths->PathOf(element);
     } else {
-        message.file = fileOf(*error, listener->file);
+        message.file = fileOf(error, listener.file);
     }
-    listener->pMessages->push_back(message);
+    return message;
 }
 
-Schema readSchema(const QString& file, std::vector<Finding>& messages)
+void takeMessage(void* data, xmlErrorPtr error)
 {
-    Listener listener {file, "schema", nullptr, &messages};
+    auto* const listener = static_cast<Listener*>(data);
+    if (++listener->count <= MaxFindingsOfARule) {
+        send(messageOf(*error, *listener), listener->write);
+    } else {
+        listener->last.severity = std::max(listener->last.severity, severityOf(*error));
+    }
+}
+
+void sendLast(Listener& listener)
+{
+    Finding& last = listener.last;
+    last.count = listener.count - MaxFindingsOfARule;
+    if (last.count > 0) {
+        last.rule = QLatin1String(listener.rule);
+        last.file = listener.file;
+        last.text = QStringLiteral("%1 more messages are left out.").arg(last.count);
+        send(last, listener.write);
+    }
+}
+
+Schema readSchema(const QString& file, const Write& write)
+{
+    Listener listener {file, "schema", nullptr, write, {Severity::Note, {}, {}, 0, {}, {}, {}, 1}};
     const SchemaParser parser(xmlSchemaNewParserCtxt(urlOf(file).constData()));
     xmlSchemaSetParserStructuredErrors(parser.get(), takeMessage, &listener);
-    return Schema(xmlSchemaParse(parser.get()));
+    Schema schema(xmlSchemaParse(parser.get()));
+    sendLast(listener);
+    return schema;
+}
+
+void validateInto(xmlDoc* document, const QString& report, const QString& schema, ElementPaths& paths,
+                  const Write& write)
+{
+    const Schema parsed = readSchema(schema, write);
+    if (!parsed) {
+        return;
+    }
+    Listener listener {report, "validation", &paths, write, {Severity::Note, {}, {}, 0, {}, {}, {}, 1}};
+    const Validator validator(xmlSchemaNewValidCtxt(parsed.get()));
+    xmlSchemaSetValidStructuredErrors(validator.get(), takeMessage, &listener);
+    const bool isDone = xmlSchemaValidateDoc(validator.get(), document) >= 0;
+    sendLast(listener);
+    if (isDone) {
+        send({Severity::Note, QLatin1String(DoneMark), {}, 0, {}, {}, {}, 1}, write);
+    }
 }
 
 } // namespace
 
-Validation validate(xmlDoc* document, const QString& report, const QString& schema, ElementPaths& paths)
+Validation validate(xmlDoc* document, const QString& report, const QString& schema, ElementPaths& paths, int seconds)
 {
     const Seclusion seclusion;
+    const ChildResult result = resultOfChild(
+        [&](const Write& write) { validateInto(document, report, schema, paths, write); }, {seconds, 0});
     Validation validation;
-    const Schema parsed = readSchema(schema, validation.messages);
-    if (!parsed) {
-        return validation;
+    validation.messages = received(result.bytes);
+    validation.isDone = !validation.messages.empty() && validation.messages.back().rule == QLatin1String(DoneMark);
+    validation.isStopped = !result.isWhole;
+    if (validation.isDone) {
+        validation.messages.pop_back();
+    } else if (validation.isStopped) {
+        Finding stopped;
+        stopped.severity = Severity::Warning;
+        stopped.rule = QStringLiteral("validation");
+        stopped.file = report;
+        stopped.text = QStringLiteral("The validation was stopped after %1 seconds of work.").arg(seconds);
+        validation.messages.push_back(stopped);
     }
-    Listener listener {report, "validation", &paths, &validation.messages};
-    const Validator validator(xmlSchemaNewValidCtxt(parsed.get()));
-    xmlSchemaSetValidStructuredErrors(validator.get(), takeMessage, &listener);
-    validation.isDone = xmlSchemaValidateDoc(validator.get(), document) >= 0;
     return validation;
 }
 

@@ -12,12 +12,15 @@ namespace reportcheck {
 
 struct Validation
 {
-    bool isDone = false; ///< false: the schema is no schema
+    bool isDone = false; ///< false: the schema is no schema, or
+    bool isStopped = false; ///< there was no more time
     std::vector<Finding> messages; ///< in the validator's words
 };
 
-/// Validates a report against a schema file, with libxml2.
-Validation validate(xmlDoc* document, const QString& report, const QString& schema, ElementPaths& paths);
+/// Validates a report against a schema file, with libxml2, in a process of its own: a validator can be kept busy for
+/// hours by a schema or a report of a few lines. After @p seconds of processor time it is stopped.
+Validation validate(xmlDoc* document, const QString& report, const QString& schema, ElementPaths& paths,
+                    int seconds = MaxValidationSeconds);
 
 } // namespace reportcheck
 

@@ -77,6 +77,27 @@ ReadFile parserFailure(const Parser& parser, const Tally& tally)
                       error ? error->line : 0);
 }
 
+constexpr int BytesLookedAt = 4096;
+
+/// What a file is that begins so, when it cannot be XML; empty when it may be. In UTF-16 every ASCII character has a
+/// null byte beside it.
+QString whyNoXml(const QByteArray& begin)
+{
+    const bool isUtf16 = begin.startsWith("\xff\xfe") || begin.startsWith("\xfe\xff")
+        || begin.startsWith(QByteArray::fromRawData("<\0", 2)) || begin.startsWith(QByteArray::fromRawData("\0<", 2));
+    if (isUtf16) {
+        return QString();
+    }
+    if (begin.contains('\0')) {
+        return QStringLiteral("It is a binary file, and no XML.");
+    }
+    const QByteArray text = (begin.startsWith("\xef\xbb\xbf") ? begin.mid(3) : begin).trimmed();
+    if (text.isEmpty()) {
+        return QStringLiteral("The file is empty.");
+    }
+    return text.startsWith('<') ? QString() : QStringLiteral("It is no XML: it does not begin with a tag.");
+}
+
 } // namespace
 
 ReadFile readXmlFile(const QString& file)
@@ -88,6 +109,10 @@ ReadFile readXmlFile(const QString& file)
     }
     if (source.size() > MaximumBytes) {
         return unreadable(QStringLiteral("It has more than %1 bytes.").arg(MaximumBytes));
+    }
+    const QString reason = whyNoXml(source.peek(BytesLookedAt));
+    if (!reason.isEmpty()) {
+        return unreadable(reason);
     }
 
     Tally tally;

@@ -10,10 +10,10 @@
 #include <QHash>
 #include <QSet>
 
+#include <confinedchild.h>
 #include <xmlhelper/documentfile_p.h>
 
 #include "filling.h"
-#include "reading/confinedchild.h"
 #include "reading/doctorlimits.h"
 #include "validation.h"
 
@@ -126,9 +126,11 @@ const std::set<PlaceKey>& Surroundings::placesOf(int element)
     const LaidOutElement& laidOut = m_tree.elements[std::size_t(element)];
     if (isNew) {
         QSet<const TextNode*> visited;
-        for (const TextNode* const tag : m_tags.value(laidOut.place.file).value(laidOut.place.line)) {
-            addAround(tag->parent, found->second);
-            addBelow(*tag, found->second, visited);
+        for (const Place& place : {laidOut.place, laidOut.particle}) {
+            for (const TextNode* const tag : m_tags.value(place.file).value(place.line)) {
+                addAround(tag->parent, found->second);
+                addBelow(*tag, found->second, visited);
+            }
         }
     }
     return found->second;
@@ -221,14 +223,15 @@ void prove(const QString& file, const std::vector<const TextFile*>& files, Exami
     const int count = affordable(fillings, examination);
     const int all = int(fillings.size());
     fillings.erase(fillings.begin() + count, fillings.end());
-    const QByteArray result = count == 0
-        ? QByteArray()
-        : resultOfChild([&] { return filledAndValidated(file, examination.tree, fillings); });
+    ChildResult result;
+    if (count > 0) {
+        result = resultOfChild([&](const auto& write) { write(filledAndValidated(file, examination.tree, fillings)); });
+    }
     bool isCompiled = false;
     QVector<ValidityError> errors;
-    QDataStream stream(result);
+    QDataStream stream(result.bytes);
     stream >> isCompiled >> errors;
-    if (result.isEmpty()) {
+    if (!result.isWhole) {
         proof.leftOut = QStringLiteral("No report was filled on trial: it would take too long.");
     } else if (!isCompiled) {
         proof.leftOut = QStringLiteral("No report was validated: libxml2 does not take the schema.");

@@ -8,7 +8,7 @@
 #include <libxml/parser.h>
 #include <libxml/xmlschemas.h>
 
-#include "confinedchild.h"
+#include <confinedchild.h>
 
 namespace schemadoctor {
 
@@ -44,13 +44,12 @@ QByteArray checked(const QString& file)
 
 QVector<GrammarFault> grammarFaultsOf(const QString& file)
 {
-    const QByteArray result = resultOfChild([&file] { return checked(file); });
-    const QJsonDocument document = QJsonDocument::fromJson(result);
-    if (!document.isArray()) {
+    const ChildResult result = resultOfChild([&file](const auto& write) { write(checked(file)); });
+    if (!result.isWhole) {
         return {{{file, 0}, QStringLiteral("libxml2 needs too much time or memory to check the schema.")}};
     }
     QVector<GrammarFault> faults;
-    const QJsonArray all = document.array();
+    const QJsonArray all = QJsonDocument::fromJson(result.bytes).array();
     for (const QJsonValue& fault : all) {
         faults.append({{fault[QStringLiteral("file")].toString(), fault[QStringLiteral("line")].toInt()},
                        fault[QStringLiteral("message")].toString()});

@@ -1,0 +1,94 @@
+#include "confinedchild.h"
+
+#include <csignal>
+#include <cstdio>
+
+#include <poll.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QElapsedTimer>
+
+namespace {
+
+/// Long enough for what it may use, on a machine that has other work.
+constexpr int MillisecondsOfASecond = 30000;
+
+void confine(int resource, rlim_t most)
+{
+    const rlimit limit {most, most};
+    setrlimit(static_cast<__rlimit_resource_t>(resource), &limit);
+}
+
+void writeAll(int output, const QByteArray& bytes)
+{
+    const char* data = bytes.constData();
+    for (ssize_t left = bytes.size(); left > 0;) {
+        const ssize_t written = write(output, data, std::size_t(left));
+        if (written <= 0) {
+            _exit(1);
+        }
+        data += written;
+        left -= written;
+    }
+}
+
+/// What the child writes until it ends. Gives whether it came to its end in time.
+bool readAll(int input, int milliseconds, QByteArray& result)
+{
+    QElapsedTimer timer;
+    timer.start();
+    char buffer[65536];
+    for (;;) {
+        pollfd waiting {input, POLLIN, 0};
+        const int left = milliseconds - int(timer.elapsed());
+        if (left <= 0 || poll(&waiting, 1, left) <= 0) {
+            return false;
+        }
+        const ssize_t count = read(input, buffer, sizeof buffer);
+        if (count <= 0) {
+            return true;
+        }
+        result.append(buffer, int(count));
+    }
+}
+
+} // namespace
+
+ChildResult resultOfChild(const std::function<void(const std::function<void(const QByteArray&)>& write)>& work,
+                          const ChildLimits& limits)
+{
+    ChildResult result;
+    int ends[2];
+    if (pipe(ends) != 0) {
+        return result;
+    }
+    std::fflush(nullptr);
+    const pid_t child = fork();
+    if (child == 0) {
+        close(ends[0]);
+        // A limit for the address space would end a program that is run with an address sanitizer at once.
+#if !defined(__SANITIZE_ADDRESS__)
+        if (limits.bytes > 0) {
+            confine(RLIMIT_DATA, rlim_t(limits.bytes));
+        }
+#endif
+        confine(RLIMIT_CPU, rlim_t(limits.processorSeconds));
+        confine(RLIMIT_CORE, 0);
+        work([&ends](const QByteArray& bytes) { writeAll(ends[1], bytes); });
+        _exit(0); // without the destructors and exit handlers of the program that goes on
+    }
+    close(ends[1]);
+    if (child > 0) {
+        const bool isInTime = readAll(ends[0], limits.processorSeconds * MillisecondsOfASecond, result.bytes);
+        int status = 0;
+        if (!isInTime) {
+            kill(child, SIGKILL);
+        }
+        result.isWhole
+            = waitpid(child, &status, 0) == child && isInTime && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    }
+    close(ends[0]);
+    return result;
+}
