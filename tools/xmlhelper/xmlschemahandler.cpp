@@ -943,7 +943,7 @@ void XmlSchemaHandler::layOut(TypeDefinition& definition, QDomElement owner, con
             return;
         }
         const QDomNode content = definition.fragment->cloneNode(true);
-        if (m_pLog && m_pReading->fragmentsOfNamedTypes.count(definition.fragment) == 0) {
+        if (m_pLog && !m_pReading->shares[definition.fragment].isOfNamedType) {
             addReference(content, m_tag);
         }
         if (anchor.isNull()) {

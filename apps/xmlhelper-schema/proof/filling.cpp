@@ -12,7 +12,8 @@
 #include <QPair>
 #include <QTextStream>
 
-#include <xmlhelper/constants_p.h>
+#include <xmlhelper/skeletonwords_p.h>
+#include <xmlhelper/valuerules_p.h>
 #include <xmlhelper/xmlhelper.h>
 #include <xmlhelper/xmlserialiser_p.h>
 
@@ -188,14 +189,14 @@ void FillingObserver::setAttributes(const QDomElement& element, const LaidOutEle
     }
 }
 
-/// Removes a declared attribute and the annotations that carry its name at their end.
+/// Removes a declared attribute and its facets.
 void FillingObserver::removeAttribute(const QDomElement& element, const QString& name)
 {
     QStringList removed {name};
     const QDomNamedNodeMap attributes = element.attributes();
     for (int i = 0; i < attributes.count(); ++i) {
         const QString other = attributes.item(i).nodeName();
-        if (other.endsWith(name) && (other.contains(EnumerationFacet) || other.contains(RangeFacetMark))) {
+        if (isEnumerationOfAttribute(other, name) || rangeFacetOfAttribute(other, name).size() > 0) {
             removed.append(other);
         }
     }
