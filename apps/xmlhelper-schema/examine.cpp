@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <tuple>
 
+#include <QSet>
+
 #include <xmlhelper/documentfile_p.h>
 
 #include "proof/proof.h"
@@ -82,6 +84,20 @@ void sortFindings(QVector<Finding>& findings, const SchemaRecord& record)
     });
 }
 
+/// Shows each pair of trees once, at the first finding that it belongs to.
+void dropRepeatedTrees(QVector<Finding>& findings)
+{
+    QSet<QString> shown;
+    for (Finding& finding : findings) {
+        const QString pair = finding.meantTree + QChar(0) + finding.laidOutTree;
+        if (shown.contains(pair)) {
+            finding.meantTree.clear();
+            finding.laidOutTree.clear();
+        }
+        shown.insert(pair);
+    }
+}
+
 } // namespace
 
 Examination examine(const QString& file, bool isToProve)
@@ -128,6 +144,7 @@ Examination examine(const QString& file, bool isToProve)
         prove(file, record.GetReadFiles(), examination);
     }
     sortFindings(examination.findings, record);
+    dropRepeatedTrees(examination.findings);
     return examination;
 }
 

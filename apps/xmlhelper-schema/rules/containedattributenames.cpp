@@ -13,7 +13,9 @@ void containedAttributeNames(const Schema& schema, Findings& findings)
         for (const DeclaredAttribute& shorter : attributes) {
             for (const DeclaredAttribute& longer : attributes) {
                 const QString key = shorter.name + QLatin1Char(' ') + longer.name;
-                if (shorter.name == longer.name || !longer.name.contains(shorter.name) || told.contains(key)) {
+                const bool isAnyFacet = !longer.facets.isEmpty() || !longer.enumeration.isEmpty();
+                if (shorter.name == longer.name || !longer.name.contains(shorter.name) || !isAnyFacet
+                    || told.contains(key)) {
                     continue;
                 }
                 told.insert(key);

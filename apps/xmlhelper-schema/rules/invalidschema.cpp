@@ -1,15 +1,42 @@
+#include <QMap>
+#include <QRegularExpression>
+
 #include "rule.h"
 
 namespace schemadoctor {
 
-/// What a validator says about the schema as a schema: a report is checked against it later.
+namespace {
+
+/// The prefix of a name that has no namespace; empty for other faults.
+QString undeclaredPrefixIn(const QString& message)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("The QName value '([^':]+):[^']*' has no corresponding namespace declaration"));
+    return pattern.match(message).captured(1);
+}
+
+} // namespace
+
+/// What a validator says about the schema as a schema: a report is checked against it later. A prefix that is not
+/// declared is told once, at its first use.
 void invalidSchema(const Schema& schema, Findings& findings)
 {
+    QMap<QString, int> uses; // of each prefix
     for (const GrammarFault& fault : schema.GetFaults()) {
-        findings.Add(Severity::Warning, fault.place, QString(),
-                     QStringLiteral("libxml2 does not accept the schema: %1").arg(fault.message),
+        ++uses[undeclaredPrefixIn(fault.message)];
+    }
+    for (const GrammarFault& fault : schema.GetFaults()) {
+        const QString prefix = undeclaredPrefixIn(fault.message);
+        const int count = prefix.isEmpty() ? 1 : uses.take(prefix);
+        if (count == 0) {
+            continue;
+        }
+        findings.Add(Severity::Warning, fault.place, prefix,
+                     QStringLiteral("libxml2 does not accept the schema: %1").arg(fault.message)
+                         + (count == 1 ? QString() : QStringLiteral(" The same of %1 other names.").arg(count - 1)),
                      QStringLiteral("The library does not look at it, but no report can be validated."),
-                     QStringLiteral("Mend the schema."));
+                     prefix.isEmpty() ? QStringLiteral("Mend the schema.")
+                                      : QStringLiteral("Declare the prefix: xmlns:%1=\"...\".").arg(prefix));
     }
 }
 

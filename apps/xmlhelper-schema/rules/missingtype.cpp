@@ -8,6 +8,9 @@ void missingType(const Schema& schema, Findings& findings)
     const QString nowhere = record.IsEverythingRead() ? QStringLiteral("which is defined nowhere")
                                                       : QStringLiteral("which nothing defines that could be read");
     for (const auto& [name, references] : record.GetMissing()) {
+        if (localPart(name) != name) {
+            continue; // It is missing for its prefix, which a rule of its own tells.
+        }
         for (const TextNode* const reference : references) {
             findings.Add(
                 Severity::Error, *reference,

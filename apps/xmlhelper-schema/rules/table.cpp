@@ -39,6 +39,7 @@ namespace schemadoctor {
     RULE("repeated-element-of-later-type", repeatedElementOfLaterType)                                                 \
     RULE("repeated-inline-type", repeatedInlineType)                                                                   \
     RULE("attributes-after-elements", attributesAfterElements)                                                         \
+    RULE("other-order", otherOrder)                                                                                    \
     RULE("declaration-before-include", declarationBeforeInclude)                                                       \
     RULE("one-name-in-several-spaces", oneNameInSeveralSpaces)                                                         \
     RULE("one-name-under-several-owners", oneNameUnderSeveralOwners)                                                   \

@@ -93,7 +93,7 @@ void TestSchemaDoctorProof::leavesNoErrorSilent()
     const Examination examination = examined(schemaOf(declarations));
     QVERIFY(examination.proof.reports > 0);
     QVERIFY(examination.proof.validReports < examination.proof.reports);
-    QCOMPARE(exitStatusOf(examination), HasWarnings);
+    QVERIFY(exitStatusOf(examination) != NothingToSay);
 }
 
 void TestSchemaDoctorProof::findsNothingWrong_data()
@@ -140,47 +140,51 @@ void TestSchemaDoctorProof::findsNothingWrong()
     QCOMPARE(examination.proof.leftOut, QString());
 }
 
+namespace {
+
+/// That one value must be another one's is nothing that the library or a rule looks at.
+const QString reportWithReference
+    = QStringLiteral("<xs:element name='Report'><xs:complexType><xs:sequence>\n"
+                     "<xs:element name='Channel' type='xs:string'/>\n"
+                     "<xs:element name='Box'><xs:complexType><xs:sequence>\n"
+                     "<xs:element name='Chosen' type='xs:string'/>\n"
+                     "</xs:sequence></xs:complexType></xs:element>\n"
+                     "</xs:sequence></xs:complexType>\n"
+                     "<xs:key name='Channels'><xs:selector xpath='Channel'/><xs:field xpath='.'/></xs:key>\n"
+                     "<xs:keyref name='Choice' refer='Channels'><xs:selector xpath='Box/Chosen'/>"
+                     "<xs:field xpath='.'/></xs:keyref>\n"
+                     "</xs:element>");
+
+} // namespace
+
 void TestSchemaDoctorProof::namesTheDeclarationAndTheSentence()
 {
-    const Examination examination
-        = examined(schemaOf(QStringLiteral("<xs:element name='Report'><xs:complexType><xs:sequence>\n"
-                                           "<xs:element name='A' type='xs:string'/>\n"
-                                           "<xs:element ref='First'/>\n<xs:element ref='Second'/>\n"
-                                           "</xs:sequence></xs:complexType></xs:element>\n"
-                                           "<xs:element name='First'><xs:complexType><xs:sequence>\n"
-                                           "<xs:element name='B' type='xs:string'/>\n"
-                                           "</xs:sequence></xs:complexType></xs:element>\n"
-                                           "<xs:element name='Second'><xs:complexType><xs:sequence>\n"
-                                           "<xs:element name='C' type='xs:string'/>\n"
-                                           "</xs:sequence></xs:complexType></xs:element>\n")));
+    const Examination examination = examined(schemaOf(reportWithReference));
     for (const Finding& finding : examination.findings) {
         if (finding.rule == QLatin1String("unforetold")) {
             QCOMPARE(finding.severity, Severity::Warning);
-            QCOMPARE(finding.path, QStringLiteral("/Report/Second"));
-            QCOMPARE(finding.place.line, 10);
-            QVERIFY(finding.what.contains(QStringLiteral("Element 'Second': This element is not expected.")));
+            // Where the constraint stands, there libxml2 tells of it.
+            QCOMPARE(finding.path, QStringLiteral("/Report"));
+            QCOMPARE(finding.place.line, 2);
+            QVERIFY2(finding.what.contains(QStringLiteral("Element 'Chosen': No match found for key-sequence")),
+                     qPrintable(finding.what));
             return;
         }
     }
-    QFAIL("The misplaced element is not told.");
+    QFAIL("The reference to nothing is not told.");
 }
 
 void TestSchemaDoctorProof::tellsTheSameErrorOnce()
 {
-    const Examination examination
-        = examined(schemaOf(QStringLiteral("<xs:element name='Report'><xs:complexType><xs:sequence>"
-                                           "<xs:element name='Box' minOccurs='9' maxOccurs='9'><xs:complexType>"
-                                           "<xs:sequence><xs:element ref='First'/><xs:element ref='Second'/>"
-                                           "</xs:sequence></xs:complexType></xs:element>"
-                                           "</xs:sequence></xs:complexType></xs:element>"
-                                           "<xs:element name='First'><xs:complexType><xs:sequence>"
-                                           "<xs:element name='A' type='xs:string'/></xs:sequence></xs:complexType>"
-                                           "</xs:element><xs:element name='Second'><xs:complexType><xs:sequence>"
-                                           "<xs:element name='B' type='xs:string'/></xs:sequence></xs:complexType>"
-                                           "</xs:element>")));
-    QStringList paths = unforetoldPathsOf(examination);
-    paths.removeDuplicates();
-    QCOMPARE(paths.size(), unforetoldPathsOf(examination).size());
+    const Examination examination = examined(schemaOf(reportWithReference));
+    QStringList sentences;
+    for (const Finding& finding : examination.findings) {
+        if (finding.rule == QLatin1String("unforetold")) {
+            sentences.append(finding.what.section(QStringLiteral("not valid: "), 1));
+        }
+    }
+    QVERIFY(!sentences.isEmpty());
+    QCOMPARE(sentences.removeDuplicates(), 0);
 }
 
 void TestSchemaDoctorProof::isLeftOutOnRequest()
