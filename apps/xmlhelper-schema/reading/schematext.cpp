@@ -1,11 +1,13 @@
 #include "schematext.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
 
 #include <QFile>
 
 #include <libxml/parser.h>
+#include <libxml/SAX2.h>
 #include <libxml/tree.h>
 
 #include "doctorlimits.h"
@@ -52,7 +54,7 @@ std::unique_ptr<TextNode> tagOf(const xmlNode* node, const TextFile& file, const
     auto tag = std::make_unique<TextNode>();
     tag->file = &file;
     tag->parent = parent;
-    tag->line = int(xmlGetLineNo(node));
+    tag->line = int(reinterpret_cast<std::intptr_t>(node->_private));
     tag->qName = qualified(node->ns, node->name);
     tag->localName = tag->qName.section(QLatin1Char(':'), -1);
     // The library asks for the prefix alone, so a prefix that was not declared counts too.
@@ -95,6 +97,22 @@ void copyTags(xmlNode* root, TextFile& file)
     }
 }
 
+/// Gives each node the line in which its tag begins: the parser itself keeps the one in which it ends.
+void beginElement(void* context, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri, int spaceCount,
+                  const xmlChar** spaces, int attributeCount, int defaultedCount, const xmlChar** attributes)
+{
+    const auto* const parser = static_cast<xmlParserCtxt*>(context);
+    const xmlParserInput& input = *parser->input;
+    std::intptr_t line = input.line;
+    for (const xmlChar* text = input.cur; text > input.base && *text != '<'; --text) {
+        line -= *text == '\n' ? 1 : 0;
+    }
+    xmlSAX2StartElementNs(context, name, prefix, uri, spaceCount, spaces, attributeCount, defaultedCount, attributes);
+    if (parser->node) {
+        parser->node->_private = reinterpret_cast<void*>(line);
+    }
+}
+
 DocumentPointer parsed(xmlParserCtxt* parser, const QByteArray& content, int options)
 {
     return DocumentPointer(
@@ -119,6 +137,7 @@ void parse(const QByteArray& content, TextFile& file)
     const int options = content.contains("<!ENTITY") ? common : common | XML_PARSE_HUGE;
     const ParserPointer parser(xmlNewParserCtxt());
     parser->sax->serror = recordFault;
+    parser->sax->startElementNs = beginElement;
     parser->_private = &file;
     const DocumentPointer document = parsed(parser.get(), content, options | XML_PARSE_RECOVER);
     if (xmlNode* const root = document ? xmlDocGetRootElement(document.get()) : nullptr) {

@@ -25,7 +25,7 @@ struct TextNode
 
     const TextFile* file = nullptr;
     const TextNode* parent = nullptr;
-    int line = 0;
+    int line = 0; ///< in which the tag begins
     QString qName;
     QString localName;
     bool isOfSchemaNamespace = false;

@@ -18,6 +18,12 @@ namespace {
 /// In the order in which they are shown.
 const QLatin1String RangeFacets[] = {MinInclusiveFacet, MinExclusiveFacet, MaxInclusiveFacet, MaxExclusiveFacet};
 
+/// The range facets come first.
+int rankOf(const Facet& facet)
+{
+    return int(std::find(std::begin(RangeFacets), std::end(RangeFacets), facet.name) - std::begin(RangeFacets));
+}
+
 /// The values of the attributes called @p names in the order of their numbers.
 QStringList valuesByNumber(const QDomElement& element, const QStringList& names)
 {
@@ -191,28 +197,28 @@ void TreeBuilder::annotate(LaidOutElement& laidOut, const QDomElement& element,
         all.append(origin.name);
     }
     QStringList enumeration;
-    QVector<Facet> unchecked;
     for (const SchemaRecord::AttributeOrigin& origin : origins) {
         const QString value = element.attribute(origin.name);
         if (origin.kind == Kind::Declared) {
             laidOut.attributes.append(declaredAttribute(origin, all, element));
-        } else if (origin.kind == Kind::FacetOfDeclared) {
-            continue;
-        } else if (origin.name == TypeAttribute()) {
+        }
+        Facet facet {origin.name, value, false};
+        facet.isChecked = rangeFacetOfElement(origin.name).size() > 0;
+        // An attribute that is called like an annotation is taken for it.
+        if (origin.name == TypeAttribute()) {
             laidOut.type = value;
         } else if (origin.name == DefaultAttribute()) {
             laidOut.defaultValue = value;
         } else if (isEnumerationOfElement(origin.name)) {
             enumeration.append(origin.name);
-        } else if (rangeFacetOfElement(origin.name).size() > 0) {
-            laidOut.facets.append({origin.name, value, true});
-        } else {
-            unchecked.append({origin.name, value, false});
+        } else if (facet.isChecked || origin.kind == Kind::Annotation) {
+            laidOut.facets.append(facet);
         }
     }
     laidOut.setters = settersOfElement(laidOut.type);
     laidOut.enumeration = valuesByNumber(element, enumeration);
-    laidOut.facets += unchecked;
+    std::stable_sort(laidOut.facets.begin(), laidOut.facets.end(),
+                     [](const Facet& left, const Facet& right) { return rankOf(left) < rankOf(right); });
 }
 
 void TreeBuilder::applyOccurs(int index)

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -84,12 +86,22 @@ private Q_SLOTS:
     void namesTheSettersThatTheBuilderTakes();
     void tellsOfAnElement();
     void tellsOfAnAttribute();
+    void hasNoAttributeThatIsOnlyCalledLikeAnAnnotation();
+    void tellsOfAReferenceByItsOwnOccurrence_data();
+    void tellsOfAReferenceByItsOwnOccurrence();
+    void placesTagsWhereTheyBegin_data();
+    void placesTagsWhereTheyBegin();
+    void placesNothingBehindTagsOfAnEntity();
     void tellsWhichCountsAreAccepted_data();
     void tellsWhichCountsAreAccepted();
     void tellsWhatBecomesOfUnfilledElements();
     void prunesWhatTheWalkPrunes();
     void findsElementsByTheirPaths();
     void tellsOfIncludedFiles();
+    void readsAnIncludedFileUpToItsFault();
+    void callsNoTypeMissingThatALimitKeptFromBeingRead();
+    void saysWhenATypeMayBeInAFileThatCannotBeRead();
+    void doesNotRefuseWhatTheLibraryReads();
     void ofAMissingFileIsUnreadable();
     void ofAMalformedFileIsUnreadable();
     void endsWithTheWorstFinding_data();
@@ -200,6 +212,85 @@ void TestSchemaDoctorExamination::tellsOfAnAttribute()
     QCOMPARE(attributes.at(1).place.line, 4);
 }
 
+void TestSchemaDoctorExamination::hasNoAttributeThatIsOnlyCalledLikeAnAnnotation()
+{
+    const Examination examination
+        = examined("<xs:element name='Report'><xs:complexType><xs:sequence><xs:element name='Level' type='xs:double'/>"
+                   "<xs:element name='Site'><xs:complexType><xs:attribute name='type' type='xs:string'/>"
+                   "</xs:complexType></xs:element></xs:sequence></xs:complexType></xs:element>");
+    QCOMPARE(examination.tree.elements.at(1).attributes.size(), 0);
+    QCOMPARE(examination.tree.elements.at(1).type, QStringLiteral("double"));
+    QCOMPARE(examination.tree.elements.at(2).attributes.size(), 1);
+    QCOMPARE(examination.tree.elements.at(2).type, QStringLiteral("xs:string"));
+}
+
+void TestSchemaDoctorExamination::tellsOfAReferenceByItsOwnOccurrence_data()
+{
+    QTest::addColumn<bool>("isDeclaredLater");
+    QTest::newRow("earlier-global") << false;
+    QTest::newRow("later-global") << true;
+}
+
+void TestSchemaDoctorExamination::tellsOfAReferenceByItsOwnOccurrence()
+{
+    QFETCH(bool, isDeclaredLater);
+    const QByteArray global = "<xs:element name='Level' type='xs:double'/>\n";
+    const QByteArray root = "<xs:element name='Report'><xs:complexType><xs:choice>\n"
+                            "<xs:element ref='Level' minOccurs='0' maxOccurs='7'/>\n"
+                            "</xs:choice></xs:complexType></xs:element>\n";
+    const Examination examination = examined(isDeclaredLater ? root + global : global + root);
+    const LaidOutElement& level = examination.tree.elements.at(1);
+    QCOMPARE(wordsForOccurs(level), QStringLiteral("0..7"));
+    QCOMPARE(level.choiceGroup, 1);
+    QCOMPARE(level.place.line, isDeclaredLater ? 6 : 3);
+    QCOMPARE(level.particle.line, isDeclaredLater ? 4 : 5);
+}
+
+void TestSchemaDoctorExamination::placesTagsWhereTheyBegin_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<int>("line");
+    QTest::newRow("tag-of-several-lines") << QByteArray() << 3;
+    QTest::newRow("behind-another") << QByteArray("<xs:annotation\nid='a'\n/>\n") << 6;
+    QTest::newRow("behind-text-like-a-tag")
+        << QByteArray("<!-- <xs:element\n--><xs:annotation><xs:appinfo><![CDATA[<a>\n]]></xs:appinfo>"
+                      "</xs:annotation><?go <b>?>\n")
+        << 6;
+}
+
+void TestSchemaDoctorExamination::placesTagsWhereTheyBegin()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(int, line);
+    const Examination examination = examined(before
+                                             + "<xs:element\n  name='Report'\n  nillable='true'\n>\n<xs:complexType>\n"
+                                               "<xs:attribute\nname='Site'\ntype='xs:string'/></xs:complexType>"
+                                               "</xs:element>");
+    QCOMPARE(examination.tree.elements.at(0).place.line, line);
+    QCOMPARE(examination.tree.elements.at(0).attributes.at(0).place.line, line + 5);
+    const auto nillable = std::find_if(examination.findings.begin(), examination.findings.end(),
+                                       [](const Finding& one) { return one.rule == QLatin1String("nillable"); });
+    QVERIFY(nillable != examination.findings.end());
+    QCOMPARE(nillable->place.line, line);
+}
+
+/// The library reads them, and the text does not show them: what follows has no place, rather than a wrong one.
+void TestSchemaDoctorExamination::placesNothingBehindTagsOfAnEntity()
+{
+    QFile file(m_folder.filePath(QStringLiteral("schema.xsd")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<!DOCTYPE xs:schema [<!ENTITY level \"<xs:element name='Level' type='xs:double'/>\">]>\n"
+               "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>\n"
+               "<xs:element name='Report'><xs:complexType>&level;<xs:element name='Site' type='xs:string'/>"
+               "</xs:complexType></xs:element></xs:schema>");
+    file.close();
+    const Examination examination = examine(file.fileName());
+    QCOMPARE(int(examination.tree.elements.size()), 3);
+    QCOMPARE(examination.tree.elements.at(0).place.line, 3);
+    QCOMPARE(examination.tree.elements.at(1).name, QStringLiteral("Level"));
+    QCOMPARE(examination.tree.elements.at(2).place.line, 0);
+}
+
 void TestSchemaDoctorExamination::tellsWhichCountsAreAccepted_data()
 {
     QTest::addColumn<QByteArray>("occurs");
@@ -297,6 +388,74 @@ void TestSchemaDoctorExamination::tellsOfIncludedFiles()
     QVERIFY(!types.isOutsideOfFolder);
     QCOMPARE(types.place.line, 7);
     QVERIFY(examination.texts.at(types.file).contains(QLatin1String("FrequencyInMHz")));
+}
+
+/// What stands in front of a fault is read, in the same line, too.
+void TestSchemaDoctorExamination::readsAnIncludedFileUpToItsFault()
+{
+    QFile types(m_folder.filePath(QStringLiteral("types.xsd")));
+    QVERIFY(types.open(QIODevice::WriteOnly));
+    types.write("<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'><xs:simpleType name='Site'>"
+                "<xs:restriction base='xs:string'/></xs:simpleType><xs:oops></xs:schema>");
+    types.close();
+    const Examination examination
+        = examined("<xs:include schemaLocation='types.xsd'/><xs:element name='Report' type='Site'/>");
+    QCOMPARE(int(examination.tree.elements.size()), 1);
+    QCOMPARE(examination.tree.elements.at(0).type, QStringLiteral("string"));
+    QCOMPARE(examination.includes.includes.at(0).state, IncludeState::Malformed);
+    const auto malformed
+        = std::find_if(examination.findings.begin(), examination.findings.end(),
+                       [](const Finding& finding) { return finding.rule == QLatin1String("malformed-include"); });
+    QVERIFY(malformed != examination.findings.end());
+    QCOMPARE(malformed->place.line, 1);
+}
+
+void TestSchemaDoctorExamination::callsNoTypeMissingThatALimitKeptFromBeingRead()
+{
+    const Examination examination
+        = examined("<xs:element name='Report'><xs:complexType><xs:sequence><xs:element name='Site' type='Later'/>"
+                   "<xs:element name='Value' type='xs:double' minOccurs='600000'/></xs:sequence></xs:complexType>"
+                   "</xs:element><xs:simpleType name='Later'><xs:restriction base='xs:string'/></xs:simpleType>");
+    QCOMPARE(examination.noTreeReason,
+             QStringLiteral("The library gives the schema up: The schema lays out more than 500000 elements."));
+    for (const Finding& finding : examination.findings) {
+        QVERIFY(finding.rule != QLatin1String("missing-type"));
+    }
+}
+
+void TestSchemaDoctorExamination::saysWhenATypeMayBeInAFileThatCannotBeRead()
+{
+    const QByteArray report = "<xs:element name='Report' type='Site'/>";
+    const auto missingType = [](const Examination& examination) {
+        const auto found
+            = std::find_if(examination.findings.begin(), examination.findings.end(),
+                           [](const Finding& finding) { return finding.rule == QLatin1String("missing-type"); });
+        return found == examination.findings.end() ? QString() : found->what;
+    };
+    QCOMPARE(missingType(examined(report)),
+             QStringLiteral("xs:element 'Report' refers to 'Site', which is defined nowhere."));
+    QCOMPARE(missingType(examined("<xs:include schemaLocation='nowhere.xsd'/>" + report)),
+             QStringLiteral("xs:element 'Report' refers to 'Site', which nothing defines that could be read."));
+}
+
+void TestSchemaDoctorExamination::doesNotRefuseWhatTheLibraryReads()
+{
+    const QByteArray body = "<xs:element name='Report'><xs:complexType><xs:sequence>"
+                            "<xs:element name='Site' type='Later' minOccurs='3' maxOccurs='3'/>"
+                            "<xs:element name='Value' type='xs:double' minOccurs='310000' maxOccurs='unbounded'/>"
+                            "</xs:sequence></xs:complexType></xs:element><xs:complexType name='Later'><xs:sequence/>"
+                            "</xs:complexType><xs:complexType name='Unused'><xs:sequence>"
+                            "<xs:element name='Value' type='xs:double' minOccurs='295000'/></xs:sequence>"
+                            "</xs:complexType>";
+    const Examination examination = examined(body);
+    QVERIFY(examination.tree.IsEmpty());
+    QVERIFY(!examination.count.isBeyondLimit);
+    QVERIFY2(examination.noTreeReason.startsWith(QLatin1String("Too much to be shown: ")),
+             qPrintable(examination.noTreeReason));
+    QVERIFY(textOf(examination).contains(examination.count.limit));
+    for (const Finding& finding : examination.findings) {
+        QVERIFY(finding.rule != QLatin1String("element-count") || finding.severity == Severity::Note);
+    }
 }
 
 void TestSchemaDoctorExamination::ofAMissingFileIsUnreadable()
