@@ -54,6 +54,7 @@ std::unique_ptr<TextNode> tagOf(const xmlNode* node, const TextFile& file, const
     auto tag = std::make_unique<TextNode>();
     tag->file = &file;
     tag->parent = parent;
+    tag->lastLine = int(xmlGetLineNo(node));
     tag->line = int(reinterpret_cast<std::intptr_t>(node->_private));
     tag->qName = qualified(node->ns, node->name);
     tag->localName = tag->qName.section(QLatin1Char(':'), -1);

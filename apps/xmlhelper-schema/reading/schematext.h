@@ -26,6 +26,7 @@ struct TextNode
     const TextFile* file = nullptr;
     const TextNode* parent = nullptr;
     int line = 0; ///< in which the tag begins
+    int lastLine = 0; ///< in which it ends: where libxml2 sees it
     QString qName;
     QString localName;
     bool isOfSchemaNamespace = false;

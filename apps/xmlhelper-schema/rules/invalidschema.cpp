@@ -1,3 +1,5 @@
+#include <set>
+
 #include <QMap>
 #include <QRegularExpression>
 
@@ -13,6 +15,20 @@ QString undeclaredPrefixIn(const QString& message)
     static const QRegularExpression pattern(
         QStringLiteral("The QName value '([^':]+):[^']*' has no corresponding namespace declaration"));
     return pattern.match(message).captured(1);
+}
+
+/// Where the tag begins that ends in the line; the line itself when there are several.
+Place beginOfTag(const Schema& schema, const Place& place)
+{
+    std::set<int> lines;
+    for (const TextFile* const file : schema.GetFiles()) {
+        for (const TextNode* const tag : file->tags) {
+            if (tag->lastLine == place.line && file->name == place.file) {
+                lines.insert(tag->line);
+            }
+        }
+    }
+    return lines.size() == 1 ? Place {place.file, *lines.begin()} : place;
 }
 
 } // namespace
@@ -31,7 +47,7 @@ void invalidSchema(const Schema& schema, Findings& findings)
         if (count == 0) {
             continue;
         }
-        findings.Add(Severity::Warning, fault.place, prefix,
+        findings.Add(Severity::Warning, beginOfTag(schema, fault.place), prefix,
                      QStringLiteral("libxml2 does not accept the schema: %1").arg(fault.message)
                          + (count == 1 ? QString() : QStringLiteral(" The same of %1 other names.").arg(count - 1)),
                      QStringLiteral("The library does not look at it, but no report can be validated."),
