@@ -279,14 +279,14 @@ private:
             writeFact(QStringLiteral("default ") + shown.defaultValue);
         }
         if (shown.parent != LaidOutElement::None) {
-            writeFact(QStringLiteral("occurs %1, counts taken: %2").arg(wordsForOccurs(shown), wordsFor(shown.counts)));
+            writeFact(QStringLiteral("occurs %1, counts taken: %2").arg(wordsForOccurs(shown), wordsForCounts(shown)));
         }
         if (shown.choiceGroup != LaidOutElement::None) {
             writeFact(QStringLiteral("alternative of choice %1").arg(shown.choiceGroup));
         } else if (shown.isChoiceAlternative) {
             writeFact(QStringLiteral("alternative by its name"));
         }
-        writeFact(QStringLiteral("unfilled it ") + wordsFor(shown.fate));
+        writeFact(QStringLiteral("unfilled it ") + wordsForUnfilled(shown));
         if (!isContainer(shown)) {
             writeSetters(shown.setters);
         }

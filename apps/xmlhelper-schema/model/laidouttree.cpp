@@ -37,6 +37,39 @@ int childAt(const LaidOutTree& tree, int parent, const QString& step)
     return LaidOutElement::None;
 }
 
+QString wordsFor(Fate fate)
+{
+    switch (fate) {
+    case Fate::Stays:
+        return QStringLiteral("stays");
+    case Fate::IsRemoved:
+        return QStringLiteral("is removed");
+    case Fate::IsRemovedWithItsValues:
+        return QStringLiteral("is removed when its first value is unfilled");
+    case Fate::IsRemovedWithItsContainer:
+        return QStringLiteral("is removed with the container around it");
+    case Fate::IsRemovedWithAnother:
+        return QStringLiteral("stays, unless a value behind it is unfilled");
+    case Fate::IsUnknown:
+        break;
+    }
+    return QStringLiteral("was not tried");
+}
+
+QString wordsFor(const AcceptedCounts& counts)
+{
+    if (!counts.isKnown) {
+        return QStringLiteral("not tried");
+    }
+    if (counts.greatest == AcceptedCounts::Unbounded) {
+        return counts.takesZero ? QStringLiteral("any") : QStringLiteral("1 or more");
+    }
+    if (counts.greatest == 0) {
+        return counts.takesZero ? QStringLiteral("0 only") : QStringLiteral("no count");
+    }
+    return QStringLiteral("%1 to %2").arg(counts.takesZero ? 0 : 1).arg(counts.greatest);
+}
+
 } // namespace
 
 QString pathOf(const LaidOutTree& tree, int element)
@@ -66,28 +99,16 @@ bool isContainer(const LaidOutElement& element)
     return !isValueType(element.type);
 }
 
-QString wordsFor(Fate fate)
+QString wordsForUnfilled(const LaidOutElement& element)
 {
-    switch (fate) {
-    case Fate::Stays:
-        return QStringLiteral("stays");
-    case Fate::IsRemoved:
-        return QStringLiteral("is removed");
-    case Fate::IsRemovedWithItsValues:
-        return QStringLiteral("is removed with its first unfilled value");
-    }
-    return QString();
+    const QString words = wordsFor(element.fate);
+    return element.staysInCopies ? words + QStringLiteral(" in the first copy only") : words;
 }
 
-QString wordsFor(const AcceptedCounts& counts)
+QString wordsForCounts(const LaidOutElement& element)
 {
-    if (counts.greatest == AcceptedCounts::Unbounded) {
-        return counts.takesZero ? QStringLiteral("any") : QStringLiteral("1 or more");
-    }
-    if (counts.greatest == 0) {
-        return counts.takesZero ? QStringLiteral("0 only") : QStringLiteral("no count");
-    }
-    return QStringLiteral("%1 to %2").arg(counts.takesZero ? 0 : 1).arg(counts.greatest);
+    const QString words = wordsFor(element.counts);
+    return element.isSingleInCopies ? words + QStringLiteral(" in the first copy only") : words;
 }
 
 QStringList namesOf(Setters setters)

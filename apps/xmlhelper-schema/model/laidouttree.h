@@ -26,6 +26,7 @@ struct AcceptedCounts
 {
     static constexpr int Unbounded = -1;
 
+    bool isKnown = true; ///< false: it was not tried
     bool takesZero = false;
     int greatest = 0; ///< the greatest count above 0 that is accepted; 0: none is; Unbounded: any
 };
@@ -46,7 +47,10 @@ struct DeclaredAttribute
 enum class Fate {
     Stays, ///< it is mandatory: it stays, with its annotations
     IsRemoved, ///< a value element that may be missing
-    IsRemovedWithItsValues, ///< a container that may be missing: the first unfilled value below removes it whole
+    IsRemovedWithItsValues, ///< a container that may be missing: when its first value is unfilled, it goes whole
+    IsRemovedWithItsContainer, ///< it stands before or with the first value of such a container
+    IsRemovedWithAnother, ///< a container that may be missing and holds no value: an unfilled one behind it removes it
+    IsUnknown, ///< it was not tried
 };
 
 /// An element of the skeleton, as the walk announces it.
@@ -73,6 +77,10 @@ struct LaidOutElement
     int choiceBranch = None; ///< the position below that xs:choice, from 1, of what it stands in
     int choiceNumber = None; ///< the number by which the library lets it be discarded
     Fate fate = Fate::Stays;
+    bool staysInCopies = false; ///< the fate is that of the first copy of the container around it
+    bool isSingleInCopies = false; ///< so are the counts; in other copies none is accepted
+    bool isNeverKept = false; ///< it goes even when everything is filled that a setter takes
+    int goesInstead = None; ///< an element before it that is removed in its place
     Setters setters; ///< none for a container, and for a value that can never be filled
 
     Place place; ///< of the declaration
@@ -98,8 +106,8 @@ bool isContainer(const LaidOutElement& element);
 
 // Words for people, the same in every rendering.
 
-QString wordsFor(Fate fate); ///< "stays", "is removed", "is removed with its first unfilled value"
-QString wordsFor(const AcceptedCounts& counts); ///< "no count", "0 only", "1 to 5", "0 to 500", "any"
+QString wordsForUnfilled(const LaidOutElement& element); ///< "stays", "is removed", "is removed in the first copy only"
+QString wordsForCounts(const LaidOutElement& element); ///< "no count", "0 only", "1 to 5", "0 to 500", "any"
 QStringList namesOf(Setters setters); ///< the argument types: "QString", "double", "int", "bool", "QDateTime", "QTime"
 
 /// "0..5", "1", "2..unbounded": as written.

@@ -18,6 +18,9 @@ constexpr int MaxLaidOutElements = 100000;
 /// Attributes of these elements: types, facets, enumeration values, declared attributes.
 constexpr int MaxLaidOutAnnotations = 300000;
 
+/// Declarations that the library may have to look at in one walk on trial.
+constexpr int MaxTrialSteps = 20'000'000;
+
 /// Findings of one rule; behind them only their number is told.
 constexpr int MaxFindingsOfARule = 100;
 

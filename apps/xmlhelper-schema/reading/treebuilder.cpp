@@ -7,9 +7,10 @@
 #include <QDomElement>
 #include <QHash>
 
-#include <xmlhelper/constants_p.h>
 #include <xmlhelper/skeletonwords_p.h>
 #include <xmlhelper/valuerules_p.h>
+
+#include "walktrial.h"
 
 namespace schemadoctor {
 
@@ -90,13 +91,9 @@ private:
     void applyDeclaration(LaidOutElement& laidOut, const SchemaRecord::ElementOrigin& origin) const;
     void annotate(LaidOutElement& laidOut, const QDomElement& element,
                   std::vector<SchemaRecord::AttributeOrigin> origins) const;
-    void applyOccurs(int index);
-    bool isBelowOwner(int index, const QString& owner) const;
 
     const SchemaRecord& m_record;
     QHash<const TextNode*, int> m_choices; ///< the numbers of the xs:choice tags
-    QHash<QString, int> m_firstElements;
-    QHash<QString, int> m_choiceNumbers;
     LaidOutTree m_tree;
 };
 
@@ -109,9 +106,6 @@ TreeBuilder::TreeBuilder(const SchemaRecord& record)
                 m_choices.insert(tag, int(m_choices.size()) + 1);
             }
         }
-    }
-    for (const auto& [number, name] : record.GetChoices()) {
-        m_choiceNumbers.insert(name, number); // The greatest number of a name is the one that counts.
     }
 }
 
@@ -138,9 +132,7 @@ LaidOutTree TreeBuilder::Build()
         }
         open.push_back({next, add(next, open.back().index)});
     }
-    for (int index = 0; index < int(m_tree.elements.size()); ++index) {
-        applyOccurs(index);
-    }
+    tryWalks(m_tree, m_record.GetOccurs(), m_record.GetChoices());
     return m_tree;
 }
 
@@ -154,9 +146,6 @@ int TreeBuilder::add(const QDomElement& element, int parent)
         std::vector<int>& siblings = m_tree.elements[std::size_t(parent)].children;
         laidOut.row = int(siblings.size());
         siblings.push_back(index);
-    }
-    if (!m_firstElements.contains(laidOut.name)) {
-        m_firstElements.insert(laidOut.name, index);
     }
     const SchemaRecord::ElementOrigin& origin = m_record.GetOrigins()[std::size_t(index)];
     applyDeclaration(laidOut, origin);
@@ -219,51 +208,6 @@ void TreeBuilder::annotate(LaidOutElement& laidOut, const QDomElement& element,
     laidOut.enumeration = valuesByNumber(element, enumeration);
     std::stable_sort(laidOut.facets.begin(), laidOut.facets.end(),
                      [](const Facet& left, const Facet& right) { return rankOf(left) < rankOf(right); });
-}
-
-void TreeBuilder::applyOccurs(int index)
-{
-    LaidOutElement& element = m_tree.elements[std::size_t(index)];
-    bool isOptional = false;
-    const auto codes = m_record.GetOccurs().find(element.name);
-    if (codes != m_record.GetOccurs().end()) {
-        for (const auto& [code, owners] : codes->second) {
-            if (std::none_of(owners.begin(), owners.end(),
-                             [&](const QString& owner) { return isBelowOwner(index, owner); })) {
-                continue;
-            }
-            isOptional = isOptional || isOptionalCode(code);
-            element.counts.takesZero = isOptional;
-            const int greatest = greatestCountOf(code);
-            if (greatest == UnboundedOccurs) {
-                element.counts.greatest = AcceptedCounts::Unbounded;
-            } else if (element.counts.greatest != AcceptedCounts::Unbounded) {
-                element.counts.greatest = std::max(element.counts.greatest, greatest);
-            }
-        }
-    }
-    element.isChoiceAlternative = m_choiceNumbers.contains(element.name);
-    element.choiceNumber = m_choiceNumbers.value(element.name, LaidOutElement::None);
-    if (element.parent != LaidOutElement::None && (isOptional || element.isChoiceAlternative)) {
-        element.fate = isContainer(element) ? Fate::IsRemovedWithItsValues : Fate::IsRemoved;
-    }
-}
-
-/// Whether the element is one that the library finds below the first element of the owner's name: nothing of its own
-/// name may stand between.
-bool TreeBuilder::isBelowOwner(int index, const QString& owner) const
-{
-    const int first = m_firstElements.value(owner, LaidOutElement::None);
-    if (first == LaidOutElement::None || owner.isEmpty()) {
-        return false;
-    }
-    const std::vector<LaidOutElement>& elements = m_tree.elements;
-    int ancestor = elements[std::size_t(index)].parent;
-    while (ancestor != LaidOutElement::None && ancestor != first
-           && elements[std::size_t(ancestor)].name != elements[std::size_t(index)].name) {
-        ancestor = elements[std::size_t(ancestor)].parent;
-    }
-    return ancestor == first;
 }
 
 } // namespace

@@ -50,7 +50,21 @@ QJsonValue maximum(int number)
 
 QString wordFor(Fate fate)
 {
-    return fate == Fate::Stays ? key("stays") : fate == Fate::IsRemoved ? key("removed") : key("removed-with-values");
+    switch (fate) {
+    case Fate::Stays:
+        return key("stays");
+    case Fate::IsRemoved:
+        return key("removed");
+    case Fate::IsRemovedWithItsValues:
+        return key("removed-with-values");
+    case Fate::IsRemovedWithItsContainer:
+        return key("removed-with-container");
+    case Fate::IsRemovedWithAnother:
+        return key("removed-with-another");
+    case Fate::IsUnknown:
+        break;
+    }
+    return key("unknown");
 }
 
 QJsonObject jsonFor(const LaidOutElement& element)
@@ -59,24 +73,27 @@ QJsonObject jsonFor(const LaidOutElement& element)
     for (const DeclaredAttribute& attribute : element.attributes) {
         attributes.append(jsonFor(attribute));
     }
-    return {
-        {key("name"), element.name},
-        {key("parent"), numberOrNull(element.parent)},
-        {key("type"), element.type},
-        {key("default"), element.defaultValue},
-        {key("facets"), jsonFor(element.facets)},
-        {key("enumeration"), QJsonArray::fromStringList(element.enumeration)},
-        {key("attributes"), attributes},
-        {key("minOccurs"), element.minOccurs},
-        {key("maxOccurs"), maximum(element.maxOccurs)},
-        {key("counts"),
-         QJsonObject {{key("zero"), element.counts.takesZero}, {key("greatest"), maximum(element.counts.greatest)}}},
-        {key("choiceAlternative"), element.isChoiceAlternative},
-        {key("choiceGroup"), numberOrNull(element.choiceGroup)},
-        {key("choiceNumber"), numberOrNull(element.choiceNumber)},
-        {key("unfilled"), wordFor(element.fate)},
-        {key("setters"), QJsonArray::fromStringList(namesOf(element.setters))},
-        {key("place"), jsonFor(element.place)}};
+    return {{key("name"), element.name},
+            {key("parent"), numberOrNull(element.parent)},
+            {key("type"), element.type},
+            {key("default"), element.defaultValue},
+            {key("facets"), jsonFor(element.facets)},
+            {key("enumeration"), QJsonArray::fromStringList(element.enumeration)},
+            {key("attributes"), attributes},
+            {key("minOccurs"), element.minOccurs},
+            {key("maxOccurs"), maximum(element.maxOccurs)},
+            {key("counts"),
+             element.counts.isKnown ? QJsonValue(QJsonObject {{key("zero"), element.counts.takesZero},
+                                                              {key("greatest"), maximum(element.counts.greatest)},
+                                                              {key("firstCopyOnly"), element.isSingleInCopies}})
+                                    : QJsonValue()},
+            {key("choiceAlternative"), element.isChoiceAlternative},
+            {key("choiceGroup"), numberOrNull(element.choiceGroup)},
+            {key("choiceNumber"), numberOrNull(element.choiceNumber)},
+            {key("unfilled"), wordFor(element.fate)},
+            {key("unfilledInFirstCopyOnly"), element.staysInCopies},
+            {key("setters"), QJsonArray::fromStringList(namesOf(element.setters))},
+            {key("place"), jsonFor(element.place)}};
 }
 
 QJsonObject jsonFor(const Finding& finding)

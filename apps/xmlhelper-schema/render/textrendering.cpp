@@ -64,13 +64,13 @@ QString lineFor(const LaidOutElement& element)
     if (!element.defaultValue.isEmpty()) {
         words.append(QStringLiteral("default %1").arg(element.defaultValue));
     }
-    words.append(QStringLiteral("occurs %1, counts: %2").arg(wordsForOccurs(element), wordsFor(element.counts)));
+    words.append(QStringLiteral("occurs %1, counts: %2").arg(wordsForOccurs(element), wordsForCounts(element)));
     if (element.isChoiceAlternative) {
         words.append(element.choiceGroup == LaidOutElement::None
                          ? QStringLiteral("alternative by name")
                          : QStringLiteral("alternative of choice %1").arg(element.choiceGroup));
     }
-    words.append(QStringLiteral("unfilled: ") + wordsFor(element.fate));
+    words.append(QStringLiteral("unfilled: ") + wordsForUnfilled(element));
     if (!isContainer(element)) {
         words.append(wordsFor(element.setters));
     }

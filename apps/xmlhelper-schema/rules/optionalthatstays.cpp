@@ -4,8 +4,74 @@
 
 namespace schemadoctor {
 
+namespace {
+
+struct Cause
+{
+    QString what;
+    QString effect;
+    QString remedy;
+};
+
 /// Owners of optional elements are known by the name under which they were read: for a named type that of the type,
 /// which is looked for among the elements of the report.
+Cause unknownOwner(const QString& name)
+{
+    return {
+        QStringLiteral("The element '%1' is optional, but not known to be.").arg(name),
+        QStringLiteral("When nothing fills it, it stays, with its annotations: what is optional is looked for below "
+                       "the first element that is called like its owner, and in a named type the owner is the "
+                       "type."),
+        QStringLiteral("Write the type inside of the element that is of it, or call that element like the type, or "
+                       "fill '%1' in every report.")
+            .arg(name)};
+}
+
+Cause firstCopyOnly(const QString& name)
+{
+    return {
+        QStringLiteral("The element '%1' is optional inside of one that may be repeated.").arg(name),
+        QStringLiteral("When nothing fills it, it is removed from the first copy only, and stays in the others, "
+                       "with its annotations: what is optional is looked for below the first element that is called "
+                       "like its owner."),
+        QStringLiteral("Fill '%1' in every copy but the first, or make it required.").arg(name)};
+}
+
+Cause goneInstead(const QString& name, const QString& other)
+{
+    return {
+        QStringLiteral("The element '%1' is optional, and stands behind '%2', which is optional and empty.")
+            .arg(name, other),
+        QStringLiteral("When nothing fills '%1', '%2' is removed in its place, and the report goes on where that "
+                       "stood: '%1' stays, with its annotations, and what follows is not asked for.")
+            .arg(name, other),
+        QStringLiteral("Put an element with a value into '%1', or '%1' in front of one of its siblings.").arg(other)};
+}
+
+Cause noValue(const QString& name)
+{
+    return {
+        QStringLiteral("The element '%1' is optional, and nothing inside of it takes a value.").arg(name),
+        QStringLiteral("Attributes alone do not fill it and do not remove it: it stays, with its annotations, unless "
+                       "a value behind it is unfilled. That one removes it."),
+        QStringLiteral("Put an element with a value into '%1', or make it required and set its attributes in every "
+                       "report.")
+            .arg(name)};
+}
+
+Cause causeOf(const LaidOutTree& tree, const LaidOutElement& element)
+{
+    if (element.staysInCopies) {
+        return firstCopyOnly(element.name);
+    }
+    if (element.goesInstead != LaidOutElement::None) {
+        return goneInstead(element.name, tree.elements[std::size_t(element.goesInstead)].name);
+    }
+    return element.counts.takesZero ? noValue(element.name) : unknownOwner(element.name);
+}
+
+} // namespace
+
 void optionalThatStays(const Schema& schema, Findings& findings)
 {
     QSet<QPair<QString, int>> told;
@@ -13,19 +79,13 @@ void optionalThatStays(const Schema& schema, Findings& findings)
     for (int index = 0; index < int(tree.elements.size()); ++index) {
         const LaidOutElement& element = tree.elements[std::size_t(index)];
         const QPair<QString, int> place(element.particle.file, element.particle.line);
-        if (element.minOccurs != 0 || element.fate != Fate::Stays || told.contains(place)) {
+        const bool mayStay = element.fate == Fate::Stays || element.fate == Fate::IsRemovedWithAnother;
+        if (element.minOccurs != 0 || told.contains(place) || (!mayStay && !element.staysInCopies)) {
             continue;
         }
         told.insert(place);
-        findings.Add(Severity::Warning, element.particle, element.name,
-                     QStringLiteral("The element '%1' is optional, but not known to be.").arg(element.name),
-                     QStringLiteral("When nothing fills it, it stays, with its annotations: what is optional is looked "
-                                    "for below the first element that is called like its owner, and in a named type "
-                                    "the owner is the type."),
-                     QStringLiteral("Write the type inside of the element that is of it, or call that element like the "
-                                    "type, or fill '%1' in every report.")
-                         .arg(element.name),
-                     index);
+        const Cause cause = causeOf(tree, element);
+        findings.Add(Severity::Warning, element.particle, element.name, cause.what, cause.effect, cause.remedy, index);
     }
 }
 

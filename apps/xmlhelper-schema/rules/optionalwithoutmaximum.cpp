@@ -28,7 +28,7 @@ void optionalWithoutMaximum(const Schema& schema, Findings& findings)
             findings.Add(Severity::Warning, *tag,
                          QStringLiteral("%1 is optional without maxOccurs, in a group that may occur repeatedly.")
                              .arg(described(*tag)),
-                         QStringLiteral("The only count that is accepted for it is 0: a second one is refused."),
+                         QStringLiteral("No count above 0 is accepted for it: a second one is refused."),
                          QStringLiteral("Write maxOccurs=\"unbounded\" at the element."));
         }
     }

@@ -29,6 +29,7 @@ namespace schemadoctor {
     RULE("attribute-in-restriction", attributeInRestriction)                                                           \
     RULE("unchecked-facet", uncheckedFacet)                                                                            \
     RULE("unfillable-element", unfillableElement)                                                                      \
+    RULE("any-value-type", anyValueType)                                                                               \
     RULE("unfillable-attribute", unfillableAttribute)                                                                  \
     RULE("restriction-of-user-type", restrictionOfUserType)                                                            \
     RULE("inline-attribute-type", inlineAttributeType)                                                                 \
@@ -48,6 +49,7 @@ namespace schemadoctor {
     RULE("annotation-name", annotationName)                                                                            \
     RULE("optional-without-maximum", optionalWithoutMaximum)                                                           \
     RULE("optional-with-maximum", optionalWithMaximum)                                                                 \
+    RULE("unrepeatable", unrepeatable)                                                                                 \
     RULE("optional-that-stays", optionalThatStays)                                                                     \
     RULE("required-without-maximum", requiredWithoutMaximum)                                                           \
     RULE("root", rootChoice)                                                                                           \

@@ -21,6 +21,19 @@ bool isMeantToBeEmpty(const Schema& schema, const TextNode& declaration)
     return false;
 }
 
+/// What comes of it that no setter takes the element.
+QString effectOn(const LaidOutElement& element)
+{
+    if (!element.isNeverKept) {
+        return element.fate == Fate::Stays || element.fate == Fate::IsRemovedWithAnother
+            ? QStringLiteral("No setter takes it: the element stays empty in every report, with its annotations.")
+            : QStringLiteral("No setter takes it.");
+    }
+    return element.fate == Fate::IsRemovedWithItsContainer
+        ? QStringLiteral("No setter takes it: the element is removed from every report, with the container around it.")
+        : QStringLiteral("No setter takes it: the element is removed from every report.");
+}
+
 QString keyOf(const Place& place)
 {
     return place.file + QLatin1Char(':') + QString::number(place.line);
@@ -38,7 +51,8 @@ void unfillableElement(const Schema& schema, Findings& findings)
     const LaidOutTree& tree = schema.GetTree();
     for (int index = 0; index < int(tree.elements.size()); ++index) {
         const LaidOutElement& element = tree.elements[std::size_t(index)];
-        if (element.setters != Setters() || !element.children.empty()) {
+        const bool hasAttributesOnly = isContainer(element) && !element.attributes.isEmpty();
+        if (element.setters != Setters() || !element.children.empty() || hasAttributesOnly) {
             continue;
         }
         const QString place = keyOf(element.place);
@@ -52,15 +66,11 @@ void unfillableElement(const Schema& schema, Findings& findings)
                 continue;
             }
         }
-        findings.Add(
-            element.fate == Fate::Stays ? Severity::Error : Severity::Warning, element.place, element.name,
-            element.type.isEmpty()
-                ? QStringLiteral("The element '%1' has no type that is understood.").arg(element.name)
-                : QStringLiteral("The element '%1' is of the type '%2'.").arg(element.name, element.type),
-            element.fate == Fate::Stays
-                ? QStringLiteral("No setter takes it: the element stays empty in every report, with its annotations.")
-                : QStringLiteral("No setter takes it: the element is removed from every report."),
-            adviceForElement(element.type), index);
+        findings.Add(element.fate == Fate::Stays ? Severity::Error : Severity::Warning, element.place, element.name,
+                     element.type.isEmpty()
+                         ? QStringLiteral("The element '%1' has no type that is understood.").arg(element.name)
+                         : QStringLiteral("The element '%1' is of the type '%2'.").arg(element.name, element.type),
+                     effectOn(element), adviceForElement(element.type), index);
     }
 }
 

@@ -54,9 +54,9 @@ QString textFor(const LaidOutElement& element, int column)
             ? wordsForOccurs(element)
             : QStringLiteral("%1, choice %2").arg(wordsForOccurs(element)).arg(element.choiceGroup);
     case LaidOutTreeModel::Counts:
-        return wordsFor(element.counts);
+        return wordsForCounts(element);
     case LaidOutTreeModel::Unfilled:
-        return wordsFor(element.fate);
+        return wordsForUnfilled(element);
     case LaidOutTreeModel::SetBy:
         return isContainer(element) ? QString() : settersOf(element.setters);
     default:

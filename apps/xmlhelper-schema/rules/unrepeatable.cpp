@@ -1,0 +1,39 @@
+#include <QSet>
+
+#include "rule.h"
+
+namespace schemadoctor {
+
+/// Limits are found in the same way as what is optional: by the names of owners.
+void unrepeatable(const Schema& schema, Findings& findings)
+{
+    QSet<QPair<QString, int>> told;
+    const LaidOutTree& tree = schema.GetTree();
+    for (int index = 0; index < int(tree.elements.size()); ++index) {
+        const LaidOutElement& element = tree.elements[std::size_t(index)];
+        const bool isMeantToBe = element.maxOccurs == AcceptedCounts::Unbounded || element.maxOccurs > 1;
+        const bool isNever = element.counts.isKnown && element.counts.greatest == 0;
+        const QPair<QString, int> place(element.place.file, element.place.line);
+        if (!isMeantToBe || told.contains(place) || (!isNever && !element.isSingleInCopies)) {
+            continue;
+        }
+        told.insert(place);
+        findings.Add(
+            Severity::Warning, element.place, element.name,
+            isNever
+                ? QStringLiteral("The element '%1' may be repeated, but is not known to.").arg(element.name)
+                : QStringLiteral("The element '%1' may be repeated inside of one that may be, too.").arg(element.name),
+            isNever
+                ? QStringLiteral("Every count is refused: limits are looked for below the first element that is "
+                                 "called like the owner, and in a named type the owner is the type.")
+                : QStringLiteral("Counts are accepted in the first copy only, and refused in the others: limits are "
+                                 "looked for below the first element that is called like the owner."),
+            isNever
+                ? QStringLiteral("Write the type inside of the element that is of it, or call that element like the "
+                                 "type.")
+                : QStringLiteral("Repeat only one of the two in a report."),
+            index);
+    }
+}
+
+} // namespace schemadoctor
