@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QScopeGuard>
 #include <QXmlSimpleReader>
 
 #include "limits_p.h"
@@ -82,22 +83,13 @@ bool GuardedSource::IsNeededFor(const QString& text)
 
 bool GuardedSource::Parse(QXmlSimpleReader& parser)
 {
-    Watch(parser);
-    const bool isParsed = parser.parse(this);
-    Leave(parser);
-    return isParsed;
-}
-
-void GuardedSource::Watch(QXmlSimpleReader& parser)
-{
     parser.setLexicalHandler(this);
     parser.setDeclHandler(this);
-}
-
-void GuardedSource::Leave(QXmlSimpleReader& parser)
-{
-    parser.setLexicalHandler(nullptr);
-    parser.setDeclHandler(nullptr);
+    const auto leave = qScopeGuard([&] { // also when an observer throws
+        parser.setLexicalHandler(nullptr);
+        parser.setDeclHandler(nullptr);
+    });
+    return parser.parse(this);
 }
 
 QChar GuardedSource::next()

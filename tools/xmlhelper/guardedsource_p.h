@@ -63,10 +63,6 @@ public:
     /// Once.
     bool Parse(QXmlSimpleReader& parser);
 
-    /// To be called before and after the content is parsed by other means than Parse().
-    void Watch(QXmlSimpleReader& parser);
-    void Leave(QXmlSimpleReader& parser);
-
     /// Which limit the content has exceeded, as a sentence to be traced; empty while it has exceeded none.
     const QString& GetRefusal() const { return m_sRefusal; }
 

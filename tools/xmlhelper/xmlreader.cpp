@@ -3,7 +3,6 @@
 #include <utility>
 
 #include <QDomDocument>
-#include <QScopeGuard>
 #include <QTextStream>
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
@@ -146,31 +145,13 @@ bool XMLReader::SetXmlContent(QDomDocument* document)
 
 bool XMLReader::SetXmlContent(QDomDocumentFragment fragment)
 {
-    if (isPutOff([fragment](XMLReader& reader) { reader.SetXmlContent(fragment); })) {
-        return true;
-    }
-    ErasePointerAndSetFlags();
-    m_pFragment = std::make_shared<QDomDocumentFragment>(fragment);
-    keep(m_pFragment);
-    const auto converted = std::make_shared<QDomDocument>(fragment.toDocument());
-    keep(converted);
-    InitHandler(m_pCallback, converted.get());
-    m_bFragment = true;
+    setPart(fragment, m_pFragment, m_bFragment);
     return true;
 }
 
 bool XMLReader::SetXmlContent(QDomNode node)
 {
-    if (isPutOff([node](XMLReader& reader) { reader.SetXmlContent(node); })) {
-        return true;
-    }
-    ErasePointerAndSetFlags();
-    m_pNode = std::make_shared<QDomNode>(node);
-    keep(m_pNode);
-    const auto converted = std::make_shared<QDomDocument>(node.toDocument());
-    keep(converted);
-    InitHandler(m_pCallback, converted.get());
-    m_bNode = true;
+    setPart(node, m_pNode, m_bNode);
     return true;
 }
 
@@ -338,6 +319,21 @@ void XMLReader::setDocument(const std::shared_ptr<QDomDocument>& document)
     }
 }
 
+/// Takes a fragment or a node, which @p owned and @p flag stand for.
+template <class Part> void XMLReader::setPart(const Part& part, std::shared_ptr<Part>& owned, bool& flag)
+{
+    if (isPutOff([part](XMLReader& reader) { reader.SetXmlContent(part); })) {
+        return;
+    }
+    ErasePointerAndSetFlags();
+    owned = std::make_shared<Part>(part);
+    keep(owned);
+    const auto converted = std::make_shared<QDomDocument>(part.toDocument());
+    keep(converted);
+    InitHandler(m_pCallback, converted.get());
+    flag = true;
+}
+
 /// Nodes do not keep their document alive, so what they belong to must stay as long as receivers may hold them.
 void XMLReader::keep(const std::shared_ptr<void>& content)
 {
@@ -367,7 +363,7 @@ bool XMLReader::parseFile()
     // The input source reads from where the file stands, and leaves it open.
     file->close();
     if (isPlainWithinLimit(*file)) {
-        return parse(QXmlInputSource(file.get()));
+        return parse([&](QXmlSimpleReader& parser) { return parser.parse(QXmlInputSource(file.get())); });
     }
     if (m_bLookAgain && lookAt(*file).isTooDeep) {
         traceNesting();
@@ -388,16 +384,16 @@ bool XMLReader::parseText(const std::optional<QString>& text)
     }
     QXmlInputSource source;
     source.setData(*text);
-    return parse(source);
+    return parse([&](QXmlSimpleReader& parser) { return parser.parse(source); });
 }
 
-bool XMLReader::parse(const QXmlInputSource& source)
+bool XMLReader::parse(const std::function<bool(QXmlSimpleReader&)>& read)
 {
     // An event may assign another reader.
     const std::shared_ptr<XmlContentHandler> handler = m_pContentHandler;
     const std::shared_ptr<NestingGuard> guard = m_pNestingGuard;
     const std::shared_ptr<QXmlSimpleReader> parser = m_pParser;
-    const bool isParsed = parser->parse(source);
+    const bool isParsed = read(*parser);
     if (guard->IsExceeded()) {
         traceNesting();
     }
@@ -406,10 +402,7 @@ bool XMLReader::parse(const QXmlInputSource& source)
 
 bool XMLReader::parseGuarded(GuardedSource& source)
 {
-    const std::shared_ptr<QXmlSimpleReader> parser = m_pParser;
-    source.Watch(*parser);
-    const auto leave = qScopeGuard([&] { source.Leave(*parser); });
-    const bool isParsed = parse(source);
+    const bool isParsed = parse([&](QXmlSimpleReader& parser) { return source.Parse(parser); });
     if (!source.GetRefusal().isEmpty()) {
         trace(source.GetRefusal(), "xmlreader", __LINE__);
     }
