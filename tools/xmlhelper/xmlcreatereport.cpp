@@ -167,8 +167,6 @@ void XmlCreateReport::SetXmlValue(QString value)
     }
     const QString text = representableText(value, "XmlCreateReport::SetXmlValue");
     if (useEnumeration(text, isEnumerationOfElement)) {
-        const OwnerIndex::OwnChange change = m_pDomParser->Change();
-        m_pCurrentElement->removeAttribute(TypeAttribute());
         CreateAndAppendTextNode(text);
     }
 }
@@ -182,8 +180,6 @@ void XmlCreateReport::SetXmlValue(double value)
     const bool isShort = m_pCurrentElement && TypeControl(wanted) == ShortType;
     const QString text = isShort ? QString::number(toInt32(value)) : toReportText(value);
     if (isTypeAccepted(wanted, IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE) && useRange(value)) {
-        const OwnerIndex::OwnChange change = m_pDomParser->Change();
-        m_pCurrentElement->removeAttribute(TypeAttribute());
         CreateAndAppendTextNode(text);
     }
 }
@@ -203,8 +199,6 @@ void XmlCreateReport::SetXmlValue(int value)
 void XmlCreateReport::SetXmlValue(bool value)
 {
     if (isTypeAccepted(wordOf(Setter::Truth), IXMLHelper::CURRENT_TYPE_IS_NOT_BOOLEAN)) {
-        const OwnerIndex::OwnChange change = m_pDomParser->Change();
-        m_pCurrentElement->removeAttribute(TypeAttribute());
         CreateAndAppendTextNode(value ? QStringLiteral("true") : QStringLiteral("false"));
     }
 }
@@ -212,18 +206,14 @@ void XmlCreateReport::SetXmlValue(bool value)
 void XmlCreateReport::SetXmlValue(QDateTime value)
 {
     if (isTypeAccepted(wordOf(Setter::DateTime), IXMLHelper::CURRENT_TYPE_IS_NOT_DATETIME)) {
-        const OwnerIndex::OwnChange change = m_pDomParser->Change();
         CreateAndAppendTextNode(value.toString(Qt::ISODate));
-        m_pCurrentElement->removeAttribute(TypeAttribute());
     }
 }
 
 void XmlCreateReport::SetXmlValue(QTime value)
 {
     if (isTypeAccepted(wordOf(Setter::Time), IXMLHelper::CURRENT_TYPE_IS_NOT_TIME)) {
-        const OwnerIndex::OwnChange change = m_pDomParser->Change();
         CreateAndAppendTextNode(value.toString(Qt::ISODate));
-        m_pCurrentElement->removeAttribute(TypeAttribute());
     }
 }
 
@@ -305,8 +295,8 @@ void XmlCreateReport::DiscardChoiceItem()
     }
 }
 
-/// Makes @p text the content of the current element, in place of a text that is its first child, and lets the walk go
-/// on behind the element.
+/// Makes @p text the content of the current element, in place of its type and of a text that is its first child, and
+/// lets the walk go on behind the element.
 void XmlCreateReport::CreateAndAppendTextNode(QString text)
 {
     if (!m_pCurrentElement) { // unreached: every setter has looked for an element before
@@ -314,6 +304,7 @@ void XmlCreateReport::CreateAndAppendTextNode(QString text)
         return;
     }
     const OwnerIndex::OwnChange change = m_pDomParser->Change();
+    m_pCurrentElement->removeAttribute(TypeAttribute());
     const QDomNode first = m_pCurrentElement->firstChild();
     if (first.nodeType() == QDomNode::TextNode) {
         m_pCurrentElement->removeChild(first);
