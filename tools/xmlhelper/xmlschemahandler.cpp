@@ -184,11 +184,6 @@ QString identityOfFile(const QString& fileName)
     return canonical.isEmpty() ? fileName : canonical;
 }
 
-void traceMissingElement()
-{
-    trace(QStringLiteral("Missing Element was not found! XmlSchemaHandler terminates..."), Component, 1389);
-}
-
 } // namespace
 
 XmlSchemaHandler::ElementDeclaration::ElementDeclaration(const QXmlAttributes& attributes)
@@ -764,7 +759,7 @@ void XmlSchemaHandler::extendDefinition(const QString& base)
     }
     definition->usedFlag = 1;
     const DomAttributes attributes = attributesOf(extended);
-    if (!m_pReading->budget.TakeAttributes(static_cast<int>(attributes.size()), enumerationValuesAmong(attributes))) {
+    if (!takeAttributes(attributes)) {
         return;
     }
     if (extended.hasAttribute(TypeAttribute())) {
@@ -962,11 +957,17 @@ void XmlSchemaHandler::layOutNow(TypeDefinition& definition, const QDomElement& 
 void XmlSchemaHandler::copyAttributes(const QDomElement& from, QDomElement to)
 {
     const DomAttributes attributes = attributesOf(from);
-    if (m_pReading->budget.TakeAttributes(static_cast<int>(attributes.size()), enumerationValuesAmong(attributes))) {
+    if (takeAttributes(attributes)) {
         for (const QDomAttr& attribute : attributes) {
             to.setAttribute(attribute.name(), attribute.value());
         }
     }
+}
+
+/// Whether so many attributes more may be copied.
+bool XmlSchemaHandler::takeAttributes(const DomAttributes& attributes)
+{
+    return m_pReading->budget.TakeAttributes(static_cast<int>(attributes.size()), enumerationValuesAmong(attributes));
 }
 
 /// Gives @p owner the attribute that @p definition, a global attribute, declares, and its facets.
@@ -976,8 +977,7 @@ void XmlSchemaHandler::setDeclaredAttribute(TypeDefinition& definition, QDomElem
     // A clone, because a global attribute that refers to itself is its own owner.
     const QDomElement declared = definition.fragment->firstChildElement().cloneNode(false).toElement();
     const DomAttributes attributes = attributesOf(declared);
-    if (!declared.isNull()
-        && m_pReading->budget.TakeAttributes(static_cast<int>(attributes.size()), enumerationValuesAmong(attributes))) {
+    if (!declared.isNull() && takeAttributes(attributes)) {
         const QString name = nameOf(declared);
         annotate(owner, name, declared.attribute(TypeAttribute()), SchemaReadingLog::AttributeKind::Declared);
         copyFacets(attributes, owner, name);
@@ -1058,7 +1058,7 @@ bool XmlSchemaHandler::resolveReferences()
     }
     names.usable.merge(names.usableLater);
     if (!missing.empty() || !names.blocked.empty()) {
-        traceMissingElement();
+        trace(QStringLiteral("Missing Element was not found! XmlSchemaHandler terminates..."), Component, 1389);
         return false;
     }
     return true;

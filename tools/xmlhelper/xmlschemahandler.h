@@ -151,6 +151,7 @@ private:
     void layOut(TypeDefinition& definition, QDomElement owner, const QDomNode& anchor, int copies,
                 SchemaBudget::Share& share);
     void layOutNow(TypeDefinition& definition, const QDomElement& owner, int copies = 1);
+    bool takeAttributes(const DomAttributes& attributes);
     void copyAttributes(const QDomElement& from, QDomElement to);
     void setDeclaredAttribute(TypeDefinition& definition, QDomElement owner);
     void deferReference(const QString& name, int copies, const ElementPathRecord& record);
