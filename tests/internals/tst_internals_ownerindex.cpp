@@ -25,10 +25,15 @@ private Q_SLOTS:
     void noticesLateWhatIsBeyondTheLimit();
     void noticesRenamedStepsAtOnceBeyondTheLimit();
     void noticesRenamedFirstsAtOnceBeyondTheLimit();
+    void knowsPrefixesBeforeThePlaceOnly();
+    void knowsNoPrefixInsideOfItsName();
+    void forgetsARemovedPrefix();
+    void findsTheRootsNameAtTheEnd();
 
 private:
     void makeIndex(int nodesLookedAtAgain);
     bool isGroupFirst(const QDomElement& group);
+    QDomElement prefixedGroup();
 
     QDomDocument m_document;
     QDomElement m_before;
@@ -146,6 +151,60 @@ void TestInternalsOwnerIndex::noticesRenamedFirstsAtOnceBeyondTheLimit()
     m_group.setTagName(QStringLiteral("Other"));
     rename(m_nextGroup);
     QVERIFY(isGroupFirst(m_nextGroup));
+}
+
+QDomElement TestInternalsOwnerIndex::prefixedGroup()
+{
+    return m_document.createElementNS(QStringLiteral("urn:p"), QStringLiteral("p:Group"));
+}
+
+/// Behind the place it would have to be sought in the whole document, after each change of others.
+void TestInternalsOwnerIndex::knowsPrefixesBeforeThePlaceOnly()
+{
+    m_document.documentElement().insertAfter(prefixedGroup(), m_group);
+    makeIndex(1000);
+    QVERIFY(isGroupFirst(m_group));
+    QVERIFY(!m_pIndex->IsBehindPrefix(QStringLiteral("Group")));
+    QVERIFY(!isGroupFirst(m_nextGroup));
+    QVERIFY(m_pIndex->IsBehindPrefix(QStringLiteral("Group")));
+    QCOMPARE(m_pIndex->NamesBehindPrefixes(), QStringList(QStringLiteral("Group")));
+}
+
+void TestInternalsOwnerIndex::knowsNoPrefixInsideOfItsName()
+{
+    m_group.appendChild(prefixedGroup());
+    makeIndex(1000);
+    QVERIFY(!isGroupFirst(m_nextGroup));
+    QVERIFY(m_pIndex->HasPrefixes());
+    QVERIFY(!m_pIndex->IsBehindPrefix(QStringLiteral("Group")));
+}
+
+void TestInternalsOwnerIndex::forgetsARemovedPrefix()
+{
+    const QDomNode prefixed = m_document.documentElement().insertBefore(prefixedGroup(), m_before);
+    makeIndex(1000);
+    QVERIFY(!isGroupFirst(m_group)); // A search finds the root in its place.
+    QVERIFY(m_pIndex->IsBehindPrefix(QStringLiteral("Group")));
+    m_document.documentElement().removeChild(prefixed);
+    QVERIFY(isGroupFirst(m_group));
+    QVERIFY(!m_pIndex->IsBehindPrefix(QStringLiteral("Group")));
+}
+
+void TestInternalsOwnerIndex::findsTheRootsNameAtTheEnd()
+{
+    const QString name = QStringLiteral("Root");
+    makeIndex(1000);
+    QVERIFY(isGroupFirst(m_group));
+    m_pIndex->GoToEnd();
+    QVERIFY(!m_pIndex->IsBelowRoot(name));
+    QVERIFY(!isGroupFirst(m_nextGroup));
+    const QDomNode namesake = m_nextGroup.appendChild(m_document.createElement(name));
+    m_pIndex->GoToEnd();
+    QVERIFY(m_pIndex->IsBelowRoot(name));
+    m_nextGroup.removeChild(namesake);
+    m_nextGroup.appendChild(m_document.createProcessingInstruction(name, name));
+    m_pIndex->GoToEnd();
+    QVERIFY(m_pIndex->IsBelowRoot(name));
 }
 
 QTEST_GUILESS_MAIN(TestInternalsOwnerIndex)
