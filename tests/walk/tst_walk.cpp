@@ -173,7 +173,7 @@ private:
         case 0:
             document.appendChild(document.createElement(name));
             break;
-        case 1: // where the walk may go on
+        case 1:
             document.appendChild(node == document.documentElement() ? node.lastChild().toElement() : prefixed);
             break;
         case 2: // where a search does not start
@@ -200,8 +200,9 @@ private:
                 parent.insertBefore(document.createProcessingInstruction(name, name), node);
             }
             break;
-        default:
+        default: // so that the walk goes on below another root
             if (node == document.documentElement()) {
+                document.appendChild(node.lastChild().toElement());
                 node.toElement().setAttribute(QStringLiteral("type"), QStringLiteral("string"));
                 operations.setXmlValue(QStringLiteral("r"));
             }
