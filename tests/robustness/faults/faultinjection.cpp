@@ -27,6 +27,7 @@ struct Plan
     int callsLeft;
     bool hasStruck;
     bool isUnwound;
+    const void** taker;
 };
 
 thread_local Plan plan;
@@ -38,6 +39,17 @@ bool strikes(Fault fault)
         return false;
     }
     plan.hasStruck = true;
+    return true;
+}
+
+/// The same for memory, asked for at @p taker.
+bool allocationFails(const void* taker)
+{
+    if (!strikes(Fault::Allocation)) {
+        return false;
+    }
+    *plan.taker = taker;
+    errno = ENOMEM;
     return true;
 }
 
@@ -57,9 +69,9 @@ int openOriginal(const char* name, const char* path, int flags, mode_t mode)
 
 } // namespace
 
-FaultInjection::FaultInjection(Fault fault, int number, bool isUnwound)
+FaultInjection::FaultInjection(Fault fault, int number, bool isUnwound, const void** taker)
 {
-    plan = {true, fault, number, false, isUnwound};
+    plan = {true, fault, number, false, isUnwound, taker};
 }
 
 FaultInjection::~FaultInjection()
@@ -97,8 +109,7 @@ void* __libc_realloc(void* memory, size_t size);
 
 void* malloc(size_t size)
 {
-    if (strikes(Fault::Allocation)) {
-        errno = ENOMEM;
+    if (allocationFails(__builtin_return_address(0))) {
         return nullptr;
     }
     return plan.isActive ? __libc_calloc(1, size) : __libc_malloc(size);
@@ -106,8 +117,7 @@ void* malloc(size_t size)
 
 void* calloc(size_t count, size_t size)
 {
-    if (strikes(Fault::Allocation)) {
-        errno = ENOMEM;
+    if (allocationFails(__builtin_return_address(0))) {
         return nullptr;
     }
     return __libc_calloc(count, size);
@@ -115,8 +125,7 @@ void* calloc(size_t count, size_t size)
 
 void* realloc(void* memory, size_t size)
 {
-    if (strikes(Fault::Allocation)) {
-        errno = ENOMEM;
+    if (allocationFails(__builtin_return_address(0))) {
         return nullptr;
     }
     const size_t before = plan.isActive ? malloc_usable_size(memory) : size;

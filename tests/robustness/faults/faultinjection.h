@@ -17,7 +17,8 @@ class FaultInjection
 {
 public:
     /// @param isUnwound  false: std::bad_alloc ends the process where it is thrown
-    FaultInjection(Fault fault, int number, bool isUnwound);
+    /// @param taker      receives the place in the code to which an allocation gives null
+    FaultInjection(Fault fault, int number, bool isUnwound, const void** taker);
     ~FaultInjection();
     FaultInjection(const FaultInjection&) = delete;
     FaultInjection& operator=(const FaultInjection&) = delete;

@@ -76,6 +76,7 @@ const std::vector<Flow>& faultyFlows()
 {
     static const std::vector<Flow> all {
         {"null-pointer-followed", followANullPointer, QString(), false},
+        {"null-pointer-followed-with-widgets", followANullPointer, QString(), true},
         {"memory-freed-twice", freeTwice, QString(), false},
         {"memory-freed-twice-below-the-parser", freeTwiceBelowTheParser, QString(), false},
         {"next-run-changed", stayChanged, QString(), false},

@@ -58,6 +58,7 @@ struct Report
     int exceptions; ///< runs that std::bad_alloc has left
     int terminations; ///< processes that std::bad_alloc has ended
     int endsInsideQt; ///< processes that have ended by a bad access of Qt
+    const void* taker; ///< the code to which an allocation has given null last
     char violation[1000];
 };
 
@@ -207,7 +208,7 @@ private:
         QFile::remove(fileOf(m_flow, m_folder));
         QString result = QStringLiteral("(left by an exception)");
         try {
-            const FaultInjection injection(m_fault, m_report.number, !m_flow.hasWidgets);
+            const FaultInjection injection(m_fault, m_report.number, !m_flow.hasWidgets, &m_report.taker);
             result = m_flow.run(m_folder);
         } catch (const std::bad_alloc&) {
             ++m_report.exceptions;
@@ -259,10 +260,22 @@ int statusOfRuns(const Flow& flow, Fault fault, const QString& folder, const Out
     return status;
 }
 
-/// Whether a process has ended as it may when an allocation fails.
-bool isEndWithoutMemory(int status)
+/// Whether a process has ended by a signal because Qt was given null, or what Qt shapes texts with. Its layouts of text
+/// then work on with whatever stood on the stack: where that leads, and whether it leaves our handler a stack, differs
+/// from run to run. Null that was given to this library is forgiven nothing, and neither is std::bad_alloc: that ends
+/// these processes otherwise.
+bool isEndOfQt(const Flow& flow, int status, const Report& report)
 {
-    return WIFEXITED(status) && (WEXITSTATUS(status) == EndedByBadAlloc || WEXITSTATUS(status) == EndedInsideQt);
+    const QByteArray taker = fileOf(report.taker);
+    return flow.hasWidgets && WIFSIGNALED(status) && WTERMSIG(status) != SIGALRM
+        && (taker.contains("/libQt") || taker.contains("/libharfbuzz"));
+}
+
+/// Whether a process has ended as it may when an allocation fails.
+bool isEndWithoutMemory(const Flow& flow, int status, const Report& report)
+{
+    return isEndOfQt(flow, status, report)
+        || (WIFEXITED(status) && (WEXITSTATUS(status) == EndedByBadAlloc || WEXITSTATUS(status) == EndedInsideQt));
 }
 
 QString described(int status, const Report& report)
@@ -279,9 +292,9 @@ QString described(int status, const Report& report)
 QString violationOf(const Flow& flow, Fault fault, const QString& folder, const Outcome& expected, Report& report)
 {
     int status = statusOfRuns(flow, fault, folder, expected, report);
-    while (fault == Fault::Allocation && isEndWithoutMemory(status)) {
+    while (fault == Fault::Allocation && isEndWithoutMemory(flow, status, report)) {
         ++report.faults;
-        ++(WEXITSTATUS(status) == EndedByBadAlloc ? report.terminations : report.endsInsideQt);
+        ++(WIFEXITED(status) && WEXITSTATUS(status) == EndedByBadAlloc ? report.terminations : report.endsInsideQt);
         const QString left = writtenText(flow, folder);
         if (!left.isEmpty() && left != expected.file) {
             return QStringLiteral("Call %1 leaves a file that looks like a whole one:\n").arg(report.number) + left;
@@ -340,11 +353,9 @@ void TestRobustnessFaults::noticesAFault_data()
     QTest::addColumn<int>("flow");
     QTest::addColumn<QString>("violation");
     const QStringList violations {
-        QStringLiteral("ends the process by signal 11"),
-        QStringLiteral("ends the process by signal 6"),
-        QStringLiteral("ends the process by signal 6"),
-        QStringLiteral("makes the next run differ"),
-        QStringLiteral("leaves a file that looks like a whole one"),
+        QStringLiteral("ends the process by signal 11"), QStringLiteral("ends the process by signal 11"),
+        QStringLiteral("ends the process by signal 6"),  QStringLiteral("ends the process by signal 6"),
+        QStringLiteral("makes the next run differ"),     QStringLiteral("leaves a file that looks like a whole one"),
     };
     QCOMPARE(int(faultyFlows().size()), int(violations.size()));
     for (int flow = 0; flow < int(violations.size()); ++flow) {
