@@ -387,7 +387,8 @@ void TestVCReportingLifetime::exceptionLeavesTheButton()
         }
         throw Thrown();
     });
-    QVERIFY_EXCEPTION_THROWN(button->click(), Thrown);
+    // Not by click(): Qt's widgets are compiled without exceptions, and would leak what they keep meanwhile.
+    QVERIFY_EXCEPTION_THROWN(button->clicked(), Thrown);
     QCOMPARE(reporting.isNull(), isDeleted);
     if (isDeleted) {
         QCoreApplication::sendPostedEvents(button, QEvent::DeferredDelete);
