@@ -9,16 +9,16 @@ namespace reportcheck {
 
 /// The attributes that a schema declares, by name, with the texts that they hold until somebody fills them.
 ///
-/// Names are all that counts here: a report does not tell which declaration an attribute comes from. An attribute holds
-/// its type as written until it is filled; one that refers to a global declaration holds that declaration's type
-/// without prefix; one without a type holds nothing.
+/// Names are all that counts here: a report does not tell which declaration an attribute comes from. What one holds is
+/// what the library itself lays out for it.
 class DeclaredAttributes
 {
 public:
     /// Nothing is known: no schema can be read from here.
     DeclaredAttributes() = default;
 
-    /// What the schema file and its includes declare, in the dialect of the library: with the prefix "xs".
+    /// What the schema file and its includes declare, as the library reads them; nothing is known of a schema that it
+    /// gives up.
     static DeclaredAttributes FromSchema(const QString& file);
 
     bool IsKnown() const { return m_bKnown; }
