@@ -68,6 +68,27 @@ int rootCountOf(const SchemaRecord& record)
     return count;
 }
 
+/// What the library has made of the schema.
+void tellReading(const SchemaRecord& record, Examination& examination)
+{
+    examination.includes = record.GetIncludes();
+    examination.rootCandidates = record.GetRootCandidates();
+    for (const TextFile* const read : record.GetReadFiles()) {
+        examination.texts[read->name] = read->text;
+    }
+    if (examination.includes.state == IncludeState::Malformed) {
+        examination.unreadableReason = QStringLiteral("The library cannot read the file, ")
+            + withLine(examination.includes.fault, examination.includes.faultLine);
+    }
+    examination.tree = builtTree(record);
+    examination.tree.rootCount = rootCountOf(record);
+    if (examination.tree.IsEmpty()) {
+        examination.noTreeReason = noTreeReasonOf(record);
+    }
+    examination.count = {int(examination.tree.elements.size()), record.GetEnd() == SchemaRecord::End::LimitExceeded,
+                         record.GetLimit()};
+}
+
 /// Errors first; then the files in the order of reading, and the lines.
 void sortFindings(QVector<Finding>& findings, const SchemaRecord& record)
 {
@@ -115,25 +136,10 @@ Examination examine(const QString& file, bool isToProve)
         return examination;
     }
 
-    const SchemaRecord record(text, file);
-    examination.includes = record.GetIncludes();
-    examination.rootCandidates = record.GetRootCandidates();
-    for (const TextFile* const read : record.GetReadFiles()) {
-        examination.texts[read->name] = read->text;
-    }
-    if (examination.includes.state == IncludeState::Malformed) {
-        examination.unreadableReason = QStringLiteral("The library cannot read the file, ")
-            + withLine(examination.includes.fault, examination.includes.faultLine);
-    }
-    examination.tree = builtTree(record);
-    examination.tree.rootCount = rootCountOf(record);
-    if (examination.tree.IsEmpty()) {
-        examination.noTreeReason = noTreeReasonOf(record);
-    }
-    examination.count = {int(examination.tree.elements.size()), record.GetEnd() == SchemaRecord::End::LimitExceeded,
-                         record.GetLimit()};
-
+    // First: its process has the memory of this one, and a limit for it.
     const QVector<GrammarFault> faults = grammarFaultsOf(top.name);
+    const SchemaRecord record(text, file);
+    tellReading(record, examination);
     const Schema schema(record, examination.tree, faults);
     for (const Rule& rule : allRules()) {
         Findings findings(schema, QString::fromLatin1(rule.name));
