@@ -27,7 +27,9 @@ Remarks neverFilled(const ReportElement& element, const RuleContext& context)
                         "offered, or what was offered was refused.")
              .arg(type),
          QStringLiteral("Offer a value of that type within its range or enumeration, or let the element be missing: "
-                        "minOccurs=\"0\" in the schema.")}};
+                        "minOccurs=\"0\" in the schema. Where that is there already it does not help, in any copy "
+                        "of a container but the first and in a type that is called otherwise than the element that "
+                        "is of it: there the value has to be offered.")}};
 }
 
 } // namespace reportcheck

@@ -70,6 +70,14 @@ QString wordsFor(const AcceptedCounts& counts)
     return QStringLiteral("%1 to %2").arg(counts.takesZero ? 0 : 1).arg(counts.greatest);
 }
 
+/// What holds for further copies of the container around an element.
+QString wordsForCopies(const LaidOutElement& element, bool isOtherwise)
+{
+    return element.isUntriedInCopies ? QStringLiteral(" in the first copy, the others were not tried")
+        : isOtherwise                ? QStringLiteral(" in the first copy only")
+                                     : QString();
+}
+
 } // namespace
 
 QString pathOf(const LaidOutTree& tree, int element)
@@ -101,14 +109,12 @@ bool isContainer(const LaidOutElement& element)
 
 QString wordsForUnfilled(const LaidOutElement& element)
 {
-    const QString words = wordsFor(element.fate);
-    return element.staysInCopies ? words + QStringLiteral(" in the first copy only") : words;
+    return wordsFor(element.fate) + wordsForCopies(element, element.staysInCopies);
 }
 
 QString wordsForCounts(const LaidOutElement& element)
 {
-    const QString words = wordsFor(element.counts);
-    return element.isSingleInCopies ? words + QStringLiteral(" in the first copy only") : words;
+    return wordsFor(element.counts) + wordsForCopies(element, element.isSingleInCopies);
 }
 
 QStringList namesOf(Setters setters)

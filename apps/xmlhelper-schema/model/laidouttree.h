@@ -78,6 +78,7 @@ struct LaidOutElement
     int choiceNumber = None; ///< the number by which the library lets it be discarded
     Fate fate = Fate::Stays;
     bool staysInCopies = false; ///< the fate is that of the first copy of the container around it
+    bool isUntriedInCopies = false; ///< it stands in a container that is repeated, and too much for two of it
     bool isSingleInCopies = false; ///< so are the counts; in other copies none is accepted
     bool isNeverKept = false; ///< it goes even when everything is filled that a setter takes
     int goesInstead = None; ///< an element before it that is removed in its place

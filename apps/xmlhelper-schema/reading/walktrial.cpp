@@ -57,12 +57,42 @@ Skeleton::Skeleton(const LaidOutTree& tree)
     }
 }
 
+/// Which elements stand inside of which.
+class Extents
+{
+public:
+    explicit Extents(const LaidOutTree& tree);
+
+    int SizeOf(int container) const { return m_ends[std::size_t(container)] - container; }
+    bool IsInside(int index, int container) const
+    {
+        return container != None && container < index && index < m_ends[std::size_t(container)];
+    }
+
+private:
+    std::vector<int> m_ends; ///< behind the last element inside of each
+};
+
+Extents::Extents(const LaidOutTree& tree)
+    : m_ends(tree.elements.size())
+{
+    for (int index = int(tree.elements.size()) - 1; index >= 0; --index) {
+        int& end = m_ends[std::size_t(index)];
+        end = std::max(end, index + 1);
+        const int parent = tree.elements[std::size_t(index)].parent;
+        if (parent != None) {
+            m_ends[std::size_t(parent)] = std::max(m_ends[std::size_t(parent)], end);
+        }
+    }
+}
+
 /// What a walk did with an element.
 struct Record
 {
     bool isAnnounced = false;
     bool isAnswered = false;
     bool isRefused = false; ///< a count of two
+    bool isUncopied = false; ///< there would be too many copies
     int atStake = None; ///< the container on probation when it was announced last
     int kept = None; ///< a container that was on probation: the value that kept it
     bool isRemoved = false;
@@ -80,12 +110,12 @@ enum class Answers {
 class Walk : public IXMLHelper, public WalkLog
 {
 public:
-    Walk(const LaidOutTree& tree, const std::vector<int>& ends, Answers answers, bool isToCopy);
+    Walk(const LaidOutTree& tree, const Extents& extents, Answers answers, bool isToCopy);
 
     void Run(const OccursMap& occurs, const ChoiceMap& choices);
 
-    const Record& Of(int index) const { return m_records[std::size_t(index)]; }
-    const Record& OfCopy(int index) const { return m_copies[std::size_t(index)]; }
+    const std::vector<Record>& GetRecords() const { return m_records; }
+    const std::vector<Record>& GetRecordsOfCopies() const { return m_copies; }
 
     void XmlUpdate(XmlEvent* event) override;
     void Announced(const QDomNode& node, Kind kind) override;
@@ -103,14 +133,13 @@ private:
     };
 
     static int indexOf(const QDomElement& element) { return element.attribute(IndexMark).toInt(); }
-    bool isInside(int index, int container) const;
     Record& at(const Place& place);
     void answer();
     bool isToAnswer() const;
     bool isCopied(QDomElement& element);
 
     const LaidOutTree& m_tree;
-    const std::vector<int>& m_ends;
+    const Extents& m_extents;
     const Answers m_answers;
     const bool m_isToCopy;
     Skeleton m_skeleton;
@@ -125,9 +154,9 @@ private:
     Place m_probation;
 };
 
-Walk::Walk(const LaidOutTree& tree, const std::vector<int>& ends, Answers answers, bool isToCopy)
+Walk::Walk(const LaidOutTree& tree, const Extents& extents, Answers answers, bool isToCopy)
     : m_tree(tree)
-    , m_ends(ends)
+    , m_extents(extents)
     , m_answers(answers)
     , m_isToCopy(isToCopy)
     , m_skeleton(tree)
@@ -147,11 +176,6 @@ void Walk::Run(const OccursMap& occurs, const ChoiceMap& choices)
     m_parser = nullptr;
 }
 
-bool Walk::isInside(int index, int container) const
-{
-    return container != None && container < index && index < m_ends[std::size_t(container)];
-}
-
 Record& Walk::at(const Place& place)
 {
     return (place.isCopy ? m_copies : m_records)[std::size_t(place.index)];
@@ -164,7 +188,7 @@ void Walk::Announced(const QDomNode& node, Kind kind)
     const int index = indexOf(element);
     if (element.hasAttribute(CopyMark)) {
         m_copy = index;
-    } else if (!isInside(index, m_copy)) {
+    } else if (!m_extents.IsInside(index, m_copy)) {
         m_copy = None;
     }
     m_current = {index, m_copy != None};
@@ -193,7 +217,7 @@ void Walk::Removed(const QDomElement&, Removal why)
     Record& removed = at(why == Removal::Probation ? m_probation : m_current);
     removed.isRemoved = true;
     if (why == Removal::Probation) {
-        removed.isRemovedForAnother = !isInside(m_current.index, m_probation.index);
+        removed.isRemovedForAnother = !m_extents.IsInside(m_current.index, m_probation.index);
         m_probation = Place();
     }
 }
@@ -237,7 +261,7 @@ bool Walk::isToAnswer() const
     case Answers::InsideProbation:
         break;
     }
-    return isInside(m_current.index, m_probation.index);
+    return m_extents.IsInside(m_current.index, m_probation.index);
 }
 
 /// Makes a copy of what may be repeated, once, and none within a copy: there it only asks.
@@ -250,8 +274,9 @@ bool Walk::isCopied(QDomElement& element)
         || !m_parser->IsCountDeclared(element.tagName(), element.tagName(), 2, element) || m_current.isCopy) {
         return false;
     }
-    const int size = m_ends[index] - m_current.index;
+    const int size = m_extents.SizeOf(m_current.index);
     if (m_copiedElements + size > MaxShownElements) {
+        at(m_current).isUncopied = true;
         return false;
     }
     m_areCopied[index] = true;
@@ -274,29 +299,21 @@ public:
 
 private:
     AcceptedCounts countsOf(DomParser& parser, int index, const QDomElement& element) const;
-    Fate fateOf(int index, const Record& record) const;
+    Fate fateOf(int index, const std::vector<Record>& records) const;
     void tellFate(int index, const Walk& walk, const Walk& further);
 
     LaidOutTree& m_tree;
     const OccursMap& m_occurs;
     const ChoiceMap& m_choices;
-    std::vector<int> m_ends; ///< behind the last element below each
+    const Extents m_extents;
 };
 
 Trial::Trial(LaidOutTree& tree, const OccursMap& occurs, const ChoiceMap& choices)
     : m_tree(tree)
     , m_occurs(occurs)
     , m_choices(choices)
-    , m_ends(tree.elements.size())
+    , m_extents(tree)
 {
-    for (int index = int(tree.elements.size()) - 1; index >= 0; --index) {
-        int& end = m_ends[std::size_t(index)];
-        end = std::max(end, index + 1);
-        const int parent = tree.elements[std::size_t(index)].parent;
-        if (parent != None) {
-            m_ends[std::size_t(parent)] = std::max(m_ends[std::size_t(parent)], end);
-        }
-    }
 }
 
 /// A walk may look at all declarations of a name for each element that bears it, until one says that it is optional.
@@ -363,10 +380,10 @@ void Trial::TellCounts()
     }
 }
 
-Fate Trial::fateOf(int index, const Record& record) const
+/// Of @p records, in which those of the tree or of its copies stand.
+Fate Trial::fateOf(int index, const std::vector<Record>& records) const
 {
-    const auto isAbove
-        = [&](int other) { return other != None && other < index && index < m_ends[std::size_t(other)]; };
+    const Record& record = records[std::size_t(index)];
     if (!record.isAnnounced) {
         return Fate::IsUnknown;
     }
@@ -374,11 +391,11 @@ Fate Trial::fateOf(int index, const Record& record) const
         return record.isRemovedForAnother ? Fate::IsRemovedWithAnother : Fate::IsRemoved;
     }
     if (record.kept != None) {
-        const bool isKeptFromInside = index < record.kept && record.kept < m_ends[std::size_t(index)];
-        return isKeptFromInside ? Fate::IsRemovedWithItsValues : Fate::IsRemovedWithAnother;
+        return m_extents.IsInside(record.kept, index) ? Fate::IsRemovedWithItsValues : Fate::IsRemovedWithAnother;
     }
-    if (isAbove(record.atStake)) {
-        return Fate::IsRemovedWithItsContainer;
+    if (m_extents.IsInside(index, record.atStake)) {
+        const int value = records[std::size_t(record.atStake)].kept;
+        return value == index || m_extents.IsInside(value, index) ? Fate::IsRemovedWithItsContainer : Fate::Stays;
     }
     return record.isAnswered ? Fate::IsUnknown : Fate::Stays;
 }
@@ -386,29 +403,33 @@ Fate Trial::fateOf(int index, const Record& record) const
 void Trial::tellFate(int index, const Walk& walk, const Walk& further)
 {
     LaidOutElement& element = m_tree.elements[std::size_t(index)];
-    const Record& record = walk.Of(index).isAnnounced ? walk.Of(index) : further.Of(index);
-    element.fate = fateOf(index, record);
-    const bool isJudged = record.atStake == None;
-    element.goesInstead = element.fate == Fate::Stays && !isJudged ? record.atStake : None;
+    const bool isReached = walk.GetRecords()[std::size_t(index)].isAnnounced;
+    const std::vector<Record>& records = isReached ? walk.GetRecords() : further.GetRecords();
+    element.fate = fateOf(index, records);
+    const int atStake = records[std::size_t(index)].atStake;
+    element.goesInstead = element.fate == Fate::Stays && !m_extents.IsInside(index, atStake) ? atStake : None;
 }
 
 void Trial::TellFates()
 {
-    Walk walk(m_tree, m_ends, Answers::InsideProbation, false);
+    Walk walk(m_tree, m_extents, Answers::InsideProbation, false);
     walk.Run(m_occurs, m_choices);
-    Walk further(m_tree, m_ends, Answers::WhereTheWalkWouldEnd, false);
+    Walk further(m_tree, m_extents, Answers::WhereTheWalkWouldEnd, false);
     further.Run(m_occurs, m_choices);
-    Walk full(m_tree, m_ends, Answers::All, false);
+    Walk full(m_tree, m_extents, Answers::All, false);
     full.Run(m_occurs, m_choices);
-    Walk twice(m_tree, m_ends, Answers::WhereTheWalkWouldEnd, true);
+    Walk twice(m_tree, m_extents, Answers::WhereTheWalkWouldEnd, true);
     twice.Run(m_occurs, m_choices);
     for (int index = 1; index < int(m_tree.elements.size()); ++index) {
         tellFate(index, walk, further);
         LaidOutElement& element = m_tree.elements[std::size_t(index)];
-        element.isNeverKept = full.Of(index).isRemoved || m_tree.elements[std::size_t(element.parent)].isNeverKept;
-        const Record& copy = twice.OfCopy(index);
-        element.staysInCopies = fateOf(index, copy) == Fate::Stays && element.fate != Fate::Stays;
-        element.isSingleInCopies = copy.isRefused;
+        const LaidOutElement& parent = m_tree.elements[std::size_t(element.parent)];
+        element.isNeverKept = parent.isNeverKept || full.GetRecords()[std::size_t(index)].isRemoved;
+        const std::vector<Record>& copies = twice.GetRecordsOfCopies();
+        element.staysInCopies = fateOf(index, copies) == Fate::Stays && element.fate != Fate::Stays;
+        element.isSingleInCopies = copies[std::size_t(index)].isRefused;
+        element.isUntriedInCopies
+            = parent.isUntriedInCopies || twice.GetRecords()[std::size_t(element.parent)].isUncopied;
     }
 }
 

@@ -3,6 +3,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
@@ -11,9 +13,12 @@
 
 #include "examine.h"
 #include "fill/dryrun.h"
+#include "reading/doctorlimits.h"
 #include "reading/treebuilder.h"
 #include "render/jsonrendering.h"
 #include "render/textrendering.h"
+
+QT_WARNING_DISABLE_DEPRECATED
 
 using namespace schemadoctor;
 
@@ -93,6 +98,116 @@ private:
     bool m_isRefused = false;
 };
 
+/// Small schemas in which every name occurs once.
+class RandomSchema
+{
+public:
+    explicit RandomSchema(quint32 seed)
+        : m_random(seed)
+    {
+    }
+
+    QByteArray Body()
+    {
+        const QByteArray top = report(content(0));
+        return m_types + top;
+    }
+
+private:
+    bool isOneIn(int chances) { return m_random.bounded(chances) == 0; }
+
+    QByteArray content(int level)
+    {
+        QByteArray all;
+        for (int children = m_random.bounded(level == 0 ? 3 : 1, 5); children > 0; --children) {
+            all += declaration(level + 1);
+        }
+        return all;
+    }
+
+    QByteArray declaration(int level)
+    {
+        const QByteArray name = "N" + QByteArray::number(++m_names);
+        const QByteArray occurs = isOneIn(2) ? Optional : isOneIn(5) ? "maxOccurs='unbounded'" : "";
+        if (level == 4 || isOneIn(2)) {
+            return isOneIn(8) ? "<xs:element name='" + name + "' type='xs:decimal' " + occurs + "/>"
+                              : value(name, occurs);
+        }
+        if (isOneIn(4)) {
+            return "<xs:element name='" + name + "' " + occurs
+                + "><xs:complexType><xs:attribute name='A' type='xs:string'/></xs:complexType></xs:element>";
+        }
+        if (isOneIn(5)) {
+            const QByteArray inside = content(level);
+            m_types
+                += "<xs:complexType name='T" + name + "'><xs:sequence>" + inside + "</xs:sequence></xs:complexType>\n";
+            return "<xs:element name='" + name + "' type='T" + name + "' " + occurs + "/>";
+        }
+        if (isOneIn(6)) {
+            const QByteArray inside = content(level);
+            return "<xs:element name='" + name + "' " + occurs + "><xs:complexType><xs:choice>" + inside
+                + "</xs:choice></xs:complexType></xs:element>";
+        }
+        return container(name, content(level), occurs);
+    }
+
+    QRandomGenerator m_random;
+    QByteArray m_types;
+    int m_names = 0;
+};
+
+/// Fills every value that a double fits, but not those of some names.
+class Filler : public IXMLHelper
+{
+public:
+    explicit Filler(const QSet<QString>& unfilled)
+        : m_unfilled(unfilled)
+        , m_builder(this)
+    {
+    }
+
+    /// The elements of the report.
+    QSet<QString> NamesIn(const QString& schema, const QString& report)
+    {
+        m_builder.CreateXmlFromSchema(schema, report, false);
+        static const QRegularExpression tag(QStringLiteral("<(\\w+)"));
+        QFile device(report);
+        QSet<QString> names;
+        if (device.open(QIODevice::ReadOnly)) {
+            auto tags = tag.globalMatch(QString::fromUtf8(device.readAll()));
+            while (tags.hasNext()) {
+                names.insert(tags.next().captured(1));
+            }
+        }
+        return names;
+    }
+
+    void XmlUpdate(XmlEvent* event) override
+    {
+        if (event->GetType() == XmlEvent::EVENT_ELEM_BEGIN) {
+            auto* const begin = static_cast<ElemBeginEvent*>(event);
+            if (begin->GetElementAttributes().value(QLatin1String("type")) == QLatin1String("double")
+                && !m_unfilled.contains(begin->GetElementName())) {
+                m_builder.SetXmlValue(1.0);
+            }
+        }
+    }
+
+private:
+    const QSet<QString> m_unfilled;
+    XmlCreateReport m_builder;
+};
+
+QSet<QString> namesBelow(const LaidOutTree& tree, int top)
+{
+    const LaidOutElement& element = tree.elements.at(std::size_t(top));
+    QSet<QString> names {element.name};
+    for (const int child : element.children) {
+        names += namesBelow(tree, child);
+    }
+    return names;
+}
+
 } // namespace
 
 class TestSchemaDoctorExamination : public QObject
@@ -114,10 +229,13 @@ private Q_SLOTS:
     void tellsWhichCountsAreAccepted();
     void tellsWhatBecomesOfUnfilledElements_data();
     void tellsWhatBecomesOfUnfilledElements();
+    void saysWhatTheBuilderDoes_data();
+    void saysWhatTheBuilderDoes();
     void tellsOfFurtherCopies_data();
     void tellsOfFurtherCopies();
     void keepsInFurtherCopiesWhatTheBuilderKeeps();
     void claimsNothingThatWasNotTried();
+    void claimsNothingOfCopiesThatWereNotTried();
     void tellsWhatIsNeverKept();
     void prunesWhatTheWalkPrunes();
     void findsElementsByTheirPaths();
@@ -383,6 +501,39 @@ void TestSchemaDoctorExamination::tellsWhatBecomesOfUnfilledElements()
     QCOMPARE(wordsForUnfilled(tree.elements.at(std::size_t(index))), words);
 }
 
+void TestSchemaDoctorExamination::saysWhatTheBuilderDoes_data()
+{
+    QTest::addColumn<quint32>("seed");
+    for (quint32 seed = 1; seed <= 25; ++seed) {
+        QTest::newRow(qPrintable(QStringLiteral("schema-%1").arg(seed))) << seed;
+    }
+}
+
+/// Of each element in turn nothing is filled, of the others everything that can be.
+void TestSchemaDoctorExamination::saysWhatTheBuilderDoes()
+{
+    QFETCH(quint32, seed);
+    const QString file = schema(RandomSchema(seed).Body());
+    const Examination examination = examine(file);
+    const LaidOutTree& tree = examination.tree;
+    const QByteArray shown = textOf(examination).toUtf8();
+    const QString written = m_folder.filePath(QStringLiteral("report.xml"));
+    QSet<QString> kept = Filler(QSet<QString>()).NamesIn(file, written);
+    for (const LaidOutElement& element : tree.elements) {
+        QVERIFY2(kept.contains(element.name) != element.isNeverKept,
+                 (element.name.toUtf8() + '\n' + shown).constData());
+    }
+    for (int index = 1; index < int(tree.elements.size()); ++index) {
+        const LaidOutElement& element = tree.elements.at(std::size_t(index));
+        if (element.isNeverKept || element.fate == Fate::IsUnknown) {
+            continue;
+        }
+        kept = Filler(namesBelow(tree, index)).NamesIn(file, written);
+        const bool isToStay = element.fate == Fate::Stays || element.fate == Fate::IsRemovedWithAnother;
+        QVERIFY2(kept.contains(element.name) == isToStay, (element.name.toUtf8() + '\n' + shown).constData());
+    }
+}
+
 void TestSchemaDoctorExamination::tellsOfFurtherCopies_data()
 {
     QTest::addColumn<QByteArray>("body");
@@ -464,6 +615,21 @@ void TestSchemaDoctorExamination::claimsNothingThatWasNotTried()
     QCOMPARE(int(tree.elements.size()), 6001);
     QCOMPARE(wordsForUnfilled(tree.elements.at(1)), QStringLiteral("was not tried"));
     QCOMPARE(wordsForCounts(tree.elements.at(1)), QStringLiteral("not tried"));
+}
+
+/// One copy of all that is shown is made, no more.
+void TestSchemaDoctorExamination::claimsNothingOfCopiesThatWereNotTried()
+{
+    const QByteArray often = "maxOccurs='unbounded'";
+    QByteArray content;
+    for (int i = 0; i < MaxShownElements - 10; ++i) {
+        content += value("Level", Optional);
+    }
+    const LaidOutTree tree = examined(report(container("Outer", container("Inner", content, often), often))).tree;
+    QCOMPARE(int(tree.elements.size()), MaxShownElements - 7);
+    QCOMPARE(wordsForUnfilled(tree.elements.at(2)), QStringLiteral("stays"));
+    QCOMPARE(wordsForUnfilled(tree.elements.at(3)),
+             QStringLiteral("is removed in the first copy, the others were not tried"));
 }
 
 void TestSchemaDoctorExamination::tellsWhatIsNeverKept()

@@ -109,6 +109,29 @@ void TestSchemaDoctorLimits::answersSoon_data()
                               "type='xs:double' minOccurs='" + QByteArray::number(MaxShownElements - 1)
                                   + "' maxOccurs='unbounded'"));
     });
+    QTest::newRow("as-many-optional-containers-as-are-shown") << Writer([] {
+        return report(repeated((MaxShownElements - 1) / 2, [](int i) {
+            return "<xs:element name='" + numbered("C", i) + "' minOccurs='0'><xs:complexType><xs:sequence>"
+                + element(numbered("V", i), "type='xs:double'") + "</xs:sequence></xs:complexType></xs:element>\n";
+        }));
+    });
+    QTest::newRow("as-many-empty-containers-as-are-shown") << Writer([] {
+        return report(repeated(MaxShownElements - 1,
+                               [](int i) { return element(numbered("E", i), "type='Empty' minOccurs='0'"); }))
+            + type("Empty", "");
+    });
+    QTest::newRow("containers-that-are-repeated-in-each-other") << Writer([] {
+        return report(element("Top", "type='T0' maxOccurs='unbounded'")) + repeated(450, [](int i) {
+                   const QByteArray next = i < 449
+                       ? element(numbered("T", i + 1), "type='" + numbered("T", i + 1) + "' maxOccurs='unbounded'")
+                       : QByteArray();
+                   return type(numbered("T", i),
+                               repeated(60, [](int value) {
+                                   return element(numbered("V", value),
+                                                  "type='xs:double' minOccurs='0' maxOccurs='unbounded'");
+                               }) + next);
+               });
+    });
     QTest::newRow("as-many-annotations-as-are-shown") << Writer([] {
         return report(repeated(145, [](int i) { return element(numbered("E", i), "type='Word'"); }))
             + "<xs:simpleType name='Word'><xs:restriction base='xs:string'>"
