@@ -23,7 +23,9 @@ void attributesAfterElements(const Schema& schema, Findings& findings)
                                  "element that is of the type.")
                 : QStringLiteral("The type has no element in front of it to go to: it is lost."),
             QStringLiteral(
-                "Write the type inside of the element that has the attribute; only there it is understood."));
+                "Write '%1', and each named type that it is used in, inside of the element that is of it, up "
+                "to the global element: only there attributes are understood, at any depth.")
+                .arg(type->Value("name")));
         addTrees(schema, *type, finding);
     }
 }
