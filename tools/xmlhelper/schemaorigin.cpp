@@ -31,9 +31,10 @@ QStringList partsOf(const QString& text)
 void takeOffAttributes(const QDomElement& element, SchemaReadingLog* log)
 {
     for (QDomAttr attribute : attributesOf(element)) {
-        const QStringList parts = partsOf(attribute.value());
-        attribute.setValue(parts.first());
-        if (log && parts.size() == 3) {
+        const QString value = attribute.value();
+        attribute.setValue(withoutOrigin(value));
+        const QStringList parts = log ? partsOf(value) : QStringList();
+        if (parts.size() == 3) {
             const auto kind = static_cast<SchemaReadingLog::AttributeKind>(parts.at(1).toInt());
             log->AttributeLaidOut(element, attribute.name(), kind, tagOf(parts.at(2)));
         }

@@ -284,7 +284,7 @@ bool XmlSchemaHandler::ReadFile(const QString& fileName, QXmlSimpleReader& parse
     const bool isParsed = parse(bytes, parser);
     if (m_pLog) {
         m_pLog->FileEnded(m_tag.file);
-        if (isTop) {
+        if (isTop && !m_pReading->budget.IsRefused()) {
             takeOffAllOrigins();
         }
     }
@@ -434,7 +434,8 @@ void XmlSchemaHandler::tellMissingReferences() const
     }
 }
 
-/// From what the model points to, too, so that it is the same with a listener as without. The skeleton is told.
+/// From what the model points to, too, so that it is the same with a listener as without. The skeleton is told. Of a
+/// schema that was refused nobody looks at what the model points to, and it may be as much as the limits allow.
 void XmlSchemaHandler::takeOffAllOrigins()
 {
     takeOffOrigins(*m_pDocument, m_pLog);
