@@ -407,6 +407,18 @@ bool XmlSchemaHandler::fatalError(const QXmlParseException& exception)
     return false;
 }
 
+/// The element may be a handle that lives for this call.
+template <typename Element>
+void XmlSchemaHandler::annotate(Element&& element, const QString& name, const QString& value,
+                                SchemaReadingLog::AttributeKind kind) const
+{
+    if (m_pLog) {
+        element.setAttribute(name, valueFrom(m_tag, kind, value));
+    } else {
+        element.setAttribute(name, value);
+    }
+}
+
 void XmlSchemaHandler::tellFileBegun(const QString& written, const QString& opened, const SchemaTag& include)
 {
     m_tag.file = m_pReading->files++;
@@ -847,16 +859,6 @@ QString XmlSchemaHandler::nameOf(const QDomNode& node) const
 bool XmlSchemaHandler::isCarrier(const QDomNode& node) const
 {
     return nameOf(node) == CarrierName;
-}
-
-void XmlSchemaHandler::annotate(QDomElement element, const QString& name, const QString& value,
-                                SchemaReadingLog::AttributeKind kind) const
-{
-    if (m_pLog) {
-        element.setAttribute(name, valueFrom(m_tag, kind, value));
-    } else {
-        element.setAttribute(name, value);
-    }
 }
 
 /// Gives the facets among @p attributes to @p to, with @p suffix, the name of a declared attribute, appended to their

@@ -136,7 +136,8 @@ private:
     void beginCarrier();
     QString nameOf(const QDomNode& node) const;
     bool isCarrier(const QDomNode& node) const;
-    void annotate(QDomElement element, const QString& name, const QString& value,
+    template <typename Element>
+    void annotate(Element&& element, const QString& name, const QString& value,
                   SchemaReadingLog::AttributeKind kind = SchemaReadingLog::AttributeKind::Annotation) const;
     void copyFacets(const DomAttributes& attributes, QDomElement to, const QString& suffix = QString()) const;
     QDomElement lastChildOrCurrent() const;
