@@ -104,18 +104,33 @@ enum class Answers {
     InsideProbation, ///< those that keep the container around them: whatever stands behind them is judged by itself
     WhereTheWalkWouldEnd, ///< besides, those that would have the walk go on behind the last child of a container
     All, ///< those that some setter takes
+    InTwoCopies, ///< as where the walk would end, of two copies of all that may be repeated
 };
+
+/// What a walk did with the elements of the tree.
+struct Outcome
+{
+    std::vector<Record> originals;
+    std::vector<Record> copies; ///< with the second copies of them
+};
+
+bool mayBeRepeated(const LaidOutElement& element)
+{
+    return element.counts.greatest == AcceptedCounts::Unbounded || element.counts.greatest > 1;
+}
 
 /// One walk, with the observer and the log of it.
 class Walk : public IXMLHelper, public WalkLog
 {
 public:
-    Walk(const LaidOutTree& tree, const Extents& extents, Answers answers, bool isToCopy);
+    Walk(const LaidOutTree& tree, const Extents& extents, const OccursMap& occurs, const ChoiceMap& choices,
+         Answers answers);
 
-    void Run(const OccursMap& occurs, const ChoiceMap& choices);
+    DomParser& GetParser() { return m_parser; }
+    const QDomElement& At(int index) const { return m_skeleton.At(index); }
 
-    const std::vector<Record>& GetRecords() const { return m_records; }
-    const std::vector<Record>& GetRecordsOfCopies() const { return m_copies; }
+    /// To be called once.
+    const Outcome& Run();
 
     void XmlUpdate(XmlEvent* event) override;
     void Announced(const QDomNode& node, Kind kind) override;
@@ -141,11 +156,9 @@ private:
     const LaidOutTree& m_tree;
     const Extents& m_extents;
     const Answers m_answers;
-    const bool m_isToCopy;
     Skeleton m_skeleton;
-    DomParser* m_parser = nullptr;
-    std::vector<Record> m_records;
-    std::vector<Record> m_copies;
+    DomParser m_parser;
+    Outcome m_outcome;
     std::vector<bool> m_areCopied;
     int m_copiedElements = 0;
     int m_copy = None; ///< the element whose second copy the walk is in
@@ -154,31 +167,29 @@ private:
     Place m_probation;
 };
 
-Walk::Walk(const LaidOutTree& tree, const Extents& extents, Answers answers, bool isToCopy)
+Walk::Walk(const LaidOutTree& tree, const Extents& extents, const OccursMap& occurs, const ChoiceMap& choices,
+           Answers answers)
     : m_tree(tree)
     , m_extents(extents)
     , m_answers(answers)
-    , m_isToCopy(isToCopy)
     , m_skeleton(tree)
-    , m_records(tree.elements.size())
-    , m_copies(tree.elements.size())
+    , m_parser(this, occurs, choices)
+    , m_outcome {std::vector<Record>(tree.elements.size()), std::vector<Record>(tree.elements.size())}
     , m_areCopied(tree.elements.size())
 {
+    m_parser.SetDocument(&m_skeleton.GetDocument());
 }
 
-void Walk::Run(const OccursMap& occurs, const ChoiceMap& choices)
+const Outcome& Walk::Run()
 {
-    DomParser parser(this, occurs, choices);
-    parser.SetDocument(&m_skeleton.GetDocument());
-    parser.SetLog(this);
-    m_parser = &parser;
-    parser.Walk();
-    m_parser = nullptr;
+    m_parser.SetLog(this);
+    m_parser.Walk();
+    return m_outcome;
 }
 
 Record& Walk::at(const Place& place)
 {
-    return (place.isCopy ? m_copies : m_records)[std::size_t(place.index)];
+    return (place.isCopy ? m_outcome.copies : m_outcome.originals)[std::size_t(place.index)];
 }
 
 void Walk::Announced(const QDomNode& node, Kind kind)
@@ -236,12 +247,12 @@ void Walk::XmlUpdate(XmlEvent* event)
 
 void Walk::answer()
 {
-    QDomElement* const element = m_parser->GetCurrentElement();
+    QDomElement* const element = m_parser.GetCurrentElement();
     if (isCopied(*element)) {
-        m_parser->ContinueAt(element, true);
+        m_parser.ContinueAt(element, true);
     } else if (isToAnswer()) {
         at(m_current).isAnswered = true;
-        m_parser->ContinueAt(element, false);
+        m_parser.ContinueAt(element, false);
     }
 }
 
@@ -254,6 +265,7 @@ bool Walk::isToAnswer() const
     case Answers::All:
         return m_tree.elements[std::size_t(m_current.index)].setters != Setters();
     case Answers::WhereTheWalkWouldEnd:
+    case Answers::InTwoCopies:
         if (m_probation.index != None && m_skeleton.At(m_probation.index).nextSibling().isNull()) {
             return true;
         }
@@ -268,10 +280,9 @@ bool Walk::isToAnswer() const
 bool Walk::isCopied(QDomElement& element)
 {
     const std::size_t index = std::size_t(m_current.index);
-    const int greatest = m_tree.elements[index].counts.greatest;
-    const bool isRepeatable = greatest == AcceptedCounts::Unbounded || greatest > 1;
-    if (!m_isToCopy || !isRepeatable || (m_areCopied[index] && !m_current.isCopy)
-        || !m_parser->IsCountDeclared(element.tagName(), element.tagName(), 2, element) || m_current.isCopy) {
+    const bool isRepeatable = mayBeRepeated(m_tree.elements[index]);
+    if (m_answers != Answers::InTwoCopies || !isRepeatable || (m_areCopied[index] && !m_current.isCopy)
+        || !m_parser.IsCountDeclared(element.tagName(), element.tagName(), 2, element) || m_current.isCopy) {
         return false;
     }
     const int size = m_extents.SizeOf(m_current.index);
@@ -281,8 +292,8 @@ bool Walk::isCopied(QDomElement& element)
     }
     m_areCopied[index] = true;
     m_copiedElements += size;
-    m_parser->InsertCopies(element, 1);
-    const OwnerIndex::OwnChange change = m_parser->Change();
+    m_parser.InsertCopies(element, 1);
+    const OwnerIndex::OwnChange change = m_parser.Change();
     element.nextSibling().toElement().setAttribute(CopyMark, QString());
     return true;
 }
@@ -294,13 +305,15 @@ public:
     Trial(LaidOutTree& tree, const OccursMap& occurs, const ChoiceMap& choices);
 
     bool IsAffordable() const;
-    void TellCounts();
-    void TellFates();
+    void Tell();
 
 private:
+    void tellCounts(Walk& walk);
+    void tellFates(const Outcome& outcome);
+    Outcome outcomeOf(Answers answers, bool isNeeded) const;
     AcceptedCounts countsOf(DomParser& parser, int index, const QDomElement& element) const;
     Fate fateOf(int index, const std::vector<Record>& records) const;
-    void tellFate(int index, const Walk& walk, const Walk& further);
+    void tellFate(int index, const std::vector<Record>& records);
 
     LaidOutTree& m_tree;
     const OccursMap& m_occurs;
@@ -357,21 +370,15 @@ AcceptedCounts Trial::countsOf(DomParser& parser, int index, const QDomElement& 
 }
 
 /// Siblings of one name stand below the same owners.
-void Trial::TellCounts()
+void Trial::tellCounts(Walk& walk)
 {
-    Skeleton skeleton(m_tree);
-    class Silent : public IXMLHelper
-    {
-        void XmlUpdate(XmlEvent*) override { }
-    } observer;
-    DomParser parser(&observer, m_occurs, m_choices);
-    parser.SetDocument(&skeleton.GetDocument());
+    DomParser& parser = walk.GetParser();
     QHash<QPair<int, QString>, AcceptedCounts> known;
     for (int index = 0; index < int(m_tree.elements.size()); ++index) {
         LaidOutElement& element = m_tree.elements[std::size_t(index)];
         const QPair<int, QString> key(element.parent, element.name);
         if (!known.contains(key)) {
-            known.insert(key, countsOf(parser, index, skeleton.At(index)));
+            known.insert(key, countsOf(parser, index, walk.At(index)));
         }
         element.counts = known.value(key);
         const int number = parser.AlternativeNumber(element.name);
@@ -400,37 +407,52 @@ Fate Trial::fateOf(int index, const std::vector<Record>& records) const
     return record.isAnswered ? Fate::IsUnknown : Fate::Stays;
 }
 
-void Trial::tellFate(int index, const Walk& walk, const Walk& further)
+void Trial::tellFate(int index, const std::vector<Record>& records)
 {
     LaidOutElement& element = m_tree.elements[std::size_t(index)];
-    const bool isReached = walk.GetRecords()[std::size_t(index)].isAnnounced;
-    const std::vector<Record>& records = isReached ? walk.GetRecords() : further.GetRecords();
     element.fate = fateOf(index, records);
     const int atStake = records[std::size_t(index)].atStake;
     element.goesInstead = element.fate == Fate::Stays && !m_extents.IsInside(index, atStake) ? atStake : None;
 }
 
-void Trial::TellFates()
+/// Of a walk that has nothing to show, records of nothing.
+Outcome Trial::outcomeOf(Answers answers, bool isNeeded) const
 {
-    Walk walk(m_tree, m_extents, Answers::InsideProbation, false);
-    walk.Run(m_occurs, m_choices);
-    Walk further(m_tree, m_extents, Answers::WhereTheWalkWouldEnd, false);
-    further.Run(m_occurs, m_choices);
-    Walk full(m_tree, m_extents, Answers::All, false);
-    full.Run(m_occurs, m_choices);
-    Walk twice(m_tree, m_extents, Answers::WhereTheWalkWouldEnd, true);
-    twice.Run(m_occurs, m_choices);
-    for (int index = 1; index < int(m_tree.elements.size()); ++index) {
-        tellFate(index, walk, further);
-        LaidOutElement& element = m_tree.elements[std::size_t(index)];
-        const LaidOutElement& parent = m_tree.elements[std::size_t(element.parent)];
-        element.isNeverKept = parent.isNeverKept || full.GetRecords()[std::size_t(index)].isRemoved;
-        const std::vector<Record>& copies = twice.GetRecordsOfCopies();
-        element.staysInCopies = fateOf(index, copies) == Fate::Stays && element.fate != Fate::Stays;
-        element.isSingleInCopies = copies[std::size_t(index)].isRefused;
-        element.isUntriedInCopies
-            = parent.isUntriedInCopies || twice.GetRecords()[std::size_t(element.parent)].isUncopied;
+    if (!isNeeded) {
+        return {std::vector<Record>(m_tree.elements.size()), std::vector<Record>(m_tree.elements.size())};
     }
+    return Walk(m_tree, m_extents, m_occurs, m_choices, answers).Run();
+}
+
+void Trial::tellFates(const Outcome& outcome)
+{
+    const std::vector<LaidOutElement>& elements = m_tree.elements;
+    const Outcome further = outcomeOf(Answers::WhereTheWalkWouldEnd,
+                                      std::any_of(outcome.originals.begin(), outcome.originals.end(),
+                                                  [](const Record& record) { return !record.isAnnounced; }));
+    const Outcome full
+        = outcomeOf(Answers::All, std::any_of(elements.begin(), elements.end(), [](const LaidOutElement& element) {
+                        return !isContainer(element) && element.setters == Setters();
+                    }));
+    const Outcome twice = outcomeOf(Answers::InTwoCopies, std::any_of(elements.begin(), elements.end(), mayBeRepeated));
+    for (int index = 1; index < int(elements.size()); ++index) {
+        const std::size_t at = std::size_t(index);
+        tellFate(index, outcome.originals[at].isAnnounced ? outcome.originals : further.originals);
+        LaidOutElement& element = m_tree.elements[at];
+        const LaidOutElement& parent = elements[std::size_t(element.parent)];
+        element.isNeverKept = parent.isNeverKept || full.originals[at].isRemoved;
+        element.staysInCopies = fateOf(index, twice.copies) == Fate::Stays && element.fate != Fate::Stays;
+        element.isSingleInCopies = twice.copies[at].isRefused;
+        element.isUntriedInCopies = parent.isUntriedInCopies || twice.originals[std::size_t(element.parent)].isUncopied;
+    }
+}
+
+/// The counts are those of the skeleton before a walk changes it.
+void Trial::Tell()
+{
+    Walk walk(m_tree, m_extents, m_occurs, m_choices, Answers::InsideProbation);
+    tellCounts(walk);
+    tellFates(walk.Run());
 }
 
 } // namespace
@@ -448,8 +470,7 @@ void tryWalks(LaidOutTree& tree, const OccursMap& occurs, const ChoiceMap& choic
         }
         return;
     }
-    trial.TellCounts();
-    trial.TellFates();
+    trial.Tell();
 }
 
 } // namespace schemadoctor
