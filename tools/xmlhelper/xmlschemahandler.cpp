@@ -284,7 +284,7 @@ bool XmlSchemaHandler::ReadFile(const QString& fileName, QXmlSimpleReader& parse
     const bool isParsed = parse(bytes, parser);
     if (m_pLog) {
         m_pLog->FileEnded(m_tag.file);
-        if (isTop && !m_pReading->budget.IsRefused()) {
+        if (isTop) {
             takeOffAllOrigins();
         }
     }
@@ -446,8 +446,7 @@ void XmlSchemaHandler::tellMissingReferences() const
     }
 }
 
-/// From what the model points to, too, so that it is the same with a listener as without. The skeleton is told. Of a
-/// schema that was refused nobody looks at what the model points to, and it may be as much as the limits allow.
+/// From what the model points to, too, so that it is the same with a listener as without. The skeleton is told.
 void XmlSchemaHandler::takeOffAllOrigins()
 {
     takeOffOrigins(*m_pDocument, m_pLog);
