@@ -1,5 +1,7 @@
 #include "schemaorigin_p.h"
 
+#include <algorithm>
+
 #include <QDomElement>
 #include <QStringList>
 
@@ -28,9 +30,33 @@ QStringList partsOf(const QString& text)
     return text.split(Mark);
 }
 
-void takeOffAttributes(const QDomElement& element, SchemaReadingLog* log)
+/// The attributes of an element. Users of one type have those of equal names one after the other, and to ask for
+/// thousands by name takes less than to list them.
+/// @param names  of the attributes that were listed last
+DomAttributes attributesLike(QStringList& names, const QDomElement& element)
 {
-    for (QDomAttr attribute : attributesOf(element)) {
+    const QDomNamedNodeMap map = element.attributes();
+    DomAttributes attributes;
+    if (map.count() == names.size()) {
+        for (const QString& name : names) {
+            attributes.append(map.namedItem(name).toAttr());
+        }
+    }
+    const bool isComplete = !attributes.isEmpty()
+        && std::none_of(attributes.begin(), attributes.end(), [](const QDomAttr& one) { return one.isNull(); });
+    if (!isComplete) {
+        attributes = attributesOf(element);
+        names.clear();
+        for (const QDomAttr& attribute : attributes) {
+            names.append(attribute.name());
+        }
+    }
+    return attributes;
+}
+
+void takeOffAttributes(const QDomElement& element, QStringList& names, SchemaReadingLog* log)
+{
+    for (QDomAttr attribute : attributesLike(names, element)) {
         const QString value = attribute.value();
         attribute.setValue(withoutOrigin(value));
         const QStringList parts = log ? partsOf(value) : QStringList();
@@ -41,14 +67,14 @@ void takeOffAttributes(const QDomElement& element, SchemaReadingLog* log)
     }
 }
 
-void takeOff(QDomElement element, SchemaReadingLog* log)
+void takeOff(QDomElement element, QStringList& names, SchemaReadingLog* log)
 {
     const QStringList parts = partsOf(element.tagName());
     element.setTagName(parts.first());
     if (log && parts.size() > 1) {
         log->ElementLaidOut(element, tagOf(parts.at(1)), tagOf(parts.value(2)));
     }
-    takeOffAttributes(element, log);
+    takeOffAttributes(element, names, log);
 }
 
 } // namespace
@@ -85,9 +111,10 @@ void addReference(const QDomNode& fragment, const SchemaTag& reference)
 
 void takeOffOrigins(const QDomNode& top, SchemaReadingLog* log)
 {
+    QStringList names;
     for (QDomNode node = top; !node.isNull();) {
         if (node.isElement()) {
-            takeOff(node.toElement(), log);
+            takeOff(node.toElement(), names, log);
         }
         node = node == top && !top.isElement() ? top.firstChild() : nextBelow(top, node, false);
     }
