@@ -119,6 +119,12 @@ bool mayBeRepeated(const LaidOutElement& element)
     return element.counts.greatest == AcceptedCounts::Unbounded || element.counts.greatest > 1;
 }
 
+/// Whether others are copied with an element that may be repeated. Its own copies stand where it stands itself.
+bool hasCopiesOfOthers(const LaidOutElement& element)
+{
+    return mayBeRepeated(element) && !element.children.empty();
+}
+
 /// One walk, with the observer and the log of it.
 class Walk : public IXMLHelper, public WalkLog
 {
@@ -280,9 +286,9 @@ bool Walk::isToAnswer() const
 bool Walk::isCopied(QDomElement& element)
 {
     const std::size_t index = std::size_t(m_current.index);
-    const bool isRepeatable = mayBeRepeated(m_tree.elements[index]);
-    if (m_answers != Answers::InTwoCopies || !isRepeatable || (m_areCopied[index] && !m_current.isCopy)
-        || !m_parser.IsCountDeclared(element.tagName(), element.tagName(), 2, element) || m_current.isCopy) {
+    if (m_answers != Answers::InTwoCopies || !mayBeRepeated(m_tree.elements[index])
+        || !m_parser.IsCountDeclared(element.tagName(), element.tagName(), 2, element) || m_current.isCopy
+        || m_areCopied[index] || !hasCopiesOfOthers(m_tree.elements[index])) {
         return false;
     }
     const int size = m_extents.SizeOf(m_current.index);
@@ -434,7 +440,8 @@ void Trial::tellFates(const Outcome& outcome)
         = outcomeOf(Answers::All, std::any_of(elements.begin(), elements.end(), [](const LaidOutElement& element) {
                         return !isContainer(element) && element.setters == Setters();
                     }));
-    const Outcome twice = outcomeOf(Answers::InTwoCopies, std::any_of(elements.begin(), elements.end(), mayBeRepeated));
+    const Outcome twice
+        = outcomeOf(Answers::InTwoCopies, std::any_of(elements.begin(), elements.end(), hasCopiesOfOthers));
     for (int index = 1; index < int(elements.size()); ++index) {
         const std::size_t at = std::size_t(index);
         tellFate(index, outcome.originals[at].isAnnounced ? outcome.originals : further.originals);
