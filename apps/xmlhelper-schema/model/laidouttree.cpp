@@ -102,6 +102,14 @@ int findByPath(const LaidOutTree& tree, const QString& path)
     return index;
 }
 
+NameIndex::NameIndex(const LaidOutTree& tree)
+{
+    for (int index = int(tree.elements.size()) - 1; index >= 0; --index) {
+        const LaidOutElement& element = tree.elements[std::size_t(index)];
+        m_children.insert({element.parent, element.name}, index);
+    }
+}
+
 bool isContainer(const LaidOutElement& element)
 {
     return !isValueType(element.type);

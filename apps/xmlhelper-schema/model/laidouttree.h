@@ -3,6 +3,8 @@
 
 #include <vector>
 
+#include <QHash>
+#include <QPair>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -102,6 +104,24 @@ QString pathOf(const LaidOutTree& tree, int element);
 
 /// The element with that path; LaidOutElement::None when there is none.
 int findByPath(const LaidOutTree& tree, const QString& path);
+
+/// Leads from names to elements, of equal names to the first.
+class NameIndex
+{
+public:
+    static constexpr int AboveRoot = LaidOutElement::None;
+
+    explicit NameIndex(const LaidOutTree& tree);
+
+    /// The child of that name; LaidOutElement::None when there is none.
+    int ChildOf(int parent, const QString& name) const
+    {
+        return m_children.value({parent, name}, LaidOutElement::None);
+    }
+
+private:
+    QHash<QPair<int, QString>, int> m_children; ///< by parent, of the root AboveRoot, and name
+};
 
 bool isContainer(const LaidOutElement& element);
 

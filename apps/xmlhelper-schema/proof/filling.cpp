@@ -88,6 +88,7 @@ class FillingObserver : public IXMLHelper
 public:
     FillingObserver(const LaidOutTree& tree, const Filling& filling)
         : m_tree(tree)
+        , m_names(tree)
         , m_filling(filling)
         , m_builder(this)
     {
@@ -106,6 +107,7 @@ private:
     QString nextText() { return QStringLiteral("text %1").arg(++m_values); }
 
     const LaidOutTree& m_tree;
+    const NameIndex m_names;
     const Filling& m_filling;
     QDomDocument m_document;
     int m_values = 0; ///< given so far: keys of XML Schema must differ
@@ -149,18 +151,10 @@ void FillingObserver::XmlUpdate(XmlEvent* event)
 /// The first element of the tree under the same names; LaidOutElement::None when there is none.
 int FillingObserver::indexOf(const QDomElement& element) const
 {
-    if (!element.parentNode().isElement()) {
-        return m_tree.IsEmpty() || m_tree.elements.front().name != element.tagName() ? LaidOutElement::None : 0;
-    }
-    const int parent = indexOf(element.parentNode().toElement());
-    if (parent == LaidOutElement::None) {
-        return parent;
-    }
-    const std::vector<int>& children = m_tree.elements[std::size_t(parent)].children;
-    const auto found = std::find_if(children.begin(), children.end(), [&](int child) {
-        return m_tree.elements[std::size_t(child)].name == element.tagName();
-    });
-    return found == children.end() ? LaidOutElement::None : *found;
+    const QDomElement around = element.parentNode().toElement();
+    const int parent = around.isNull() ? NameIndex::AboveRoot : indexOf(around);
+    const bool isBelowNothing = !around.isNull() && parent == LaidOutElement::None;
+    return isBelowNothing ? LaidOutElement::None : m_names.ChildOf(parent, element.tagName());
 }
 
 /// Makes a second one of an element that stands alone and may repeat. Gives whether there is one now.
@@ -269,22 +263,24 @@ bool isAround(const LaidOutTree& tree, int outer, int inner)
 
 } // namespace
 
-std::vector<Filling> fillingsOf(const LaidOutTree& tree)
+std::vector<Filling> fillingsOf(const LaidOutTree& tree, int most, int& all)
 {
     const auto isOptionalAt = [&tree](int index) { return isOptional(tree.elements[std::size_t(index)]); };
-    const std::vector<bool> all = wantedIn(tree, [](int) { return false; });
+    const std::vector<bool> everything = wantedIn(tree, [](int) { return false; });
     const std::vector<bool> required = wantedIn(tree, isOptionalAt);
     std::vector<Filling> fillings {
         {QStringLiteral("with nothing but what is required"), required, false, false},
+        {QStringLiteral("with everything"), everything, true, false},
+        {QStringLiteral("with everything, and twice what may repeat"), everything, true, true},
         {QStringLiteral("with nothing but what is required, and twice what may repeat"), required, false, true},
-        {QStringLiteral("with everything"), all, true, false},
-        {QStringLiteral("with everything, and twice what may repeat"), all, true, true},
     };
+    all = int(fillings.size());
+    fillings.resize(std::size_t(std::clamp(most, 0, all)));
     std::set<std::tuple<QString, int, QString>> declarations; // of the containers tried
     for (int container = 0; container < int(tree.elements.size()); ++container) {
         const LaidOutElement& element = tree.elements[std::size_t(container)];
-        if (!isContainer(element) || !isOptional(element) || !all[std::size_t(container)]
-            || !declarations.emplace(element.place.file, element.place.line, element.name).second) {
+        if (!isContainer(element) || !isOptional(element) || !everything[std::size_t(container)]
+            || !declarations.emplace(element.place.file, element.place.line, element.name).second || ++all > most) {
             continue;
         }
         const auto isLeftOut = [&](int index) { return isOptionalAt(index) && !isAround(tree, index, container); };

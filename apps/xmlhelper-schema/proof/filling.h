@@ -19,9 +19,12 @@ struct Filling
     bool isTwice = false; ///< whatever may repeat
 };
 
-/// The fillings that together try what a schema allows: only what is required, and everything, each also with twice what
-/// may repeat; each optional container alone. Of the alternatives of a choice the first stands for all.
-std::vector<Filling> fillingsOf(const LaidOutTree& tree);
+/// The fillings that together try what a schema allows: only what is required, and everything, each also with twice
+/// what may repeat; each optional container alone. Of the alternatives of a choice the first stands for all.
+///
+/// @param most  how many at most are given
+/// @param all   becomes how many there are
+std::vector<Filling> fillingsOf(const LaidOutTree& tree, int most, int& all);
 
 /// The report that the library makes of a schema when it is filled so, as the bytes of its file. All values fit the
 /// types and the facets that the library hands out; optional attributes are filled with everything else, and removed

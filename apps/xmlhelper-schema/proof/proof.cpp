@@ -24,15 +24,15 @@ namespace {
 /// Reading a schema of so many characters takes about as long as filling one element.
 constexpr int CharactersOfAnElement = 50;
 
-/// As many of the fillings as the doctor has time for.
-int affordable(const std::vector<Filling>& fillings, const Examination& examination)
+/// How many reports the doctor has time for.
+int affordableReports(const Examination& examination)
 {
     qsizetype characters = 0;
     for (const auto& text : examination.texts) {
         characters += text.second.size();
     }
     const qsizetype cost = qsizetype(examination.tree.elements.size()) + characters / CharactersOfAnElement;
-    return int(std::min(qsizetype(fillings.size()), MaxProofElements / std::max(qsizetype(1), cost)));
+    return int(MaxProofElements / std::max(qsizetype(1), cost));
 }
 
 QByteArray filledAndValidated(const QString& file, const LaidOutTree& tree, const std::vector<Filling>& fillings)
@@ -69,18 +69,22 @@ public:
     bool IsAbout(const Finding& finding, int element);
 
 private:
+    const QString& pathTo(int element);
     const std::set<PlaceKey>& placesOf(int element);
     void addAround(const TextNode* tag, std::set<PlaceKey>& places) const;
     void addBelow(const TextNode& tag, std::set<PlaceKey>& places, QSet<const TextNode*>& visited) const;
 
     const LaidOutTree& m_tree;
+    const NameIndex m_names;
     QHash<QString, QHash<int, std::vector<const TextNode*>>> m_tags; ///< by file and line
     QHash<QString, std::vector<const TextNode*>> m_globals;
-    std::map<int, std::set<PlaceKey>> m_places; ///< of the elements asked for
+    std::map<int, QString> m_paths; ///< of the elements asked for
+    std::map<int, std::set<PlaceKey>> m_places; ///< likewise
 };
 
 Surroundings::Surroundings(const LaidOutTree& tree, const std::vector<const TextFile*>& files)
     : m_tree(tree)
+    , m_names(tree)
 {
     for (const TextFile* const file : files) {
         for (const TextNode* const tag : file->tags) {
@@ -95,17 +99,13 @@ Surroundings::Surroundings(const LaidOutTree& tree, const std::vector<const Text
 int Surroundings::Find(const QStringList& names) const
 {
     int found = LaidOutElement::None;
-    if (names.isEmpty() || m_tree.IsEmpty() || m_tree.elements.front().name != names.first()) {
-        return found;
-    }
-    int next = 0;
-    for (int level = 1; next != LaidOutElement::None; ++level) {
+    int next = NameIndex::AboveRoot;
+    for (const QString& name : names) {
+        next = m_names.ChildOf(next, name);
+        if (next == LaidOutElement::None) {
+            break;
+        }
         found = next;
-        const std::vector<int>& children = m_tree.elements[std::size_t(found)].children;
-        const auto child = std::find_if(children.begin(), children.end(), [&](int index) {
-            return m_tree.elements[std::size_t(index)].name == names.value(level);
-        });
-        next = child == children.end() ? LaidOutElement::None : *child;
     }
     return found;
 }
@@ -116,8 +116,17 @@ bool Surroundings::IsAbout(const Finding& finding, int element)
         return false;
     }
     const bool isAboutAll = finding.severity == Severity::Error && finding.place.line == 0;
-    return isAboutAll || (!finding.path.isEmpty() && finding.path == pathOf(m_tree, element))
+    return isAboutAll || (!finding.path.isEmpty() && finding.path == pathTo(element))
         || placesOf(element).count(keyOf(finding.place)) > 0;
+}
+
+const QString& Surroundings::pathTo(int element)
+{
+    QString& path = m_paths[element];
+    if (path.isEmpty()) {
+        path = pathOf(m_tree, element);
+    }
+    return path;
 }
 
 const std::set<PlaceKey>& Surroundings::placesOf(int element)
@@ -219,10 +228,9 @@ void addUnforetold(const QVector<ValidityError>& errors, const std::vector<Filli
 void prove(const QString& file, const std::vector<const TextFile*>& files, Examination& examination)
 {
     Proof& proof = examination.proof;
-    std::vector<Filling> fillings = fillingsOf(examination.tree);
-    const int count = affordable(fillings, examination);
-    const int all = int(fillings.size());
-    fillings.erase(fillings.begin() + count, fillings.end());
+    int all = 0;
+    const std::vector<Filling> fillings = fillingsOf(examination.tree, affordableReports(examination), all);
+    const int count = int(fillings.size());
     ChildResult result;
     if (count > 0) {
         result = resultOfChild([&](const auto& write) { write(filledAndValidated(file, examination.tree, fillings)); });

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <set>
 #include <utility>
 
@@ -15,18 +14,29 @@ const TextNode* particleOf(const SchemaRecord::ElementOrigin& origin)
     return isReferred ? origin.reference : origin.declaration;
 }
 
-/// Whether both stand in one sequence, @p first behind @p second.
-bool isReversed(const TextNode* first, const TextNode* second)
+/// Knows where tags stand in their files.
+class Positions
 {
-    if (!first || !second || first == second || first->parent != second->parent || !first->parent
-        || !first->parent->Is("sequence")) {
-        return false;
+public:
+    explicit Positions(const std::vector<const TextFile*>& files)
+    {
+        for (const TextFile* const file : files) {
+            for (const TextNode* const tag : file->tags) {
+                m_positions.insert(tag, int(m_positions.size()));
+            }
+        }
     }
-    const auto& children = first->parent->children;
-    const auto isOneOfThem
-        = [&](const std::unique_ptr<TextNode>& child) { return child.get() == first || child.get() == second; };
-    return std::find_if(children.begin(), children.end(), isOneOfThem)->get() == second;
-}
+
+    /// Whether both stand in one sequence, @p first behind @p second.
+    bool AreReversed(const TextNode* first, const TextNode* second) const
+    {
+        return first && second && first->parent && first->parent == second->parent && first->parent->Is("sequence")
+            && m_positions.value(first) > m_positions.value(second);
+    }
+
+private:
+    QHash<const TextNode*, int> m_positions;
+};
 
 } // namespace
 
@@ -36,13 +46,14 @@ void otherOrder(const Schema& schema, Findings& findings)
 {
     const LaidOutTree& tree = schema.GetTree();
     const std::vector<SchemaRecord::ElementOrigin>& origins = schema.GetRecord().GetOrigins();
+    const Positions positions(schema.GetFiles());
     std::set<std::pair<const TextNode*, const TextNode*>> told;
     for (const LaidOutElement& element : tree.elements) {
         for (std::size_t child = 1; child < element.children.size(); ++child) {
             const int index = element.children[child];
             const TextNode* const first = particleOf(origins[std::size_t(element.children[child - 1])]);
             const TextNode* const second = particleOf(origins[std::size_t(index)]);
-            if (!isReversed(first, second) || !told.emplace(first, second).second) {
+            if (!positions.AreReversed(first, second) || !told.emplace(first, second).second) {
                 continue;
             }
             findings.Add(Severity::Error, second->GetPlace(), nameOf(*second),
