@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <tuple>
+#include <utility>
 
+#include <QHash>
 #include <QSet>
 
 #include <xmlhelper/documentfile_p.h>
@@ -89,17 +91,27 @@ void tellReading(const SchemaRecord& record, Examination& examination)
                          record.GetLimit()};
 }
 
-/// Errors first; then the files in the order of reading, and the lines.
+/// Groups of one cause: those with the worst findings first, and of these what the rules look at first, because what
+/// follows often goes with it. In each, the worst first, then the files in the order of reading, and the lines.
 void sortFindings(QVector<Finding>& findings, const SchemaRecord& record)
 {
-    QHash<QString, int> ranks;
+    QHash<QString, int> files;
     for (const TextFile* const file : record.GetReadFiles()) {
-        ranks.insert(file->name, int(ranks.size()));
+        files.insert(file->name, int(files.size()));
     }
-    std::stable_sort(findings.begin(), findings.end(), [&ranks](const Finding& left, const Finding& right) {
-        const auto keyOf = [&ranks](const Finding& finding) {
-            return std::make_tuple(-int(finding.severity), ranks.value(finding.place.file, int(ranks.size())),
-                                   finding.place.line);
+    QHash<QString, std::pair<int, int>> causes; // how bad, and when it was found first
+    for (int index = 0; index < int(findings.size()); ++index) {
+        const Finding& finding = findings.at(index);
+        auto cause = causes.find(causeOf(finding));
+        if (cause == causes.end()) {
+            cause = causes.insert(causeOf(finding), {0, index});
+        }
+        cause->first = std::min(cause->first, -int(finding.severity));
+    }
+    std::stable_sort(findings.begin(), findings.end(), [&](const Finding& left, const Finding& right) {
+        const auto keyOf = [&](const Finding& finding) {
+            return std::make_tuple(causes.value(causeOf(finding)), -int(finding.severity),
+                                   files.value(finding.place.file, int(files.size())), finding.place.line);
         };
         return keyOf(left) < keyOf(right);
     });

@@ -431,8 +431,13 @@ private:
                 QLatin1String("p"),
                 QStringLiteral("The first %1 of %2; --json prints all of them.").arg(shownFindings).arg(count));
         }
-        for (int number = 0; number < std::min(count, shownFindings); ++number) {
-            writeFinding(number);
+        for (const FindingGroup& group : groupsOf(m_examination.findings)) {
+            if (group.count > 1 && group.first < shownFindings) {
+                m_writer.Element(QLatin1String("h3"), wordsFor(group));
+            }
+            for (int number = group.first; number < std::min(group.first + group.count, shownFindings); ++number) {
+                writeFinding(number);
+            }
         }
         m_writer.End(QLatin1String("section"));
     }

@@ -47,7 +47,7 @@ struct Examination
     /// When it cannot, the rest may be empty, except for `texts` and `includes` as far as the reading came.
     QString unreadableReason;
 
-    QVector<Finding> findings; ///< sorted: errors first, then by file (the top file first) and line
+    QVector<Finding> findings; ///< sorted by causes, see groupsOf(): what to mend first comes first
     LaidOutTree tree; ///< empty when nothing is laid out
     QString noTreeReason; ///< why `tree` is empty, in a sentence
     QVector<RootCandidate> rootCandidates;

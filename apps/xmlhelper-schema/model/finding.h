@@ -2,6 +2,7 @@
 #define SCHEMADOCTOR_FINDING_H
 
 #include <QString>
+#include <QVector>
 
 namespace schemadoctor {
 
@@ -29,12 +30,30 @@ struct Finding
     QString effect; ///< what the library does with it
     QString remedy; ///< what to write instead
     QString path; ///< of the laid-out element concerned, as pathOf() gives it; empty when there is none
+    QString cause; ///< what brings it about, where findings of several rules are mended together; else empty
 
     /// The piece of structure as the author means it beside the piece as it is laid out: indented text, a line for
     /// each element. Both are empty for findings that are not about structure.
     QString meantTree;
     QString laidOutTree;
 };
+
+/// Findings of one cause, which follow each other.
+struct FindingGroup
+{
+    QString cause; ///< the rule where no other is given
+    int first = 0;
+    int count = 0;
+};
+
+/// The cause that findings are put together by.
+QString causeOf(const Finding& finding);
+
+/// The groups of findings that are sorted by causes.
+QVector<FindingGroup> groupsOf(const QVector<Finding>& findings);
+
+/// "the prefix 'st:': 96 findings"
+QString wordsFor(const FindingGroup& group);
 
 /// "note", "warning" or "error".
 QString nameOf(Severity severity);

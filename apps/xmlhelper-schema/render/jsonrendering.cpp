@@ -105,6 +105,7 @@ QJsonObject jsonFor(const Finding& finding)
             {key("what"), finding.what},
             {key("effect"), finding.effect},
             {key("remedy"), finding.remedy},
+            {key("cause"), causeOf(finding)},
             {key("path"), finding.path},
             {key("meantTree"), finding.meantTree},
             {key("laidOutTree"), finding.laidOutTree}};

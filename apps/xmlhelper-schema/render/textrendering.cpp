@@ -204,8 +204,13 @@ QString textOf(const Examination& examination)
     }
     if (examination.IsReadable() || !examination.findings.isEmpty()) {
         text += QLatin1Char('\n');
-        for (const Finding& finding : examination.findings) {
-            text += findingText(finding);
+        for (const FindingGroup& group : groupsOf(examination.findings)) {
+            if (group.count > 1) {
+                text += wordsFor(group) + QLatin1Char('\n');
+            }
+            for (int index = group.first; index < group.first + group.count; ++index) {
+                text += findingText(examination.findings.at(index));
+            }
         }
         text += summaryOf(examination.findings) + QLatin1Char('\n') + proofText(examination.proof);
     }

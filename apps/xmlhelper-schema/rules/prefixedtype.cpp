@@ -17,7 +17,7 @@ void prefixedType(const Schema& schema, Findings& findings)
         for (const char* const attribute : {"type", "ref", "base"}) {
             const QString name = tag->Value(attribute);
             if (isOtherwisePrefixed(name)) {
-                findings.Add(
+                Finding& finding = findings.Add(
                     Severity::Error, *tag,
                     QStringLiteral("%1=\"%2\" has a prefix that is not 'xs:'.").arg(QLatin1String(attribute), name),
                     isBuiltIn(name) ? QStringLiteral("It contains 'xs:', so its first three characters are cut "
@@ -27,6 +27,7 @@ void prefixedType(const Schema& schema, Findings& findings)
                                           .arg(name),
                     QStringLiteral("Write '%1' for a definition of the schema, 'xs:%1' for a type of XML Schema.")
                         .arg(localPart(name)));
+                finding.cause = QStringLiteral("the prefix '%1:'").arg(name.section(QLatin1Char(':'), 0, 0));
             }
         }
     }

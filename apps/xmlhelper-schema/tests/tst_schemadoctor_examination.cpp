@@ -248,6 +248,8 @@ private Q_SLOTS:
     void ofAMalformedFileIsUnreadable();
     void endsWithTheWorstFinding_data();
     void endsWithTheWorstFinding();
+    void putsFindingsOfOneCauseTogether();
+    void showsEachPairOfTreesOnce();
     void printsEveryElementAndFinding();
     void writesEveryElementAndFindingAsJson();
     void fillsAReport();
@@ -813,6 +815,59 @@ void TestSchemaDoctorExamination::endsWithTheWorstFinding()
         examination.findings.last().severity = Severity(severity);
     }
     QCOMPARE(int(exitStatusOf(examination)), status);
+}
+
+/// What keeps the whole schema from being read comes first, whatever stands in front of it.
+void TestSchemaDoctorExamination::putsFindingsOfOneCauseTogether()
+{
+    const Examination examination = examined("<xs:element name='Report'><xs:complexType><xs:sequence>\n"
+                                             "<xs:element name='Note' nillable='true' type='xs:string'/>\n"
+                                             "<xs:element name='Cost' type='st:Level'/>\n"
+                                             "<xs:any/>\n"
+                                             "<xs:element name='Size' type='st:Level'/>\n"
+                                             "</xs:sequence></xs:complexType></xs:element>");
+    const QVector<FindingGroup> groups = groupsOf(examination.findings);
+    QCOMPARE(wordsFor(groups.constFirst()), QStringLiteral("the prefix 'st:': 3 findings"));
+    QStringList causes;
+    int count = 0;
+    for (const FindingGroup& group : groups) {
+        causes.append(group.cause);
+        QCOMPARE(group.first, count);
+        count += group.count;
+    }
+    QCOMPARE(count, int(examination.findings.size()));
+    QCOMPARE(causes.removeDuplicates(), 0);
+    QStringList rules;
+    for (int index = 0; index < groups.constFirst().count; ++index) {
+        rules.append(examination.findings.at(index).rule);
+    }
+    QCOMPARE(rules,
+             (QStringList {QStringLiteral("prefixed-type"), QStringLiteral("prefixed-type"),
+                           QStringLiteral("invalid-schema")}));
+    QVERIFY(textOf(examination).contains(QStringLiteral("\nthe prefix 'st:': 3 findings\n")));
+    QVERIFY(!textOf(examination).contains(QStringLiteral("any: 1 findings")));
+}
+
+void TestSchemaDoctorExamination::showsEachPairOfTreesOnce()
+{
+    const Examination examination = examined("<xs:complexType name='Signal'><xs:sequence>\n"
+                                             "<xs:element name='Level' type='xs:double'/></xs:sequence>\n"
+                                             "<xs:attribute name='First' type='xs:string'/>\n"
+                                             "<xs:attribute name='Second' type='xs:string'/></xs:complexType>\n"
+                                             "<xs:element name='Report'><xs:complexType><xs:sequence>"
+                                             "<xs:element name='Signal' type='Signal'/>"
+                                             "</xs:sequence></xs:complexType></xs:element>");
+    QStringList trees;
+    int findings = 0;
+    for (const Finding& finding : examination.findings) {
+        findings += finding.rule == QLatin1String("attributes-after-elements") ? 1 : 0;
+        if (!finding.meantTree.isEmpty()) {
+            trees.append(finding.meantTree + finding.laidOutTree);
+        }
+    }
+    QCOMPARE(findings, 2);
+    QVERIFY(!trees.isEmpty());
+    QCOMPARE(trees.removeDuplicates(), 0);
 }
 
 void TestSchemaDoctorExamination::printsEveryElementAndFinding()

@@ -178,7 +178,6 @@ QWidget* DoctorWindow::makeFindingsPane()
     m_pFindings->setObjectName(QStringLiteral("findings"));
     m_pFindings->setHeaderLabels(
         {QStringLiteral("Finding"), QStringLiteral("Line"), QStringLiteral("Rule"), QStringLiteral("What")});
-    m_pFindings->setRootIsDecorated(false);
     m_pFindings->setUniformRowHeights(true);
     fillFindings();
     m_pDetails->setObjectName(QStringLiteral("details"));
@@ -197,18 +196,34 @@ QWidget* DoctorWindow::makeFindingsPane()
     return pane;
 }
 
+QTreeWidgetItem* DoctorWindow::makeItem(int number) const
+{
+    const Finding& finding = m_examination.findings.at(number);
+    auto* const item = new QTreeWidgetItem(
+        QStringList {nameOf(finding.severity), wordsFor(finding.place), finding.rule, finding.what});
+    item->setIcon(0, style()->standardIcon(pictureOf(finding.severity)));
+    item->setData(0, numberRole, number);
+    return item;
+}
+
+/// Findings of one cause are folded under a line that stands for them and shows the first.
 void DoctorWindow::fillFindings()
 {
     QList<QTreeWidgetItem*> items;
-    for (int number = 0; number < m_examination.findings.size(); ++number) {
-        const Finding& finding = m_examination.findings.at(number);
-        auto* const item = new QTreeWidgetItem(
-            QStringList {nameOf(finding.severity), wordsFor(finding.place), finding.rule, finding.what});
-        item->setIcon(0, style()->standardIcon(pictureOf(finding.severity)));
-        item->setData(0, numberRole, number);
-        items.append(item);
+    for (const FindingGroup& group : groupsOf(m_examination.findings)) {
+        if (group.count == 1) {
+            items.append(makeItem(group.first));
+            continue;
+        }
+        auto* const parent = makeItem(group.first);
+        parent->setText(3, wordsFor(group));
+        for (int number = group.first; number < group.first + group.count; ++number) {
+            parent->addChild(makeItem(number));
+        }
+        items.append(parent);
     }
     m_pFindings->addTopLevelItems(items);
+    m_pFindings->expandAll();
     for (int column = 0; column < m_pFindings->columnCount() - 1; ++column) {
         m_pFindings->resizeColumnToContents(column);
     }

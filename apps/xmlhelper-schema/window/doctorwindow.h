@@ -11,6 +11,7 @@ class QPlainTextEdit;
 class QSortFilterProxyModel;
 class QTreeView;
 class QTreeWidget;
+class QTreeWidgetItem;
 
 namespace schemadoctor {
 
@@ -32,6 +33,7 @@ private:
     QWidget* makeTreePane();
     QWidget* makeTextPane();
     QWidget* makeFindingsPane();
+    QTreeWidgetItem* makeItem(int number) const;
     void fillFindings();
 
     void showElement(const QModelIndex& index);

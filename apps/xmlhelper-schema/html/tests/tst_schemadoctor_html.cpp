@@ -42,6 +42,7 @@ private Q_SLOTS:
     void showsEachElementWithItsFacts();
     void marksTheElementOfAFinding();
     void showsAFindingWithBothTrees();
+    void headsFindingsOfOneCause();
     void givesEachLineOfTheSchemaAPlace();
     void saysWhyThereIsNoTree();
     void saysWhyTheSchemaCannotBeRead();
@@ -147,6 +148,14 @@ void TestHtmlRendering::showsAFindingWithBothTrees()
     const QString page = pageOf(sampleExamination());
     QVERIFY(page.contains(QLatin1String("<pre>Signal\n  Level</pre>")));
     QVERIFY(page.contains(QLatin1String("<pre>Signal\nLevel</pre>")));
+}
+
+void TestHtmlRendering::headsFindingsOfOneCause()
+{
+    Examination examination = sampleExamination();
+    QVERIFY(!htmlOf(examination).contains("never-fillable: "));
+    examination.findings.insert(1, examination.findings.constFirst());
+    QVERIFY(htmlOf(examination).contains("<h3>never-fillable: 2 findings</h3>"));
 }
 
 void TestHtmlRendering::givesEachLineOfTheSchemaAPlace()

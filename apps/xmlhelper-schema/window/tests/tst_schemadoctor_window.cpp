@@ -51,6 +51,7 @@ private Q_SLOTS:
     void showsTheFileOfAnAttribute();
     void startsWithTheFirstFinding();
     void showsAllOfAFinding();
+    void foldsFindingsOfOneCause();
     void showsTheElementOfAFinding();
     void filtersByName();
     void findsByKeyboard();
@@ -153,6 +154,22 @@ void TestSchemaDoctorWindow::showsAllOfAFinding()
         QVERIFY2(details.contains(QLatin1String(words)), words);
     }
     QCOMPARE(window.findChild<SchemaTextView*>(QStringLiteral("text"))->MarkedLine(), 5);
+}
+
+void TestSchemaDoctorWindow::foldsFindingsOfOneCause()
+{
+    Examination examination = sampleExamination();
+    examination.findings.insert(1, examination.findings.constFirst());
+    examination.findings[1].effect = QStringLiteral("The second of its kind.");
+    DoctorWindow window(examination);
+    auto* const findings = window.findChild<QTreeWidget*>(QStringLiteral("findings"));
+    QCOMPARE(findings->topLevelItemCount(), 3);
+    QTreeWidgetItem* const group = findings->topLevelItem(0);
+    QCOMPARE(group->text(3), QStringLiteral("never-fillable: 2 findings"));
+    QCOMPARE(group->childCount(), 2);
+    findings->setCurrentItem(group->child(1));
+    const auto* const details = window.findChild<QPlainTextEdit*>(QStringLiteral("details"));
+    QVERIFY(details->toPlainText().contains(QStringLiteral("The second of its kind.")));
 }
 
 void TestSchemaDoctorWindow::showsTheElementOfAFinding()
