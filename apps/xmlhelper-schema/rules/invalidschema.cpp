@@ -13,7 +13,7 @@ namespace {
 QString undeclaredPrefixIn(const QString& message)
 {
     static const QRegularExpression pattern(
-        QStringLiteral("The QName value '([^':]+):[^']*' has no corresponding namespace declaration"));
+        QStringLiteral("'([^':]+):[^']*' of simple type 'xs:QName' has no corresponding namespace declaration"));
     return pattern.match(message).captured(1);
 }
 
