@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <functional>
+#include <map>
 
 #include <QDateTime>
 #include <QDir>
@@ -137,6 +138,15 @@ private Q_SLOTS:
     void fatesAreTrue();
 
 private:
+    /// Each file is examined once: most of the time goes into that.
+    const Examination& examinationOf(const QString& file)
+    {
+        auto found = m_examinations.find(file);
+        if (found == m_examinations.end()) {
+            found = m_examinations.emplace(file, examine(file)).first;
+        }
+        return found->second;
+    }
     static QStringList files()
     {
         return QDir(QStringLiteral(CORPUS_FOLDER)).entryList({QStringLiteral("*.xsd")}, QDir::Files, QDir::Name);
@@ -149,6 +159,8 @@ private:
             QTest::newRow(qPrintable(name.chopped(4))) << QStringLiteral(CORPUS_FOLDER "/") + name;
         }
     }
+
+    std::map<QString, Examination> m_examinations;
 };
 
 void TestSchemaDoctorCorpus::hasEnoughFiles()
@@ -160,7 +172,7 @@ void TestSchemaDoctorCorpus::hasEnoughFiles()
 void TestSchemaDoctorCorpus::isForetold()
 {
     QFETCH(QString, file);
-    const Examination examination = examine(file);
+    const Examination& examination = examinationOf(file);
     QVERIFY2(examination.IsReadable(), qPrintable(examination.unreadableReason));
     for (const Finding& finding : examination.findings) {
         QVERIFY2(finding.rule != QLatin1String("unforetold"),
@@ -180,7 +192,7 @@ void TestSchemaDoctorCorpus::settersAreTrue()
         {Setter::DateTime, [](XmlCreateReport& builder) { builder.SetXmlValue(QDateTime::currentDateTimeUtc()); }},
         {Setter::Time, [](XmlCreateReport& builder) { builder.SetXmlValue(QTime(1, 2, 3)); }},
     };
-    const Examination examination = examine(file, false);
+    const Examination& examination = examinationOf(file);
     for (int index = 0; index < int(examination.tree.elements.size()); ++index) {
         const LaidOutElement& element = examination.tree.elements[std::size_t(index)];
         for (const auto& [setter, call] : calls) {
@@ -201,7 +213,7 @@ void TestSchemaDoctorCorpus::settersAreTrue()
 void TestSchemaDoctorCorpus::countsAreTrue()
 {
     QFETCH(QString, file);
-    const Examination examination = examine(file, false);
+    const Examination& examination = examinationOf(file);
     for (int index = 0; index < int(examination.tree.elements.size()); ++index) {
         const LaidOutElement& element = examination.tree.elements[std::size_t(index)];
         const int greatest = element.counts.greatest;
@@ -224,7 +236,7 @@ void TestSchemaDoctorCorpus::countsAreTrue()
 void TestSchemaDoctorCorpus::fatesAreTrue()
 {
     QFETCH(QString, file);
-    const Examination examination = examine(file, false);
+    const Examination& examination = examinationOf(file);
     const LaidOutTree& tree = examination.tree;
     for (int index = 1; index < int(tree.elements.size()); ++index) {
         const LaidOutElement& element = tree.elements[std::size_t(index)];
