@@ -10,6 +10,7 @@
 
 #include <QDataStream>
 #include <QFileInfo>
+#include <QIODevice>
 #include <QUrl>
 
 #include "xmlfile.h"

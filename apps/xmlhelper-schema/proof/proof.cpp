@@ -8,6 +8,7 @@
 
 #include <QDataStream>
 #include <QHash>
+#include <QIODevice>
 #include <QSet>
 
 #include <confinedchild.h>
