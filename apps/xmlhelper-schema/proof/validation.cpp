@@ -27,7 +27,7 @@ struct Listener
 {
     QVector<ValidityError>* pErrors;
     int report;
-    int left;
+    int left; // cppcheck-suppress unusedStructMember ; counted down by collect()
 };
 
 QString stringOf(const xmlChar* text)
@@ -77,6 +77,7 @@ QDataStream& operator<<(QDataStream& stream, const ValidityError& error)
     return stream << error.report << error.names << error.isOfContent << error.sentence;
 }
 
+// cppcheck-suppress constParameter ; the stream writes into it
 QDataStream& operator>>(QDataStream& stream, ValidityError& error)
 {
     return stream >> error.report >> error.names >> error.isOfContent >> error.sentence;

@@ -74,9 +74,9 @@ int branchOf(const TextNode* tag)
         tag = tag->parent;
     }
     const auto isTag = [tag](const std::unique_ptr<TextNode>& child) { return child.get() == tag; };
-    return choice ? 1
-            + int(std::find_if(choice->children.begin(), choice->children.end(), isTag) - choice->children.begin())
-                  : LaidOutElement::None;
+    return choice
+        ? 1 + int(std::find_if(choice->children.begin(), choice->children.end(), isTag) - choice->children.begin())
+        : LaidOutElement::None;
 }
 
 class TreeBuilder
@@ -114,7 +114,7 @@ LaidOutTree TreeBuilder::Build()
     struct Step
     {
         QDomElement element;
-        int index;
+        int index; // cppcheck-suppress unusedStructMember ; asked of the last step
     };
     const QDomElement root = m_record.GetRoot();
     std::vector<Step> open;
