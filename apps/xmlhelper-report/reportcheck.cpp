@@ -1,6 +1,7 @@
 #include "reportcheck.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QFileInfo>
 #include <QHash>
@@ -74,7 +75,7 @@ public:
                 applyRulesTo(node, paths);
             }
         }
-        for (const Finding& last : m_leftOut) {
+        for (const Finding& last : std::as_const(m_leftOut)) {
             m_result.findings.push_back(last);
         }
     }

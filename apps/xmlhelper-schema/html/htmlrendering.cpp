@@ -431,7 +431,8 @@ private:
                 QLatin1String("p"),
                 QStringLiteral("The first %1 of %2; --json prints all of them.").arg(shownFindings).arg(count));
         }
-        for (const FindingGroup& group : groupsOf(m_examination.findings)) {
+        const QVector<FindingGroup> groups = groupsOf(m_examination.findings);
+        for (const FindingGroup& group : groups) {
             if (group.count > 1 && group.first < shownFindings) {
                 m_writer.Element(QLatin1String("h3"), wordsFor(group));
             }

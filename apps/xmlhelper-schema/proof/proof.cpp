@@ -246,7 +246,7 @@ void prove(const QString& file, const std::vector<const TextFile*>& files, Exami
         proof.leftOut = QStringLiteral("No report was validated: libxml2 does not take the schema.");
     } else {
         std::set<int> invalid;
-        for (const ValidityError& error : errors) {
+        for (const ValidityError& error : std::as_const(errors)) {
             invalid.insert(error.report);
         }
         proof.reports = count;

@@ -204,7 +204,8 @@ QString textOf(const Examination& examination)
     }
     if (examination.IsReadable() || !examination.findings.isEmpty()) {
         text += QLatin1Char('\n');
-        for (const FindingGroup& group : groupsOf(examination.findings)) {
+        const QVector<FindingGroup> groups = groupsOf(examination.findings);
+        for (const FindingGroup& group : groups) {
             if (group.count > 1) {
                 text += wordsFor(group) + QLatin1Char('\n');
             }

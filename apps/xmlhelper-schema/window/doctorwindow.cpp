@@ -210,7 +210,8 @@ QTreeWidgetItem* DoctorWindow::makeItem(int number) const
 void DoctorWindow::fillFindings()
 {
     QList<QTreeWidgetItem*> items;
-    for (const FindingGroup& group : groupsOf(m_examination.findings)) {
+    const QVector<FindingGroup> groups = groupsOf(m_examination.findings);
+    for (const FindingGroup& group : groups) {
         if (group.count == 1) {
             items.append(makeItem(group.first));
             continue;
