@@ -1,5 +1,6 @@
 #include "confinedchild.h"
 
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 
@@ -26,6 +27,9 @@ void writeAll(int output, const QByteArray& bytes)
     const char* data = bytes.constData();
     for (ssize_t left = bytes.size(); left > 0;) {
         const ssize_t written = write(output, data, std::size_t(left));
+        if (written < 0 && errno == EINTR) {
+            continue;
+        }
         if (written <= 0) {
             _exit(1);
         }
@@ -34,7 +38,8 @@ void writeAll(int output, const QByteArray& bytes)
     }
 }
 
-/// What the child writes until it ends. Gives whether it came to its end in time.
+/// What the child writes until it ends. Gives whether it came to its end in time. Signals, such as that of a child's
+/// end, interrupt the waiting.
 bool readAll(int input, int milliseconds, QByteArray& result)
 {
     QElapsedTimer timer;
@@ -43,15 +48,27 @@ bool readAll(int input, int milliseconds, QByteArray& result)
     for (;;) {
         pollfd waiting {input, POLLIN, 0};
         const int left = milliseconds - int(timer.elapsed());
-        if (left <= 0 || poll(&waiting, 1, left) <= 0) {
+        const int ready = left > 0 ? poll(&waiting, 1, left) : 0;
+        const ssize_t count = ready > 0 ? read(input, buffer, sizeof buffer) : ready;
+        if (count > 0) {
+            result.append(buffer, int(count));
+        } else if (count == 0) {
+            return ready > 0;
+        } else if (errno != EINTR) {
             return false;
         }
-        const ssize_t count = read(input, buffer, sizeof buffer);
-        if (count <= 0) {
-            return true;
-        }
-        result.append(buffer, int(count));
     }
+}
+
+/// Waits for the end of the child. Gives whether it has done all.
+bool isDone(pid_t child)
+{
+    int status = 0;
+    pid_t ended = -1;
+    do {
+        ended = waitpid(child, &status, 0);
+    } while (ended < 0 && errno == EINTR);
+    return ended == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
 } // namespace
@@ -82,12 +99,10 @@ ChildResult resultOfChild(const std::function<void(const std::function<void(cons
     close(ends[1]);
     if (child > 0) {
         const bool isInTime = readAll(ends[0], limits.processorSeconds * MillisecondsOfASecond, result.bytes);
-        int status = 0;
         if (!isInTime) {
             kill(child, SIGKILL);
         }
-        result.isWhole
-            = waitpid(child, &status, 0) == child && isInTime && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+        result.isWhole = isDone(child) && isInTime;
     }
     close(ends[0]);
     return result;

@@ -134,8 +134,11 @@ FacetName facetNameIn(const QString& attribute)
             return {range, 0, attribute.mid(range.size())};
         }
     }
+    if (!attribute.startsWith(EnumerationFacet)) {
+        return {};
+    }
     const auto* const digits = attribute.cbegin() + EnumerationFacet.size();
-    if (!attribute.startsWith(EnumerationFacet) || digits == attribute.cend() || !digits->isDigit()) {
+    if (digits == attribute.cend() || !digits->isDigit()) {
         return {};
     }
     const auto* const end = std::find_if(digits, attribute.cend(), [](QChar one) { return !one.isDigit(); });

@@ -32,24 +32,27 @@ QString valueOf(const QVector<Facet>& facets, const QString& name)
     return found == facets.end() ? QString() : found->value;
 }
 
+/// The bound that one of the two facets sets; NaN without one. What is excluded is left by @p step.
+double boundOf(const QVector<Facet>& facets, const QString& inclusive, const QString& exclusive, double step)
+{
+    bool isNumber = false;
+    const double included = valueOf(facets, inclusive).toDouble(&isNumber);
+    if (isNumber) {
+        return included;
+    }
+    const double excluded = valueOf(facets, exclusive).toDouble(&isNumber);
+    return isNumber ? excluded + step : std::nan("");
+}
+
 /// The first number of the enumeration, or one within the bounds: halfway, or one off the only one.
-template <class Declared> double fittingNumber(const Declared& declared, double otherwise)
+/// @param step  from an excluded number to the next one: none between floating-point numbers, where halfway will do
+template <class Declared> double fittingNumber(const Declared& declared, double otherwise, double step)
 {
     if (!declared.enumeration.isEmpty()) {
         return declared.enumeration.constFirst().toDouble();
     }
-    const QVector<Facet>& facets = declared.facets;
-    const auto bound = [&facets](const QLatin1String& inclusive, const QLatin1String& exclusive, double beyond) {
-        bool isNumber = false;
-        const double number = valueOf(facets, inclusive).toDouble(&isNumber);
-        if (isNumber) {
-            return number;
-        }
-        const double excluded = valueOf(facets, exclusive).toDouble(&isNumber);
-        return isNumber ? excluded + beyond : std::nan("");
-    };
-    const double lowest = bound(MinInclusiveFacet, MinExclusiveFacet, 0);
-    const double highest = bound(MaxInclusiveFacet, MaxExclusiveFacet, 0);
+    const double lowest = boundOf(declared.facets, MinInclusiveFacet, MinExclusiveFacet, step);
+    const double highest = boundOf(declared.facets, MaxInclusiveFacet, MaxExclusiveFacet, -step);
     if (std::isnan(lowest) && std::isnan(highest)) {
         return otherwise;
     }
@@ -59,22 +62,26 @@ template <class Declared> double fittingNumber(const Declared& declared, double 
     return std::isnan(lowest) ? highest - 1 : lowest + (highest - lowest) / 2;
 }
 
+template <class Declared> int fittingInteger(const Declared& declared, int otherwise)
+{
+    return int(std::floor(fittingNumber(declared, otherwise, 1)));
+}
+
 /// The first text of the enumeration, or one of a length that fits.
 template <class Declared> QString fittingText(const Declared& declared, const QString& otherwise)
 {
+    const int longest = 1000;
     if (!declared.enumeration.isEmpty()) {
         return declared.enumeration.constFirst();
     }
-    const QVector<Facet>& facets = declared.facets;
-    for (const char* const facet : {"length", "minLength"}) {
-        const int length = valueOf(facets, QLatin1String(facet)).toInt();
-        if (length > otherwise.size() && length <= 1000) {
-            return otherwise.leftJustified(length, QLatin1Char('x'));
-        }
-    }
-    bool isBounded = false;
-    const int longest = valueOf(facets, QStringLiteral("maxLength")).toInt(&isBounded);
-    return isBounded ? otherwise.left(std::max(longest, 0)) : otherwise;
+    const auto lengthBy = [&](const char* facet, int without) {
+        bool isNumber = false;
+        const int length = valueOf(declared.facets, QLatin1String(facet)).toInt(&isNumber);
+        return isNumber ? std::clamp(length, 0, longest) : without;
+    };
+    const int least = lengthBy("length", lengthBy("minLength", 0));
+    const int greatest = lengthBy("length", lengthBy("maxLength", longest));
+    return otherwise.leftJustified(least, QLatin1Char('x')).left(greatest);
 }
 
 QDateTime someTime()
@@ -204,9 +211,9 @@ void FillingObserver::setAttribute(const DeclaredAttribute& attribute)
     if (attribute.setters.testFlag(Setter::Text)) {
         m_builder.SetAttributeValue(attribute.name, fittingText(attribute, nextText()));
     } else if (attribute.setters.testFlag(Setter::Integer)) {
-        m_builder.SetAttributeValue(attribute.name, int(fittingNumber(attribute, ++m_values)));
+        m_builder.SetAttributeValue(attribute.name, fittingInteger(attribute, ++m_values));
     } else if (attribute.setters.testFlag(Setter::Floating)) {
-        m_builder.SetAttributeValue(attribute.name, fittingNumber(attribute, 1.5));
+        m_builder.SetAttributeValue(attribute.name, fittingNumber(attribute, 1.5, 0));
     } else if (attribute.setters.testFlag(Setter::DateTime)) {
         m_builder.SetAttributeValue(attribute.name, someTime());
     }
@@ -217,11 +224,11 @@ void FillingObserver::setValue(const LaidOutElement& declared)
 {
     const Setters setters = declared.setters;
     if (setters.testFlag(Setter::Integer)) {
-        m_builder.SetXmlValue(int(fittingNumber(declared, ++m_values)));
+        m_builder.SetXmlValue(fittingInteger(declared, ++m_values));
     } else if (setters.testFlag(Setter::Text)) {
         m_builder.SetXmlValue(fittingText(declared, nextText()));
     } else if (setters.testFlag(Setter::Floating)) {
-        m_builder.SetXmlValue(fittingNumber(declared, 1.5));
+        m_builder.SetXmlValue(fittingNumber(declared, 1.5, 0));
     } else if (setters.testFlag(Setter::Truth)) {
         m_builder.SetXmlValue(true);
     } else if (setters.testFlag(Setter::DateTime)) {

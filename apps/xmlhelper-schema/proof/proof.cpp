@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <map>
 #include <set>
-#include <tuple>
 #include <utility>
 
 #include <QDataStream>
@@ -211,12 +210,12 @@ void addUnforetold(const QVector<ValidityError>& errors, const std::vector<Filli
                    const std::vector<const TextFile*>& files, Examination& examination)
 {
     Surroundings surroundings(examination.tree, files);
-    std::map<std::tuple<PlaceKey, QString>, bool> told;
+    std::set<std::pair<PlaceKey, QString>> told;
     QVector<Finding> unforetold;
     for (const ValidityError& error : errors) {
         const int element = std::max(0, surroundings.Find(error.names));
         const PlaceKey place = keyOf(examination.tree.elements[std::size_t(element)].place);
-        if (unforetold.size() < MaxFindingsOfARule && told.emplace(std::make_tuple(place, error.sentence), true).second
+        if (unforetold.size() < MaxFindingsOfARule && told.emplace(place, error.sentence).second
             && !isForetold(error, element, surroundings, examination)) {
             unforetold.append(findingOf(error, element, fillings[std::size_t(error.report)], examination.tree));
         }
@@ -224,16 +223,31 @@ void addUnforetold(const QVector<ValidityError>& errors, const std::vector<Filli
     examination.findings += unforetold;
 }
 
+/// Writes down how many of the reports are valid, and that the rest of @p all was left out.
+void tellReports(const QVector<ValidityError>& errors, int count, int all, Proof& proof)
+{
+    std::set<int> invalid;
+    for (const ValidityError& error : errors) {
+        invalid.insert(error.report);
+    }
+    proof.reports = count;
+    proof.validReports = count - int(invalid.size());
+    if (count < all) {
+        proof.leftOut
+            = QStringLiteral("Of %1 reports to be filled on trial, %2 were left out: they would take too long.")
+                  .arg(all)
+                  .arg(all - count);
+    }
+}
+
 } // namespace
 
 void prove(const QString& file, const std::vector<const TextFile*>& files, Examination& examination)
 {
-    Proof& proof = examination.proof;
     int all = 0;
     const std::vector<Filling> fillings = fillingsOf(examination.tree, affordableReports(examination), all);
-    const int count = int(fillings.size());
     ChildResult result;
-    if (count > 0) {
+    if (!fillings.empty()) {
         result = resultOfChild([&](const auto& write) { write(filledAndValidated(file, examination.tree, fillings)); });
     }
     bool isCompiled = false;
@@ -241,22 +255,11 @@ void prove(const QString& file, const std::vector<const TextFile*>& files, Exami
     QDataStream stream(result.bytes);
     stream >> isCompiled >> errors;
     if (!result.isWhole) {
-        proof.leftOut = QStringLiteral("No report was filled on trial: it would take too long.");
+        examination.proof.leftOut = QStringLiteral("No report was filled on trial: it would take too long.");
     } else if (!isCompiled) {
-        proof.leftOut = QStringLiteral("No report was validated: libxml2 does not take the schema.");
+        examination.proof.leftOut = QStringLiteral("No report was validated: libxml2 does not take the schema.");
     } else {
-        std::set<int> invalid;
-        for (const ValidityError& error : std::as_const(errors)) {
-            invalid.insert(error.report);
-        }
-        proof.reports = count;
-        proof.validReports = count - int(invalid.size());
-        if (count < all) {
-            proof.leftOut
-                = QStringLiteral("Of %1 reports to be filled on trial, %2 were left out: they would take too long.")
-                      .arg(all)
-                      .arg(all - count);
-        }
+        tellReports(errors, int(fillings.size()), all, examination.proof);
         addUnforetold(errors, fillings, files, examination);
     }
 }
