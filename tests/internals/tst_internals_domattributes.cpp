@@ -2,10 +2,9 @@
 #include <QSet>
 #include <QtTest>
 
-#include <ctime>
-
 #include <xmlhelper/domattributes_p.h>
 
+#include "cputime.h"
 #include "domtext.h"
 
 class TestDomAttributes : public QObject
@@ -31,13 +30,13 @@ void setAttributes(QDomElement element, int count)
 
 double secondsToList(const QDomElement& element, int times)
 {
-    const std::clock_t begin = std::clock();
+    const double begin = cpuSeconds();
     for (int i = 0; i < times; ++i) {
         const int count = int(attributesOf(element).size());
         Q_ASSERT(count == element.attributes().count());
         Q_UNUSED(count)
     }
-    return double(std::clock() - begin) / CLOCKS_PER_SEC;
+    return cpuSeconds() - begin;
 }
 
 } // namespace

@@ -8,7 +8,6 @@
 #endif
 
 #include <algorithm>
-#include <ctime>
 #include <vector>
 
 #include <QApplication>
@@ -20,6 +19,7 @@
 
 #include <xmlhelper/commentdialogimpl.h>
 
+#include "cputime.h"
 #include "reportingscene.h"
 
 namespace {
@@ -64,16 +64,16 @@ public:
         QCoreApplication::processEvents();
     }
 
-    /// The least processor time of a batch of presses, of some batches.
-    std::clock_t PressingTime()
+    /// The least processor time of a batch of presses, of some batches, in seconds.
+    double PressingTime()
     {
-        std::vector<std::clock_t> times(3);
-        for (std::clock_t& time : times) {
-            const std::clock_t start = std::clock();
+        std::vector<double> times(3);
+        for (double& time : times) {
+            const double start = cpuSeconds();
             for (int i = 0; i < 10; ++i) {
                 Press();
             }
-            time = std::clock() - start;
+            time = cpuSeconds() - start;
         }
         return *std::min_element(times.cbegin(), times.cend());
     }
@@ -149,12 +149,16 @@ void TestVCReportingManyPresses::pressesStayAsFastAsTheFirst()
     QFETCH(int, presses);
     Screen screen(showsDialog);
     screen.Press();
-    const std::clock_t first = screen.PressingTime();
+    const double first = screen.PressingTime();
     for (int i = 0; i < presses; ++i) {
         screen.Press();
     }
-    const std::clock_t last = screen.PressingTime();
-    QVERIFY2(last <= 2 * first, qPrintable(QStringLiteral("%1 at first, %2 at last").arg(first).arg(last)));
+    double last = screen.PressingTime();
+    for (int i = 0; i < 20 && last > 2 * first; ++i) { // What else slows the machine passes, growth does not.
+        last = std::min(last, screen.PressingTime());
+    }
+    QVERIFY2(last <= 2 * std::max(first, CpuTimeStep),
+             qPrintable(QStringLiteral("%1 s at first, %2 s at last").arg(first).arg(last)));
 }
 
 void TestVCReportingManyPresses::movedValuesAreSoughtInALargeTreeOnce_data()
@@ -167,7 +171,7 @@ void TestVCReportingManyPresses::movedValuesAreSoughtInALargeTreeOnce_data()
 void TestVCReportingManyPresses::movedValuesAreSoughtInALargeTreeOnce()
 {
     QFETCH(bool, areDeleted);
-    std::vector<std::clock_t> times;
+    std::vector<double> times;
     for (const std::size_t count : {1, 20}) {
         const Tree tree;
         Screen screen(false);
@@ -197,7 +201,8 @@ void TestVCReportingManyPresses::movedValuesAreSoughtInALargeTreeOnce()
         const QString text = screen.Report().documentElement().firstChildElement(QStringLiteral("Element0")).text();
         QCOMPARE(text, areDeleted ? QString() : QStringLiteral("value"));
     }
-    QVERIFY2(times[1] <= 3 * times[0], qPrintable(QStringLiteral("%1, %2").arg(times[0]).arg(times[1])));
+    QVERIFY2(times[1] <= 3 * std::max(times[0], CpuTimeStep),
+             qPrintable(QStringLiteral("%1, %2").arg(times[0]).arg(times[1])));
 }
 
 QTEST_MAIN(TestVCReportingManyPresses)

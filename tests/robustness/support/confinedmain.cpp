@@ -3,8 +3,6 @@
 // usage: xmlhelper_confined read FILE
 //        xmlhelper_confined build SCHEMA REPORT
 
-#include <ctime>
-
 #include <QCoreApplication>
 #include <QFile>
 #include <QTextStream>
@@ -14,6 +12,7 @@
 #include <xmlhelper/xmlevent.h>
 #include <xmlhelper/xmlreader.h>
 
+#include "cputime.h"
 #include "smallstack.h"
 #include "tracecollector.h"
 
@@ -70,7 +69,7 @@ int main(int argc, char** argv)
     bool result = false;
     bool isSameAgain = true;
     TraceCollector traces;
-    const std::clock_t begin = std::clock();
+    const double begin = cpuSeconds();
     runOnSmallStack([&] {
         if (arguments.at(1) == QLatin1String("read")) {
             result = read(observer, arguments.at(2), isSameAgain);
@@ -79,7 +78,7 @@ int main(int argc, char** argv)
             result = builder.CreateXmlFromSchema(arguments.at(2), arguments.value(3), false);
         }
     });
-    const std::clock_t end = std::clock();
+    const double seconds = cpuSeconds() - begin;
 
     QTextStream out(stdout);
     out << "result " << (result ? "true" : "false") << '\n';
@@ -88,7 +87,7 @@ int main(int argc, char** argv)
     for (const TraceCollector::Trace& trace : traces.Traces()) {
         out << "trace " << trace.message << '\n';
     }
-    out << "milliseconds " << qint64(end - begin) * 1000 / CLOCKS_PER_SEC << '\n';
+    out << "milliseconds " << qint64(seconds * 1000) << '\n';
     out << "megabytes " << peakMegabytes() << '\n';
     return isSameAgain ? 0 : 1;
 }
