@@ -437,6 +437,9 @@ void TestDocumentFile::savesUnderALongPath()
 {
 #ifdef Q_OS_UNIX
     constexpr int LongestPath = PATH_MAX - 1;
+#else
+    constexpr int LongestPath = 1000; // The usual ones end with 260.
+#endif
     QString folder = m_folder->path();
     while (folder.size() < LongestPath - 202) {
         folder += QLatin1Char('/') + QString(200, QLatin1Char('d'));
@@ -447,9 +450,7 @@ void TestDocumentFile::savesUnderALongPath()
         QVERIFY(saveDocument(documentOf(QStringLiteral("<r/>")), folder + QStringLiteral("/r")));
         QCOMPARE(bytesOf(folder + QStringLiteral("/r")), QByteArray("<r/>\n"));
     }
-#else
-    QSKIP("Paths are made longer than that here.");
-#endif
+    QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden), QStringList {QStringLiteral("r")});
 }
 
 void TestDocumentFile::savesToADevice()

@@ -58,37 +58,47 @@ private:
     qint64 writeData(const char*, qint64 size) override { return size; }
 };
 
+#ifdef Q_OS_WIN
+/// In the form that may have any length, as QFile opens it.
+std::wstring nativeName(const QString& fileName)
+{
+    const QString path = QDir::toNativeSeparators(QDir::cleanPath(QFileInfo(fileName).absoluteFilePath()));
+    const bool isOnServer = path.startsWith(QLatin1String("\\\\"));
+    return (isOnServer ? QLatin1String("\\\\?\\UNC") + path.mid(1) : QLatin1String("\\\\?\\") + path).toStdWString();
+}
+#else
+std::string nativeName(const QString& fileName)
+{
+    return QFile::encodeName(fileName).toStdString();
+}
+#endif
+
 /// Removes the file of a name when it goes. That takes no memory, the lack of which may be why nothing was saved.
 class Remover
 {
 public:
-#ifdef Q_OS_UNIX
     explicit Remover(const QString& fileName)
-        : m_name(QFile::encodeName(fileName))
+        : m_name(nativeName(fileName))
     {
     }
     ~Remover()
     {
-        ::unlink(m_name.constData());
-    }
-#else
-    explicit Remover(const QString& fileName)
-        : m_name(fileName.toStdWString())
-    {
-    }
-    ~Remover()
-    {
+#ifdef Q_OS_WIN
         DeleteFileW(m_name.c_str());
-    }
+#else
+        ::unlink(m_name.c_str());
 #endif
+    }
+
+    /// Removes nothing: the file is another's.
+    void Release()
+    {
+        m_name.clear();
+    }
 
 private:
     Q_DISABLE_COPY(Remover)
-#ifdef Q_OS_UNIX
-    const QByteArray m_name;
-#else
-    const std::wstring m_name;
-#endif
+    decltype(nativeName(QString())) m_name;
 };
 
 bool write(const QDomDocument& document, QIODevice& device)
@@ -199,10 +209,9 @@ bool takeAccess(const QFile& file, const QFileInfo& target)
 bool replace(const QString& target, const QString& file)
 {
 #ifdef Q_OS_UNIX
-    return std::rename(QFile::encodeName(file).constData(), QFile::encodeName(target).constData()) == 0;
+    return std::rename(nativeName(file).c_str(), nativeName(target).c_str()) == 0;
 #else
-    return MoveFileExW(reinterpret_cast<const wchar_t*>(file.utf16()), reinterpret_cast<const wchar_t*>(target.utf16()),
-                       MOVEFILE_REPLACE_EXISTING);
+    return MoveFileExW(nativeName(file).c_str(), nativeName(target).c_str(), MOVEFILE_REPLACE_EXISTING);
 #endif
 }
 
@@ -259,9 +268,10 @@ bool saveDocument(const QDomDocument& document, const QString& fileName)
         return saveInPlace(document, name);
     }
     removeStrays(target.absolutePath());
-    const Remover remover(temporaryName); // behind the closing; renamed, the file is there no more
+    Remover remover(temporaryName); // behind the closing; renamed, the file is there no more
     QFile file(temporaryName);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+        remover.Release();
         return IsTriedInPlace && saveInPlace(document, name);
     }
     if (!takeAccess(file, target)) {
