@@ -209,12 +209,12 @@ bool DomParser::isBelowOwnerOf(const Limits& limits, const QString& tagName, con
     };
     const QDomElement root = m_pDocument->documentElement();
     const QDomNode top = m_pDocument->lastChild();
-    if (element == root) {
-        return top == root && isOwner(tagName); // A search that starts at the root reports the root too.
-    }
-    OwnerIndex& index = owners();
     if (!root.prefix().isEmpty()) {
         return isFoundBelowOwner(isOwner, tagName, element);
+    }
+    OwnerIndex& index = owners();
+    if (element == root) { // A search that starts at the root reports the root too.
+        return top == root && (isOwner(tagName) || isAnyBehindPrefix(index, isOwner));
     }
     if (!index.GoTo(element)) {
         return top != root && top.isElement() && isBelowTop(isOwner, tagName, element);
