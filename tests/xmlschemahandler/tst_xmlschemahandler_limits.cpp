@@ -26,6 +26,7 @@ private Q_SLOTS:
     void laysOutAsManyElementsAsAllowed();
     void countsTheElementsOfNamedTypes();
     void countsTheElementsOfAllDefinitions();
+    void countsElementsWhereTheyLand();
     void countsAttributesThatAreCopied_data();
     void countsAttributesThatAreCopied();
     void refusesCopiesThatHaveTooManyAttributes_data();
@@ -303,6 +304,21 @@ void TestXmlSchemaHandlerLimits::countsTheElementsOfNamedTypes()
     QCOMPARE(traces.Messages(), QString());
     QVERIFY(!SchemaFixture().Read(repeated("A", 300) + repeated("B", 301)));
     QCOMPARE(traces.Messages(), elementsTrace());
+}
+
+/// What a named type refers to lands in the global declaration that was read last, and leaves the type all its room.
+void TestXmlSchemaHandlerLimits::countsElementsWhereTheyLand()
+{
+    const LimitsInForce inForce(smallLimits());
+    const QString schema
+        = global(QStringLiteral("Many"), element(QStringLiteral("m"), QStringLiteral("xs:string"), 450))
+        + global(QStringLiteral("Root"), QString())
+        + named(QStringLiteral("T"),
+                reference(QStringLiteral("Many")) + element(QStringLiteral("x"), QStringLiteral("U")))
+        + named(QStringLiteral("U"), element(QStringLiteral("u"), QStringLiteral("xs:string"), 60));
+    const TraceCollector traces;
+    QVERIFY(SchemaFixture().Read(schema));
+    QCOMPARE(traces.Messages(), QString());
 }
 
 void TestXmlSchemaHandlerLimits::countsTheElementsOfAllDefinitions()

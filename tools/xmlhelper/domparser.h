@@ -173,7 +173,7 @@ private:
     std::unique_ptr<TreeChangeDetector> m_pFacetChanges; ///< null until the names are listed
     QDomElement m_probationElement; ///< kept only if something inside it is filled; null when there is none
     IXMLHelper* m_pCallback;
-    WalkLog* m_pLog; ///< null: nobody wants to know
+    WalkLog* m_pLog; ///< not owned; null: nobody wants to know
     OccursMap m_occurs;
     QHash<QString, Declarations> m_sortedDeclarations; ///< of names with many owners that have been asked for
     QHash<QString, int> m_alternatives; ///< the greatest number of each name

@@ -23,18 +23,13 @@ void SchemaBudget::Refuse(const QString& reason)
     }
 }
 
-template <typename Number> bool SchemaBudget::refuse(const char* sentence, qint64 asked, Number Limits::*limit)
-{
-    return refuse(sentence, asked, limit, limits().*limit);
-}
-
 template <typename Number>
-bool SchemaBudget::refuse(const char* sentence, qint64 asked, Number Limits::*limit, qint64 traced)
+bool SchemaBudget::refuse(const char* sentence, qint64 asked, Number Limits::*limit, Number Limits::*traced)
 {
     if (!m_bRefused) {
         m_bRefused = true;
         const QString text = QString::fromLatin1(sentence);
-        trace(text.arg(traced), Component, __LINE__);
+        trace(text.arg(limits().*(traced ? traced : limit)), Component, __LINE__);
         if (m_pLog) {
             m_pLog->Refused(text, asked, limits().*limit, Limits().*limit);
         }
@@ -156,5 +151,5 @@ bool SchemaBudget::TakeAttributes(int attributes, int enumerationValues)
 /// Gives false. What is traced is the limit of a document: that is what all definitions are limited for.
 bool SchemaBudget::refuseElements(qint64 asked, int Limits::*limit)
 {
-    return refuse("The schema lays out more than %1 elements!", asked, limit, limits().elements);
+    return refuse("The schema lays out more than %1 elements!", asked, limit, &Limits::elements);
 }

@@ -22,6 +22,7 @@ public:
     {
         int elements = 0;
         bool isOfNamedType = false;
+        bool isMeasured = false; ///< when its definition is whole: what was read for it may have landed elsewhere
     };
 
     /// Hears of the refusal; null for nobody, not owned.
@@ -61,9 +62,9 @@ public:
     bool TakeAttributes(int attributes, int enumerationValues);
 
 private:
-    /// Gives false. The sentence has "%1" where the limit in force stands.
-    template <typename Number> bool refuse(const char* sentence, qint64 asked, Number Limits::*limit);
-    template <typename Number> bool refuse(const char* sentence, qint64 asked, Number Limits::*limit, qint64 traced);
+    /// Gives false. The sentence has "%1" where the limit that was passed stands, or the one that is @p traced instead.
+    template <typename Number>
+    bool refuse(const char* sentence, qint64 asked, Number Limits::*limit, Number Limits::*traced = nullptr);
     bool refuseElements(qint64 asked, int Limits::*limit);
 
     QStringList m_openFiles;
@@ -76,7 +77,7 @@ private:
     int m_iEnumerationValues = 0; ///< that elements have received by copying
     bool m_bEnumerations = false; ///< some have been read
     bool m_bRefused = false;
-    SchemaReadingLog* m_pLog = nullptr;
+    SchemaReadingLog* m_pLog = nullptr; ///< not owned
 };
 
 #endif

@@ -60,7 +60,7 @@ public:
     /// The tag refers to a definition that is not usable yet.
     virtual void ReferenceDeferred(const SchemaTag& /*tag*/, const QString& /*name*/) { }
 
-    /// The definition takes the place of an earlier one of its name.
+    /// The definition is made; it takes the place of an earlier one of its name, if there is one.
     virtual void Defined(const QString& /*name*/, const SchemaTag& /*tag*/) { }
     /// XML does not allow the name of the global declaration: it is left out.
     virtual void GlobalLeftOut(const QString& /*name*/, const SchemaTag& /*tag*/) { }

@@ -43,8 +43,9 @@ Setters settersOfAttribute(const QString& type);
 /// Whether an element of @p type holds a value. Without a type it is a container, though nothing may be in it.
 bool isValueType(const QString& type);
 
-/// Whether @p attribute of an element holds one of the texts that the element takes. One might expect the exact name.
-/// It is kept because nothing else that schemas declare is called so.
+/// Whether @p attribute of an element holds one of the texts that the element takes. One might expect the exact name:
+/// values of an attribute whose name ends with a digit are taken for the element's, too. It is kept because schemas
+/// count on what they have been given.
 bool isEnumerationOfElement(const QString& attribute);
 
 /// Whether @p attribute of an element holds one of the texts that the attribute @p owner of the element takes.

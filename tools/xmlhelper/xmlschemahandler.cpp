@@ -404,7 +404,7 @@ bool XmlSchemaHandler::fatalError(const QXmlParseException& exception)
         m_bFaultIsTold = true;
         m_pLog->FileMalformed(m_tag.file, exception.message(), exception.lineNumber());
     }
-    return false;
+    return true;
 }
 
 /// The element may be a handle that lives for this call.
@@ -1141,7 +1141,11 @@ void XmlSchemaHandler::serve(const QString& name, int copies, const ElementPathR
 SchemaBudget::Share& XmlSchemaHandler::shareOf(const QString& definitionName)
 {
     const TypeDefinition* const definition = findDefinition(definitionName);
-    return m_pReading->shares[definition ? definition->fragment : nullptr];
+    SchemaBudget::Share& share = m_pReading->shares[definition ? definition->fragment : nullptr];
+    if (definition && !std::exchange(share.isMeasured, true)) {
+        share.elements = extentOf(*definition->fragment).elements;
+    }
+    return share;
 }
 
 /// The values of enumerations among the attributes that a definition holds. None is ever taken away, so they are

@@ -193,11 +193,11 @@ private:
 
     int m_iNesting; ///< of the tags of this file
     SchemaTag m_tag; ///< that is being read, or whose reference is laid out
-    bool m_bFaultIsTold; ///< or is none of the text
+    bool m_bFaultIsTold; ///< to the log; or there is none to tell
     QXmlLocator* m_pLocator; ///< the parser's
     std::shared_ptr<SchemaReading> m_pReading; ///< shared with the handlers of included files
     SchemaBudget::Share* m_pShare; ///< of the fragment that is being filled; one of those that are shared
-    SchemaReadingLog* m_pLog; ///< null: nobody listens
+    SchemaReadingLog* m_pLog; ///< not owned; null: nobody listens
 };
 
 QT_WARNING_POP
