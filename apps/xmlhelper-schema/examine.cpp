@@ -9,6 +9,7 @@
 
 #include <xmlhelper/documentfile_p.h>
 
+#include "model/texts.h"
 #include "proof/proof.h"
 #include "reading/doctorlimits.h"
 #include "reading/grammarcheck.h"
@@ -23,21 +24,21 @@ namespace {
 
 QString withLine(const QString& text, int line)
 {
-    return line > 0 ? QStringLiteral("line %1: %2").arg(line).arg(text) : text;
+    return line > 0 ? Texts::tr("line %1: %2").arg(line).arg(text) : text;
 }
 
 /// Why the top file cannot be examined; empty when it can.
 QString unreadableReasonOf(const TextFile& file)
 {
     if (file.isMissing) {
-        return QStringLiteral("The file cannot be opened.");
+        return Texts::tr("The file cannot be opened.");
     }
     if (file.isTooBig) {
-        return QStringLiteral("The file is longer than the %1 bytes that are examined.").arg(MaxSchemaBytes);
+        return Texts::tr("The file is longer than the %1 bytes that are examined.").arg(MaxSchemaBytes);
     }
     if (!file.root) {
-        return file.fault.isEmpty() ? QStringLiteral("The file holds no XML.")
-                                    : QStringLiteral("No well-formed XML, ") + withLine(file.fault, file.faultLine);
+        return file.fault.isEmpty() ? Texts::tr("The file holds no XML.")
+                                    : Texts::tr("No well-formed XML, %1").arg(withLine(file.fault, file.faultLine));
     }
     return QString();
 }
@@ -47,18 +48,18 @@ QString noTreeReasonOf(const SchemaRecord& record)
 {
     switch (record.GetEnd()) {
     case SchemaRecord::End::TypeIsMissing:
-        return QStringLiteral("The library gives the schema up: a definition that it refers to never comes.");
+        return Texts::tr("The library gives the schema up: a definition that it refers to never comes.");
     case SchemaRecord::End::TypesWaitForEachOther:
-        return QStringLiteral("The library gives the schema up: definitions wait for each other.");
+        return Texts::tr("The library gives the schema up: definitions wait for each other.");
     case SchemaRecord::End::NameRefused:
     case SchemaRecord::End::LimitExceeded:
-        return QStringLiteral("The library gives the schema up: ") + record.GetLimit();
+        return Texts::tr("The library gives the schema up: %1").arg(record.GetLimit());
     case SchemaRecord::End::TooMuchForTheDoctor:
-        return QStringLiteral("Too much to be shown: ") + record.GetLimit();
+        return Texts::tr("Too much to be shown: %1").arg(record.GetLimit());
     case SchemaRecord::End::Reached:
         break;
     }
-    return QStringLiteral("The library lays nothing out.");
+    return Texts::tr("The library lays nothing out.");
 }
 
 int rootCountOf(const SchemaRecord& record)
@@ -79,8 +80,8 @@ void tellReading(const SchemaRecord& record, Examination& examination)
         examination.texts[read->name] = read->text;
     }
     if (examination.includes.state == IncludeState::Malformed) {
-        examination.unreadableReason = QStringLiteral("The library cannot read the file, ")
-            + withLine(examination.includes.fault, examination.includes.faultLine);
+        examination.unreadableReason = Texts::tr("The library cannot read the file, %1")
+                                           .arg(withLine(examination.includes.fault, examination.includes.faultLine));
     }
     examination.tree = builtTree(record);
     examination.tree.rootCount = rootCountOf(record);

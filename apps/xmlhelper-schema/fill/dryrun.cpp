@@ -10,6 +10,7 @@
 #include <reportfiller/reportfiller.h>
 
 #include "examine.h"
+#include "model/texts.h"
 
 namespace schemadoctor {
 
@@ -21,7 +22,7 @@ std::optional<std::list<ReportFiller::Value>> valuesOf(const QString& fileName,
 {
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        write(QStringLiteral("%1: The file cannot be opened.").arg(fileName));
+        write(Texts::tr("%1: The file cannot be opened.").arg(fileName));
         return std::nullopt;
     }
     std::list<ReportFiller::Value> values;
@@ -32,7 +33,7 @@ std::optional<std::list<ReportFiller::Value>> valuesOf(const QString& fileName,
         }
         const int separator = int(line.indexOf(QLatin1Char('=')));
         if (separator < 1) {
-            write(QStringLiteral("%1:%2: The line is not of the form name=value.").arg(fileName).arg(number));
+            write(Texts::tr("%1:%2: The line is not of the form name=value.").arg(fileName).arg(number));
             return std::nullopt;
         }
         values.push_back({line.left(separator).trimmed(), line.mid(separator + 1).trimmed(), false});
@@ -75,7 +76,7 @@ DryRunEnd dryRun(const QString& schema, const QString& valuesFile, const std::fu
     }
     const QStringList complaints = filler.Complaints();
     for (const QString& complaint : complaints) {
-        write(QStringLiteral("complaint: ") + complaint);
+        write(Texts::tr("complaint: %1").arg(complaint));
     }
     writeReport(report, write);
     return complaints.isEmpty() ? DryRunEnd::Complete : DryRunEnd::Incomplete;

@@ -9,6 +9,7 @@
 #include <QHash>
 
 #include "htmlwriter.h"
+#include "model/texts.h"
 
 // Resources of a static library have to be asked for, outside of any namespace.
 static void initialiseResources()
@@ -37,9 +38,26 @@ QString hashOf(const QString& content)
     return QStringLiteral("'sha256-%1'").arg(QString::fromLatin1(hash.toBase64()));
 }
 
-QString counted(int count, const QString& thing)
+QString wordsForMany(Severity severity)
 {
-    return count == 1 ? QStringLiteral("1 ") + thing : QStringLiteral("%1 %2s").arg(count).arg(thing);
+    switch (severity) {
+    case Severity::Error:
+        return Texts::tr("errors");
+    case Severity::Warning:
+        return Texts::tr("warnings");
+    default:
+        return Texts::tr("notes");
+    }
+}
+
+QString counted(int count, Severity severity)
+{
+    return QStringLiteral("%1 %2").arg(count).arg(count == 1 ? wordFor(severity) : wordsForMany(severity));
+}
+
+QString wordsForElements(int count)
+{
+    return count == 1 ? Texts::tr("1 element laid out.") : Texts::tr("%1 elements laid out.").arg(count);
 }
 
 QString fileNameOf(const QString& file)
@@ -63,7 +81,7 @@ public:
         writeHead();
         m_writer.Start(QLatin1String("body"));
         m_writer.Element(
-            QLatin1String("a"), QStringLiteral("Skip to the findings"),
+            QLatin1String("a"), Texts::tr("Skip to the findings"),
             {{QLatin1String("class"), QStringLiteral("skip")}, {QLatin1String("href"), QStringLiteral("#findings")}});
         writeHeader();
         m_writer.Start(QLatin1String("main"));
@@ -126,7 +144,7 @@ private:
         const QString policy = QStringLiteral("default-src 'none'; base-uri 'none'; form-action 'none'; style-src %1; "
                                               "script-src %2")
                                    .arg(hashOf(m_style), hashOf(m_script));
-        m_writer.Start(QLatin1String("html"), {{QLatin1String("lang"), QStringLiteral("en")}});
+        m_writer.Start(QLatin1String("html"), {{QLatin1String("lang"), Texts::tr("en", "the language of the page")}});
         m_writer.Start(QLatin1String("head"));
         m_writer.Start(QLatin1String("meta"), {{QLatin1String("charset"), QStringLiteral("utf-8")}});
         m_writer.Start(QLatin1String("meta"),
@@ -135,7 +153,7 @@ private:
         m_writer.Start(QLatin1String("meta"),
                        {{QLatin1String("name"), QStringLiteral("viewport")},
                         {QLatin1String("content"), QStringLiteral("width=device-width, initial-scale=1")}});
-        m_writer.Element(QLatin1String("title"), fileNameOf(m_examination.file) + QStringLiteral(" - schema doctor"));
+        m_writer.Element(QLatin1String("title"), Texts::tr("%1 - schema doctor").arg(fileNameOf(m_examination.file)));
         m_writer.OwnElement(QLatin1String("style"), m_style);
         m_writer.End(QLatin1String("head"));
     }
@@ -147,7 +165,7 @@ private:
         m_writer.Start(QLatin1String("p"));
         m_writer.Text(summary() + QLatin1Char(' ') + wordsFor(m_examination.proof));
         m_writer.Text(QStringLiteral(" "));
-        m_writer.Element(QLatin1String("a"), QStringLiteral("To the findings"),
+        m_writer.Element(QLatin1String("a"), Texts::tr("To the findings"),
                          {{QLatin1String("href"), QStringLiteral("#findings")}});
         m_writer.End(QLatin1String("p"));
         writeBar();
@@ -157,18 +175,16 @@ private:
     QString summary() const
     {
         if (!m_examination.IsReadable()) {
-            return QStringLiteral("The schema cannot be read: ") + m_examination.unreadableReason;
+            return Texts::tr("The schema cannot be read: %1").arg(m_examination.unreadableReason);
         }
         const QString findings = m_examination.findings.isEmpty()
-            ? QStringLiteral("No findings.")
+            ? Texts::tr("No findings.")
             : QStringLiteral("%1, %2, %3.")
-                  .arg(counted(severityCount(Severity::Error), QStringLiteral("error")),
-                       counted(severityCount(Severity::Warning), QStringLiteral("warning")),
-                       counted(severityCount(Severity::Note), QStringLiteral("note")));
-        return !m_examination.count.limit.isEmpty()
-            ? m_examination.count.limit + QLatin1Char(' ') + findings
-            : QStringLiteral("%1 laid out. ").arg(counted(m_examination.count.elements, QStringLiteral("element")))
-                + findings;
+                  .arg(counted(severityCount(Severity::Error), Severity::Error),
+                       counted(severityCount(Severity::Warning), Severity::Warning),
+                       counted(severityCount(Severity::Note), Severity::Note));
+        const ElementCount& count = m_examination.count;
+        return (count.limit.isEmpty() ? wordsForElements(count.elements) : count.limit) + QLatin1Char(' ') + findings;
     }
 
     int severityCount(Severity severity) const
@@ -187,11 +203,11 @@ private:
         m_writer.Start(QLatin1String("input"),
                        {{QLatin1String("type"), QStringLiteral("search")},
                         {QLatin1String("id"), QStringLiteral("search")},
-                        {QLatin1String("aria-label"), QStringLiteral("Search for a name")},
-                        {QLatin1String("placeholder"), QStringLiteral("Search for a name (press /)")}});
-        m_writer.Element(QLatin1String("button"), QStringLiteral("Unfold all"),
+                        {QLatin1String("aria-label"), Texts::tr("Search for a name")},
+                        {QLatin1String("placeholder"), Texts::tr("Search for a name (press /)")}});
+        m_writer.Element(QLatin1String("button"), Texts::tr("Unfold all"),
                          {{QLatin1String("id"), QStringLiteral("unfold")}});
-        m_writer.Element(QLatin1String("button"), QStringLiteral("Fold all"),
+        m_writer.Element(QLatin1String("button"), Texts::tr("Fold all"),
                          {{QLatin1String("id"), QStringLiteral("fold")}});
         for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note}) {
             m_writer.Start(QLatin1String("label"));
@@ -199,20 +215,21 @@ private:
                            {{QLatin1String("type"), QStringLiteral("checkbox")},
                             {QLatin1String("checked"), QString()},
                             {QLatin1String("data-severity"), nameOf(severity)}});
-            m_writer.Text(QStringLiteral(" %1s").arg(nameOf(severity)));
+            m_writer.Text(QLatin1Char(' ') + wordsForMany(severity));
             m_writer.End(QLatin1String("label"));
         }
         m_writer.Element(QLatin1String("span"), QString(),
                          {{QLatin1String("id"), QStringLiteral("found")},
                           {QLatin1String("class"), QStringLiteral("faint")},
-                          {QLatin1String("role"), QStringLiteral("status")}});
+                          {QLatin1String("role"), QStringLiteral("status")},
+                          {QLatin1String("data-words"), Texts::tr("%1 in the tree, %2 findings")}});
         m_writer.End(QLatin1String("div"));
     }
 
     void writeTreeSection()
     {
-        m_writer.Start(QLatin1String("section"), {{QLatin1String("aria-label"), QStringLiteral("Tree")}});
-        m_writer.Element(QLatin1String("h2"), QStringLiteral("What is laid out"));
+        m_writer.Start(QLatin1String("section"), {{QLatin1String("aria-label"), Texts::tr("Tree")}});
+        m_writer.Element(QLatin1String("h2"), Texts::tr("What is laid out"));
         if (m_examination.tree.IsEmpty()) {
             m_writer.Element(QLatin1String("p"),
                              m_examination.IsReadable() ? m_examination.noTreeReason : m_examination.unreadableReason);
@@ -228,7 +245,7 @@ private:
     {
         if (elementCount() > shownElements) {
             m_writer.Element(QLatin1String("p"),
-                             QStringLiteral("The first %1 of %2 elements; --tree prints all of them.")
+                             Texts::tr("The first %1 of %2 elements; --tree prints all of them.")
                                  .arg(shownElements)
                                  .arg(elementCount()));
         }
@@ -276,17 +293,17 @@ private:
         }
         writeConstraints(shown.facets, shown.enumeration);
         if (!shown.defaultValue.isEmpty()) {
-            writeFact(QStringLiteral("default ") + shown.defaultValue);
+            writeFact(Texts::tr("default %1").arg(shown.defaultValue));
         }
         if (shown.parent != LaidOutElement::None) {
-            writeFact(QStringLiteral("occurs %1, counts taken: %2").arg(wordsForOccurs(shown), wordsForCounts(shown)));
+            writeFact(Texts::tr("occurs %1, counts taken: %2").arg(wordsForOccurs(shown), wordsForCounts(shown)));
         }
         if (shown.choiceGroup != LaidOutElement::None) {
-            writeFact(QStringLiteral("alternative of choice %1").arg(shown.choiceGroup));
+            writeFact(Texts::tr("alternative of choice %1").arg(shown.choiceGroup));
         } else if (shown.isChoiceAlternative) {
-            writeFact(QStringLiteral("alternative by its name"));
+            writeFact(Texts::tr("alternative by its name"));
         }
-        writeFact(QStringLiteral("unfilled it ") + wordsForUnfilled(shown));
+        writeFact(Texts::tr("unfilled it %1").arg(wordsForUnfilled(shown)));
         if (!isContainer(shown)) {
             writeSetters(shown.setters);
         }
@@ -303,7 +320,7 @@ private:
         m_writer.Start(QLatin1String("div"), {{QLatin1String("class"), QStringLiteral("row")}});
         m_writer.Element(QLatin1String("span"), QLatin1Char('@') + attribute.name,
                          {{QLatin1String("class"), QStringLiteral("name")}});
-        m_writer.Element(QLatin1String("span"), attribute.type.isEmpty() ? QStringLiteral("no type") : attribute.type,
+        m_writer.Element(QLatin1String("span"), attribute.type.isEmpty() ? Texts::tr("no type") : attribute.type,
                          {{QLatin1String("class"), QStringLiteral("type")}});
         writeConstraints(attribute.facets, attribute.enumeration);
         writeSetters(attribute.setters);
@@ -316,10 +333,10 @@ private:
     {
         for (const Facet& facet : facets) {
             const QString words = facet.name + QLatin1Char(' ') + facet.value;
-            writeFact(facet.isChecked ? words : words + QStringLiteral(" (not checked)"));
+            writeFact(facet.isChecked ? words : Texts::tr("%1 (not checked)").arg(words));
         }
         if (!enumeration.isEmpty()) {
-            writeFact(QStringLiteral("one of ") + enumeration.join(QStringLiteral(", ")));
+            writeFact(Texts::tr("one of %1").arg(enumeration.join(QStringLiteral(", "))));
         }
     }
 
@@ -327,10 +344,10 @@ private:
     {
         const QStringList names = namesOf(setters);
         if (names.isEmpty()) {
-            m_writer.Element(QLatin1String("span"), QStringLiteral("nothing can fill it"),
+            m_writer.Element(QLatin1String("span"), Texts::tr("nothing can fill it"),
                              {{QLatin1String("class"), QStringLiteral("fact never")}});
         } else {
-            writeFact(QStringLiteral("set by ") + names.join(QStringLiteral(", ")));
+            writeFact(Texts::tr("set by %1").arg(names.join(QStringLiteral(", "))));
         }
     }
 
@@ -342,10 +359,10 @@ private:
 
     void writeMark(int finding)
     {
-        const QString severity = nameOf(m_examination.findings.at(finding).severity);
+        const Severity severity = m_examination.findings.at(finding).severity;
         m_writer.Text(QStringLiteral(" "));
-        m_writer.Element(QLatin1String("a"), severity,
-                         {{QLatin1String("class"), QStringLiteral("severity ") + severity},
+        m_writer.Element(QLatin1String("a"), wordFor(severity),
+                         {{QLatin1String("class"), QStringLiteral("severity ") + nameOf(severity)},
                           {QLatin1String("href"), QStringLiteral("#finding%1").arg(finding)}});
     }
 
@@ -374,14 +391,15 @@ private:
         if (m_examination.rootCandidates.size() < 2) {
             return;
         }
-        m_writer.Element(QLatin1String("h2"), QStringLiteral("Who could be the root"));
+        m_writer.Element(QLatin1String("h2"), Texts::tr("Who could be the root"));
         m_writer.Start(QLatin1String("ul"));
         for (const RootCandidate& candidate : m_examination.rootCandidates) {
             m_writer.Start(QLatin1String("li"));
             m_writer.Element(QLatin1String("code"), candidate.name);
-            m_writer.Text(
-                (candidate.isAttribute ? QStringLiteral(" (an attribute)") : QString())
-                + (candidate.isChosen ? QStringLiteral(" - is the root: the greatest name wins") : QString()));
+            m_writer.Text((candidate.isAttribute ? QLatin1Char(' ') + Texts::tr("(an attribute)") : QString())
+                          + (candidate.isChosen
+                                 ? QStringLiteral(" - ") + Texts::tr("is the root: the greatest name wins")
+                                 : QString()));
             writePlace(candidate.place);
             m_writer.End(QLatin1String("li"));
         }
@@ -393,7 +411,7 @@ private:
         if (m_examination.includes.includes.empty()) {
             return;
         }
-        m_writer.Element(QLatin1String("h2"), QStringLiteral("Files"));
+        m_writer.Element(QLatin1String("h2"), Texts::tr("Files"));
         m_writer.Start(QLatin1String("ul"));
         writeInclude(m_examination.includes);
         m_writer.End(QLatin1String("ul"));
@@ -403,8 +421,7 @@ private:
     {
         m_writer.Start(QLatin1String("li"));
         m_writer.Element(QLatin1String("code"), file.written);
-        m_writer.Text(QStringLiteral(" - ") + wordsFor(file.state)
-                      + (file.isOutsideOfFolder ? QStringLiteral(", outside of the folder") : QString()));
+        m_writer.Text(QStringLiteral(" - ") + wordsFor(file));
         writePlace(file.place);
         if (!file.includes.empty()) {
             m_writer.Start(QLatin1String("ul"));
@@ -418,18 +435,17 @@ private:
 
     void writeFindingsSection()
     {
-        m_writer.Start(QLatin1String("section"),
-                       {{QLatin1String("id"), QStringLiteral("findings")},
-                        {QLatin1String("aria-label"), QStringLiteral("Findings")}});
-        m_writer.Element(QLatin1String("h2"), QStringLiteral("Findings"));
+        m_writer.Start(
+            QLatin1String("section"),
+            {{QLatin1String("id"), QStringLiteral("findings")}, {QLatin1String("aria-label"), Texts::tr("Findings")}});
+        m_writer.Element(QLatin1String("h2"), Texts::tr("Findings"));
         const int count = int(m_examination.findings.size());
         if (count == 0) {
-            m_writer.Element(QLatin1String("p"), QStringLiteral("There are none."));
+            m_writer.Element(QLatin1String("p"), Texts::tr("There are none."));
         }
         if (count > shownFindings) {
-            m_writer.Element(
-                QLatin1String("p"),
-                QStringLiteral("The first %1 of %2; --json prints all of them.").arg(shownFindings).arg(count));
+            m_writer.Element(QLatin1String("p"),
+                             Texts::tr("The first %1 of %2; --json prints all of them.").arg(shownFindings).arg(count));
         }
         const QVector<FindingGroup> groups = groupsOf(m_examination.findings);
         for (const FindingGroup& group : groups) {
@@ -452,7 +468,7 @@ private:
                         {QLatin1String("id"), QStringLiteral("finding%1").arg(number)},
                         {QLatin1String("data-severity"), severity}});
         m_writer.Start(QLatin1String("h3"));
-        m_writer.Element(QLatin1String("span"), severity,
+        m_writer.Element(QLatin1String("span"), wordFor(finding.severity),
                          {{QLatin1String("class"), QStringLiteral("severity ") + severity}});
         m_writer.Text(QStringLiteral(" ") + finding.what);
         m_writer.End(QLatin1String("h3"));
@@ -465,12 +481,12 @@ private:
                              {{QLatin1String("href"), QStringLiteral("#e%1").arg(m_elementOfFinding.value(number))}});
         }
         m_writer.End(QLatin1String("p"));
-        writeLabelled(QStringLiteral("What the library does: "), finding.effect);
-        writeLabelled(QStringLiteral("Write instead: "), finding.remedy);
+        writeLabelled(Texts::tr("What the library does:"), finding.effect);
+        writeLabelled(Texts::tr("Write instead:"), finding.remedy);
         if (!finding.meantTree.isEmpty() || !finding.laidOutTree.isEmpty()) {
             m_writer.Start(QLatin1String("div"), {{QLatin1String("class"), QStringLiteral("trees")}});
-            writePiece(QStringLiteral("As it is meant"), finding.meantTree);
-            writePiece(QStringLiteral("As it is laid out"), finding.laidOutTree);
+            writePiece(Texts::tr("As it is meant"), finding.meantTree);
+            writePiece(Texts::tr("As it is laid out"), finding.laidOutTree);
             m_writer.End(QLatin1String("div"));
         }
         m_writer.End(QLatin1String("article"));
@@ -482,7 +498,8 @@ private:
             return;
         }
         m_writer.Start(QLatin1String("p"));
-        m_writer.Element(QLatin1String("span"), label, {{QLatin1String("class"), QStringLiteral("label")}});
+        m_writer.Element(QLatin1String("span"), label + QLatin1Char(' '),
+                         {{QLatin1String("class"), QStringLiteral("label")}});
         m_writer.Text(text);
         m_writer.End(QLatin1String("p"));
     }
@@ -498,12 +515,12 @@ private:
     void writeTexts()
     {
         m_writer.Start(QLatin1String("section"), {{QLatin1String("id"), QStringLiteral("texts")}});
-        m_writer.Element(QLatin1String("h2"), QStringLiteral("Schema"));
+        m_writer.Element(QLatin1String("h2"), Texts::tr("Schema"));
         for (const QString& file : std::as_const(m_shownTexts)) {
             writeText(m_textNumbers.value(file), file, m_examination.texts.at(file));
         }
         if (std::size_t(m_shownTexts.size()) < m_examination.texts.size()) {
-            m_writer.Element(QLatin1String("p"), QStringLiteral("Files that are too long for the page are left out."));
+            m_writer.Element(QLatin1String("p"), Texts::tr("Files that are too long for the page are left out."));
         }
         m_writer.End(QLatin1String("section"));
     }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "texts.h"
+
 namespace schemadoctor {
 
 QString wordsFor(const Proof& proof)
@@ -10,7 +12,7 @@ QString wordsFor(const Proof& proof)
         return proof.leftOut;
     }
     const QString tried
-        = QStringLiteral("Reports filled on trial: %1, of which valid: %2.").arg(proof.reports).arg(proof.validReports);
+        = Texts::tr("Reports filled on trial: %1, of which valid: %2.").arg(proof.reports).arg(proof.validReports);
     return proof.leftOut.isEmpty() ? tried : tried + QLatin1Char(' ') + proof.leftOut;
 }
 

@@ -1,18 +1,34 @@
 #include "finding.h"
 
+#include "texts.h"
+
 namespace schemadoctor {
 
-QString nameOf(Severity severity)
+namespace {
+
+const char* englishFor(Severity severity)
 {
     switch (severity) {
     case Severity::Note:
-        return QStringLiteral("note");
+        return QT_TRANSLATE_NOOP("SchemaDoctor", "note");
     case Severity::Warning:
-        return QStringLiteral("warning");
+        return QT_TRANSLATE_NOOP("SchemaDoctor", "warning");
     case Severity::Error:
-        return QStringLiteral("error");
+        return QT_TRANSLATE_NOOP("SchemaDoctor", "error");
     }
-    return QString();
+    return "";
+}
+
+} // namespace
+
+QString nameOf(Severity severity)
+{
+    return QString::fromLatin1(englishFor(severity));
+}
+
+QString wordFor(Severity severity)
+{
+    return Texts::tr(englishFor(severity));
 }
 
 QString causeOf(const Finding& finding)
@@ -35,7 +51,7 @@ QVector<FindingGroup> groupsOf(const QVector<Finding>& findings)
 
 QString wordsFor(const FindingGroup& group)
 {
-    return QStringLiteral("%1: %2 findings").arg(group.cause).arg(group.count);
+    return Texts::tr("%1: %2 findings").arg(group.cause).arg(group.count);
 }
 
 } // namespace schemadoctor

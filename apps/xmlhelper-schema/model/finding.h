@@ -55,8 +55,11 @@ QVector<FindingGroup> groupsOf(const QVector<Finding>& findings);
 /// "the prefix 'st:': 96 findings"
 QString wordsFor(const FindingGroup& group);
 
-/// "note", "warning" or "error".
+/// "note", "warning" or "error", for programs.
 QString nameOf(Severity severity);
+
+/// The same for people.
+QString wordFor(Severity severity);
 
 } // namespace schemadoctor
 

@@ -1,24 +1,41 @@
 #include "includetree.h"
 
+#include "texts.h"
+
 namespace schemadoctor {
 
-QString wordsFor(IncludeState state)
+namespace {
+
+const char* englishFor(IncludeState state)
 {
     switch (state) {
     case IncludeState::Read:
-        return QStringLiteral("read");
+        return QT_TRANSLATE_NOOP("SchemaDoctor", "read");
     case IncludeState::ReadAgain:
-        return QStringLiteral("read again");
+        return QT_TRANSLATE_NOOP("SchemaDoctor", "read again");
     case IncludeState::Missing:
-        return QStringLiteral("missing");
+        return QT_TRANSLATE_NOOP("SchemaDoctor", "missing");
     case IncludeState::Malformed:
-        return QStringLiteral("malformed");
+        return QT_TRANSLATE_NOOP("SchemaDoctor", "malformed");
     case IncludeState::Cyclic:
-        return QStringLiteral("cyclic, skipped");
+        return QT_TRANSLATE_NOOP("SchemaDoctor", "cyclic, skipped");
     case IncludeState::TooDeep:
-        return QStringLiteral("too deep, skipped");
+        return QT_TRANSLATE_NOOP("SchemaDoctor", "too deep, skipped");
     }
-    return QString();
+    return "";
+}
+
+} // namespace
+
+QString nameOf(IncludeState state)
+{
+    return QString::fromLatin1(englishFor(state));
+}
+
+QString wordsFor(const IncludedFile& file)
+{
+    const QString words = Texts::tr(englishFor(file.state));
+    return file.isOutsideOfFolder ? Texts::tr("%1, outside of the folder").arg(words) : words;
 }
 
 } // namespace schemadoctor

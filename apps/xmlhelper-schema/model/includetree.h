@@ -31,8 +31,11 @@ struct IncludedFile
     std::vector<IncludedFile> includes;
 };
 
-/// "read", "read again", "missing", "malformed", "cyclic, skipped", "too deep, skipped".
-QString wordsFor(IncludeState state);
+/// "read", "read again", "missing", "malformed", "cyclic, skipped", "too deep, skipped": for programs.
+QString nameOf(IncludeState state);
+
+/// The same for people, and whether the file is outside of the folder.
+QString wordsFor(const IncludedFile& file);
 
 } // namespace schemadoctor
 

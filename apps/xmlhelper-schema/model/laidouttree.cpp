@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "texts.h"
+
 namespace schemadoctor {
 
 namespace {
@@ -41,41 +43,41 @@ QString wordsFor(Fate fate)
 {
     switch (fate) {
     case Fate::Stays:
-        return QStringLiteral("stays");
+        return Texts::tr("stays");
     case Fate::IsRemoved:
-        return QStringLiteral("is removed");
+        return Texts::tr("is removed");
     case Fate::IsRemovedWithItsValues:
-        return QStringLiteral("is removed when its first value is unfilled");
+        return Texts::tr("is removed when its first value is unfilled");
     case Fate::IsRemovedWithItsContainer:
-        return QStringLiteral("is removed with the container around it");
+        return Texts::tr("is removed with the container around it");
     case Fate::IsRemovedWithAnother:
-        return QStringLiteral("stays, unless a value behind it is unfilled");
+        return Texts::tr("stays, unless a value behind it is unfilled");
     case Fate::IsUnknown:
         break;
     }
-    return QStringLiteral("was not tried");
+    return Texts::tr("was not tried");
 }
 
 QString wordsFor(const AcceptedCounts& counts)
 {
     if (!counts.isKnown) {
-        return QStringLiteral("not tried");
+        return Texts::tr("not tried");
     }
     if (counts.greatest == AcceptedCounts::Unbounded) {
-        return counts.takesZero ? QStringLiteral("any") : QStringLiteral("1 or more");
+        return counts.takesZero ? Texts::tr("any") : Texts::tr("1 or more");
     }
     if (counts.greatest == 0) {
-        return counts.takesZero ? QStringLiteral("0 only") : QStringLiteral("no count");
+        return counts.takesZero ? Texts::tr("0 only") : Texts::tr("no count");
     }
-    return QStringLiteral("%1 to %2").arg(counts.takesZero ? 0 : 1).arg(counts.greatest);
+    return Texts::tr("%1 to %2").arg(counts.takesZero ? 0 : 1).arg(counts.greatest);
 }
 
-/// What holds for further copies of the container around an element.
-QString wordsForCopies(const LaidOutElement& element, bool isOtherwise)
+/// With what holds for further copies of the container around an element.
+QString withCopies(const QString& words, const LaidOutElement& element, bool isOtherwise)
 {
-    return element.isUntriedInCopies ? QStringLiteral(" in the first copy, the others were not tried")
-        : isOtherwise                ? QStringLiteral(" in the first copy only")
-                                     : QString();
+    return element.isUntriedInCopies ? Texts::tr("%1 in the first copy, the others were not tried").arg(words)
+        : isOtherwise                ? Texts::tr("%1 in the first copy only").arg(words)
+                                     : words;
 }
 
 } // namespace
@@ -117,12 +119,12 @@ bool isContainer(const LaidOutElement& element)
 
 QString wordsForUnfilled(const LaidOutElement& element)
 {
-    return wordsFor(element.fate) + wordsForCopies(element, element.staysInCopies);
+    return withCopies(wordsFor(element.fate), element, element.staysInCopies);
 }
 
 QString wordsForCounts(const LaidOutElement& element)
 {
-    return wordsFor(element.counts) + wordsForCopies(element, element.isSingleInCopies);
+    return withCopies(wordsFor(element.counts), element, element.isSingleInCopies);
 }
 
 QStringList namesOf(Setters setters)

@@ -17,6 +17,7 @@
 #include <xmlhelper/xmlhelper.h>
 #include <xmlhelper/xmlserialiser_p.h>
 
+#include "model/texts.h"
 #include "reading/treebuilder.h"
 
 QT_WARNING_DISABLE_DEPRECATED
@@ -276,10 +277,12 @@ std::vector<Filling> fillingsOf(const LaidOutTree& tree, int most, int& all)
     const std::vector<bool> everything = wantedIn(tree, [](int) { return false; });
     const std::vector<bool> required = wantedIn(tree, isOptionalAt);
     std::vector<Filling> fillings {
-        {QStringLiteral("with nothing but what is required"), required, false, false},
-        {QStringLiteral("with everything"), everything, true, false},
-        {QStringLiteral("with everything, and twice what may repeat"), everything, true, true},
-        {QStringLiteral("with nothing but what is required, and twice what may repeat"), required, false, true},
+        {Texts::tr("A report filled with nothing but what is required is not valid: %1"), required, false, false},
+        {Texts::tr("A report filled with everything is not valid: %1"), everything, true, false},
+        {Texts::tr("A report filled with everything, and twice what may repeat is not valid: %1"), everything, true,
+         true},
+        {Texts::tr("A report filled with nothing but what is required, and twice what may repeat is not valid: %1"),
+         required, false, true},
     };
     all = int(fillings.size());
     fillings.resize(std::size_t(std::clamp(most, 0, all)));
@@ -291,7 +294,8 @@ std::vector<Filling> fillingsOf(const LaidOutTree& tree, int most, int& all)
             continue;
         }
         const auto isLeftOut = [&](int index) { return isOptionalAt(index) && !isAround(tree, index, container); };
-        fillings.push_back({QStringLiteral("with what is required and the optional '%1'").arg(element.name),
+        fillings.push_back({Texts::tr("A report filled with what is required and the optional '%1' is not valid: %2")
+                                .arg(element.name),
                             wantedIn(tree, isLeftOut), false, false});
     }
     return fillings;

@@ -13,7 +13,7 @@ namespace schemadoctor {
 /// Which elements of a report are filled.
 struct Filling
 {
-    QString words; ///< "with all that is required"; for the findings
+    QString verdict; ///< "A report filled with everything is not valid: %1"; for the findings
     std::vector<bool> isWanted; ///< for each element of the tree
     bool isWithOptionalAttributes = false;
     bool isTwice = false; ///< whatever may repeat

@@ -14,6 +14,7 @@
 #include <xmlhelper/documentfile_p.h>
 
 #include "filling.h"
+#include "model/texts.h"
 #include "reading/doctorlimits.h"
 #include "validation.h"
 
@@ -199,9 +200,9 @@ Finding findingOf(const ValidityError& error, int element, const Filling& fillin
     finding.rule = QStringLiteral("unforetold");
     finding.place = laidOut.place;
     finding.subject = laidOut.name;
-    finding.what = QStringLiteral("A report filled %1 is not valid: %2").arg(filling.words, error.sentence);
-    finding.effect = QStringLiteral("The library writes the report all the same and says nothing of it.");
-    finding.remedy = QStringLiteral("Compare the declaration with the tree, and write what differs in another way.");
+    finding.what = filling.verdict.arg(error.sentence);
+    finding.effect = Texts::tr("The library writes the report all the same and says nothing of it.");
+    finding.remedy = Texts::tr("Compare the declaration with the tree, and write what differs in another way.");
     finding.path = pathOf(tree, element);
     return finding;
 }
@@ -233,10 +234,9 @@ void tellReports(const QVector<ValidityError>& errors, int count, int all, Proof
     proof.reports = count;
     proof.validReports = count - int(invalid.size());
     if (count < all) {
-        proof.leftOut
-            = QStringLiteral("Of %1 reports to be filled on trial, %2 were left out: they would take too long.")
-                  .arg(all)
-                  .arg(all - count);
+        proof.leftOut = Texts::tr("Of %1 reports to be filled on trial, %2 were left out: they would take too long.")
+                            .arg(all)
+                            .arg(all - count);
     }
 }
 
@@ -255,9 +255,9 @@ void prove(const QString& file, const std::vector<const TextFile*>& files, Exami
     QDataStream stream(result.bytes);
     stream >> isCompiled >> errors;
     if (!result.isWhole) {
-        examination.proof.leftOut = QStringLiteral("No report was filled on trial: it would take too long.");
+        examination.proof.leftOut = Texts::tr("No report was filled on trial: it would take too long.");
     } else if (!isCompiled) {
-        examination.proof.leftOut = QStringLiteral("No report was validated: libxml2 does not take the schema.");
+        examination.proof.leftOut = Texts::tr("No report was validated: libxml2 does not take the schema.");
     } else {
         tellReports(errors, int(fillings.size()), all, examination.proof);
         addUnforetold(errors, fillings, files, examination);

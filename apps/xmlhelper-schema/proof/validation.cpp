@@ -8,6 +8,8 @@
 #include <libxml/parser.h>
 #include <libxml/xmlschemas.h>
 
+#include "model/texts.h"
+
 namespace schemadoctor {
 
 namespace {
@@ -62,7 +64,7 @@ void validateOne(xmlSchema* schema, const QByteArray& bytes, Listener listener)
 {
     const Document document(xmlReadMemory(bytes.constData(), int(bytes.size()), nullptr, nullptr, XML_PARSE_NONET));
     if (!document) {
-        listener.pErrors->append({listener.report, {}, false, QStringLiteral("The report is no well-formed XML.")});
+        listener.pErrors->append({listener.report, {}, false, Texts::tr("The report is no well-formed XML.")});
         return;
     }
     const Validator validator(xmlSchemaNewValidCtxt(schema));

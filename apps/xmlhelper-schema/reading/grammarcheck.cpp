@@ -10,6 +10,8 @@
 
 #include <confinedchild.h>
 
+#include "model/texts.h"
+
 namespace schemadoctor {
 
 namespace {
@@ -46,7 +48,7 @@ QVector<GrammarFault> grammarFaultsOf(const QString& file)
 {
     const ChildResult result = resultOfChild([&file](const auto& write) { write(checked(file)); });
     if (!result.isWhole) {
-        return {{{file, 0}, QStringLiteral("libxml2 needs too much time or memory to check the schema.")}};
+        return {{{file, 0}, Texts::tr("libxml2 needs too much time or memory to check the schema.")}};
     }
     QVector<GrammarFault> faults;
     const QJsonArray all = QJsonDocument::fromJson(result.bytes).array();

@@ -13,6 +13,7 @@
 #include <xmlhelper/xmlschemahandler.h>
 
 #include "doctorlimits.h"
+#include "model/texts.h"
 
 QT_WARNING_DISABLE_DEPRECATED
 
@@ -179,7 +180,7 @@ void SchemaRecord::GlobalLeftOut(const QString& name, const SchemaTag& tag)
 void SchemaRecord::NameRefused(const QString& name, const SchemaTag& tag)
 {
     m_refusedNames.push_back({name, tagOf(tag), false});
-    end(End::NameRefused, QStringLiteral("XML does not allow the name '%1'.").arg(name));
+    end(End::NameRefused, Texts::tr("XML does not allow the name '%1'.").arg(name));
 }
 
 void SchemaRecord::Refused(const QString& sentence, qint64 asked, qint64 inForce, qint64 greatest)

@@ -117,9 +117,9 @@ QJsonObject jsonFor(const IncludedFile& file)
     for (const IncludedFile& included : file.includes) {
         includes.append(jsonFor(included));
     }
-    return {{key("written"), file.written},       {key("file"), file.file},
-            {key("state"), wordsFor(file.state)}, {key("outsideOfFolder"), file.isOutsideOfFolder},
-            {key("place"), jsonFor(file.place)},  {key("includes"), includes}};
+    return {{key("written"), file.written},      {key("file"), file.file},
+            {key("state"), nameOf(file.state)},  {key("outsideOfFolder"), file.isOutsideOfFolder},
+            {key("place"), jsonFor(file.place)}, {key("includes"), includes}};
 }
 
 QJsonObject jsonFor(const RootCandidate& candidate)

@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include "model/texts.h"
+
 namespace schemadoctor {
 
 namespace {
@@ -27,8 +29,8 @@ QString wordsFor(const QVector<Facet>& facets)
 {
     QStringList words;
     for (const Facet& facet : facets) {
-        words.append(QStringLiteral("%1 %2%3").arg(facet.name, facet.value,
-                                                   facet.isChecked ? QString() : QStringLiteral(" (not checked)")));
+        const QString one = facet.name + QLatin1Char(' ') + facet.value;
+        words.append(facet.isChecked ? one : Texts::tr("%1 (not checked)").arg(one));
     }
     return words.join(QLatin1String(", "));
 }
@@ -37,21 +39,20 @@ QString wordsForValues(const QStringList& enumeration)
 {
     constexpr int shown = 8;
     const QString words = enumeration.mid(0, shown).join(QLatin1String(" | "));
-    return enumeration.size() > shown ? QStringLiteral("%1 | ... (%2 values)").arg(words).arg(enumeration.size())
-                                      : words;
+    return enumeration.size() > shown ? Texts::tr("%1 | ... (%2 values)").arg(words).arg(enumeration.size()) : words;
 }
 
 QString wordsFor(Setters setters)
 {
     const QStringList names = namesOf(setters);
-    return names.isEmpty() ? QStringLiteral("no setter") : QStringLiteral("set by ") + names.join(QLatin1String(", "));
+    return names.isEmpty() ? Texts::tr("no setter") : Texts::tr("set by %1").arg(names.join(QLatin1String(", ")));
 }
 
 QString lineFor(const LaidOutElement& element)
 {
     QStringList words;
     if (isContainer(element)) {
-        words.append(element.children.empty() ? QStringLiteral("empty") : QStringLiteral("container"));
+        words.append(element.children.empty() ? Texts::tr("empty") : Texts::tr("container"));
     } else {
         words.append(element.type);
     }
@@ -62,15 +63,15 @@ QString lineFor(const LaidOutElement& element)
         words.append(wordsForValues(element.enumeration));
     }
     if (!element.defaultValue.isEmpty()) {
-        words.append(QStringLiteral("default %1").arg(element.defaultValue));
+        words.append(Texts::tr("default %1").arg(element.defaultValue));
     }
-    words.append(QStringLiteral("occurs %1, counts: %2").arg(wordsForOccurs(element), wordsForCounts(element)));
+    words.append(Texts::tr("occurs %1, counts: %2").arg(wordsForOccurs(element), wordsForCounts(element)));
     if (element.isChoiceAlternative) {
         words.append(element.choiceGroup == LaidOutElement::None
-                         ? QStringLiteral("alternative by name")
-                         : QStringLiteral("alternative of choice %1").arg(element.choiceGroup));
+                         ? Texts::tr("alternative by name")
+                         : Texts::tr("alternative of choice %1").arg(element.choiceGroup));
     }
-    words.append(QStringLiteral("unfilled: ") + wordsForUnfilled(element));
+    words.append(Texts::tr("unfilled: %1").arg(wordsForUnfilled(element)));
     if (!isContainer(element)) {
         words.append(wordsFor(element.setters));
     }
@@ -82,7 +83,7 @@ QString lineFor(const LaidOutElement& element)
 QString lineFor(const DeclaredAttribute& attribute)
 {
     QStringList words;
-    words.append(attribute.type.isEmpty() ? QStringLiteral("no type") : attribute.type);
+    words.append(attribute.type.isEmpty() ? Texts::tr("no type") : attribute.type);
     if (!attribute.facets.isEmpty()) {
         words.append(wordsFor(attribute.facets));
     }
@@ -111,9 +112,7 @@ QString treeText(const LaidOutTree& tree)
 
 QString includeText(const IncludedFile& file, int level)
 {
-    const QString state
-        = wordsFor(file.state) + (file.isOutsideOfFolder ? QStringLiteral(", outside of the folder") : QString());
-    QString text = QStringLiteral("%1%2 (%3)\n").arg(indent(level), file.written, state);
+    QString text = QStringLiteral("%1%2 (%3)\n").arg(indent(level), file.written, wordsFor(file));
     for (const IncludedFile& included : file.includes) {
         text += includeText(included, level + 1);
     }
@@ -133,9 +132,9 @@ QString indented(const QString& text, int level)
 /// Two trees beside each other.
 QString besideText(const QString& left, const QString& right)
 {
-    const QString meant = QStringLiteral("as it is meant");
+    const QString meant = Texts::tr("as it is meant");
     const QStringList leftLines = QStringList {meant} + left.split(QLatin1Char('\n'));
-    const QStringList rightLines = QStringList {QStringLiteral("as it is laid out")} + right.split(QLatin1Char('\n'));
+    const QStringList rightLines = QStringList {Texts::tr("as it is laid out")} + right.split(QLatin1Char('\n'));
     int width = 0;
     for (const QString& line : leftLines) {
         width = std::max(width, int(line.size()));
@@ -151,12 +150,12 @@ QString besideText(const QString& left, const QString& right)
 QString findingText(const Finding& finding)
 {
     QString text = QStringLiteral("%1: %2: %3 [%4]\n")
-                       .arg(wordsFor(finding.place), nameOf(finding.severity), finding.what, finding.rule);
+                       .arg(wordsFor(finding.place), wordFor(finding.severity), finding.what, finding.rule);
     if (!finding.path.isEmpty()) {
-        text += indented(QStringLiteral("element: ") + finding.path, 2);
+        text += indented(Texts::tr("element: %1").arg(finding.path), 2);
     }
-    text += indented(QStringLiteral("effect:  ") + finding.effect, 2);
-    text += indented(QStringLiteral("instead: ") + finding.remedy, 2);
+    text += indented(Texts::tr("effect:  %1").arg(finding.effect), 2);
+    text += indented(Texts::tr("instead: %1").arg(finding.remedy), 2);
     if (!finding.meantTree.isEmpty()) {
         text += besideText(finding.meantTree, finding.laidOutTree);
     }
@@ -166,7 +165,7 @@ QString findingText(const Finding& finding)
 QString countText(const Examination& examination)
 {
     const ElementCount& count = examination.count;
-    return count.limit.isEmpty() ? QStringLiteral("%1 elements are laid out.").arg(count.elements) : count.limit;
+    return count.limit.isEmpty() ? Texts::tr("%1 elements are laid out.").arg(count.elements) : count.limit;
 }
 
 QString summaryOf(const QVector<Finding>& findings)
@@ -175,8 +174,8 @@ QString summaryOf(const QVector<Finding>& findings)
     for (const Finding& finding : findings) {
         ++counts[int(finding.severity)];
     }
-    return findings.isEmpty() ? QStringLiteral("No findings.")
-                              : QStringLiteral("%1 errors, %2 warnings, %3 notes.")
+    return findings.isEmpty() ? Texts::tr("No findings.")
+                              : Texts::tr("%1 errors, %2 warnings, %3 notes.")
                                     .arg(counts[int(Severity::Error)])
                                     .arg(counts[int(Severity::Warning)])
                                     .arg(counts[int(Severity::Note)]);
@@ -197,7 +196,7 @@ QString textOf(const Examination& examination)
         text += countText(examination) + QLatin1Char('\n');
         text += examination.tree.IsEmpty() ? examination.noTreeReason + QLatin1Char('\n') : treeText(examination.tree);
         if (!examination.includes.includes.empty()) {
-            text += QLatin1String("\nFiles\n") + includeText(examination.includes, 1);
+            text += QLatin1Char('\n') + Texts::tr("Files") + QLatin1Char('\n') + includeText(examination.includes, 1);
         }
     } else {
         text += QStringLiteral("%1: %2\n").arg(examination.file, examination.unreadableReason);

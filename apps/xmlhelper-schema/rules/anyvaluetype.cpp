@@ -16,12 +16,11 @@ void anyValueType(const Schema& schema, Findings& findings)
             continue;
         }
         told.insert(place);
-        findings.Add(
-            Severity::Note, element.place, element.name,
-            QStringLiteral("The element '%1' is of the type '%2'.").arg(element.name, element.type),
-            QStringLiteral("Every setter takes it: any text, truth or time that is offered is written, whether "
-                           "it is a number or not."),
-            QStringLiteral("Write xs:integer, restricted to the range, or offer it integers only."), index);
+        findings.Add(Severity::Note, element.place, element.name,
+                     Texts::tr("The element '%1' is of the type '%2'.").arg(element.name, element.type),
+                     Texts::tr("Every setter takes it: any text, truth or time that is offered is written, whether "
+                               "it is a number or not."),
+                     Texts::tr("Write xs:integer, restricted to the range, or offer it integers only."), index);
     }
 }
 

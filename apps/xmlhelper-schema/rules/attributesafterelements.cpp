@@ -17,14 +17,12 @@ void attributesAfterElements(const Schema& schema, Findings& findings)
         }
         Finding& finding = findings.Add(
             Severity::Error, *tag,
-            QStringLiteral("%1 belongs to the named type '%2'.").arg(described(*tag), type->Value("name")),
-            isBehindElements
-                ? QStringLiteral("It goes to the element that was declared last in the type, and not to the "
-                                 "element that is of the type.")
-                : QStringLiteral("The type has no element in front of it to go to: it is lost."),
-            QStringLiteral(
-                "Write '%1', and each named type that it is used in, inside of the element that is of it, up "
-                "to the global element: only there attributes are understood, at any depth.")
+            Texts::tr("%1 belongs to the named type '%2'.").arg(described(*tag), type->Value("name")),
+            isBehindElements ? Texts::tr("It goes to the element that was declared last in the type, and not to the "
+                                         "element that is of the type.")
+                             : Texts::tr("The type has no element in front of it to go to: it is lost."),
+            Texts::tr("Write '%1', and each named type that it is used in, inside of the element that is of it, up "
+                      "to the global element: only there attributes are understood, at any depth.")
                 .arg(type->Value("name")));
         addTrees(schema, *type, finding);
     }

@@ -10,9 +10,9 @@ void attributeUpperBound(const Schema& schema, Findings& findings)
         if (tag->Around("attribute") && (bounds.minInclusive || bounds.minExclusive)) {
             findings.Add(
                 Severity::Warning, *tag,
-                QStringLiteral("maxInclusive of an attribute is '%1', beside a lower bound.").arg(tag->Value("value")),
-                QStringLiteral("The value %1 itself is refused.").arg(tag->Value("value")),
-                QStringLiteral("Write the next greater integer, or leave the lower bound out."));
+                Texts::tr("maxInclusive of an attribute is '%1', beside a lower bound.").arg(tag->Value("value")),
+                Texts::tr("The value %1 itself is refused.").arg(tag->Value("value")),
+                Texts::tr("Write the next greater integer, or leave the lower bound out."));
         }
     }
 }

@@ -12,16 +12,14 @@ void complexContent(const Schema& schema, Findings& findings)
         const bool isNamed = namedTypeAround(*tag);
         Finding& finding = findings.Add(
             Severity::Error, *tag,
-            QStringLiteral("xs:complexContent derives a type by %1.")
-                .arg(isExtension ? QStringLiteral("extension") : QStringLiteral("restriction")),
-            !isExtension
-                ? QStringLiteral("Every tag inside the restriction becomes an attribute of the report; no element "
-                                 "of it is laid out.")
-                : isNamed
-                ? QStringLiteral("The elements of the base are not laid out, and those of the extension are lost "
-                                 "with them: who uses the type gets no child.")
-                : QStringLiteral("The elements of the base are not laid out, only those of the extension."),
-            QStringLiteral("Write all elements in one xs:complexType, without a base."));
+            isExtension ? Texts::tr("xs:complexContent derives a type by extension.")
+                        : Texts::tr("xs:complexContent derives a type by restriction."),
+            !isExtension  ? Texts::tr("Every tag inside the restriction becomes an attribute of the report; no element "
+                                       "of it is laid out.")
+                : isNamed ? Texts::tr("The elements of the base are not laid out, and those of the extension are lost "
+                                      "with them: who uses the type gets no child.")
+                          : Texts::tr("The elements of the base are not laid out, only those of the extension."),
+            Texts::tr("Write all elements in one xs:complexType, without a base."));
         if (const TextNode* const element = tag->Around("element")) {
             addTrees(schema, *element, finding);
         } else if (const TextNode* const type = namedTypeAround(*tag)) {

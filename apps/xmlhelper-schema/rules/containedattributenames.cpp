@@ -21,12 +21,12 @@ void containedAttributeNames(const Schema& schema, Findings& findings)
                 told.insert(key);
                 findings
                     .Add(Severity::Warning, shorter.place, shorter.name,
-                         QStringLiteral("The name of the attribute '%1' is part of that of '%2'.")
+                         Texts::tr("The name of the attribute '%1' is part of that of '%2'.")
                              .arg(shorter.name, longer.name),
-                         QStringLiteral("Facets and enumeration values are found by parts of names: those of '%2' are "
-                                        "applied to '%1', too.")
+                         Texts::tr("Facets and enumeration values are found by parts of names: those of '%2' are "
+                                   "applied to '%1', too.")
                              .arg(shorter.name, longer.name),
-                         QStringLiteral("Choose names of which none is part of another."))
+                         Texts::tr("Choose names of which none is part of another."))
                     .path
                     = pathOf(tree, index);
             }

@@ -17,10 +17,9 @@ void contradictoryBounds(const Schema& schema, Findings& findings)
         const bool isClosed = lower->Is("minInclusive") && upper->Is("maxInclusive");
         if (least > greatest || (least == greatest && !isClosed)) {
             findings.Add(Severity::Error, *upper,
-                         QStringLiteral("%1 is '%2', and %3 is '%4'.")
+                         Texts::tr("%1 is '%2', and %3 is '%4'.")
                              .arg(lower->localName, lower->Value("value"), upper->localName, upper->Value("value")),
-                         QStringLiteral("No value is accepted."),
-                         QStringLiteral("Write the smaller bound as the lower one."));
+                         Texts::tr("No value is accepted."), Texts::tr("Write the smaller bound as the lower one."));
         }
     }
 }

@@ -10,10 +10,10 @@ void look(const IncludedFile& file, Findings& findings)
         if (included.state == IncludeState::Cyclic || included.state == IncludeState::TooDeep) {
             findings.Add(Severity::Warning, included.place, included.written,
                          included.state == IncludeState::Cyclic
-                             ? QStringLiteral("The file '%1' is included while it is being read.").arg(included.written)
-                             : QStringLiteral("The include of '%1' is too deep.").arg(included.written),
-                         QStringLiteral("It is skipped."),
-                         QStringLiteral("Include all files in the top file, and none in the others."));
+                             ? Texts::tr("The file '%1' is included while it is being read.").arg(included.written)
+                             : Texts::tr("The include of '%1' is too deep.").arg(included.written),
+                         Texts::tr("It is skipped."),
+                         Texts::tr("Include all files in the top file, and none in the others."));
         }
         look(included, findings);
     }

@@ -30,14 +30,14 @@ void declarationBeforeInclude(const Schema& schema, Findings& findings)
         const bool isInSameFile = declaration->file == include->file;
         Finding& finding = findings.Add(
             isInSameFile ? Severity::Error : Severity::Warning, *declaration,
-            isInSameFile ? QStringLiteral("%1 is declared in front of an xs:include, in line %2.")
+            isInSameFile ? Texts::tr("%1 is declared in front of an xs:include, in line %2.")
                                .arg(described(*declaration))
                                .arg(include->line)
-                         : QStringLiteral("%1 is declared in an included file.").arg(described(*declaration)),
-            QStringLiteral("The end of the included file marks it as used: it never becomes the root of a report."),
-            isInSameFile ? QStringLiteral("Write every xs:include in front of all declarations.")
-                         : QStringLiteral("Declare the root in the file that includes the others, or refer to this "
-                                          "element there."));
+                         : Texts::tr("%1 is declared in an included file.").arg(described(*declaration)),
+            Texts::tr("The end of the included file marks it as used: it never becomes the root of a report."),
+            isInSameFile ? Texts::tr("Write every xs:include in front of all declarations.")
+                         : Texts::tr("Declare the root in the file that includes the others, or refer to this "
+                                     "element there."));
         addTrees(schema, *declaration, finding);
     }
 }

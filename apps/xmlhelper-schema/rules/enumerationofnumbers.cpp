@@ -7,8 +7,6 @@ namespace schemadoctor {
 
 namespace {
 
-const char Remedy[] = "Enumerate texts, xs:string, or write bounds: minInclusive and maxInclusive.";
-
 /// Whether values are enumerated that only a text can be held against.
 template <class Declared> bool isNeverChecked(const Declared& declared)
 {
@@ -27,20 +25,20 @@ void enumerationOfNumbers(const Schema& schema, Findings& findings)
         const auto tell = [&](const Place& place, const QString& name, const QString& what) {
             if (told.emplace(place.file, place.line, name).second) {
                 findings.Add(Severity::Error, place, name, what,
-                             QStringLiteral("Any value is taken, and the enumeration stays in the report as attributes "
-                                            "that the schema does not allow."),
-                             QLatin1String(Remedy), index);
+                             Texts::tr("Any value is taken, and the enumeration stays in the report as attributes "
+                                       "that the schema does not allow."),
+                             Texts::tr("Enumerate texts, xs:string, or write bounds: minInclusive and maxInclusive."),
+                             index);
             }
         };
         if (isNeverChecked(element)) {
-            tell(
-                element.place, element.name,
-                QStringLiteral("The element '%1' enumerates values of the type '%2'.").arg(element.name, element.type));
+            tell(element.place, element.name,
+                 Texts::tr("The element '%1' enumerates values of the type '%2'.").arg(element.name, element.type));
         }
         for (const DeclaredAttribute& attribute : element.attributes) {
             if (isNeverChecked(attribute)) {
                 tell(attribute.place, attribute.name,
-                     QStringLiteral("The attribute '%1' enumerates values of the type '%2'.")
+                     Texts::tr("The attribute '%1' enumerates values of the type '%2'.")
                          .arg(attribute.name, attribute.type));
             }
         }

@@ -26,22 +26,20 @@ QString effectOf(const TextNode& tag)
 {
     const QString value = tag.FirstValue();
     if (tag.Is("include")) {
-        return QStringLiteral("A file called '%1' is looked for.").arg(value);
+        return Texts::tr("A file called '%1' is looked for.").arg(value);
     }
     if (tag.IsAnyOf({"restriction", "extension"})) {
-        return QStringLiteral("The base is not read: what is derived here has no type.");
+        return Texts::tr("The base is not read: what is derived here has no type.");
     }
     if (tag.IsAnyOf({"complexType", "simpleType"}) && !tag.Has("name")) {
-        return QStringLiteral(
-                   "It counts as a named type called '%1': what is inside belongs to that type and not to the "
-                   "element around it.")
+        return Texts::tr("It counts as a named type called '%1': what is inside belongs to that type and not to the "
+                         "element around it.")
             .arg(value);
     }
     if (tag.IsAnyOf({"complexType", "simpleType", "element", "attribute"})) {
-        return QStringLiteral("It is called '%1': whoever refers to '%2' does not find it.")
-            .arg(value, tag.Value("name"));
+        return Texts::tr("It is called '%1': whoever refers to '%2' does not find it.").arg(value, tag.Value("name"));
     }
-    return QStringLiteral("The value of the facet is taken to be '%1'.").arg(value);
+    return Texts::tr("The value of the facet is taken to be '%1'.").arg(value);
 }
 
 } // namespace
@@ -57,12 +55,12 @@ void firstAttribute(const Schema& schema, Findings& findings)
                 continue;
             }
             findings.Add(Severity::Error, *tag,
-                         QStringLiteral("The first attribute of <%1> is '%2', not '%3'.")
+                         Texts::tr("The first attribute of <%1> is '%2', not '%3'.")
                              .arg(tag->qName, tag->FirstName(), QLatin1String(expected)),
                          effectOf(*tag),
                          tag->Has(expected)
-                             ? QStringLiteral("Write %1 in front of all other attributes.").arg(QLatin1String(expected))
-                             : QStringLiteral("Leave the attribute out, or give the type a name, written first."));
+                             ? Texts::tr("Write %1 in front of all other attributes.").arg(QLatin1String(expected))
+                             : Texts::tr("Leave the attribute out, or give the type a name, written first."));
         }
     }
 }

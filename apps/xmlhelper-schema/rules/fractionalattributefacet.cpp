@@ -12,9 +12,9 @@ void fractionalAttributeFacet(const Schema& schema, Findings& findings)
         static_cast<void>(tag->Value("value").toInt(&isInteger));
         if (tag->Around("attribute") && isNumber && !isInteger) {
             findings.Add(Severity::Error, *tag,
-                         QStringLiteral("%1 of an attribute is '%2'.").arg(tag->localName, tag->Value("value")),
-                         QStringLiteral("Bounds of attributes are read as integers: this one counts as 0."),
-                         QStringLiteral("Write an integer, or make the attribute an element."));
+                         Texts::tr("%1 of an attribute is '%2'.").arg(tag->localName, tag->Value("value")),
+                         Texts::tr("Bounds of attributes are read as integers: this one counts as 0."),
+                         Texts::tr("Write an integer, or make the attribute an element."));
         }
     }
 }

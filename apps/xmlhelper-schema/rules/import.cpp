@@ -6,12 +6,12 @@ void importedSchema(const Schema& schema, Findings& findings)
 {
     for (const TextNode* const tag : schema.Tags({"import", "redefine", "override"})) {
         findings.Add(Severity::Error, *tag,
-                     QStringLiteral("<%1> names the schema '%2'.").arg(tag->qName, tag->Value("schemaLocation")),
+                     Texts::tr("<%1> names the schema '%2'.").arg(tag->qName, tag->Value("schemaLocation")),
                      tag->Is("import")
-                         ? QStringLiteral("It is passed over: nothing of that schema is read.")
-                         : QStringLiteral("That schema is not read; what stands inside the tag is read as if it "
-                                          "stood beside it."),
-                     QStringLiteral("Use xs:include, and put what is taken from there under no namespace."));
+                         ? Texts::tr("It is passed over: nothing of that schema is read.")
+                         : Texts::tr("That schema is not read; what stands inside the tag is read as if it "
+                                     "stood beside it."),
+                     Texts::tr("Use xs:include, and put what is taken from there under no namespace."));
     }
 }
 

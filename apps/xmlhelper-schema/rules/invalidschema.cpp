@@ -47,15 +47,17 @@ void invalidSchema(const Schema& schema, Findings& findings)
         if (count == 0) {
             continue;
         }
-        Finding& finding = findings.Add(
-            Severity::Warning, beginOfTag(schema, fault.place), prefix,
-            QStringLiteral("libxml2 does not accept the schema: %1").arg(fault.message)
-                + (count == 1 ? QString() : QStringLiteral(" The same of %1 other names.").arg(count - 1)),
-            QStringLiteral("The library does not look at it, but no report can be validated."),
-            prefix.isEmpty() ? QStringLiteral("Mend the schema.")
-                             : QStringLiteral("Declare the prefix: xmlns:%1=\"...\".").arg(prefix));
+        Finding& finding
+            = findings.Add(Severity::Warning, beginOfTag(schema, fault.place), prefix,
+                           count == 1 ? Texts::tr("libxml2 does not accept the schema: %1").arg(fault.message)
+                                      : Texts::tr("libxml2 does not accept the schema: %1 The same of %2 other names.")
+                                            .arg(fault.message)
+                                            .arg(count - 1),
+                           Texts::tr("The library does not look at it, but no report can be validated."),
+                           prefix.isEmpty() ? Texts::tr("Mend the schema.")
+                                            : Texts::tr("Declare the prefix: xmlns:%1=\"...\".").arg(prefix));
         if (!prefix.isEmpty()) {
-            finding.cause = QStringLiteral("the prefix '%1:'").arg(prefix);
+            finding.cause = Texts::tr("the prefix '%1:'").arg(prefix);
         }
     }
 }

@@ -5,9 +5,9 @@ namespace schemadoctor {
 void listType(const Schema& schema, Findings& findings)
 {
     for (const TextNode* const tag : schema.Tags({"list"})) {
-        findings.Add(Severity::Error, *tag, QStringLiteral("%1 is written here.").arg(described(*tag)),
-                     QStringLiteral("It is passed over: what is of this type has no type and cannot be filled."),
-                     QStringLiteral("Use xs:string and write the list as a text, or repeat the element."));
+        findings.Add(Severity::Error, *tag, Texts::tr("%1 is written here.").arg(described(*tag)),
+                     Texts::tr("It is passed over: what is of this type has no type and cannot be filled."),
+                     Texts::tr("Use xs:string and write the list as a text, or repeat the element."));
     }
 }
 

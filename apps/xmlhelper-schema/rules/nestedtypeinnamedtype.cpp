@@ -24,15 +24,14 @@ void nestedTypeInNamedType(const Schema& schema, Findings& findings)
         }
         Finding& finding = findings.Add(
             Severity::Error, *tag,
-            QStringLiteral("An anonymous complex type stands inside of the named type '%1'.").arg(type->Value("name")),
-            QStringLiteral(
-                "Its elements are laid out beside the element that they belong to, and the place for references "
-                "and attributes moves inside of the global element that was read last."),
+            Texts::tr("An anonymous complex type stands inside of the named type '%1'.").arg(type->Value("name")),
+            Texts::tr("Its elements are laid out beside the element that they belong to, and the place for references "
+                      "and attributes moves inside of the global element that was read last."),
             hasAttributes(*tag)
-                ? QStringLiteral("Write '%1', and each named type that it is used in, inside of the element that is of "
-                                 "it, up to the global element: a type with attributes can have no name.")
+                ? Texts::tr("Write '%1', and each named type that it is used in, inside of the element that is of "
+                            "it, up to the global element: a type with attributes can have no name.")
                       .arg(type->Value("name"))
-                : QStringLiteral("Give the inner type a name, at the top of the schema, and refer to it with type."));
+                : Texts::tr("Give the inner type a name, at the top of the schema, and refer to it with type."));
         addTrees(schema, *type, finding);
     }
 }

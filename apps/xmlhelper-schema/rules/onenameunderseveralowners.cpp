@@ -8,15 +8,16 @@ namespace {
 
 QString limitsOf(const TextNode& tag)
 {
-    const QString choice = tag.Around("choice") ? QStringLiteral(", in a choice") : QString();
-    const QString maximum = tag.Has("maxOccurs") ? tag.Value("maxOccurs") : QStringLiteral("not given");
-    return QStringLiteral("minOccurs %1, maxOccurs %2%3").arg(occursOf(tag, "minOccurs", 1)).arg(maximum, choice);
+    const QString maximum = tag.Has("maxOccurs") ? tag.Value("maxOccurs") : Texts::tr("not given");
+    const QString limits = tag.Around("choice") ? Texts::tr("minOccurs %1, maxOccurs %2, in a choice")
+                                                : Texts::tr("minOccurs %1, maxOccurs %2");
+    return limits.arg(occursOf(tag, "minOccurs", 1)).arg(maximum);
 }
 
 /// An anonymous type is another one each time.
 QString typeOf(const TextNode& tag)
 {
-    return tag.children.empty() ? tag.Value("type") : QStringLiteral("its own in line %1").arg(tag.line);
+    return tag.children.empty() ? tag.Value("type") : Texts::tr("its own in line %1").arg(tag.line);
 }
 
 } // namespace
@@ -38,23 +39,22 @@ void oneNameUnderSeveralOwners(const Schema& schema, Findings& findings)
         if (limitsOf(first) != limitsOf(*tag)) {
             findings.Add(
                 Severity::Warning, *tag,
-                QStringLiteral("%1 has the limits: %2; in line %3 it has: %4.")
+                Texts::tr("%1 has the limits: %2; in line %3 it has: %4.")
                     .arg(described(*tag), limitsOf(*tag))
                     .arg(first.line)
                     .arg(limitsOf(first)),
-                QStringLiteral("Limits are found by name: those of the one may be applied to the other where one of "
-                               "their owners stands inside of the other, and an alternative of any choice may be "
-                               "missing everywhere."),
-                QStringLiteral("Give the two elements different names, or the same limits."));
+                Texts::tr("Limits are found by name: those of the one may be applied to the other where one of "
+                          "their owners stands inside of the other, and an alternative of any choice may be "
+                          "missing everywhere."),
+                Texts::tr("Give the two elements different names, or the same limits."));
         } else if (typeOf(first) != typeOf(*tag)) {
-            findings.Add(
-                Severity::Note, *tag,
-                QStringLiteral("%1 is of the type '%2'; in line %3 it is of '%4'.")
-                    .arg(described(*tag), typeOf(*tag))
-                    .arg(first.line)
-                    .arg(typeOf(first)),
-                QStringLiteral("An observer that knows elements by their name alone offers both the same value."),
-                QStringLiteral("Give the two elements different names, or the same type."));
+            findings.Add(Severity::Note, *tag,
+                         Texts::tr("%1 is of the type '%2'; in line %3 it is of '%4'.")
+                             .arg(described(*tag), typeOf(*tag))
+                             .arg(first.line)
+                             .arg(typeOf(first)),
+                         Texts::tr("An observer that knows elements by their name alone offers both the same value."),
+                         Texts::tr("Give the two elements different names, or the same type."));
         }
     }
 }

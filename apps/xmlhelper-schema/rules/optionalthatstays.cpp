@@ -17,46 +17,42 @@ struct Cause
 /// which is looked for among the elements of the report.
 Cause unknownOwner(const QString& name)
 {
-    return {
-        QStringLiteral("The element '%1' is optional, but not known to be.").arg(name),
-        QStringLiteral("When nothing fills it, it stays, with its annotations: what is optional is looked for below "
-                       "the first element that is called like its owner, and in a named type the owner is the "
-                       "type."),
-        QStringLiteral("Write the type inside of the element that is of it, or call that element like the type, or "
-                       "fill '%1' in every report.")
-            .arg(name)};
+    return {Texts::tr("The element '%1' is optional, but not known to be.").arg(name),
+            Texts::tr("When nothing fills it, it stays, with its annotations: what is optional is looked for below "
+                      "the first element that is called like its owner, and in a named type the owner is the "
+                      "type."),
+            Texts::tr("Write the type inside of the element that is of it, or call that element like the type, or "
+                      "fill '%1' in every report.")
+                .arg(name)};
 }
 
 Cause firstCopyOnly(const QString& name)
 {
-    return {
-        QStringLiteral("The element '%1' is optional inside of one that may be repeated.").arg(name),
-        QStringLiteral("When nothing fills it, it is removed from the first copy only, and stays in the others, "
-                       "with its annotations: what is optional is looked for below the first element that is called "
-                       "like its owner."),
-        QStringLiteral("Fill '%1' in every copy but the first, or make it required.").arg(name)};
+    return {Texts::tr("The element '%1' is optional inside of one that may be repeated.").arg(name),
+            Texts::tr("When nothing fills it, it is removed from the first copy only, and stays in the others, "
+                      "with its annotations: what is optional is looked for below the first element that is called "
+                      "like its owner."),
+            Texts::tr("Fill '%1' in every copy but the first, or make it required.").arg(name)};
 }
 
 Cause goneInstead(const QString& name, const QString& other)
 {
-    return {
-        QStringLiteral("The element '%1' is optional, and stands behind '%2', which is optional and empty.")
-            .arg(name, other),
-        QStringLiteral("When nothing fills '%1', '%2' is removed in its place, and the report goes on where that "
-                       "stood: '%1' stays, with its annotations, and what follows is not asked for.")
-            .arg(name, other),
-        QStringLiteral("Put an element with a value into '%1', or '%1' in front of one of its siblings.").arg(other)};
+    return {Texts::tr("The element '%1' is optional, and stands behind '%2', which is optional and empty.")
+                .arg(name, other),
+            Texts::tr("When nothing fills '%1', '%2' is removed in its place, and the report goes on where that "
+                      "stood: '%1' stays, with its annotations, and what follows is not asked for.")
+                .arg(name, other),
+            Texts::tr("Put an element with a value into '%1', or '%1' in front of one of its siblings.").arg(other)};
 }
 
 Cause noValue(const QString& name)
 {
-    return {
-        QStringLiteral("The element '%1' is optional, and nothing inside of it takes a value.").arg(name),
-        QStringLiteral("Attributes alone do not fill it and do not remove it: it stays, with its annotations, unless "
-                       "a value behind it is unfilled. That one removes it."),
-        QStringLiteral("Put an element with a value into '%1', or make it required and set its attributes in every "
-                       "report.")
-            .arg(name)};
+    return {Texts::tr("The element '%1' is optional, and nothing inside of it takes a value.").arg(name),
+            Texts::tr("Attributes alone do not fill it and do not remove it: it stays, with its annotations, unless "
+                      "a value behind it is unfilled. That one removes it."),
+            Texts::tr("Put an element with a value into '%1', or make it required and set its attributes in every "
+                      "report.")
+                .arg(name)};
 }
 
 Cause causeOf(const LaidOutTree& tree, const LaidOutElement& element)

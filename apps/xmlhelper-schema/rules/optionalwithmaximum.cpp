@@ -38,11 +38,11 @@ void optionalWithMaximum(const Schema& schema, Findings& findings)
             && accepted.contains(
                 keyOf(localPart(nameOf(*tag)), greatest, tag->Has("name") ? tag->GetPlace() : Place()))) {
             findings.Add(Severity::Warning, *tag,
-                         QStringLiteral("%1 is optional with maxOccurs=\"%2\".").arg(described(*tag)).arg(maxOccurs),
-                         QStringLiteral("Counts up to %1 are accepted: more than the schema allows.").arg(greatest),
-                         maxOccurs == 1 ? QStringLiteral("Leave maxOccurs out.")
-                                        : QStringLiteral("Write maxOccurs=\"unbounded\", or make the element required "
-                                                         "inside of an optional one."));
+                         Texts::tr("%1 is optional with maxOccurs=\"%2\".").arg(described(*tag)).arg(maxOccurs),
+                         Texts::tr("Counts up to %1 are accepted: more than the schema allows.").arg(greatest),
+                         maxOccurs == 1 ? Texts::tr("Leave maxOccurs out.")
+                                        : Texts::tr("Write maxOccurs=\"unbounded\", or make the element required "
+                                                    "inside of an optional one."));
         }
     }
 }

@@ -26,10 +26,10 @@ void optionalWithoutMaximum(const Schema& schema, Findings& findings)
         if (!tag->IsGlobal() && !tag->Has("maxOccurs") && tag->Has("minOccurs") && occursOf(*tag, "minOccurs", 1) == 0
             && isInRepeatedGroup(*tag)) {
             findings.Add(Severity::Warning, *tag,
-                         QStringLiteral("%1 is optional without maxOccurs, in a group that may occur repeatedly.")
+                         Texts::tr("%1 is optional without maxOccurs, in a group that may occur repeatedly.")
                              .arg(described(*tag)),
-                         QStringLiteral("No count above 0 is accepted for it: a second one is refused."),
-                         QStringLiteral("Write maxOccurs=\"unbounded\" at the element."));
+                         Texts::tr("No count above 0 is accepted for it: a second one is refused."),
+                         Texts::tr("Write maxOccurs=\"unbounded\" at the element."));
         }
     }
 }

@@ -57,10 +57,10 @@ void otherOrder(const Schema& schema, Findings& findings)
                 continue;
             }
             findings.Add(Severity::Error, second->GetPlace(), nameOf(*second),
-                         QStringLiteral("%1 stands in front of %2.").arg(described(*second), described(*first)),
-                         QStringLiteral("It is laid out behind it: what is read behind the reference to it comes in "
-                                        "at the end, in the order of names."),
-                         QStringLiteral("Declare '%1' and '%2' in front of the element that refers to them.")
+                         Texts::tr("%1 stands in front of %2.").arg(described(*second), described(*first)),
+                         Texts::tr("It is laid out behind it: what is read behind the reference to it comes in "
+                                   "at the end, in the order of names."),
+                         Texts::tr("Declare '%1' and '%2' in front of the element that refers to them.")
                              .arg(nameOf(*second), nameOf(*first)),
                          index);
         }

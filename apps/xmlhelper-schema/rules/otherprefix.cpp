@@ -14,19 +14,17 @@ void otherPrefix(const Schema& schema, Findings& findings)
             if (tag->isOfSchemaNamespace) {
                 findings.Add(
                     Severity::Error, *tag,
-                    QStringLiteral("The tags of XML Schema are written without the prefix 'xs:': <%1>.")
-                        .arg(tag->qName),
-                    QStringLiteral("They are passed over without a word: nothing of them is laid out."),
-                    QStringLiteral("Declare xmlns:xs=\"http://www.w3.org/2001/XMLSchema\" and write xs: in front "
-                                   "of every tag and every type of XML Schema."));
+                    Texts::tr("The tags of XML Schema are written without the prefix 'xs:': <%1>.").arg(tag->qName),
+                    Texts::tr("They are passed over without a word: nothing of them is laid out."),
+                    Texts::tr("Declare xmlns:xs=\"http://www.w3.org/2001/XMLSchema\" and write xs: in front "
+                              "of every tag and every type of XML Schema."));
                 break;
             }
             if (!tag->parent) {
-                findings.Add(
-                    Severity::Error, *tag,
-                    QStringLiteral("The file is no XML schema: its root is <%1>.").arg(tag->qName),
-                    QStringLiteral("Nothing of it is laid out."),
-                    QStringLiteral("Write <xs:schema xmlns:xs=\"http://www.w3.org/2001/XMLSchema\"> as its root."));
+                findings.Add(Severity::Error, *tag,
+                             Texts::tr("The file is no XML schema: its root is <%1>.").arg(tag->qName),
+                             Texts::tr("Nothing of it is laid out."),
+                             Texts::tr("Write <xs:schema xmlns:xs=\"http://www.w3.org/2001/XMLSchema\"> as its root."));
                 break;
             }
         }

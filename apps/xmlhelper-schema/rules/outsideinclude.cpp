@@ -10,9 +10,9 @@ void look(const IncludedFile& file, Findings& findings)
         if (included.isOutsideOfFolder && included.state != IncludeState::Missing) {
             findings.Add(
                 Severity::Note, included.place, included.written,
-                QStringLiteral("The file '%1' is not in the folder of the top file.").arg(included.written),
-                QStringLiteral("It is read as '%1'; whoever gets the folder alone does not get it.").arg(included.file),
-                QStringLiteral("Keep the files of a schema in one folder."));
+                Texts::tr("The file '%1' is not in the folder of the top file.").arg(included.written),
+                Texts::tr("It is read as '%1'; whoever gets the folder alone does not get it.").arg(included.file),
+                Texts::tr("Keep the files of a schema in one folder."));
         }
         look(included, findings);
     }

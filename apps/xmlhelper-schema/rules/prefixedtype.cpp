@@ -19,15 +19,15 @@ void prefixedType(const Schema& schema, Findings& findings)
             if (isOtherwisePrefixed(name)) {
                 Finding& finding = findings.Add(
                     Severity::Error, *tag,
-                    QStringLiteral("%1=\"%2\" has a prefix that is not 'xs:'.").arg(QLatin1String(attribute), name),
-                    isBuiltIn(name) ? QStringLiteral("It contains 'xs:', so its first three characters are cut "
-                                                     "off and the rest counts as a type of XML Schema.")
-                                    : QStringLiteral("A definition called '%1' is looked up, prefix included; it "
-                                                     "never comes, and the whole schema is given up.")
+                    Texts::tr("%1=\"%2\" has a prefix that is not 'xs:'.").arg(QLatin1String(attribute), name),
+                    isBuiltIn(name) ? Texts::tr("It contains 'xs:', so its first three characters are cut "
+                                                "off and the rest counts as a type of XML Schema.")
+                                    : Texts::tr("A definition called '%1' is looked up, prefix included; it "
+                                                "never comes, and the whole schema is given up.")
                                           .arg(name),
-                    QStringLiteral("Write '%1' for a definition of the schema, 'xs:%1' for a type of XML Schema.")
+                    Texts::tr("Write '%1' for a definition of the schema, 'xs:%1' for a type of XML Schema.")
                         .arg(localPart(name)));
-                finding.cause = QStringLiteral("the prefix '%1:'").arg(name.section(QLatin1Char(':'), 0, 0));
+                finding.cause = Texts::tr("the prefix '%1:'").arg(name.section(QLatin1Char(':'), 0, 0));
             }
         }
     }

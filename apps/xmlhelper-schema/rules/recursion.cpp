@@ -109,13 +109,13 @@ void CycleSearch::tell(const QString& name, const TextNode& reference)
     }
     cycle.append(name);
     m_findings.Add(m_isGivenUp ? Severity::Error : Severity::Warning, reference,
-                   QStringLiteral("Definitions contain each other: %1.").arg(cycle.join(QLatin1String(" > "))),
+                   Texts::tr("Definitions contain each other: %1.").arg(cycle.join(QLatin1String(" > "))),
                    m_isGivenUp
-                       ? QStringLiteral("They wait for each other, and the whole schema is given up: the report holds "
-                                        "nothing.")
-                       : QStringLiteral("The repetition ends where the library meets it: a report has no more levels "
-                                        "than are laid out."),
-                   QStringLiteral("Write as many levels as reports have, each as a type of its own."));
+                       ? Texts::tr("They wait for each other, and the whole schema is given up: the report holds "
+                                   "nothing.")
+                       : Texts::tr("The repetition ends where the library meets it: a report has no more levels "
+                                   "than are laid out."),
+                   Texts::tr("Write as many levels as reports have, each as a type of its own."));
 }
 
 } // namespace

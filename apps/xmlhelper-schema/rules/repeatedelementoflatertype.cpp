@@ -11,11 +11,10 @@ void repeatedElementOfLaterType(const Schema& schema, Findings& findings)
         }
         Finding& finding = findings.Add(
             Severity::Error, *tag,
-            QStringLiteral(
-                "%1 is required %2 times, inside of the named type '%3', and its type '%4' is defined later.")
+            Texts::tr("%1 is required %2 times, inside of the named type '%3', and its type '%4' is defined later.")
                 .arg(described(*tag), tag->Value("minOccurs"), type->Value("name"), tag->Value("type")),
-            QStringLiteral("Its copies are lost, and with them all elements of the type that follow it."),
-            QStringLiteral("Define '%1' in front of '%2'.").arg(tag->Value("type"), type->Value("name")));
+            Texts::tr("Its copies are lost, and with them all elements of the type that follow it."),
+            Texts::tr("Define '%1' in front of '%2'.").arg(tag->Value("type"), type->Value("name")));
         addTrees(schema, *type, finding);
     }
 }

@@ -10,9 +10,9 @@ void look(const IncludedFile& file, Findings& findings)
         if (included.state == IncludeState::ReadAgain) {
             findings.Add(
                 Severity::Note, included.place, included.written,
-                QStringLiteral("The file '%1' is included once more.").arg(included.written),
-                QStringLiteral("It is read again, and its definitions take the place of those that it gave before."),
-                QStringLiteral("Include each file once, in the top file."));
+                Texts::tr("The file '%1' is included once more.").arg(included.written),
+                Texts::tr("It is read again, and its definitions take the place of those that it gave before."),
+                Texts::tr("Include each file once, in the top file."));
         }
         look(included, findings);
     }

@@ -28,14 +28,13 @@ void requiredWithoutMaximum(const Schema& schema, Findings& findings)
             || (minOccurs == 1 && !isInRepeatedGroup(*tag))) {
             continue;
         }
-        findings.Add(
-            Severity::Warning, *tag,
-            minOccurs > 1
-                ? QStringLiteral("%1 is required %2 times, without maxOccurs.").arg(described(*tag)).arg(minOccurs)
-                : QStringLiteral("%1 is required without maxOccurs, in a group that may occur repeatedly.")
-                      .arg(described(*tag)),
-            QStringLiteral("It has no limits at all: every count is refused, also that of one."),
-            QStringLiteral("Write maxOccurs at the element."));
+        findings.Add(Severity::Warning, *tag,
+                     minOccurs > 1
+                         ? Texts::tr("%1 is required %2 times, without maxOccurs.").arg(described(*tag)).arg(minOccurs)
+                         : Texts::tr("%1 is required without maxOccurs, in a group that may occur repeatedly.")
+                               .arg(described(*tag)),
+                     Texts::tr("It has no limits at all: every count is refused, also that of one."),
+                     Texts::tr("Write maxOccurs at the element."));
     }
 }
 

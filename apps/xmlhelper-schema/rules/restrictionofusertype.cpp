@@ -10,12 +10,12 @@ void restrictionOfUserType(const Schema& schema, Findings& findings)
         if (base.isEmpty() || isBuiltIn(base) || tag->parent->IsAnyOf({"simpleContent", "complexContent"})) {
             continue;
         }
-        findings.Add(Severity::Error, *tag, QStringLiteral("The restriction is one of the type '%1'.").arg(base),
-                     QStringLiteral("'%1' itself becomes the type: its own type and facets are not looked at, and no "
-                                    "setter takes a type of that name.")
-                         .arg(base),
-                     QStringLiteral("Restrict the type of XML Schema that '%1' stands on, and repeat its facets here.")
-                         .arg(base));
+        findings.Add(
+            Severity::Error, *tag, Texts::tr("The restriction is one of the type '%1'.").arg(base),
+            Texts::tr("'%1' itself becomes the type: its own type and facets are not looked at, and no "
+                      "setter takes a type of that name.")
+                .arg(base),
+            Texts::tr("Restrict the type of XML Schema that '%1' stands on, and repeat its facets here.").arg(base));
     }
 }
 

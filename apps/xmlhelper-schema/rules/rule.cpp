@@ -105,8 +105,7 @@ Finding& Findings::Add(Severity severity, const Place& place, const QString& sub
 QVector<Finding> Findings::Take()
 {
     if (m_leftOutCount > 0) {
-        m_leftOut.what
-            = QStringLiteral("%1 more of this kind are left out, the last of them here.").arg(m_leftOutCount);
+        m_leftOut.what = Texts::tr("%1 more of this kind are left out, the last of them here.").arg(m_leftOutCount);
         m_leftOut.meantTree.clear();
         m_leftOut.laidOutTree.clear();
         m_findings.append(m_leftOut);

@@ -11,6 +11,7 @@
 
 #include "model/finding.h"
 #include "model/laidouttree.h"
+#include "model/texts.h"
 #include "reading/grammarcheck.h"
 #include "reading/schemarecord.h"
 #include "reading/schematext.h"

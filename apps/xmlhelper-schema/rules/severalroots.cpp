@@ -12,12 +12,10 @@ void severalRoots(const Schema& schema, Findings& findings)
     const LaidOutElement& first = tree.elements.front();
     findings.Add(
         Severity::Error, first.place, first.name,
-        QStringLiteral("%1 elements are laid out as roots, of which '%2' is the first.")
-            .arg(tree.rootCount)
-            .arg(first.name),
-        QStringLiteral("The report gets all of them, one behind the other: it is no XML document, and no program reads "
-                       "it."),
-        QStringLiteral("Declare one global element around them, behind all includes, and refer to it nowhere."));
+        Texts::tr("%1 elements are laid out as roots, of which '%2' is the first.").arg(tree.rootCount).arg(first.name),
+        Texts::tr("The report gets all of them, one behind the other: it is no XML document, and no program reads "
+                  "it."),
+        Texts::tr("Declare one global element around them, behind all includes, and refer to it nowhere."));
 }
 
 } // namespace schemadoctor

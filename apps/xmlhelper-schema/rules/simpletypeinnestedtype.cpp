@@ -54,9 +54,9 @@ void simpleTypeInNestedType(const Schema& schema, Findings& findings)
         }
         Finding& finding = findings.Add(
             Severity::Error, *tag,
-            QStringLiteral("%1 has a simple type written inside of it, two types deep.").arg(described(*element)),
-            QStringLiteral("What follows it in the same place moves one level up in the report."),
-            QStringLiteral("Give the simple type a name, at the top of the schema, and refer to it with type."));
+            Texts::tr("%1 has a simple type written inside of it, two types deep.").arg(described(*element)),
+            Texts::tr("What follows it in the same place moves one level up in the report."),
+            Texts::tr("Give the simple type a name, at the top of the schema, and refer to it with type."));
         if (const TextNode* const global = globalAround(*tag)) {
             addTrees(schema, *global, finding);
         }

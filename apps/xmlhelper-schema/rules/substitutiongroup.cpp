@@ -6,13 +6,12 @@ void substitutionGroup(const Schema& schema, Findings& findings)
 {
     for (const TextNode* const tag : schema.Tags({"element"})) {
         if (tag->Has("substitutionGroup")) {
-            findings.Add(
-                Severity::Warning, *tag,
-                QStringLiteral("%1 may stand for '%2'.").arg(described(*tag), tag->Value("substitutionGroup")),
-                QStringLiteral("It never does: a reference to '%1' lays out only that one. A member that nothing "
-                               "refers to competes for the root of the report.")
-                    .arg(tag->Value("substitutionGroup")),
-                QStringLiteral("Write the members as alternatives of an xs:choice."));
+            findings.Add(Severity::Warning, *tag,
+                         Texts::tr("%1 may stand for '%2'.").arg(described(*tag), tag->Value("substitutionGroup")),
+                         Texts::tr("It never does: a reference to '%1' lays out only that one. A member that nothing "
+                                   "refers to competes for the root of the report.")
+                             .arg(tag->Value("substitutionGroup")),
+                         Texts::tr("Write the members as alternatives of an xs:choice."));
         }
     }
 }

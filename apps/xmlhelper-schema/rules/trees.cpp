@@ -152,7 +152,7 @@ QString laidOutTreeOf(const Schema& schema, const TextNode& declaration)
 {
     const int element = schema.FirstElementOf(declaration);
     if (element == LaidOutElement::None) {
-        return QStringLiteral("(nothing)");
+        return Texts::tr("(nothing)");
     }
     QStringList lines;
     addLaidOut(schema.GetTree(), element, 0, lines);

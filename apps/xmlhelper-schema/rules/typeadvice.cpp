@@ -58,17 +58,16 @@ QString adviceForElement(const QString& type)
 {
     switch (kindOf(type)) {
     case Kind::Number:
-        return QStringLiteral("Write xs:double.");
+        return Texts::tr("Write xs:double.");
     case Kind::Integer:
-        return QStringLiteral("Write xs:integer, restricted to the range.");
+        return Texts::tr("Write xs:integer, restricted to the range.");
     case Kind::Moment:
-        return QStringLiteral("Write xs:dateTime, or xs:string.");
+        return Texts::tr("Write xs:dateTime, or xs:string.");
     case Kind::Text:
-        return QStringLiteral("Write xs:string.");
+        return Texts::tr("Write xs:string.");
     default:
-        return QStringLiteral(
-            "Write one of xs:string, xs:double, xs:integer, xs:boolean, xs:dateTime and xs:time, or a "
-            "named xs:simpleType that restricts one of them.");
+        return Texts::tr("Write one of xs:string, xs:double, xs:integer, xs:boolean, xs:dateTime and xs:time, or a "
+                         "named xs:simpleType that restricts one of them.");
     }
 }
 
@@ -76,17 +75,17 @@ QString adviceForAttribute(const QString& type)
 {
     switch (kindOf(type)) {
     case Kind::Number:
-        return QStringLiteral("Write xs:double.");
+        return Texts::tr("Write xs:double.");
     case Kind::Integer:
-        return QStringLiteral("Write xs:integer.");
+        return Texts::tr("Write xs:integer.");
     case Kind::Truth:
-        return QStringLiteral("Write xs:string, and 'true' or 'false' as its value.");
+        return Texts::tr("Write xs:string, and 'true' or 'false' as its value.");
     case Kind::Moment:
-        return QStringLiteral("Write xs:dateTime, or xs:string.");
+        return Texts::tr("Write xs:dateTime, or xs:string.");
     case Kind::Text:
-        return QStringLiteral("Write xs:string.");
+        return Texts::tr("Write xs:string.");
     default:
-        return QStringLiteral(
+        return Texts::tr(
             "Write one of xs:string, xs:double, xs:integer and xs:dateTime; for a restricted type, declare "
             "the attribute globally with the type inside, and refer to it.");
     }

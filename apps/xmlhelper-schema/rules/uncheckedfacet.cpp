@@ -9,16 +9,15 @@ void uncheckedFacet(const Schema& schema, Findings& findings)
          schema.Tags({"pattern", "length", "minLength", "maxLength", "totalDigits", "fractionDigits", "whiteSpace",
                       "assertion", "assert", "explicitTimezone"})) {
         const bool isOfAttribute = tag->Around("attribute");
-        findings.Add(
-            isOfAttribute ? Severity::Note : Severity::Error, *tag,
-            QStringLiteral("The facet %1 is '%2'.").arg(tag->localName, tag->Value("value")),
-            isOfAttribute
-                ? QStringLiteral("It is not checked.")
-                : QStringLiteral("It is not checked, and stays in the report as an attribute '%1' that the schema "
-                                 "does not allow.")
-                      .arg(tag->localName),
-            QStringLiteral("Leave it out; what is checked are enumerations and, for numbers, minInclusive, "
-                           "maxInclusive, minExclusive and maxExclusive."));
+        findings.Add(isOfAttribute ? Severity::Note : Severity::Error, *tag,
+                     Texts::tr("The facet %1 is '%2'.").arg(tag->localName, tag->Value("value")),
+                     isOfAttribute
+                         ? Texts::tr("It is not checked.")
+                         : Texts::tr("It is not checked, and stays in the report as an attribute '%1' that the schema "
+                                     "does not allow.")
+                               .arg(tag->localName),
+                     Texts::tr("Leave it out; what is checked are enumerations and, for numbers, minInclusive, "
+                               "maxInclusive, minExclusive and maxExclusive."));
     }
 }
 

@@ -38,17 +38,17 @@ void unconvertibleBound(const Schema& schema, Findings& findings)
         } else {
             static_cast<void>(value.toDouble(&isConverted));
         }
-        const QString what = QStringLiteral("%1 of '%2' is '%3'.").arg(tag->localName, type, value);
+        const QString what = Texts::tr("%1 of '%2' is '%3'.").arg(tag->localName, type, value);
         if (isUnbounded(type)) {
             findings.Add(Severity::Error, *tag, what,
-                         QStringLiteral("Only numbers have bounds: it is not checked, and stays in the report as an "
-                                        "attribute."),
-                         QStringLiteral("Leave the facet out."));
+                         Texts::tr("Only numbers have bounds: it is not checked, and stays in the report as an "
+                                   "attribute."),
+                         Texts::tr("Leave the facet out."));
         } else if (isNumeric(type) && !isConverted && !tag->Around("attribute")) {
             findings.Add(Severity::Error, *tag, what,
-                         QStringLiteral("It cannot be read as a number of that type and counts as 0."),
-                         isInteger(type) ? QStringLiteral("Write an integer between -2147483648 and 2147483647.")
-                                         : QStringLiteral("Write a number in digits, with a point."));
+                         Texts::tr("It cannot be read as a number of that type and counts as 0."),
+                         isInteger(type) ? Texts::tr("Write an integer between -2147483648 and 2147483647.")
+                                         : Texts::tr("Write a number in digits, with a point."));
         }
     }
 }

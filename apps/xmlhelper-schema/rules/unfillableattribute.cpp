@@ -22,9 +22,9 @@ void unfillableAttribute(const Schema& schema, Findings& findings)
             findings.Add(
                 Severity::Warning, attribute.place, attribute.name,
                 attribute.type.isEmpty()
-                    ? QStringLiteral("The attribute '%1' has no type of its own.").arg(attribute.name)
-                    : QStringLiteral("The attribute '%1' is of the type '%2'.").arg(attribute.name, attribute.type),
-                QStringLiteral("No setter takes it: the attribute can be removed, and otherwise stays and holds '%1'.")
+                    ? Texts::tr("The attribute '%1' has no type of its own.").arg(attribute.name)
+                    : Texts::tr("The attribute '%1' is of the type '%2'.").arg(attribute.name, attribute.type),
+                Texts::tr("No setter takes it: the attribute can be removed, and otherwise stays and holds '%1'.")
                     .arg(attribute.type),
                 adviceForAttribute(attribute.type), index);
         }

@@ -26,12 +26,12 @@ QString effectOn(const LaidOutElement& element)
 {
     if (!element.isNeverKept) {
         return element.fate == Fate::Stays || element.fate == Fate::IsRemovedWithAnother
-            ? QStringLiteral("No setter takes it: the element stays empty in every report, with its annotations.")
-            : QStringLiteral("No setter takes it.");
+            ? Texts::tr("No setter takes it: the element stays empty in every report, with its annotations.")
+            : Texts::tr("No setter takes it.");
     }
     return element.fate == Fate::IsRemovedWithItsContainer
-        ? QStringLiteral("No setter takes it: the element is removed from every report, with the container around it.")
-        : QStringLiteral("No setter takes it: the element is removed from every report.");
+        ? Texts::tr("No setter takes it: the element is removed from every report, with the container around it.")
+        : Texts::tr("No setter takes it: the element is removed from every report.");
 }
 
 QString keyOf(const Place& place)
@@ -68,8 +68,8 @@ void unfillableElement(const Schema& schema, Findings& findings)
         }
         findings.Add(element.fate == Fate::Stays ? Severity::Error : Severity::Warning, element.place, element.name,
                      element.type.isEmpty()
-                         ? QStringLiteral("The element '%1' has no type that is understood.").arg(element.name)
-                         : QStringLiteral("The element '%1' is of the type '%2'.").arg(element.name, element.type),
+                         ? Texts::tr("The element '%1' has no type that is understood.").arg(element.name)
+                         : Texts::tr("The element '%1' is of the type '%2'.").arg(element.name, element.type),
                      effectOn(element), adviceForElement(element.type), index);
     }
 }

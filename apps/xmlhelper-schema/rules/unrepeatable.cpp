@@ -20,18 +20,15 @@ void unrepeatable(const Schema& schema, Findings& findings)
         told.insert(place);
         findings.Add(
             Severity::Warning, element.place, element.name,
-            isNever
-                ? QStringLiteral("The element '%1' may be repeated, but is not known to.").arg(element.name)
-                : QStringLiteral("The element '%1' may be repeated inside of one that may be, too.").arg(element.name),
-            isNever
-                ? QStringLiteral("Every count is refused: limits are looked for below the first element that is "
-                                 "called like the owner, and in a named type the owner is the type.")
-                : QStringLiteral("Counts are accepted in the first copy only, and refused in the others: limits are "
-                                 "looked for below the first element that is called like the owner."),
-            isNever
-                ? QStringLiteral("Write the type inside of the element that is of it, or call that element like the "
-                                 "type.")
-                : QStringLiteral("Repeat only one of the two in a report."),
+            isNever ? Texts::tr("The element '%1' may be repeated, but is not known to.").arg(element.name)
+                    : Texts::tr("The element '%1' may be repeated inside of one that may be, too.").arg(element.name),
+            isNever ? Texts::tr("Every count is refused: limits are looked for below the first element that is "
+                                "called like the owner, and in a named type the owner is the type.")
+                    : Texts::tr("Counts are accepted in the first copy only, and refused in the others: limits are "
+                                "looked for below the first element that is called like the owner."),
+            isNever ? Texts::tr("Write the type inside of the element that is of it, or call that element like the "
+                                "type.")
+                    : Texts::tr("Repeat only one of the two in a report."),
             index);
     }
 }

@@ -71,7 +71,7 @@ function update() {
         foldings.forEach((folding, index) => { folding.open = openBeforeSearch[index]; });
         openBeforeSearch = null;
     }
-    found.textContent = word === "" ? "" : inTree + " in the tree, " + inFindings + " findings";
+    found.textContent = word === "" ? "" : found.dataset.words.replace("%1", inTree).replace("%2", inFindings);
     keepOneTabStop();
 }
 
