@@ -74,7 +74,7 @@ function(xmlhelper_install_tool target)
     install(FILES ${arg_FILES} DESTINATION "${folder}" COMPONENT tools EXCLUDE_FROM_ALL)
 endfunction()
 
-# Installs a companion program and its man page, man/<target>.1 beside its sources, for the people who write schemas and
+# Installs a companion program, its translations and its man page, man/<target>.1 beside its sources, for the people who write schemas and
 # reports: with the development files.
 function(xmlhelper_install_app target)
     if(UNIX AND NOT APPLE)
@@ -84,6 +84,11 @@ function(xmlhelper_install_app target)
     get_target_property(source_dir ${target} SOURCE_DIR)
     install(TARGETS ${target} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT development)
     install(FILES "${source_dir}/man/${target}.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT development)
+    get_target_property(catalogues ${target} XMLHELPER_CATALOGUES)
+    if(catalogues)
+        install(FILES ${catalogues}
+            DESTINATION "${CMAKE_INSTALL_DATADIR}/xmlhelper/translations" COMPONENT development)
+    endif()
 endfunction()
 
 # The stand-ins that are in use; the embedding project installs the libraries that it brings itself.

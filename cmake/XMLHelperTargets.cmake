@@ -2,6 +2,7 @@
 # all of it is private to the target it is called for.
 #
 #   xmlhelper_target_defaults(<target>)   warnings, strict Qt, sanitizers, C++17
+#   xmlhelper_lay_translations_beside(<program> <catalogue>...)   into a folder of that name
 
 function(xmlhelper_target_defaults target)
     target_compile_features(${target} PUBLIC cxx_std_17)
@@ -31,4 +32,21 @@ function(xmlhelper_target_defaults target)
             -fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
         target_link_options(${target} PUBLIC -fsanitize=${sanitizers})
     endif()
+endfunction()
+
+# The catalogues in all languages, when they are made. The program's property XMLHELPER_CATALOGUES tells what to install.
+function(xmlhelper_lay_translations_beside program)
+    if(NOT TARGET xmlhelper_translations)
+        return()
+    endif()
+    get_target_property(catalogues xmlhelper_translations XMLHELPER_CATALOGUES)
+    list(JOIN ARGN "|" wanted)
+    list(FILTER catalogues INCLUDE REGEX "/(${wanted})_[a-z]+\\.qm$")
+    set(folder "$<TARGET_FILE_DIR:${program}>/translations")
+    add_dependencies(${program} xmlhelper_translations)
+    set_property(TARGET ${program} APPEND PROPERTY LINK_DEPENDS "${catalogues}")
+    set_property(TARGET ${program} PROPERTY XMLHELPER_CATALOGUES "${catalogues}")
+    add_custom_command(TARGET ${program} POST_BUILD
+        COMMAND ${CMAKE_COMMAND} -E make_directory "${folder}"
+        COMMAND ${CMAKE_COMMAND} -E copy_if_different ${catalogues} "${folder}")
 endfunction()

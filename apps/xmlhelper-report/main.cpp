@@ -5,6 +5,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include "language.h"
 #include "rendering.h"
 
 namespace {
@@ -39,9 +40,12 @@ int main(int argc, char** argv)
                                     QStringLiteral("Validate by this schema, not by the one that the report names."),
                                     QStringLiteral("file"));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON, for programs."));
+    const QCommandLineOption language(
+        QStringLiteral("language"), QStringLiteral("Speak this language: de, en or fr; by default that of the system."),
+        QStringLiteral("code"));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
-    parser.addOptions({schema, json});
+    parser.addOptions({schema, json, language});
     parser.addPositionalArgument(QStringLiteral("report"), QStringLiteral("XML files, as reports are written."),
                                  QStringLiteral("report..."));
     if (!parser.parse(QCoreApplication::arguments())) {
@@ -60,12 +64,16 @@ int main(int argc, char** argv)
         return refuse(QStringLiteral("--schema needs a file"));
     }
 
+    if (!speak({QStringLiteral("ReportCheck")}, parser.value(language))) {
+        return refuse(QStringLiteral("there are no texts in the language '%1'").arg(parser.value(language)));
+    }
+
     std::vector<Result> results;
     const QStringList reports = parser.positionalArguments();
     for (const QString& report : reports) {
         results.push_back(checkReport(report, parser.value(schema)));
         if (!parser.isSet(json)) {
-            print(stdout, textOf(results.back()).toLocal8Bit());
+            print(stdout, textOf(results.back()).toUtf8());
         }
     }
     if (parser.isSet(json)) {

@@ -7,6 +7,8 @@
 #include <QJsonObject>
 #include <QStringList>
 
+#include "texts.h"
+
 namespace reportcheck {
 
 namespace {
@@ -15,7 +17,7 @@ QString lineOf(const Finding& finding)
 {
     const QString place = finding.line > 0 ? QStringLiteral("%1:%2").arg(finding.file).arg(finding.line) : finding.file;
     const QString path = finding.path.isEmpty() ? QString() : finding.path + QStringLiteral(": ");
-    return place + QStringLiteral(": ") + nameOf(finding.severity) + QStringLiteral(": ") + path + finding.text
+    return place + QStringLiteral(": ") + wordFor(finding.severity) + QStringLiteral(": ") + path + finding.text
         + QStringLiteral(" [") + finding.rule + QStringLiteral("]\n");
 }
 
@@ -31,9 +33,21 @@ QString linesOf(const std::vector<Finding>& findings)
     return lines;
 }
 
-QString counted(int count, const QString& thing)
+QString wordsForMany(Severity severity)
 {
-    return count == 1 ? QStringLiteral("1 ") + thing : QStringLiteral("%1 %2s").arg(count).arg(thing);
+    switch (severity) {
+    case Severity::Error:
+        return Texts::tr("errors");
+    case Severity::Warning:
+        return Texts::tr("warnings");
+    default:
+        return Texts::tr("notes");
+    }
+}
+
+QString counted(int count, Severity severity)
+{
+    return QStringLiteral("%1 %2").arg(count).arg(count == 1 ? wordFor(severity) : wordsForMany(severity));
 }
 
 QString countsOf(const Result& result)
@@ -47,25 +61,24 @@ QString countsOf(const Result& result)
             }
         }
         if (count > 0) {
-            counts.append(counted(count, nameOf(severity)));
+            counts.append(counted(count, severity));
         }
     }
-    return counts.isEmpty() ? QStringLiteral("nothing to say") : counts.join(QStringLiteral(", "));
+    return counts.isEmpty() ? Texts::tr("nothing to say") : counts.join(QStringLiteral(", "));
 }
 
 QString validationOf(const Result& result)
 {
     if (result.schema.isEmpty()) {
-        return QStringLiteral("not validated, no schema");
+        return Texts::tr("not validated, no schema");
     }
     if (result.isStopped) {
-        return QStringLiteral("not validated to the end, by %1").arg(result.schema);
+        return Texts::tr("not validated to the end, by %1").arg(result.schema);
     }
     if (!result.isValidated) {
-        return QStringLiteral("not validated, the schema is no valid one: %1").arg(result.schema);
+        return Texts::tr("not validated, the schema is no valid one: %1").arg(result.schema);
     }
-    return (result.validation.empty() ? QStringLiteral("valid by %1") : QStringLiteral("validated by %1"))
-        .arg(result.schema);
+    return (result.validation.empty() ? Texts::tr("valid by %1") : Texts::tr("validated by %1")).arg(result.schema);
 }
 
 QJsonArray jsonOf(const std::vector<Finding>& findings)
@@ -102,7 +115,7 @@ QJsonObject jsonOf(const Result& result)
 QString textOf(const Result& result)
 {
     if (!result.IsReadable()) {
-        return QStringLiteral("%1: cannot be checked. %2\n").arg(result.report, result.unreadableReason);
+        return Texts::tr("%1: cannot be checked. %2").arg(result.report, result.unreadableReason) + QLatin1Char('\n');
     }
     return linesOf(result.findings) + linesOf(result.validation)
         + QStringLiteral("%1: %2; %3\n").arg(result.report, countsOf(result), validationOf(result));

@@ -9,6 +9,7 @@
 
 #include "elementpaths.h"
 #include "rules/rule.h"
+#include "texts.h"
 #include "validation.h"
 #include "xmlfile.h"
 
@@ -103,7 +104,7 @@ private:
         last.rule = QLatin1String(rule.name);
         last.file = m_result.report;
         last.count = m_counts[rule.name] - MaxFindingsOfARule;
-        last.text = QStringLiteral("%1 more of this kind are left out.").arg(last.count);
+        last.text = Texts::tr("%1 more of this kind are left out.").arg(last.count);
     }
 
     const xmlNode* m_pRoot;
@@ -115,13 +116,26 @@ private:
 
 QString withLine(const ReadFile& read)
 {
-    return read.line > 0 ? QStringLiteral("line %1: %2").arg(read.line).arg(read.reason) : read.reason;
+    return read.line > 0 ? Texts::tr("line %1: %2").arg(read.line).arg(read.reason) : read.reason;
 }
 
 bool hasAny(const std::vector<Finding>& findings, Severity severity)
 {
     return std::any_of(findings.begin(), findings.end(),
                        [severity](const Finding& finding) { return finding.severity == severity; });
+}
+
+const char* englishFor(Severity severity)
+{
+    switch (severity) {
+    case Severity::Note:
+        return QT_TRANSLATE_NOOP("ReportCheck", "note");
+    case Severity::Warning:
+        return QT_TRANSLATE_NOOP("ReportCheck", "warning");
+    case Severity::Error:
+        break;
+    }
+    return QT_TRANSLATE_NOOP("ReportCheck", "error");
 }
 
 } // namespace
@@ -140,7 +154,7 @@ Result checkReport(const QString& report, const QString& schema)
     result.schema = location.isGiven ? schema : location.foundFile;
     if (location.isGiven && !QFileInfo(schema).isFile()) {
         result.schema.clear();
-        result.unreadableReason = QStringLiteral("There is no schema \"%1\".").arg(schema);
+        result.unreadableReason = Texts::tr("There is no schema \"%1\".").arg(schema);
         return result;
     }
 
@@ -174,15 +188,12 @@ ExitStatus exitStatusOf(const Result& result)
 
 QString nameOf(Severity severity)
 {
-    switch (severity) {
-    case Severity::Note:
-        return QStringLiteral("note");
-    case Severity::Warning:
-        return QStringLiteral("warning");
-    case Severity::Error:
-        break;
-    }
-    return QStringLiteral("error");
+    return QString::fromLatin1(englishFor(severity));
+}
+
+QString wordFor(Severity severity)
+{
+    return Texts::tr(englishFor(severity));
 }
 
 } // namespace reportcheck

@@ -68,8 +68,11 @@ enum ExitStatus { NothingToSay = 0, HasWarnings = 1, HasErrors = 2, Unreadable =
 /// What a program says about the result when it ends. Notes count as nothing.
 ExitStatus exitStatusOf(const Result& result);
 
-/// "note", "warning" or "error".
+/// "note", "warning" or "error", for programs.
 QString nameOf(Severity severity);
+
+/// The same for people.
+QString wordFor(Severity severity);
 
 } // namespace reportcheck
 

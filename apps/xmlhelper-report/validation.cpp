@@ -13,6 +13,7 @@
 #include <QIODevice>
 #include <QUrl>
 
+#include "texts.h"
 #include "xmlfile.h"
 
 namespace reportcheck {
@@ -125,7 +126,7 @@ void sendLast(Listener& listener)
     if (last.count > 0) {
         last.rule = QLatin1String(listener.rule);
         last.file = listener.file;
-        last.text = QStringLiteral("%1 more messages are left out.").arg(last.count);
+        last.text = Texts::tr("%1 more messages are left out.").arg(last.count);
         send(last, listener.write);
     }
 }
@@ -175,7 +176,7 @@ Validation validate(xmlDoc* document, const QString& report, const QString& sche
         stopped.severity = Severity::Warning;
         stopped.rule = QStringLiteral("validation");
         stopped.file = report;
-        stopped.text = QStringLiteral("The validation was stopped after %1 seconds of work.").arg(seconds);
+        stopped.text = Texts::tr("The validation was stopped after %1 seconds of work.").arg(seconds);
         validation.messages.push_back(stopped);
     }
     return validation;

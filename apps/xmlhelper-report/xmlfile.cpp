@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "texts.h"
+
 namespace reportcheck {
 
 namespace {
@@ -56,24 +58,22 @@ ReadFile unreadable(const QString& reason, int line = 0)
 ReadFile parserFailure(const Parser& parser, const Tally& tally)
 {
     if (tally.IsBeyondLimits()) {
-        return unreadable(QStringLiteral("It has more than %1 elements or %2 attributes.")
-                              .arg(MaximumElements)
-                              .arg(MaximumAttributes));
+        return unreadable(
+            Texts::tr("It has more than %1 elements or %2 attributes.").arg(MaximumElements).arg(MaximumAttributes));
     }
     const xmlError* const error = xmlCtxtGetLastError(parser.get());
     if (error && error->code == XML_ERR_DOCUMENT_EMPTY) {
-        return unreadable(QStringLiteral("It holds no element. The schema that it was made from gave none: "
-                                         "xmlhelper-schema says why."));
+        return unreadable(Texts::tr("It holds no element. The schema that it was made from gave none: "
+                                    "xmlhelper-schema says why."));
     }
     if (error && error->code == XML_ERR_DOCUMENT_END) {
-        return unreadable(
-            QStringLiteral("It is not well-formed XML: something follows its root. A schema that lays out "
-                           "several roots gives such a report: xmlhelper-schema says so."),
-            error->line);
+        return unreadable(Texts::tr("It is not well-formed XML: something follows its root. A schema that lays out "
+                                    "several roots gives such a report: xmlhelper-schema says so."),
+                          error->line);
     }
     const QString message = error ? QString::fromUtf8(error->message).trimmed() : QString();
-    return unreadable(QStringLiteral("It is not well-formed XML: %1")
-                          .arg(message.isEmpty() ? QStringLiteral("there is no root element") : message),
+    return unreadable(Texts::tr("It is not well-formed XML: %1")
+                          .arg(message.isEmpty() ? Texts::tr("there is no root element") : message),
                       error ? error->line : 0);
 }
 
@@ -89,13 +89,13 @@ QString whyNoXml(const QByteArray& begin)
         return QString();
     }
     if (begin.contains('\0')) {
-        return QStringLiteral("It is a binary file, and no XML.");
+        return Texts::tr("It is a binary file, and no XML.");
     }
     const QByteArray text = (begin.startsWith("\xef\xbb\xbf") ? begin.mid(3) : begin).trimmed();
     if (text.isEmpty()) {
-        return QStringLiteral("The file is empty.");
+        return Texts::tr("The file is empty.");
     }
-    return text.startsWith('<') ? QString() : QStringLiteral("It is no XML: it does not begin with a tag.");
+    return text.startsWith('<') ? QString() : Texts::tr("It is no XML: it does not begin with a tag.");
 }
 
 } // namespace
@@ -104,11 +104,11 @@ ReadFile readXmlFile(const QString& file)
 {
     QFile source(file);
     if (QFileInfo(file).isDir() || !source.open(QIODevice::ReadOnly)) {
-        return unreadable(QFileInfo::exists(file) ? QStringLiteral("It cannot be opened.")
-                                                  : QStringLiteral("There is no such file."));
+        return unreadable(QFileInfo::exists(file) ? Texts::tr("It cannot be opened.")
+                                                  : Texts::tr("There is no such file."));
     }
     if (source.size() > MaximumBytes) {
-        return unreadable(QStringLiteral("It has more than %1 bytes.").arg(MaximumBytes));
+        return unreadable(Texts::tr("It has more than %1 bytes.").arg(MaximumBytes));
     }
     const QString reason = whyNoXml(source.peek(BytesLookedAt));
     if (!reason.isEmpty()) {

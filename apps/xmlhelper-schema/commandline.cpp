@@ -18,11 +18,14 @@ CommandLine commandLineOf(const QStringList& arguments)
         QStringLiteral("fill"),
         QStringLiteral("Fill a report from the name=value lines of <file>, and print what happens."),
         QStringLiteral("file"));
+    const QCommandLineOption language(
+        QStringLiteral("language"), QStringLiteral("Speak this language: de, en or fr; by default that of the system."),
+        QStringLiteral("code"));
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Shows how XMLHelper understands an XML schema, and what its author should know.\n\n"
                        "Exit status: 0 nothing to say, 1 warnings, 2 errors, 3 unreadable or wrong usage."));
-    parser.addOptions({tree, json, html, window, fill, noProof});
+    parser.addOptions({tree, json, html, window, fill, noProof, language});
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("schema"), QStringLiteral("The schema to examine, an .xsd file."));
@@ -48,6 +51,7 @@ CommandLine commandLineOf(const QStringList& arguments)
     if (parser.positionalArguments().size() != 1) {
         return wrong(QStringLiteral("Name one schema."));
     }
+    line.language = parser.value(language);
     line.isToProve = !parser.isSet(noProof);
     line.schema = parser.positionalArguments().constFirst();
     if (int(parser.isSet(tree)) + int(parser.isSet(json)) + int(parser.isSet(html)) + int(parser.isSet(window))

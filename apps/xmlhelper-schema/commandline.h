@@ -15,6 +15,7 @@ struct CommandLine
     QString schema;
     QString otherFile; ///< the page to write, or the values to read
     bool isToProve = true; ///< by reports that are filled on trial
+    QString language; ///< a code such as "de"; empty for that of the system
     QString message; ///< the help, the version, or what is wrong
 };
 

@@ -12,6 +12,7 @@
 #include "examine.h"
 #include "fill/dryrun.h"
 #include "htmlrendering.h"
+#include "language.h"
 #include "render/jsonrendering.h"
 #include "render/textrendering.h"
 
@@ -112,6 +113,12 @@ int main(int argc, char** argv)
         print(QStringLiteral("xmlhelper-schema %1\n").arg(QCoreApplication::applicationVersion()));
         return NothingToSay;
     default:
-        return run(line);
+        break;
     }
+    if (!speak({QStringLiteral("XMLHelper"), QStringLiteral("SchemaDoctor")}, line.language)) {
+        std::fprintf(stderr, "xmlhelper-schema: There are no texts in the language '%s'.\n",
+                     qUtf8Printable(line.language));
+        return Unreadable;
+    }
+    return run(line);
 }

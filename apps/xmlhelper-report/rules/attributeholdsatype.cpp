@@ -36,18 +36,17 @@ bool isOfTheAuthor(const ReportAttribute& attribute, const DeclaredAttributes& d
 Remark unfilled(const ReportAttribute& attribute)
 {
     if (attribute.value.isEmpty()) {
-        return {
-            Severity::Error,
-            QStringLiteral("The attribute %1 is empty: its declaration names no type, so nothing can fill it.")
-                .arg(attribute.name),
-            QStringLiteral("Declare it with a type, or declare it globally with its simple type inside and refer to "
-                           "it.")};
+        return {Severity::Error,
+                Texts::tr("The attribute %1 is empty: its declaration names no type, so nothing can fill it.")
+                    .arg(attribute.name),
+                Texts::tr("Declare it with a type, or declare it globally with its simple type inside and refer to "
+                          "it.")};
     }
     return {Severity::Error,
-            QStringLiteral("The attribute %1 still holds its type, \"%2\": it was never set, or what was offered was "
-                           "refused.")
+            Texts::tr("The attribute %1 still holds its type, \"%2\": it was never set, or what was offered was "
+                      "refused.")
                 .arg(attribute.name, attribute.value),
-            QStringLiteral("Set the attribute, or remove it with RemoveAttribute(\"%1\").").arg(attribute.name)};
+            Texts::tr("Set the attribute, or remove it with RemoveAttribute(\"%1\").").arg(attribute.name)};
 }
 
 } // namespace
@@ -65,11 +64,10 @@ Remarks attributeHoldsAType(const ReportElement& element, const RuleContext& con
             || (isBuiltInType(attribute.value) && hasFacetsOf(attribute.name, element, context.declared))) {
             remarks.push_back(unfilled(attribute));
         } else if (!context.declared.IsKnown() && isBuiltInType(attribute.value)) {
-            remarks.push_back(
-                {Severity::Warning,
-                 QStringLiteral("The attribute %1 holds \"%2\", which may be its type.")
-                     .arg(attribute.name, attribute.value),
-                 QStringLiteral("Check with the schema: an attribute that was never set holds its type.")});
+            remarks.push_back({Severity::Warning,
+                               Texts::tr("The attribute %1 holds \"%2\", which may be its type.")
+                                   .arg(attribute.name, attribute.value),
+                               Texts::tr("Check with the schema: an attribute that was never set holds its type.")});
         }
     }
     return remarks;

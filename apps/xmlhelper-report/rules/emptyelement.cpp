@@ -22,13 +22,12 @@ Remarks emptyElement(const ReportElement& element, const RuleContext& context)
               return !attribute.name.startsWith(QLatin1String("xsi:"));
           });
     if (hasAttributes) {
-        return {{Severity::Note, QStringLiteral("The element has attributes, but no content."),
-                 QStringLiteral("If it should hold a value, an empty text was set.")}};
+        return {{Severity::Note, Texts::tr("The element has attributes, but no content."),
+                 Texts::tr("If it should hold a value, an empty text was set.")}};
     }
-    return {
-        {Severity::Warning, QStringLiteral("The element is empty."),
-         QStringLiteral("Either an empty text was set, or it is mandatory and lost all that it held, or nothing of "
-                        "its type is laid out. Elements that may be missing are removed when they are not filled.")}};
+    return {{Severity::Warning, Texts::tr("The element is empty."),
+             Texts::tr("Either an empty text was set, or it is mandatory and lost all that it held, or nothing of "
+                       "its type is laid out. Elements that may be missing are removed when they are not filled.")}};
 }
 
 } // namespace reportcheck

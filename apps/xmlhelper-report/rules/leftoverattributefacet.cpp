@@ -20,10 +20,10 @@ bool isStillToBeFilled(const ReportElement& element, const QString& attribute, c
 QString whyTheyStay(const ReportElement& element, const QString& attribute)
 {
     return element.Find(attribute)
-        ? QStringLiteral("A value removes the facets that it was checked by: one bound below and one above, or the "
-                         "enumeration. A bound of 65535 counts as not given. Take the others out of the schema.")
-        : QStringLiteral("An attribute that is removed leaves its facets behind. Set the attribute, or declare it "
-                         "without facets.");
+        ? Texts::tr("A value removes the facets that it was checked by: one bound below and one above, or the "
+                    "enumeration. A bound of 65535 counts as not given. Take the others out of the schema.")
+        : Texts::tr("An attribute that is removed leaves its facets behind. Set the attribute, or declare it "
+                    "without facets.");
 }
 
 } // namespace
@@ -44,7 +44,7 @@ Remarks leftoverAttributeFacet(const ReportElement& element, const RuleContext& 
         const QString& attribute = facets.key();
         if (!isStillToBeFilled(element, attribute, context)) {
             remarks.push_back({Severity::Error,
-                               QStringLiteral("Facets of the attribute %1 are left over: %2.")
+                               Texts::tr("Facets of the attribute %1 are left over: %2.")
                                    .arg(attribute, facets.value().join(QStringLiteral(", "))),
                                whyTheyStay(element, attribute)});
         }

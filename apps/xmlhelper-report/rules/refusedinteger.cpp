@@ -17,10 +17,10 @@ Remarks refusedInteger(const ReportElement& element, const RuleContext& context)
         limits.append(QStringLiteral("%1 %2").arg(bound, element.Find(bound)->value));
     }
     return {{Severity::Error,
-             QStringLiteral("The element has no value: an integer was offered and refused, because it is out of range "
-                            "(%1).")
+             Texts::tr("The element has no value: an integer was offered and refused, because it is out of range "
+                       "(%1).")
                  .arg(limits.join(QStringLiteral(", "))),
-             QStringLiteral("Offer a value within the range, or widen the range in the schema.")}};
+             Texts::tr("Offer a value within the range, or widen the range in the schema.")}};
 }
 
 } // namespace reportcheck

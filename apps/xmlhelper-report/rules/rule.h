@@ -7,6 +7,7 @@
 #include "../reportcheck.h"
 #include "../reportelement.h"
 #include "../schemalocation.h"
+#include "../texts.h"
 
 /// A rule is a function that looks at one element of a report and says what is wrong with it. It stands in a file of
 /// its own, with a line in the table of rules.cpp and a test folder, all of the rule's name.

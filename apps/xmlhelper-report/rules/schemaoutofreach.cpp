@@ -10,13 +10,13 @@ Remarks schemaOutOfReach(const ReportElement& element, const RuleContext& contex
     }
     const Severity severity = location.isGiven ? Severity::Note : Severity::Warning;
     const QString advice = location.isGiven
-        ? QStringLiteral("The report was checked with the schema that was given instead.")
-        : QStringLiteral("The report was not validated: say which schema to validate it against.");
+        ? Texts::tr("The report was checked with the schema that was given instead.")
+        : Texts::tr("The report was not validated: say which schema to validate it against.");
     if (location.written.isEmpty()) {
-        return {{severity, QStringLiteral("The report names no schema."), advice}};
+        return {{severity, Texts::tr("The report names no schema."), advice}};
     }
     return {{severity,
-             QStringLiteral("The schema that the report names cannot be read from here: \"%1\".").arg(location.written),
+             Texts::tr("The schema that the report names cannot be read from here: \"%1\".").arg(location.written),
              advice}};
 }
 

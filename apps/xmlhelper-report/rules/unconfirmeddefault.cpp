@@ -12,10 +12,10 @@ Remarks unconfirmedDefault(const ReportElement& element, const RuleContext& cont
         return {};
     }
     return {{Severity::Error,
-             QStringLiteral("The element holds \"%1\", but still carries its annotations: that is the default of the "
-                            "schema, which nobody has confirmed.")
+             Texts::tr("The element holds \"%1\", but still carries its annotations: that is the default of the "
+                       "schema, which nobody has confirmed.")
                  .arg(element.text.trimmed()),
-             QStringLiteral("Set the value, even if it is the default.")}};
+             Texts::tr("Set the value, even if it is the default.")}};
 }
 
 } // namespace reportcheck

@@ -13,11 +13,9 @@ bool isUnknownNumber(const QString& text)
     return value == QLatin1String("nan") || value == QLatin1String("inf");
 }
 
-Remark remarkOn(const QString& where, const QString& text)
+Remark remarkOf(const QString& what)
 {
-    return {Severity::Error,
-            QStringLiteral("%1 holds \"%2\", a number that XML Schema does not know.").arg(where, text),
-            QStringLiteral("Offer no value while there is none to report.")};
+    return {Severity::Error, what, Texts::tr("Offer no value while there is none to report.")};
 }
 
 } // namespace
@@ -27,11 +25,14 @@ Remarks unknownNumber(const ReportElement& element, const RuleContext&)
     Remarks remarks;
     const QString text = element.text.trimmed();
     if (!element.hasChildElements && isUnknownNumber(text)) {
-        remarks.push_back(remarkOn(QStringLiteral("The element"), text));
+        remarks.push_back(
+            remarkOf(Texts::tr("The element holds \"%1\", a number that XML Schema does not know.").arg(text)));
     }
     for (const ReportAttribute& attribute : element.attributes) {
         if (isUnknownNumber(attribute.value)) {
-            remarks.push_back(remarkOn(QStringLiteral("The attribute ") + attribute.name, attribute.value));
+            remarks.push_back(
+                remarkOf(Texts::tr("The attribute %1 holds \"%2\", a number that XML Schema does not know.")
+                             .arg(attribute.name, attribute.value)));
         }
     }
     return remarks;

@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include "laidouttreemodel.h"
+#include "model/texts.h"
 #include "schematextview.h"
 
 namespace schemadoctor {
@@ -51,10 +52,10 @@ QString indented(const QString& text)
 
 QString detailsOf(const Finding& finding)
 {
-    QString details = finding.what + QStringLiteral("\n\nWhat the library does: ") + finding.effect
-        + QStringLiteral("\n\nWrite instead: ") + finding.remedy;
+    QString details = Texts::tr("%1\n\nWhat the library does: %2\n\nWrite instead: %3")
+                          .arg(finding.what, finding.effect, finding.remedy);
     if (!finding.meantTree.isEmpty() || !finding.laidOutTree.isEmpty()) {
-        details += QStringLiteral("\n\nAs it is meant:\n%1\n\nAs it is laid out:\n%2")
+        details += Texts::tr("\n\nAs it is meant:\n%1\n\nAs it is laid out:\n%2")
                        .arg(indented(finding.meantTree), indented(finding.laidOutTree));
     }
     return details;
@@ -63,13 +64,13 @@ QString detailsOf(const Finding& finding)
 QString summaryOf(const Examination& examination)
 {
     if (!examination.IsReadable()) {
-        return QStringLiteral("The schema cannot be read: ") + examination.unreadableReason;
+        return Texts::tr("The schema cannot be read: %1").arg(examination.unreadableReason);
     }
     if (examination.tree.IsEmpty()) {
         return examination.noTreeReason;
     }
     const QString summary = !examination.count.limit.isEmpty() ? examination.count.limit
-                                                               : QStringLiteral("Elements laid out: %1. Findings: %2.")
+                                                               : Texts::tr("Elements laid out: %1. Findings: %2.")
                                                                      .arg(examination.count.elements)
                                                                      .arg(examination.findings.size());
     return QStringLiteral("%1 %2").arg(summary, wordsFor(examination.proof)).trimmed();
@@ -89,7 +90,7 @@ DoctorWindow::DoctorWindow(const Examination& examination, QWidget* parent)
     , m_pFindings(new QTreeWidget)
     , m_pDetails(new QPlainTextEdit)
 {
-    setWindowTitle(m_examination.file + QStringLiteral(" - schema doctor"));
+    setWindowTitle(tr("%1 - schema doctor").arg(m_examination.file));
     resize(1280, 800);
 
     auto* const right = new QSplitter(Qt::Vertical);
@@ -141,7 +142,7 @@ QWidget* DoctorWindow::makeTreePane()
     auto* const pane = new QWidget;
     auto* const layout = new QVBoxLayout(pane);
     auto* const form = new QFormLayout;
-    form->addRow(QStringLiteral("F&ind:"), m_pFilter);
+    form->addRow(tr("F&ind:"), m_pFilter);
     layout->addLayout(form);
     layout->addWidget(m_pTree);
     return pane;
@@ -167,7 +168,7 @@ QWidget* DoctorWindow::makeTextPane()
     auto* const pane = new QWidget;
     auto* const layout = new QVBoxLayout(pane);
     auto* const form = new QFormLayout;
-    form->addRow(QStringLiteral("&Schema:"), m_pFile);
+    form->addRow(tr("&Schema:"), m_pFile);
     layout->addLayout(form);
     layout->addWidget(m_pText);
     return pane;
@@ -176,8 +177,7 @@ QWidget* DoctorWindow::makeTextPane()
 QWidget* DoctorWindow::makeFindingsPane()
 {
     m_pFindings->setObjectName(QStringLiteral("findings"));
-    m_pFindings->setHeaderLabels(
-        {QStringLiteral("Finding"), QStringLiteral("Line"), QStringLiteral("Rule"), QStringLiteral("What")});
+    m_pFindings->setHeaderLabels({tr("Finding"), tr("Line"), tr("Rule"), tr("What")});
     m_pFindings->setUniformRowHeights(true);
     fillFindings();
     m_pDetails->setObjectName(QStringLiteral("details"));
@@ -200,7 +200,7 @@ QTreeWidgetItem* DoctorWindow::makeItem(int number) const
 {
     const Finding& finding = m_examination.findings.at(number);
     auto* const item = new QTreeWidgetItem(
-        QStringList {nameOf(finding.severity), wordsFor(finding.place), finding.rule, finding.what});
+        QStringList {wordFor(finding.severity), wordsFor(finding.place), finding.rule, finding.what});
     item->setIcon(0, style()->standardIcon(pictureOf(finding.severity)));
     item->setData(0, numberRole, number);
     return item;

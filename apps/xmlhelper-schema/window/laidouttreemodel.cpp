@@ -1,5 +1,7 @@
 #include "laidouttreemodel.h"
 
+#include "model/texts.h"
+
 namespace schemadoctor {
 
 namespace {
@@ -20,7 +22,7 @@ QString limitsOf(const QVector<Facet>& facets, const QStringList& enumeration)
     QStringList limits;
     for (const Facet& facet : facets) {
         const QString words = facet.name + QLatin1Char(' ') + facet.value;
-        limits.append(facet.isChecked ? words : words + QStringLiteral(" (not checked)"));
+        limits.append(facet.isChecked ? words : Texts::tr("%1 (not checked)").arg(words));
     }
     if (!enumeration.isEmpty()) {
         limits.append(enumeration.join(QStringLiteral(" | ")));
@@ -31,7 +33,7 @@ QString limitsOf(const QVector<Facet>& facets, const QStringList& enumeration)
 QString settersOf(Setters setters)
 {
     const QStringList names = namesOf(setters);
-    return names.isEmpty() ? QStringLiteral("nothing can fill it") : names.join(QStringLiteral(", "));
+    return names.isEmpty() ? Texts::tr("nothing can fill it") : names.join(QStringLiteral(", "));
 }
 
 QString textFor(const LaidOutElement& element, int column)
@@ -46,13 +48,13 @@ QString textFor(const LaidOutElement& element, int column)
         if (element.defaultValue.isEmpty()) {
             return limits;
         }
-        const QString standard = QStringLiteral("default ") + element.defaultValue;
+        const QString standard = Texts::tr("default %1").arg(element.defaultValue);
         return limits.isEmpty() ? standard : limits + QStringLiteral(", ") + standard;
     }
     case LaidOutTreeModel::Occurs:
         return element.choiceGroup == LaidOutElement::None
             ? wordsForOccurs(element)
-            : QStringLiteral("%1, choice %2").arg(wordsForOccurs(element)).arg(element.choiceGroup);
+            : Texts::tr("%1, choice %2").arg(wordsForOccurs(element)).arg(element.choiceGroup);
     case LaidOutTreeModel::Counts:
         return wordsForCounts(element);
     case LaidOutTreeModel::Unfilled:
@@ -70,7 +72,7 @@ QString textFor(const DeclaredAttribute& attribute, int column)
     case LaidOutTreeModel::Name:
         return QLatin1Char('@') + attribute.name;
     case LaidOutTreeModel::Type:
-        return attribute.type.isEmpty() ? QStringLiteral("no type") : attribute.type;
+        return attribute.type.isEmpty() ? Texts::tr("no type") : attribute.type;
     case LaidOutTreeModel::Limits:
         return limitsOf(attribute.facets, attribute.enumeration);
     case LaidOutTreeModel::SetBy:
@@ -164,10 +166,8 @@ QVariant LaidOutTreeModel::data(const QModelIndex& index, int role) const
 
 QVariant LaidOutTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    static const QStringList titles {QStringLiteral("Element"),      QStringLiteral("Type"),
-                                     QStringLiteral("Limits"),       QStringLiteral("Occurs"),
-                                     QStringLiteral("Counts taken"), QStringLiteral("Unfilled it"),
-                                     QStringLiteral("Set by")};
+    const QStringList titles {tr("Element"),      tr("Type"),        tr("Limits"), tr("Occurs"),
+                              tr("Counts taken"), tr("Unfilled it"), tr("Set by")};
     return orientation == Qt::Horizontal && role == Qt::DisplayRole ? QVariant(titles.value(section)) : QVariant();
 }
 
