@@ -4,6 +4,8 @@ file(REMOVE_RECURSE "${RUN_FOLDER}")
 file(MAKE_DIRECTORY "${RUN_FOLDER}")
 string(REPLACE "{run}" "${RUN_FOLDER}" arguments "${ARGUMENTS}")
 
+# What is expected is English.
+set(ENV{LANGUAGE} en)
 execute_process(COMMAND ${EMULATOR} "${PROGRAM}" ${arguments}
     RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE errors)
 set(written "")

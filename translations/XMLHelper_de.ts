@@ -80,6 +80,45 @@
     </message>
 </context>
 <context>
+    <name>SchemaBudget</name>
+    <message>
+        <source>The schema consists of more than %1 files!</source>
+        <translation>Das Schema besteht aus mehr als %1 Dateien!</translation>
+    </message>
+    <message>
+        <source>The schema consists of more than %1 bytes, repeated includes counted again!</source>
+        <translation>Das Schema hat mehr als %1 Bytes, wiederholt Eingebundenes jedes Mal gezählt!</translation>
+    </message>
+    <message>
+        <source>The schema is nested deeper than %1 elements!</source>
+        <translation>Das Schema ist tiefer als %1 Elemente verschachtelt!</translation>
+    </message>
+    <message>
+        <source>The schema and its includes are nested deeper than %1 elements!</source>
+        <translation>Das Schema und was es einbindet sind tiefer als %1 Elemente verschachtelt!</translation>
+    </message>
+    <message>
+        <source>An enumeration has more than %1 values!</source>
+        <translation>Eine Aufzählung hat mehr als %1 Werte!</translation>
+    </message>
+    <message>
+        <source>The schema lays out elements nested deeper than %1!</source>
+        <translation>Das Schema legt Elemente an, die tiefer als %1 verschachtelt sind!</translation>
+    </message>
+    <message>
+        <source>The schema lays out more than %1 attributes!</source>
+        <translation>Das Schema legt mehr als %1 Attribute an!</translation>
+    </message>
+    <message>
+        <source>The schema gives elements more than %1 values of enumerations!</source>
+        <translation>Das Schema gibt Elementen mehr als %1 Aufzählungswerte!</translation>
+    </message>
+    <message>
+        <source>The schema lays out more than %1 elements!</source>
+        <translation>Das Schema legt mehr als %1 Elemente an!</translation>
+    </message>
+</context>
+<context>
     <name>VCReporting</name>
     <message>
         <source>To Report (Shift+F10)</source>

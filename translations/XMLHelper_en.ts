@@ -80,6 +80,45 @@
     </message>
 </context>
 <context>
+    <name>SchemaBudget</name>
+    <message>
+        <source>The schema consists of more than %1 files!</source>
+        <translation>The schema consists of more than %1 files!</translation>
+    </message>
+    <message>
+        <source>The schema consists of more than %1 bytes, repeated includes counted again!</source>
+        <translation>The schema consists of more than %1 bytes, repeated includes counted again!</translation>
+    </message>
+    <message>
+        <source>The schema is nested deeper than %1 elements!</source>
+        <translation>The schema is nested deeper than %1 elements!</translation>
+    </message>
+    <message>
+        <source>The schema and its includes are nested deeper than %1 elements!</source>
+        <translation>The schema and its includes are nested deeper than %1 elements!</translation>
+    </message>
+    <message>
+        <source>An enumeration has more than %1 values!</source>
+        <translation>An enumeration has more than %1 values!</translation>
+    </message>
+    <message>
+        <source>The schema lays out elements nested deeper than %1!</source>
+        <translation>The schema lays out elements nested deeper than %1!</translation>
+    </message>
+    <message>
+        <source>The schema lays out more than %1 attributes!</source>
+        <translation>The schema lays out more than %1 attributes!</translation>
+    </message>
+    <message>
+        <source>The schema gives elements more than %1 values of enumerations!</source>
+        <translation>The schema gives elements more than %1 values of enumerations!</translation>
+    </message>
+    <message>
+        <source>The schema lays out more than %1 elements!</source>
+        <translation>The schema lays out more than %1 elements!</translation>
+    </message>
+</context>
+<context>
     <name>VCReporting</name>
     <message>
         <source>To Report (Shift+F10)</source>

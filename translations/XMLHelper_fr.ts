@@ -80,6 +80,45 @@
     </message>
 </context>
 <context>
+    <name>SchemaBudget</name>
+    <message>
+        <source>The schema consists of more than %1 files!</source>
+        <translation>Le schéma compte plus de %1 fichiers!</translation>
+    </message>
+    <message>
+        <source>The schema consists of more than %1 bytes, repeated includes counted again!</source>
+        <translation>Le schéma compte plus de %1 octets, les inclusions répétées comptées à chaque fois!</translation>
+    </message>
+    <message>
+        <source>The schema is nested deeper than %1 elements!</source>
+        <translation>Le schéma est imbriqué à plus de %1 éléments de profondeur!</translation>
+    </message>
+    <message>
+        <source>The schema and its includes are nested deeper than %1 elements!</source>
+        <translation>Le schéma et ses inclusions sont imbriqués à plus de %1 éléments de profondeur!</translation>
+    </message>
+    <message>
+        <source>An enumeration has more than %1 values!</source>
+        <translation>Une énumération a plus de %1 valeurs!</translation>
+    </message>
+    <message>
+        <source>The schema lays out elements nested deeper than %1!</source>
+        <translation>Le schéma crée des éléments imbriqués à plus de %1 niveaux!</translation>
+    </message>
+    <message>
+        <source>The schema lays out more than %1 attributes!</source>
+        <translation>Le schéma crée plus de %1 attributs!</translation>
+    </message>
+    <message>
+        <source>The schema gives elements more than %1 values of enumerations!</source>
+        <translation>Le schéma donne aux éléments plus de %1 valeurs d&apos;énumération!</translation>
+    </message>
+    <message>
+        <source>The schema lays out more than %1 elements!</source>
+        <translation>Le schéma crée plus de %1 éléments!</translation>
+    </message>
+</context>
+<context>
     <name>VCReporting</name>
     <message>
         <source>To Report (Shift+F10)</source>

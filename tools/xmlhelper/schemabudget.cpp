@@ -1,5 +1,7 @@
 #include "schemabudget_p.h"
 
+#include <QCoreApplication>
+
 #include "domextent_p.h"
 #include "limits_p.h"
 #include "schemareadinglog_p.h"
@@ -55,7 +57,8 @@ bool SchemaBudget::MayOpen(const QString& identity) const
 bool SchemaBudget::OpenFile(const QString& identity, int openTags)
 {
     if (++m_iFiles > limits().schemaFiles) {
-        return refuse("The schema consists of more than %1 files!", m_iFiles, &Limits::schemaFiles);
+        return refuse(QT_TRANSLATE_NOOP("SchemaBudget", "The schema consists of more than %1 files!"), m_iFiles,
+                      &Limits::schemaFiles);
     }
     m_openFiles.append(identity);
     m_iOpenTags += openTags;
@@ -66,8 +69,9 @@ bool SchemaBudget::TakeBytes(qint64 bytes)
 {
     m_iBytes += bytes;
     return m_iBytes <= limits().schemaBytes
-        || refuse("The schema consists of more than %1 bytes, repeated includes counted again!", m_iBytes,
-                  &Limits::schemaBytes);
+        || refuse(QT_TRANSLATE_NOOP("SchemaBudget",
+                                    "The schema consists of more than %1 bytes, repeated includes counted again!"),
+                  m_iBytes, &Limits::schemaBytes);
 }
 
 void SchemaBudget::CloseFile(int openTags)
@@ -79,10 +83,11 @@ void SchemaBudget::CloseFile(int openTags)
 bool SchemaBudget::CheckTag(int nesting)
 {
     if (nesting > limits().elementNesting) {
-        refuse("The schema is nested deeper than %1 elements!", nesting, &Limits::elementNesting);
+        refuse(QT_TRANSLATE_NOOP("SchemaBudget", "The schema is nested deeper than %1 elements!"), nesting,
+               &Limits::elementNesting);
     } else if (m_iOpenTags + nesting > limits().openTags) {
-        refuse("The schema and its includes are nested deeper than %1 elements!", m_iOpenTags + nesting,
-               &Limits::openTags);
+        refuse(QT_TRANSLATE_NOOP("SchemaBudget", "The schema and its includes are nested deeper than %1 elements!"),
+               m_iOpenTags + nesting, &Limits::openTags);
     }
     return !m_bRefused;
 }
@@ -91,7 +96,8 @@ bool SchemaBudget::TakeEnumerationValue(int number)
 {
     m_bEnumerations = true;
     if (number > limits().enumerationValues) {
-        refuse("An enumeration has more than %1 values!", number, &Limits::enumerationValues);
+        refuse(QT_TRANSLATE_NOOP("SchemaBudget", "An enumeration has more than %1 values!"), number,
+               &Limits::enumerationValues);
     }
     return !m_bRefused;
 }
@@ -105,8 +111,8 @@ bool SchemaBudget::CheckElements(qint64 elements, const Share& share)
 bool SchemaBudget::TakeElements(const DomExtent& extent, int enumerationValues, int copies, int level, Share& share)
 {
     if (level + extent.levels > limits().elementNesting) {
-        return refuse("The schema lays out elements nested deeper than %1!", level + extent.levels,
-                      &Limits::elementNesting);
+        return refuse(QT_TRANSLATE_NOOP("SchemaBudget", "The schema lays out elements nested deeper than %1!"),
+                      level + extent.levels, &Limits::elementNesting);
     }
     const qint64 elements = qint64(copies) * extent.elements;
     const qint64 forNamedTypes = share.isOfNamedType ? elements : 0;
@@ -131,9 +137,10 @@ bool SchemaBudget::TakeElements(const DomExtent& extent, int enumerationValues, 
 bool SchemaBudget::CheckAttributes(qint64 attributes, qint64 enumerationValues)
 {
     if (m_iAttributes + attributes > limits().attributes) {
-        refuse("The schema lays out more than %1 attributes!", m_iAttributes + attributes, &Limits::attributes);
+        refuse(QT_TRANSLATE_NOOP("SchemaBudget", "The schema lays out more than %1 attributes!"),
+               m_iAttributes + attributes, &Limits::attributes);
     } else if (m_iEnumerationValues + enumerationValues > limits().copiedEnumerationValues) {
-        refuse("The schema gives elements more than %1 values of enumerations!",
+        refuse(QT_TRANSLATE_NOOP("SchemaBudget", "The schema gives elements more than %1 values of enumerations!"),
                m_iEnumerationValues + enumerationValues, &Limits::copiedEnumerationValues);
     }
     return !m_bRefused;
@@ -151,5 +158,6 @@ bool SchemaBudget::TakeAttributes(int attributes, int enumerationValues)
 /// Gives false. What is traced is the limit of a document: that is what all definitions are limited for.
 bool SchemaBudget::refuseElements(qint64 asked, int Limits::*limit)
 {
-    return refuse("The schema lays out more than %1 elements!", asked, limit, &Limits::elements);
+    return refuse(QT_TRANSLATE_NOOP("SchemaBudget", "The schema lays out more than %1 elements!"), asked, limit,
+                  &Limits::elements);
 }

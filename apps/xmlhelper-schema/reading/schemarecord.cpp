@@ -186,8 +186,9 @@ void SchemaRecord::NameRefused(const QString& name, const SchemaTag& tag)
 void SchemaRecord::Refused(const QString& sentence, qint64 asked, qint64 inForce, qint64 greatest)
 {
     const bool isOfTheLibrary = asked > greatest;
+    const QString translated = QCoreApplication::translate("SchemaBudget", sentence.toUtf8().constData());
     end(isOfTheLibrary ? End::LimitExceeded : End::TooMuchForTheDoctor,
-        asSentence(sentence.arg(isOfTheLibrary ? greatest : inForce)));
+        asSentence(translated.arg(isOfTheLibrary ? greatest : inForce)));
 }
 
 void SchemaRecord::ContentRefused(const QString& sentence)
