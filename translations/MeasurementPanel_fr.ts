@@ -65,6 +65,14 @@
     </message>
 </context>
 <context>
+    <name>Findings</name>
+    <message>
+        <source>en</source>
+        <comment>the code of the language that is spoken</comment>
+        <translation>fr</translation>
+    </message>
+</context>
+<context>
     <name>LevelTrace</name>
     <message>
         <source>Frequency in %1</source>

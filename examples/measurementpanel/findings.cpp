@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QStandardPaths>
 
 #ifdef MEASUREMENTPANEL_HAS_REPORTCHECK
@@ -26,12 +27,22 @@ QString doctor()
     return beside.isEmpty() ? QStandardPaths::findExecutable(name) : beside;
 }
 
+/// The doctor speaks the language of the panel, not that of the system.
+QProcessEnvironment environmentOfDoctor()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LANGUAGE"),
+                       QCoreApplication::translate("Findings", "en", "the code of the language that is spoken"));
+    return environment;
+}
+
 /// What the doctor says of a schema. A program of its own: it has the library's inner classes in it, which must not
 /// meet those of the library in one process. Empty when it is not there or has not ended in time.
 QJsonObject examine(const QString& schema)
 {
     const QString program = doctor();
     QProcess process;
+    process.setProcessEnvironment(environmentOfDoctor());
     if (!program.isEmpty()) {
         process.start(program, {QStringLiteral("--json"), QStringLiteral("--"), schema});
     }

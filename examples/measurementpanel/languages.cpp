@@ -24,6 +24,12 @@ QString contextOfPanel()
     return QStringLiteral("MeasurementPanel");
 }
 
+/// Of the report checker, which the panel asks.
+QString contextOfChecker()
+{
+    return QStringLiteral("ReportCheck");
+}
+
 QString catalogueFolderOfQt()
 {
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
@@ -41,10 +47,12 @@ Languages::Languages(const QString& directory)
 {
     Q_UNUSED(textsOfQt)
     TranslationCenter::Instance().Register(contextOfPanel());
+    TranslationCenter::Instance().Register(contextOfChecker());
 }
 
 Languages::~Languages()
 {
+    TranslationCenter::Instance().Unregister(contextOfChecker());
     TranslationCenter::Instance().Unregister(contextOfPanel());
 }
 

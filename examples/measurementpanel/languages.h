@@ -8,8 +8,9 @@
 /// The languages that the panel speaks, and the one that it speaks now.
 ///
 /// The catalogues lie in one folder, a file for each translation context and language, such as XMLHelper_de.qm. The
-/// library has registered its context when it was loaded; this object registers the panel's own for as long as it
-/// lives. The application's registry of translations loads them all, and every widget is told by Qt.
+/// library has registered its context when it was loaded; this object registers the panel's own, and that of the report
+/// checker, for as long as it lives. The application's registry of translations loads them all, and every widget is
+/// told by Qt.
 class Languages
 {
 public:

@@ -12,3 +12,13 @@ compare_lists("The installed files" "${CASES_DIR}/${expected}" LINES ${installed
 
 file(REMOVE_RECURSE "${PREFIX}")
 file(RENAME "${WORK_DIR}/tree" "${PREFIX}")
+
+# Wherever the tree is moved to, the companion programs find their translations.
+if(APP_TRANSLATIONS)
+    file(COPY "${SOURCE_DIR}/apps/xmlhelper-report/tests/right.xml" "${SOURCE_DIR}/apps/xmlhelper-report/tests/level.xsd"
+        DESTINATION "${WORK_DIR}")
+    run(OUTPUT printed COMMAND "${PREFIX}/bin/xmlhelper-report" --language de right.xml)
+    file(READ "${SOURCE_DIR}/apps/xmlhelper-report/tests/right.german" expected)
+    string(STRIP "${expected}" expected)
+    expect_output("${printed}" "${expected}")
+endif()

@@ -92,17 +92,20 @@ function(list_files variable folder)
     set(${variable} "${files}" PARENT_SCOPE)
 endfunction()
 
-# Checks that a list of installed files has the companion programs that are built, with their man pages, and takes them
-# out of it.
+# Checks that a list of installed files has the companion programs that are built, with their man pages and translations,
+# and takes them out of it.
 #   take_apps(<variable>)
 function(take_apps variable)
+    set(expected ${APP_TRANSLATIONS})
+    list(TRANSFORM expected PREPEND "share/xmlhelper/translations/")
     foreach(app IN LISTS APPS)
-        foreach(file IN ITEMS "bin/${app}" "share/man/man1/${app}.1")
-            if(NOT file IN_LIST ${variable})
-                message(SEND_ERROR "${file} is missing.")
-            endif()
-            list(REMOVE_ITEM ${variable} "${file}")
-        endforeach()
+        list(APPEND expected "bin/${app}" "share/man/man1/${app}.1")
+    endforeach()
+    foreach(file IN LISTS expected)
+        if(NOT file IN_LIST ${variable})
+            message(SEND_ERROR "${file} is missing.")
+        endif()
+        list(REMOVE_ITEM ${variable} "${file}")
     endforeach()
     set(${variable} "${${variable}}" PARENT_SCOPE)
 endfunction()

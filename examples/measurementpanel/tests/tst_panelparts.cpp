@@ -48,6 +48,7 @@ private Q_SLOTS:
     void theSweepChangesNoMeasurement();
 
     void theDoctorsFirstFindingIsTaken();
+    void findingsSpeakTheLanguageOfThePanel();
     void withoutADoctorNothingIsFound();
 
     void picturesComeInSeveralSizes();
@@ -279,6 +280,31 @@ void TestPanelParts::theDoctorsFirstFindingIsTaken()
     QCOMPARE(firstFindingInSchema(QStringLiteral("/a b.xsd")), QStringLiteral("It is no XML."));
     QVERIFY(writeFile(doctor, "#!/bin/sh\necho Nonsense\n"));
     QCOMPARE(firstFindingInSchema(QStringLiteral("/a b.xsd")), QString());
+}
+
+void TestPanelParts::findingsSpeakTheLanguageOfThePanel()
+{
+#ifndef Q_OS_UNIX
+    QSKIP("The stand-in for the doctor is a script for a Unix shell.");
+#endif
+    Languages languages(translations);
+    if (languages.GetAvailable().size() == 1) {
+        QSKIP("Built without lrelease: there are no translations.");
+    }
+    const QTemporaryDir programs;
+    const QString doctor = programs.filePath(QStringLiteral("xmlhelper-schema"));
+    QVERIFY(writeFile(doctor, "#!/bin/sh\necho \"{\\\"unreadable\\\": \\\"$LANGUAGE\\\"}\"\n"));
+    QVERIFY(QFile::setPermissions(doctor, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    const ProgramFolder folder(programs.path());
+
+    languages.Use(QStringLiteral("de"));
+    QCOMPARE(firstFindingInSchema(QStringLiteral("/a.xsd")), QStringLiteral("de"));
+    if (areReportsChecked()) {
+        QCOMPARE(firstFindingInReport(programs.filePath(QStringLiteral("nowhere.xml")), QString()),
+                 QStringLiteral("Diese Datei gibt es nicht."));
+    }
+    languages.Use(QStringLiteral("en"));
+    QCOMPARE(firstFindingInSchema(QStringLiteral("/a.xsd")), QStringLiteral("en"));
 }
 
 void TestPanelParts::withoutADoctorNothingIsFound()
