@@ -217,11 +217,11 @@
     </message>
     <message>
         <source>It has more than %1 elements or %2 attributes.</source>
-        <translation>Er hat mehr als %1 Elemente oder %2 Attribute.</translation>
+        <translation>Der Bericht hat mehr als %1 Elemente oder %2 Attribute.</translation>
     </message>
     <message>
         <source>It holds no element. The schema that it was made from gave none: xmlhelper-schema says why.</source>
-        <translation>Er enthält kein Element. Das Schema, aus dem er entstand, gab keines her: xmlhelper-schema sagt, warum.</translation>
+        <translation>Der Bericht enthält kein Element. Das Schema, aus dem er entstand, gab keines her: xmlhelper-schema sagt, warum.</translation>
     </message>
     <message>
         <source>It is not well-formed XML: something follows its root. A schema that lays out several roots gives such a report: xmlhelper-schema says so.</source>

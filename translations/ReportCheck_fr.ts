@@ -217,11 +217,11 @@
     </message>
     <message>
         <source>It has more than %1 elements or %2 attributes.</source>
-        <translation>Il a plus de %1 éléments ou %2 attributs.</translation>
+        <translation>Le rapport a plus de %1 éléments ou %2 attributs.</translation>
     </message>
     <message>
         <source>It holds no element. The schema that it was made from gave none: xmlhelper-schema says why.</source>
-        <translation>Il ne contient aucun élément. Le schéma dont il est issu n&apos;en a donné aucun : xmlhelper-schema dit pourquoi.</translation>
+        <translation>Le rapport ne contient aucun élément. Le schéma dont il est issu n&apos;en a donné aucun : xmlhelper-schema dit pourquoi.</translation>
     </message>
     <message>
         <source>It is not well-formed XML: something follows its root. A schema that lays out several roots gives such a report: xmlhelper-schema says so.</source>
@@ -257,7 +257,7 @@
     </message>
     <message>
         <source>It has more than %1 bytes.</source>
-        <translation>Il dépasse %1 octets.</translation>
+        <translation>Le fichier dépasse %1 octets.</translation>
     </message>
 </context>
 </TS>

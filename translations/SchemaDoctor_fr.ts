@@ -306,7 +306,7 @@
     </message>
     <message>
         <source>any</source>
-        <translation>quelconque</translation>
+        <translation>tous</translation>
     </message>
     <message>
         <source>1 or more</source>
