@@ -50,7 +50,7 @@ function(xmlhelper_install_library target)
         DESTINATION "${package_dir}" COMPONENT development)
 endfunction()
 
-# Installs a program that looks for its FILES beside itself. Those have no place among the programs of a Unix system:
+# Installs a program, with its man page man/<target>.1 if it has one, that looks for its FILES beside itself. Those have no place among the programs of a Unix system:
 # there both stand in a folder of their own, and a link leads to the program.
 #
 #   xmlhelper_install_tool(<target> [FILES <file>...])
@@ -72,6 +72,11 @@ function(xmlhelper_install_tool target)
     endif()
     install(TARGETS ${target} RUNTIME DESTINATION "${folder}" COMPONENT tools EXCLUDE_FROM_ALL)
     install(FILES ${arg_FILES} DESTINATION "${folder}" COMPONENT tools EXCLUDE_FROM_ALL)
+    get_target_property(source_dir ${target} SOURCE_DIR)
+    if(EXISTS "${source_dir}/man/${target}.1")
+        install(FILES "${source_dir}/man/${target}.1"
+            DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT tools EXCLUDE_FROM_ALL)
+    endif()
 endfunction()
 
 # Installs a companion program, its translations and its man page, man/<target>.1 beside its sources, for the people who write schemas and
@@ -97,6 +102,7 @@ foreach(stand_in IN LISTS stand_ins)
     xmlhelper_install_library(${stand_in})
 endforeach()
 xmlhelper_install_library(XMLHelper NAMESPACE XMLHelper::)
+xmlhelper_install_library(XMLHelperReports NAMESPACE XMLHelper::)
 
 file(RELATIVE_PATH prefix_from_pc_file "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
 string(REGEX REPLACE "/$" "" prefix_from_pc_file "${prefix_from_pc_file}")
@@ -112,8 +118,8 @@ foreach(app IN ITEMS xmlhelper-report xmlhelper-schema)
         xmlhelper_install_app(${app})
     endif()
 endforeach()
-if(TARGET fillreport)
-    xmlhelper_install_tool(fillreport)
+if(TARGET xmlhelper-fill)
+    xmlhelper_install_tool(xmlhelper-fill)
 endif()
 if(TARGET measurementpanel)
     get_target_property(panel_dir measurementpanel SOURCE_DIR)

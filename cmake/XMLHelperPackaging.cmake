@@ -2,7 +2,7 @@
 #
 #   libxmlhelper1    runtime: the library and the stand-ins for the suite's base libraries
 #   libxmlhelper-dev development: headers, CMake packages, pkg-config, and the companion programs
-#   xmlhelper-tools  the example programs that serve as tools
+#   xmlhelper-tools  programs that fill reports: one for the command line, and the example application
 #
 # Configure with -DCMAKE_INSTALL_PREFIX=/usr to have the libraries where Debian keeps its own, in the folder of the
 # machine's architecture. With another prefix they go into /usr/lib itself, where the loader finds them too.
@@ -20,7 +20,7 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
 set(CPACK_COMPONENTS_ALL runtime development)
-if(TARGET fillreport OR TARGET measurementpanel)
+if(TARGET xmlhelper-fill OR TARGET measurementpanel)
     list(APPEND CPACK_COMPONENTS_ALL tools)
 endif()
 
@@ -81,12 +81,12 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION})")
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION
 "XML and measurement reports on Qt: tools
-The program fillreport fills a report from the command line, under the rules
-of an XSD schema. The program measurementpanel is a measurement screen with
+The program xmlhelper-fill fills a report from the command line, under the
+rules of an XSD schema. The program measurementpanel is a measurement screen with
 a report button, on simulated values.")
 
 # Where the libraries of one package lie while another is looked at for what it needs.
-foreach(library IN ITEMS XMLHelper ${stand_ins})
+foreach(library IN ITEMS XMLHelper XMLHelperReports ${stand_ins})
     get_target_property(library_dir ${library} BINARY_DIR)
     list(APPEND CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${library_dir}")
 endforeach()

@@ -193,6 +193,7 @@ public:
 
 private:
     friend class ReportAnswerer; // gives back what a report that is over holds
+    friend class ReportFiller; // the same, and asks which counts and choices the schema has
 
     /// The error events under way. A copy of a builder that is being answered has none itself.
     struct ErrorNesting

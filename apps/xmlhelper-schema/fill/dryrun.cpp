@@ -1,13 +1,9 @@
 #include "dryrun.h"
 
-#include <list>
-#include <optional>
-
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTextStream>
 
-#include <reportfiller/reportfiller.h>
+#include <xmlhelperreports/reportfiller.h>
 
 #include "examine.h"
 #include "model/texts.h"
@@ -15,31 +11,6 @@
 namespace schemadoctor {
 
 namespace {
-
-/// The values of a file; nothing when it cannot be read or has a line that is none.
-std::optional<std::list<ReportFiller::Value>> valuesOf(const QString& fileName,
-                                                       const std::function<void(const QString&)>& write)
-{
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        write(Texts::tr("%1: The file cannot be opened.").arg(fileName));
-        return std::nullopt;
-    }
-    std::list<ReportFiller::Value> values;
-    for (int number = 1; !file.atEnd(); ++number) {
-        const QString line = QString::fromUtf8(file.readLine()).trimmed();
-        if (line.isEmpty() || line.startsWith(QLatin1Char('#'))) {
-            continue;
-        }
-        const int separator = int(line.indexOf(QLatin1Char('=')));
-        if (separator < 1) {
-            write(Texts::tr("%1:%2: The line is not of the form name=value.").arg(fileName).arg(number));
-            return std::nullopt;
-        }
-        values.push_back({line.left(separator).trimmed(), line.mid(separator + 1).trimmed(), false});
-    }
-    return values;
-}
 
 void writeReport(const QString& fileName, const std::function<void(const QString&)>& write)
 {
@@ -56,8 +27,10 @@ void writeReport(const QString& fileName, const std::function<void(const QString
 
 DryRunEnd dryRun(const QString& schema, const QString& valuesFile, const std::function<void(const QString&)>& write)
 {
-    const auto values = valuesOf(valuesFile, write);
-    if (!values) {
+    ReportFiller filler;
+    QString fault;
+    if (!filler.AddFile(valuesFile, &fault)) {
+        write(fault + QLatin1Char('.'));
         return DryRunEnd::NoValues;
     }
     // The limits of the doctor hold for this, too.
@@ -69,9 +42,9 @@ DryRunEnd dryRun(const QString& schema, const QString& valuesFile, const std::fu
     }
     const QTemporaryDir folder;
     const QString report = folder.filePath(QStringLiteral("report.xml"));
-    ReportFiller filler(*values);
     filler.SetJournal(write);
-    if (!filler.Fill(schema, report)) {
+    const bool isComplete = filler.Fill(schema, report);
+    if (!filler.IsSchemaRead()) {
         return DryRunEnd::NoSchema;
     }
     const QStringList complaints = filler.Complaints();
@@ -79,7 +52,7 @@ DryRunEnd dryRun(const QString& schema, const QString& valuesFile, const std::fu
         write(Texts::tr("complaint: %1").arg(complaint));
     }
     writeReport(report, write);
-    return complaints.isEmpty() ? DryRunEnd::Complete : DryRunEnd::Incomplete;
+    return isComplete ? DryRunEnd::Complete : DryRunEnd::Incomplete;
 }
 
 } // namespace schemadoctor

@@ -932,7 +932,7 @@ void TestSchemaDoctorExamination::tellsOfRefusalsRetriesAndRemovals()
     QCOMPARE(lines.at(call + 2), QStringLiteral("  retry SetXmlValue(QString 17.5)"));
     QVERIFY(lines.at(call + 3).startsWith(QLatin1String("    refused: ")));
     QVERIFY(lines.contains(QStringLiteral("removed /Report/Site")));
-    QVERIFY(lines.contains(QStringLiteral("complaint: Cost=17.5: its type takes no floating-point number")));
+    QVERIFY(lines.contains(QStringLiteral("complaint: /Report/Cost=17.5: its type, decimal, takes no floating-point number")));
 }
 
 void TestSchemaDoctorExamination::refusesALineThatIsNoValue()

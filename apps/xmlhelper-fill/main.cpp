@@ -1,0 +1,116 @@
+// Fills a report by a schema from named values, and says what became of them. The man page has the details.
+
+#include <cstdio>
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+#include <xmlhelperreports/reportfiller.h>
+
+namespace {
+
+enum ExitStatus { Complete = 0, Incomplete = 1, NoSchema = 2, WrongUsage = 3 };
+
+void print(const QString& line)
+{
+    std::printf("%s\n", qUtf8Printable(line));
+}
+
+int refuse(const QString& line)
+{
+    std::fprintf(stderr, "xmlhelper-fill: %s\n", qUtf8Printable(line));
+    return WrongUsage;
+}
+
+QString wordFor(ReportFiller::State state)
+{
+    switch (state) {
+    case ReportFiller::State::Written:
+        return QStringLiteral("written");
+    case ReportFiller::State::Refused:
+        return QStringLiteral("refused");
+    case ReportFiller::State::NotAskedFor:
+        return QStringLiteral("not asked for");
+    case ReportFiller::State::Unfilled:
+        return QStringLiteral("unfilled");
+    case ReportFiller::State::LeftOut:
+        return QStringLiteral("left out");
+    case ReportFiller::State::Doubtful:
+        return QStringLiteral("doubtful");
+    }
+    return QString();
+}
+
+/// What happened to everything, good or bad.
+void explain(const ReportFiller& filler)
+{
+    for (const ReportFiller::Verdict& verdict : filler.GetVerdicts()) {
+        QString line = wordFor(verdict.state) + QLatin1Char(' ') + verdict.path;
+        line += verdict.value.isEmpty() ? QString() : QLatin1Char('=') + verdict.value;
+        line += verdict.reason.isEmpty() ? QString() : QStringLiteral(": ") + verdict.reason;
+        print(line);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationVersion(QStringLiteral(XMLHELPER_VERSION));
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Fills a report by a schema from named values."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption values(QStringLiteral("values"),
+                                    QStringLiteral("Take the values of <file>: JSON, CSV, or lines name=value."),
+                                    QStringLiteral("file"));
+    const QCommandLineOption explaining(QStringLiteral("explain"),
+                                        QStringLiteral("Print what happens, and what became of everything."));
+    parser.addOptions({values, explaining});
+    parser.addPositionalArgument(QStringLiteral("schema"), QStringLiteral("The schema to fill the report by."));
+    parser.addPositionalArgument(QStringLiteral("report"), QStringLiteral("The report to write."));
+    parser.addPositionalArgument(QStringLiteral("name=value"),
+                                 QStringLiteral("Values by path, such as Emission[2]/Frequency@Unit=Hz."),
+                                 QStringLiteral("[name=value...]"));
+    if (!parser.parse(QCoreApplication::arguments())) {
+        return refuse(parser.errorText());
+    }
+    if (parser.isSet(QStringLiteral("help")) || parser.isSet(QStringLiteral("version"))) {
+        print(parser.isSet(QStringLiteral("help")) ? parser.helpText()
+                                                   : QStringLiteral("xmlhelper-fill " XMLHELPER_VERSION));
+        return Complete;
+    }
+    const QStringList arguments = parser.positionalArguments();
+    if (arguments.size() < 2) {
+        return refuse(QStringLiteral("give a schema and a report; --help says more"));
+    }
+
+    ReportFiller filler;
+    const QStringList files = parser.values(values);
+    for (const QString& file : files) {
+        QString fault;
+        if (!filler.AddFile(file, &fault)) {
+            return refuse(fault);
+        }
+    }
+    for (int i = 2; i < int(arguments.size()); ++i) {
+        const int separator = int(arguments.at(i).indexOf(QLatin1Char('=')));
+        if (separator < 1) {
+            return refuse(QStringLiteral("%1 is not of the form name=value").arg(arguments.at(i)));
+        }
+        filler.Add(arguments.at(i).left(separator), arguments.at(i).mid(separator + 1));
+    }
+    if (parser.isSet(explaining)) {
+        filler.SetJournal(print);
+    }
+    const bool isComplete = filler.Fill(arguments.at(0), arguments.at(1));
+    if (parser.isSet(explaining)) {
+        explain(filler);
+    }
+    const QStringList complaints = filler.Complaints();
+    for (const QString& complaint : complaints) {
+        print(complaint);
+    }
+    return !filler.IsSchemaRead() ? NoSchema : isComplete ? Complete : Incomplete;
+}

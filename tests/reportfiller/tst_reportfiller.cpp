@@ -1,0 +1,319 @@
+#include <QtTest>
+
+#include <xmlhelper/limits_p.h>
+#include <xmlhelperreports/reportfiller.h>
+
+#include "surveyschema.h"
+
+namespace {
+
+using State = ReportFiller::State;
+
+/// The text of the verdict on a path.
+QString verdictOn(const ReportFiller& filler, const QString& path)
+{
+    static const char* const states[] = {"written", "refused", "not asked for", "unfilled", "left out", "doubtful"};
+    QStringList found;
+    for (const ReportFiller::Verdict& verdict : filler.GetVerdicts()) {
+        if (verdict.path == path) {
+            found.append(QString::fromLatin1(states[int(verdict.state)]));
+        }
+    }
+    return found.join(QLatin1Char(','));
+}
+
+} // namespace
+
+/// How a report is shaped by the values that it is filled with.
+class TestReportFiller : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fills_data();
+    void fills();
+    void judgesEveryValueAndElement();
+    void keepsCopiesApart();
+    void repeatsLevelByLevel();
+    void asksASource();
+    void endsAskingASourceThatAlwaysAnswers();
+    void asksForNoMoreThanMayOccur();
+    void saysWhenTheReportCannotBeWritten();
+    void saysWhenTheSchemaCannotBeRead_data();
+    void saysWhenTheSchemaCannotBeRead();
+    void fillsSeveralReports();
+    void refusesMoreElementsThanADocumentTakes();
+};
+
+void TestReportFiller::fills_data()
+{
+    QTest::addColumn<QByteArray>("values");
+    QTest::addColumn<QString>("content");
+    QTest::addColumn<QStringList>("complaints");
+    const auto row = [](const char* name, const char* values, const char* content, const char* complaints = "") {
+        const QString all = QLatin1String(complaints);
+        QTest::newRow(name) << QByteArray(values) << QString::fromLatin1(content)
+                            << (all.isEmpty() ? QStringList() : all.split(QLatin1Char('\n')));
+    };
+    row("only-what-is-required", "Station=S\nFixed=yes", "Survey(Station=S Fixed=yes)");
+    row("two-of-two", "Station=S\nFixed=yes\nFrequency=1\nFrequency=2",
+        "Survey(Station=S Emission(Frequency=1) Emission(Frequency=2) Fixed=yes)");
+    row("optional-container-whose-first-child-has-no-value", "Station=S\nFixed=yes\nClosing/Name=N",
+        "Survey(Station=S Fixed=yes Closing(Name=N))");
+    row("optional-children-differ-in-copies",
+        "Station=S\nFixed=yes\nEmission[1]/Frequency=1\nEmission[2]/Frequency=2\nEmission[2]/Label=b\n"
+        "Emission[3]/Frequency=3\nEmission[3]/Level=-3",
+        "Survey(Station=S Emission(Frequency=1) Emission(Label=b Frequency=2) Emission(Frequency=3 Level=-3) "
+        "Fixed=yes)");
+    row("repeated-container-in-a-repeated-one",
+        "Station=S\nFixed=yes\nEmission[1]/Frequency=1\nEmission[1]/Line[1]/Number=11\nEmission[1]/Line[2]/Number=12\n"
+        "Emission[2]/Frequency=2\nEmission[2]/Line[1]/Number=21\nEmission[2]/Line[2]/Number=22",
+        "Survey(Station=S Emission(Frequency=1 Line(Number=11) Line(Number=12)) "
+        "Emission(Frequency=2 Line(Number=21) Line(Number=22)) Fixed=yes)");
+    row("elements-repeat", "Station=S\nFixed=yes\nOperator=A\nOperator=B",
+        "Survey(Station=S Operator=A Operator=B Fixed=yes)");
+    row("attributes-of-an-element-announced-twice-stay",
+        "Station=S\nFixed=yes\nEmission@Id=7\nFrequency=1\nFrequency@Unit=Hz",
+        "Survey(Station=S Emission{Id=7}(Frequency{Unit=Hz}=1) Fixed=yes)");
+    row("alternative-with-values-is-taken", "Station=S\nRoute=R", "Survey(Station=S Mobile(Route=R))");
+    row("absolute-path",
+        "/Survey/Station=S\n/Survey/Fixed=yes\n/Survey/Emission[1]/Frequency@Unit=Hz\n"
+        "/Survey/Emission[1]/Frequency=1",
+        "Survey(Station=S Emission(Frequency{Unit=Hz}=1) Fixed=yes)");
+    row("path-below-the-root", "./Station=S\n./Fixed=yes", "Survey(Station=S Fixed=yes)");
+    row("ambiguous-name", "Station=S\nFixed=yes\nRemark=r", "Survey(Station=S Fixed=yes)",
+        "Remark=r: the name is ambiguous: /Survey/Emission/Line/Remark, /Survey/Closing/Remark");
+    row("name-without-a-place", "Station=S\nFixed=yes\nColour=red\nStation@Height=2", "Survey(Station=S Fixed=yes)",
+        "Colour=red: the schema has no place for it\nStation@Height=2: the schema has no place for it");
+    row("index-that-is-none", "Station=S\nFixed=yes\nOperator[0]=A\nOperator[x]=A\nOperator[1=A",
+        "Survey(Station=S Fixed=yes)",
+        "Operator[0]=A: this is no path\nOperator[x]=A: this is no path\nOperator[1=A: this is no path");
+    row("gap", "Station=S\nFixed=yes\nOperator[1]=A\nOperator[3]=C", "Survey(Station=S Operator=A Fixed=yes)",
+        "Operator[3]=C: there is no /Survey/Operator[2] before it");
+    row("more-than-may-occur", "Station=S\nFixed=yes\nOperator=A\nOperator=B\nOperator=C\nOperator=D",
+        "Survey(Station=S Operator=A Operator=B Operator=C Fixed=yes)",
+        "Operator=D: /Survey/Operator may occur at most 3 times");
+    row("second-value-of-a-single-element", "Station=S\nStation=T\nFixed=yes", "Survey(Station=S Fixed=yes)",
+        "Station=T: there is a value already, and it may occur at most once");
+    row("index-of-a-single-element", "Station=S\nStation[2]=T\nFixed=yes", "Survey(Station=S Fixed=yes)",
+        "Station[2]=T: /Survey/Station may occur at most once");
+    row("value-for-a-container", "Station=S\nFixed=yes\nMobile=1", "Survey(Station=S Fixed=yes)",
+        "Mobile=1: the element holds elements and no value");
+    row("nothing-required-is-given", "", "Survey(Station{type=string})",
+        "/Survey: none of the alternatives Fixed, Mobile has a value\n/Survey/Station: required, and without a value");
+    row("two-alternatives", "Station=S\nFixed=yes\nRoute=R", "Survey(Station=S Fixed=yes Mobile(Route=R))",
+        "/Survey: of the alternatives Fixed, Mobile more than one has values: Fixed, Mobile; whether they are of one "
+        "choice is not known");
+    row("refused-value-of-an-optional-element-goes", "Station=S\nFixed=yes\nEmission/Frequency=1\nEmission/Level=loud",
+        "Survey(Station=S Emission(Frequency=1) Fixed=yes)",
+        "/Survey/Emission[1]/Level=loud: its type, double, takes no text");
+    row("refused-value-takes-nothing-around-it-away",
+        "Station=S\nFixed=yes\nEmission/Frequency=low\nEmission/Level=-3\nEmission[2]/Frequency=2",
+        "Survey(Station=S Emission(Frequency{type=double} Level=-3) Emission(Frequency=2) Fixed=yes)",
+        "/Survey/Emission[1]/Frequency=low: its type, double, takes no text\n"
+        "/Survey/Emission[1]/Frequency: required, and its value was refused");
+    row("missing-value-takes-nothing-around-it-away", "Station=S\nFixed=yes\nEmission/Level=-3",
+        "Survey(Station=S Emission(Frequency{type=double} Level=-3) Fixed=yes)",
+        "/Survey/Emission[1]/Frequency: required, and without a value");
+    row("refused-value-in-an-alternative-goes", "Station=S\nRoute=R\nSpeed=fast", "Survey(Station=S Mobile(Route=R))",
+        "/Survey/Mobile/Speed=fast: its type, double, takes no text");
+    row("what-an-alternative-requires-stays", "Station=S\nSpeed=3",
+        "Survey(Station=S Mobile(Speed=3 Route{type=string}))", "/Survey/Mobile/Route: required, and without a value");
+    row("container-keeps-what-it-requires",
+        "Station=S\nFixed=yes\nEmission/Frequency=1\nLine/Remark=\n"
+        "Line/Number=x",
+        "Survey(Station=S Emission(Frequency=1 Line(Remark Number{type=integer})) Fixed=yes)",
+        "/Survey/Emission[1]/Line[1]/Number=x: its type, integer, takes no text\n"
+        "/Survey/Emission[1]/Line[1]/Number: required, and its value was refused");
+    row("refused-attribute-goes", "Station=S\nFixed=yes\nFrequency=1\nEmission@Id=one",
+        "Survey(Station=S Emission(Frequency=1) Fixed=yes)",
+        "/Survey/Emission[1]@Id=one: its type, xs:integer, takes no text");
+}
+
+void TestReportFiller::fills()
+{
+    QFETCH(QByteArray, values);
+    QFETCH(QString, content);
+    QFETCH(QStringList, complaints);
+    const SchemaFolder folder(surveyElements());
+    ReportFiller filler;
+    QVERIFY(filler.AddText(values));
+    QCOMPARE(filler.Fill(folder.Schema(), folder.Report()), complaints.isEmpty());
+    QCOMPARE(filler.Complaints(), complaints);
+    QCOMPARE(folder.Content(), content);
+    QVERIFY(filler.IsSchemaRead());
+}
+
+void TestReportFiller::judgesEveryValueAndElement()
+{
+    const SchemaFolder folder(surveyElements());
+    ReportFiller filler;
+    filler.Add(QStringLiteral("Station"), QStringLiteral("S"));
+    filler.Add(QStringLiteral("Frequency"), QStringLiteral("low"));
+    filler.Add(QStringLiteral("Colour"), QStringLiteral("red"));
+    QVERIFY(!filler.Fill(folder.Schema(), folder.Report()));
+    QCOMPARE(filler.GetVerdicts().size() >= 3, true);
+    QCOMPARE(filler.GetVerdicts()[0].path, QStringLiteral("/Survey/Station"));
+    QCOMPARE(filler.GetVerdicts()[1].path, QStringLiteral("/Survey/Emission[1]/Frequency"));
+    QCOMPARE(filler.GetVerdicts()[2].path, QStringLiteral("Colour"));
+    QCOMPARE(verdictOn(filler, QStringLiteral("/Survey/Station")), QStringLiteral("written"));
+    QCOMPARE(verdictOn(filler, QStringLiteral("/Survey/Emission[1]/Frequency")), QStringLiteral("refused,unfilled"));
+    QCOMPARE(verdictOn(filler, QStringLiteral("/Survey/Emission[1]/Frequency@Unit")), QStringLiteral("left out"));
+    QCOMPARE(verdictOn(filler, QStringLiteral("/Survey/Emission[1]/Level")), QStringLiteral("left out"));
+    QCOMPARE(verdictOn(filler, QStringLiteral("/Survey/Emission[1]/Line[1]")), QStringLiteral("left out"));
+    QCOMPARE(verdictOn(filler, QStringLiteral("/Survey/Emission[1]")), QStringLiteral("written"));
+    QCOMPARE(verdictOn(filler, QStringLiteral("/Survey/Operator[1]")), QStringLiteral("left out"));
+    QCOMPARE(verdictOn(filler, QStringLiteral("Colour")), QStringLiteral("not asked for"));
+    QCOMPARE(verdictOn(filler, QStringLiteral("/Survey")), QStringLiteral("unfilled,written"));
+}
+
+/// The first of two elements laid out as often as they are required is not the one that holds anything.
+void TestReportFiller::keepsCopiesApart()
+{
+    const SchemaFolder folder("<xs:element name='R'><xs:complexType><xs:sequence>"
+                              "<xs:element name='Part' minOccurs='2' maxOccurs='4'><xs:complexType><xs:sequence>"
+                              "<xs:element name='Name' type='xs:string'/>"
+                              "</xs:sequence></xs:complexType></xs:element>"
+                              "<xs:element name='Sample' type='xs:double' minOccurs='2' maxOccurs='4'/>"
+                              "</xs:sequence></xs:complexType></xs:element>");
+    ReportFiller filler;
+    for (const char* const name : {"a", "b", "c"}) {
+        filler.Add(QStringLiteral("Name"), QString::fromLatin1(name));
+    }
+    filler.Add(QStringLiteral("Sample"), 1);
+    filler.Add(QStringLiteral("Sample"), 2);
+    QVERIFY2(filler.Fill(folder.Schema(), folder.Report()), qPrintable(filler.Complaints().join(QLatin1Char('\n'))));
+    QCOMPARE(folder.Content(), QStringLiteral("R(Part(Name=a) Part(Name=b) Part(Name=c) Sample=1 Sample=2)"));
+
+    filler.Add(QStringLiteral("Sample"), 3);
+    filler.Add(QStringLiteral("Sample"), 4);
+    filler.Add(QStringLiteral("Sample"), 5);
+    QVERIFY(!filler.Fill(folder.Schema(), folder.Report()));
+    QCOMPARE(filler.Complaints(), QStringList(QStringLiteral("Sample=5: /R/Sample may occur at most 4 times")));
+}
+
+/// Without an index a value goes to the next of the innermost element that may repeat.
+void TestReportFiller::repeatsLevelByLevel()
+{
+    const SchemaFolder folder(surveyElements());
+    ReportFiller filler;
+    QVERIFY(filler.AddText("Station=S\nFixed=yes\nEmission[1]/Frequency=1\nEmission[2]/Frequency=2\n"
+                           "Emission[2]/Line/Number=1\nEmission[2]/Line/Number=2\nEmission[1]/Line/Number=3"));
+    QVERIFY2(filler.Fill(folder.Schema(), folder.Report()), qPrintable(filler.Complaints().join(QLatin1Char('\n'))));
+    QCOMPARE(folder.Content(),
+             QStringLiteral("Survey(Station=S Emission(Frequency=1 Line(Number=3)) "
+                            "Emission(Frequency=2 Line(Number=1) Line(Number=2)) Fixed=yes)"));
+}
+
+void TestReportFiller::asksASource()
+{
+    const SchemaFolder folder(surveyElements());
+    ReportFiller filler;
+    filler.Add(QStringLiteral("Station"), QStringLiteral("given"));
+    filler.SetSource([](const QString& path) {
+        const QHash<QString, QVariant> values {
+            {QStringLiteral("/Survey/Station"), QStringLiteral("asked")},
+            {QStringLiteral("/Survey/Fixed"), true},
+            {QStringLiteral("/Survey/Emission[1]/Frequency"), 1.5},
+            {QStringLiteral("/Survey/Emission[1]/Frequency@Unit"), QStringLiteral("Hz")},
+            {QStringLiteral("/Survey/Emission[2]/Frequency"), 2},
+            {QStringLiteral("/Survey/Emission[4]/Frequency"), 4}};
+        return values.value(path);
+    });
+    QVERIFY2(filler.Fill(folder.Schema(), folder.Report()), qPrintable(filler.Complaints().join(QLatin1Char('\n'))));
+    QCOMPARE(folder.Content(),
+             QStringLiteral("Survey(Station=given Emission(Frequency{Unit=Hz}=1.5) Emission(Frequency=2) Fixed=true)"));
+}
+
+void TestReportFiller::endsAskingASourceThatAlwaysAnswers()
+{
+    Limits small;
+    small.elements = 60;
+    const LimitsInForce inForce(small);
+    const SchemaFolder folder("<xs:element name='R'><xs:complexType><xs:sequence>"
+                              "<xs:element name='Sample' type='xs:double' maxOccurs='unbounded'/>"
+                              "</xs:sequence></xs:complexType></xs:element>");
+    ReportFiller filler;
+    filler.SetSource([](const QString&) { return QVariant(1); });
+    filler.Fill(folder.Schema(), folder.Report());
+    const QDomElement root = documentInFile(folder.Report()).documentElement();
+    QVERIFY(root.elementsByTagName(QStringLiteral("Sample")).count() <= 60);
+}
+
+void TestReportFiller::asksForNoMoreThanMayOccur()
+{
+    const SchemaFolder folder("<xs:element name='R'><xs:complexType><xs:sequence>"
+                              "<xs:element name='Sample' type='xs:double' maxOccurs='3'/>"
+                              "<xs:element name='Site' type='xs:string'/>"
+                              "</xs:sequence></xs:complexType></xs:element>");
+    ReportFiller filler;
+    int asked = 0;
+    filler.SetSource([&asked](const QString&) {
+        ++asked;
+        return QVariant(1);
+    });
+    QVERIFY2(filler.Fill(folder.Schema(), folder.Report()), qPrintable(filler.Complaints().join(QLatin1Char('\n'))));
+    QCOMPARE(folder.Content(), QStringLiteral("R(Sample=1 Sample=1 Sample=1 Site=1)"));
+    QCOMPARE(asked, 4);
+}
+
+void TestReportFiller::saysWhenTheReportCannotBeWritten()
+{
+    const SchemaFolder folder(surveyElements());
+    ReportFiller filler;
+    QVERIFY(filler.AddText("Station=S\nFixed=yes"));
+    QVERIFY(!filler.Fill(folder.Schema(), folder.Report() + QStringLiteral("/nowhere/report.xml")));
+    QCOMPARE(filler.Complaints(), QStringList(QStringLiteral("the report could not be written")));
+    QVERIFY(filler.Fill(folder.Schema(), folder.Report()));
+    QVERIFY(filler.Complaints().isEmpty());
+}
+
+void TestReportFiller::saysWhenTheSchemaCannotBeRead_data()
+{
+    QTest::addColumn<QByteArray>("declarations");
+    QTest::addColumn<QString>("complaint");
+    QTest::newRow("missing-type") << QByteArray("<xs:element name='R' type='Nowhere'/>")
+                                  << QStringLiteral("the schema cannot be read");
+    QTest::newRow("nothing-laid-out") << QByteArray("") << QStringLiteral("the schema lays out no element");
+}
+
+void TestReportFiller::saysWhenTheSchemaCannotBeRead()
+{
+    QFETCH(QByteArray, declarations);
+    QFETCH(QString, complaint);
+    const SchemaFolder folder(declarations);
+    ReportFiller filler;
+    QVERIFY(!filler.Fill(folder.Schema(), folder.Report()));
+    QVERIFY(!filler.IsSchemaRead());
+    QVERIFY(filler.Complaints().contains(complaint));
+}
+
+void TestReportFiller::fillsSeveralReports()
+{
+    const SchemaFolder folder(surveyElements());
+    ReportFiller filler;
+    QVERIFY(filler.AddText("Station=S"));
+    QVERIFY(!filler.Fill(folder.Schema(), folder.Report()));
+    QVERIFY(filler.AddText("Fixed=yes"));
+    QVERIFY(filler.Fill(folder.Schema(), folder.Report()));
+    QCOMPARE(folder.Content(), QStringLiteral("Survey(Station=S Fixed=yes)"));
+}
+
+void TestReportFiller::refusesMoreElementsThanADocumentTakes()
+{
+    const SchemaFolder folder(surveyElements());
+    ReportFiller filler;
+    QVERIFY(filler.AddText("Station=S\nFixed=yes"));
+    for (int i = 0; i < 20; ++i) {
+        filler.Add(QStringLiteral("Frequency"), i);
+    }
+    Limits small;
+    small.elements = 60;
+    const LimitsInForce inForce(small);
+    QVERIFY(!filler.Fill(folder.Schema(), folder.Report()));
+    QVERIFY(filler.Complaints().contains(QStringLiteral("Frequency=19: the report would have too many elements")));
+    QCOMPARE(folder.Content(), QStringLiteral("Survey(Station=S Emission(Frequency=0) Fixed=yes)"));
+}
+
+QTEST_GUILESS_MAIN(TestReportFiller)
+#include "tst_reportfiller.moc"

@@ -1,0 +1,316 @@
+#include <QtTest>
+
+#include <limits>
+
+#include <xmlhelperreports/reportfiller.h>
+
+#include "surveyschema.h"
+
+namespace {
+
+/// One element called Value of a type of its own.
+QByteArray valueElement(const QByteArray& base, const QByteArray& facets)
+{
+    return "<xs:element name='R'><xs:complexType><xs:sequence><xs:element name='Value'><xs:simpleType>"
+           "<xs:restriction base='xs:"
+        + base + "'>" + facets
+        + "</xs:restriction></xs:simpleType></xs:element></xs:sequence></xs:complexType></xs:element>";
+}
+
+} // namespace
+
+/// Which values are taken, and in which forms they may be given.
+class TestReportFillerValues : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void takesOrRefusesAValue_data();
+    void takesOrRefusesAValue();
+    void takesTypedValues_data();
+    void takesTypedValues();
+    void writesByTheDefault();
+    void removesADefaultBesideAValue();
+    void takesFacetsOfAnAttribute();
+    void readsAText_data();
+    void readsAText();
+    void saysWhatIsWrongWithAText_data();
+    void saysWhatIsWrongWithAText();
+    void readsFilesByTheirSuffix();
+};
+
+void TestReportFillerValues::takesOrRefusesAValue_data()
+{
+    QTest::addColumn<QByteArray>("base");
+    QTest::addColumn<QByteArray>("facets");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("written");
+    QTest::addColumn<QString>("reason");
+    const auto row = [](const char* name, const char* base, const char* facets, const char* value, const char* written,
+                        const char* reason = "") {
+        QTest::newRow(name) << QByteArray(base) << QByteArray(facets) << QString::fromLatin1(value)
+                            << QString::fromLatin1(written) << QString::fromLatin1(reason);
+    };
+    const char* const range = "<xs:minInclusive value='1'/><xs:maxExclusive value='9'/>";
+    const char* const colours = "<xs:enumeration value='red'/><xs:enumeration value='blue'/>";
+    row("string", "string", "", "any", "any");
+    row("empty-string", "string", "", "", "");
+    row("enumerated", "string", colours, "blue", "blue");
+    row("not-enumerated", "string", colours, "green", "", "it is outside of its enumeration, red, blue");
+    row("double", "double", "", "98.5e6", "98500000");
+    row("text-for-double", "double", "", "low", "", "its type, double, takes no text");
+    row("double-in-range", "double", range, "8.5", "8.5");
+    row("double-below", "double", range, "0.5", "", "it is outside of its minInclusive, 1");
+    row("double-at-the-excluded-bound", "double", range, "9", "", "it is outside of its maxExclusive, 9");
+    row("nan", "double", "", "nan", "", "its type, double, has no such value");
+    row("infinity", "double", "", "inf", "", "its type, double, has no such value");
+    row("bound-that-the-library-overlooks", "double", "<xs:maxInclusive value='65535'/>", "70000", "",
+        "it is outside of its maxInclusive, 65535");
+    row("bound-that-the-library-overlooks-is-removed", "double", "<xs:maxInclusive value='65535'/>", "7", "7");
+    row("integer", "integer", range, "8", "8");
+    row("integer-out-of-range", "integer", range, "9", "", "it is outside of its maxExclusive, 9");
+    row("fraction-for-integer", "integer", "", "7.5", "", "its type, integer, takes no floating-point number");
+    row("enumerated-integer", "integer", "<xs:enumeration value='1'/><xs:enumeration value='2'/>", "2", "2");
+    row("integer-not-enumerated", "integer", "<xs:enumeration value='1'/><xs:enumeration value='2'/>", "3", "",
+        "it is outside of its enumeration, 1, 2");
+    row("short", "short", "", "-7", "-7");
+    row("too-large-for-short", "short", "", "70000", "", "its type, short, has no such value");
+    row("text-for-short", "short", "", "many", "", "its type, short, has no such value");
+    row("long-of-more-than-32-bits", "long", "", "5000000000", "5000000000");
+    row("true", "boolean", "", "true", "true");
+    row("one-for-true", "boolean", "", "1", "true");
+    row("no-truth-value", "boolean", "", "maybe", "", "its type, boolean, takes no text");
+    row("date-and-time", "dateTime", "", "2026-03-01T12:00:00", "2026-03-01T12:00:00");
+    row("no-date", "dateTime", "", "yesterday", "", "its type, dateTime, takes no text");
+    row("time", "time", "", "12:00:01", "12:00:01");
+    row("type-that-nothing-fills", "decimal", "", "1.5", "", "its type, decimal, takes no floating-point number");
+    row("pattern-kept", "string", "<xs:pattern value='[A-Z]{2}'/>", "AB", "AB");
+    row("pattern-broken", "string", "<xs:pattern value='[A-Z]{2}'/>", "ABC", "",
+        "it is outside of its pattern, [A-Z]{2}");
+    row("too-long", "string", "<xs:maxLength value='2'/>", "abc", "", "it is outside of its maxLength, 2");
+    row("too-short", "string", "<xs:minLength value='2'/>", "a", "", "it is outside of its minLength, 2");
+    row("of-another-length", "string", "<xs:length value='2'/>", "abc", "", "it is outside of its length, 2");
+    row("too-many-digits", "integer", "<xs:totalDigits value='2'/>", "-123", "", "it is outside of its totalDigits, 2");
+    row("digits-kept", "integer", "<xs:totalDigits value='3'/>", "-123", "-123");
+}
+
+void TestReportFillerValues::takesOrRefusesAValue()
+{
+    QFETCH(QByteArray, base);
+    QFETCH(QByteArray, facets);
+    QFETCH(QString, value);
+    QFETCH(QString, written);
+    QFETCH(QString, reason);
+    const SchemaFolder folder(valueElement(base, facets));
+    ReportFiller filler;
+    filler.Add(QStringLiteral("Value"), value);
+    QCOMPARE(filler.Fill(folder.Schema(), folder.Report()), reason.isEmpty());
+    const ReportFiller::Verdict& verdict = filler.GetVerdicts().front();
+    QCOMPARE(verdict.value, value);
+    if (reason.isEmpty()) {
+        QVERIFY(verdict.state == ReportFiller::State::Written);
+        const QDomElement element = documentInFile(folder.Report()).documentElement().firstChildElement();
+        QCOMPARE(element.text(), written);
+        QCOMPARE(element.attributes().count(), 0);
+    } else {
+        QVERIFY(verdict.state == ReportFiller::State::Refused);
+        QCOMPARE(verdict.reason, reason);
+    }
+}
+
+void TestReportFillerValues::takesTypedValues_data()
+{
+    QTest::addColumn<QByteArray>("base");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("written");
+    QTest::newRow("double") << QByteArray("double") << QVariant(98.5) << QStringLiteral("98.5");
+    QTest::newRow("double-for-integer") << QByteArray("integer") << QVariant(98.0e6) << QStringLiteral("98000000");
+    QTest::newRow("float") << QByteArray("double") << QVariant(0.5F) << QStringLiteral("0.5");
+    QTest::newRow("int") << QByteArray("integer") << QVariant(-3) << QStringLiteral("-3");
+    QTest::newRow("int-for-double") << QByteArray("double") << QVariant(3) << QStringLiteral("3");
+    QTest::newRow("bool") << QByteArray("boolean") << QVariant(true) << QStringLiteral("true");
+    QTest::newRow("text") << QByteArray("string") << QVariant(QStringLiteral("x")) << QStringLiteral("x");
+    QTest::newRow("long") << QByteArray("long") << QVariant(qlonglong(5000000000)) << QStringLiteral("5000000000");
+    const QDateTime moment(QDate(2026, 3, 1), QTime(12, 0), Qt::UTC);
+    QTest::newRow("date-and-time") << QByteArray("dateTime") << QVariant(moment)
+                                   << QStringLiteral("2026-03-01T12:00:00Z");
+    QTest::newRow("time") << QByteArray("time") << QVariant(QTime(1, 2, 3)) << QStringLiteral("01:02:03");
+}
+
+void TestReportFillerValues::takesTypedValues()
+{
+    QFETCH(QByteArray, base);
+    QFETCH(QVariant, value);
+    QFETCH(QString, written);
+    const SchemaFolder folder(valueElement(base, ""));
+    ReportFiller filler;
+    filler.Add(QStringLiteral("Value"), value);
+    filler.Add(QStringLiteral("Value"), QVariant());
+    QVERIFY2(filler.Fill(folder.Schema(), folder.Report()), qPrintable(filler.Complaints().join(QLatin1Char('\n'))));
+    QCOMPARE(folder.Content(), QStringLiteral("R(Value=%1)").arg(written));
+}
+
+void TestReportFillerValues::writesByTheDefault()
+{
+    const SchemaFolder folder("<xs:element name='R'><xs:complexType><xs:sequence>"
+                              "<xs:element name='Mode' type='xs:string' default='AM'/>"
+                              "<xs:element name='Rate' type='xs:double' default='x'/>"
+                              "<xs:element name='Extra' type='xs:string' default='no' minOccurs='0'/>"
+                              "</xs:sequence></xs:complexType></xs:element>");
+    ReportFiller filler;
+    QVERIFY(!filler.Fill(folder.Schema(), folder.Report()));
+    QCOMPARE(filler.Complaints(),
+             QStringList(QStringLiteral("/R/Rate: its default is refused: its type, double, takes no text")));
+    QCOMPARE(folder.Content(), QStringLiteral("R(Mode=AM Rate{default=x type=double})"));
+}
+
+void TestReportFillerValues::removesADefaultBesideAValue()
+{
+    const SchemaFolder folder("<xs:element name='R'><xs:complexType><xs:sequence>"
+                              "<xs:element name='Mode' type='xs:string' default='AM'/>"
+                              "</xs:sequence></xs:complexType></xs:element>");
+    ReportFiller filler;
+    filler.Add(QStringLiteral("Mode"), QStringLiteral("FM"));
+    QVERIFY(filler.Fill(folder.Schema(), folder.Report()));
+    QCOMPARE(folder.Content(), QStringLiteral("R(Mode=FM)"));
+}
+
+void TestReportFillerValues::takesFacetsOfAnAttribute()
+{
+    const SchemaFolder folder("<xs:attribute name='Level'><xs:simpleType><xs:restriction base='xs:integer'>"
+                              "<xs:minInclusive value='0'/><xs:maxInclusive value='10'/>"
+                              "</xs:restriction></xs:simpleType></xs:attribute>"
+                              "<xs:element name='R'><xs:complexType><xs:sequence>"
+                              "<xs:element name='A'><xs:complexType><xs:attribute ref='Level'/></xs:complexType>"
+                              "</xs:element></xs:sequence></xs:complexType></xs:element>");
+    const auto filled = [&folder](int level) {
+        ReportFiller filler;
+        filler.Add(QStringLiteral("A@Level"), level);
+        filler.Fill(folder.Schema(), folder.Report());
+        return filler.GetVerdicts().front();
+    };
+    QCOMPARE(filled(11).reason, QStringLiteral("it is outside of its maxInclusive, 10"));
+    QVERIFY(filled(9).state == ReportFiller::State::Written);
+    QCOMPARE(documentInFile(folder.Report()).documentElement().firstChildElement().attributes().count(), 1);
+    QVERIFY(filled(10).state == ReportFiller::State::Refused); // The library excludes it behind a lower bound.
+}
+
+void TestReportFillerValues::readsAText_data()
+{
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("content");
+    const QString two = QStringLiteral("Survey(Station=S Emission{Id=1}(Frequency{Unit=Hz}=1.5) "
+                                       "Emission{Id=2}(Label=a,b Frequency=2) Fixed=yes)");
+    QTest::newRow("json-object") << QStringLiteral("json")
+                                 << QByteArray("{\"Station\": \"S\", \"Fixed\": \"yes\", \"Emission\": ["
+                                               "{\"@Id\": 1, \"Frequency\": {\"@Unit\": \"Hz\", \"#text\": 1.5}},"
+                                               "{\"@Id\": 2, \"Label\": \"a,b\", \"Frequency\": 2, \"Level\": null}]}")
+                                 << two;
+    QTest::newRow("json-with-the-root") << QStringLiteral("json")
+                                        << QByteArray("{\"Survey\": {\"Station\": \"S\", \"Fixed\": \"yes\"}}")
+                                        << QStringLiteral("Survey(Station=S Fixed=yes)");
+    QTest::newRow("json-with-paths")
+        << QStringLiteral("json")
+        << QByteArray("{\"Station\": \"S\", \"Fixed\": \"yes\", \"Emission[1]/Frequency\": 1, "
+                      "\"Emission[1]/Frequency@Unit\": \"Hz\", \"Number\": 3}")
+        << QStringLiteral("Survey(Station=S Emission(Frequency{Unit=Hz}=1 Line(Number=3)) Fixed=yes)");
+    QTest::newRow("json-records") << QStringLiteral("json")
+                                  << QByteArray("[{\"Station\": \"S\", \"Fixed\": \"yes\", \"Emission@Id\": 1,"
+                                                "\"Frequency\": 1.5, \"Frequency@Unit\": \"Hz\"},"
+                                                "{\"Emission@Id\": 2, \"Label\": \"a,b\", \"Frequency\": 2}]")
+                                  << two;
+    QTest::newRow("csv-with-commas")
+        << QStringLiteral("csv")
+        << QByteArray("Station,Fixed,Emission@Id,Label,Frequency,Frequency@Unit\nS,yes,1,,1.5,Hz\nS,,2,\"a,b\",2,\n")
+        << two;
+    QTest::newRow("csv-with-semicolons-and-carriage-returns")
+        << QStringLiteral("csv")
+        << QByteArray("\xEF\xBB\xBFStation;Fixed;Emission@Id;Label;Frequency;Frequency@Unit\r\n"
+                      "S;yes;1;;1.5;Hz\r\n;;;;;\r\nS;yes;2;a,b;2;\r\n")
+        << two;
+    QTest::newRow("csv-row-is-a-record-of-the-outermost")
+        << QStringLiteral("csv") << QByteArray("Station,Fixed,Frequency,Number\nS,yes,1,11\n,,2,21\n")
+        << QStringLiteral("Survey(Station=S Emission(Frequency=1 Line(Number=11)) "
+                          "Emission(Frequency=2 Line(Number=21)) Fixed=yes)");
+    QTest::newRow("csv-quotes") << QStringLiteral("csv") << QByteArray("Station,Fixed\n\"a \"\"b\"\"\nc\",yes\n")
+                                << QStringLiteral("Survey(Station=a \"b\"\nc Fixed=yes)");
+    QTest::newRow("lines") << QStringLiteral("txt")
+                           << QByteArray("# two\nStation = S\n\nFixed=yes\r\nEmission@Id=1\nEmission@Id=2\n"
+                                         "Frequency=1.5\nFrequency@Unit=Hz\nFrequency=2\nEmission[2]/Label=a,b")
+                           << two;
+}
+
+void TestReportFillerValues::readsAText()
+{
+    QFETCH(QString, suffix);
+    QFETCH(QByteArray, text);
+    QFETCH(QString, content);
+    const SchemaFolder folder(surveyElements());
+    ReportFiller filler;
+    QString fault;
+    const bool isRead = suffix == QLatin1String("json") ? filler.AddJson(text, &fault)
+        : suffix == QLatin1String("csv")                ? filler.AddCsv(text, &fault)
+                                                        : filler.AddText(text, &fault);
+    QVERIFY2(isRead, qPrintable(fault));
+    QVERIFY2(filler.Fill(folder.Schema(), folder.Report()), qPrintable(filler.Complaints().join(QLatin1Char('\n'))));
+    QCOMPARE(folder.Content(), content);
+}
+
+void TestReportFillerValues::saysWhatIsWrongWithAText_data()
+{
+    QTest::addColumn<QString>("fileName");
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("place");
+    QTest::newRow("json") << QStringLiteral("v.json") << QByteArray("{\n\"Station\": }")
+                          << QStringLiteral("v.json:2: ");
+    QTest::newRow("csv-with-an-open-quote")
+        << QStringLiteral("v.csv") << QByteArray("Station,Fixed\nS,\"yes\n") << QStringLiteral("v.csv:2: ");
+    QTest::newRow("csv-with-too-many-cells")
+        << QStringLiteral("v.csv") << QByteArray("Station,Fixed\nS,yes,no\n") << QStringLiteral("v.csv:2: ");
+    QTest::newRow("line-without-a-value")
+        << QStringLiteral("v.txt") << QByteArray("Station=S\n\nFixed") << QStringLiteral("v.txt:3: ");
+    QTest::newRow("line-without-a-name") << QStringLiteral("v.txt") << QByteArray("=S") << QStringLiteral("v.txt:1: ");
+}
+
+void TestReportFillerValues::saysWhatIsWrongWithAText()
+{
+    QFETCH(QString, fileName);
+    QFETCH(QByteArray, text);
+    QFETCH(QString, place);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(fileName));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(text);
+    file.close();
+    ReportFiller filler;
+    QString fault;
+    QVERIFY(!filler.AddFile(file.fileName(), &fault));
+    QVERIFY2(fault.contains(place), qPrintable(fault));
+    QVERIFY(!filler.AddFile(file.fileName()));
+
+    const SchemaFolder schema(surveyElements()); // Nothing of it was taken.
+    filler.Fill(schema.Schema(), schema.Report());
+    QVERIFY(schema.Content().startsWith(QStringLiteral("Survey(Station{type=string}")));
+}
+
+void TestReportFillerValues::readsFilesByTheirSuffix()
+{
+    const SchemaFolder folder(surveyElements());
+    const QTemporaryDir values;
+    ReportFiller filler;
+    for (const auto& [name, text] : {std::make_pair("a.json", "{\"Station\": \"S\"}"),
+                                     std::make_pair("b.csv", "Fixed\nyes"), std::make_pair("c.txt", "Operator=A")}) {
+        QFile file(values.filePath(QString::fromLatin1(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(text);
+        file.close();
+        QVERIFY(filler.AddFile(file.fileName()));
+    }
+    QVERIFY(!filler.AddFile(values.filePath(QStringLiteral("nowhere.csv"))));
+    QVERIFY(filler.Fill(folder.Schema(), folder.Report()));
+    QCOMPARE(folder.Content(), QStringLiteral("Survey(Station=S Operator=A Fixed=yes)"));
+}
+
+QTEST_GUILESS_MAIN(TestReportFillerValues)
+#include "tst_reportfiller_values.moc"

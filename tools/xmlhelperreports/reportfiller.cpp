@@ -1,0 +1,156 @@
+#include "reportfiller.h"
+
+#include <algorithm>
+
+#include <QDomElement>
+#include <QFile>
+#include <QFileInfo>
+
+#include <xmlhelper/xmlcreatereport.h>
+
+#include "givenvalues_p.h"
+#include "reportfilling_p.h"
+
+namespace {
+
+bool isGood(const ReportFiller::Verdict& verdict)
+{
+    return verdict.state == ReportFiller::State::Written || verdict.state == ReportFiller::State::LeftOut;
+}
+
+template <typename Read>
+bool addBy(const Read& read, const QByteArray& text, std::vector<GivenValue>& values, QString* fault)
+{
+    QString what;
+    const bool isRead = read(text, values, what);
+    if (fault) {
+        *fault = what;
+    }
+    return isRead;
+}
+
+} // namespace
+
+struct ReportFiller::Private
+{
+    std::vector<GivenValue> values;
+    Source source;
+    Journal journal;
+    std::vector<Verdict> verdicts;
+    QStringList faults;
+    bool isSchemaRead = false;
+};
+
+ReportFiller::ReportFiller()
+    : m_pPrivate(std::make_unique<Private>())
+{
+}
+
+ReportFiller::~ReportFiller() = default;
+
+void ReportFiller::Add(const QString& name, const QVariant& value)
+{
+    if (value.isValid()) {
+        m_pPrivate->values.push_back({name, textOf(value), 0, -1});
+    }
+}
+
+bool ReportFiller::AddJson(const QByteArray& json, QString* fault)
+{
+    return addBy(readJson, json, m_pPrivate->values, fault);
+}
+
+bool ReportFiller::AddCsv(const QByteArray& csv, QString* fault)
+{
+    return addBy(readCsv, csv, m_pPrivate->values, fault);
+}
+
+bool ReportFiller::AddText(const QByteArray& text, QString* fault)
+{
+    return addBy(readLines, text, m_pPrivate->values, fault);
+}
+
+bool ReportFiller::AddFile(const QString& fileName, QString* fault)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly)) {
+        if (fault) {
+            *fault = QStringLiteral("%1: The file cannot be opened").arg(fileName);
+        }
+        return false;
+    }
+    const QString suffix = QFileInfo(fileName).suffix().toLower();
+    const QByteArray text = file.readAll();
+    const bool isAdded = suffix == QLatin1String("json") ? AddJson(text, fault)
+        : suffix == QLatin1String("csv")                 ? AddCsv(text, fault)
+                                                         : AddText(text, fault);
+    if (!isAdded && fault) {
+        *fault = QStringLiteral("%1:%2").arg(fileName, *fault);
+    }
+    return isAdded;
+}
+
+void ReportFiller::SetSource(Source source)
+{
+    m_pPrivate->source = std::move(source);
+}
+
+void ReportFiller::SetJournal(Journal journal)
+{
+    m_pPrivate->journal = std::move(journal);
+}
+
+bool ReportFiller::Fill(const QString& schema, const QString& report)
+{
+    ReportFilling filling(m_pPrivate->values, m_pPrivate->source, m_pPrivate->journal);
+    const bool isMade = filling.Fill(schema, report);
+    m_pPrivate->isSchemaRead = filling.IsSchemaRead();
+    m_pPrivate->verdicts = filling.TakeVerdicts();
+    m_pPrivate->faults = filling.TakeComplaints();
+    return isMade && std::all_of(m_pPrivate->verdicts.begin(), m_pPrivate->verdicts.end(), isGood);
+}
+
+bool ReportFiller::IsSchemaRead() const
+{
+    return m_pPrivate->isSchemaRead;
+}
+
+const std::vector<ReportFiller::Verdict>& ReportFiller::GetVerdicts() const
+{
+    return m_pPrivate->verdicts;
+}
+
+QStringList ReportFiller::Complaints() const
+{
+    QStringList complaints = m_pPrivate->faults;
+    for (const Verdict& verdict : m_pPrivate->verdicts) {
+        if (!isGood(verdict)) {
+            const QString what
+                = verdict.value.isEmpty() ? verdict.path : verdict.path + QLatin1Char('=') + verdict.value;
+            complaints.append(QStringLiteral("%1: %2").arg(what, verdict.reason));
+        }
+    }
+    return complaints;
+}
+
+/// Whether the schema lets the element occur so often where it stands, 0 times too.
+bool ReportFiller::isCountAllowed(XmlCreateReport& builder, QDomElement element, int count)
+{
+    return builder.CheckOccursMap(element.tagName(), element.tagName(), count, &element);
+}
+
+/// All that stands in a choice: names, and numbers in the order of reading.
+QMultiHash<QString, int> ReportFiller::alternativesOf(const XmlCreateReport& builder)
+{
+    QMultiHash<QString, int> alternatives;
+    for (const auto& [number, name] : builder.m_choices) {
+        alternatives.insert(name, number);
+    }
+    return alternatives;
+}
+
+/// Gives back what a builder holds for good otherwise.
+void ReportFiller::release(XmlCreateReport& builder)
+{
+    builder.releaseReport();
+}

@@ -1,0 +1,477 @@
+#include "reportfilling_p.h"
+
+#include <algorithm>
+#include <type_traits>
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QScopedValueRollback>
+
+#include <xmlhelper/skeletonwords_p.h>
+#include <xmlhelper/valuerules_p.h>
+
+QT_WARNING_DISABLE_DEPRECATED
+
+namespace {
+
+const QLatin1Char AttributeMark('@');
+
+bool isTypeError(IXMLHelper::ErrorID error)
+{
+    return error >= IXMLHelper::CURRENT_TYPE_IS_UNKNOWN && error <= IXMLHelper::CURRENT_TYPE_IS_NOT_BOOLEAN;
+}
+
+QString wordsFor(IXMLHelper::ErrorID error)
+{
+    return isTypeError(error)                     ? QStringLiteral("its type takes nothing of that kind")
+        : error == IXMLHelper::VALUE_IS_NOT_VALID ? QStringLiteral("it is outside of its range or enumeration")
+                                                  : QStringLiteral("error %1").arg(error);
+}
+
+/// The attributes of an element, in the order of their names.
+QVector<QPair<QString, QString>> attributesOf(const QDomElement& element)
+{
+    QVector<QPair<QString, QString>> all;
+    const QDomNamedNodeMap attributes = element.attributes();
+    for (int i = 0; i < attributes.count(); ++i) {
+        all.append({attributes.item(i).nodeName(), attributes.item(i).nodeValue()});
+    }
+    std::sort(all.begin(), all.end());
+    return all;
+}
+
+} // namespace
+
+ReportFilling::ReportFilling(std::vector<GivenValue> values, const ReportFiller::Source& source,
+                             const ReportFiller::Journal& journal)
+    : m_values(std::move(values))
+    , m_source(source)
+    , m_journal(journal)
+    , m_builder(this)
+{
+}
+
+bool ReportFilling::Fill(const QString& schema, const QString& report)
+{
+    const QFileInfo before(report);
+    const QDateTime timeBefore = before.lastModified();
+    const qint64 sizeBefore = before.exists() ? before.size() : -1;
+    const bool isRead = m_builder.CreateXmlFromSchema(schema, report, false);
+    m_bSchemaRead = isRead && !m_instances.empty();
+    if (!m_bSchemaRead) {
+        m_complaints.append(isRead ? QStringLiteral("the schema lays out no element")
+                                   : QStringLiteral("the schema cannot be read"));
+    }
+    if (!m_document.documentElement().nextSiblingElement().isNull()) {
+        m_complaints.append(QStringLiteral("the schema lays out several roots: the report is no XML document"));
+    }
+    if (!isWritten(report, timeBefore, sizeBefore)) {
+        m_complaints.append(QStringLiteral("the report could not be written"));
+    }
+    m_instances.clear();
+    m_places.reset();
+    m_document = QDomDocument();
+    ReportFiller::release(m_builder);
+    return m_complaints.isEmpty();
+}
+
+/// The library does not say so. A file that did not change is looked at itself.
+bool ReportFilling::isWritten(const QString& report, const QDateTime& before, qint64 sizeBefore) const
+{
+    const QFileInfo after(report);
+    if (!after.exists() || after.lastModified() != before || after.size() != sizeBefore) {
+        return after.exists();
+    }
+    QFile file(report);
+    const int indentation = 4;
+    return file.open(QIODevice::ReadOnly) && file.readAll() == m_document.toByteArray(indentation);
+}
+
+std::vector<ReportFiller::Verdict> ReportFilling::TakeVerdicts()
+{
+    std::vector<ReportFiller::Verdict> verdicts;
+    m_valueVerdicts.resize(m_values.size());
+    for (std::size_t i = 0; i < m_values.size(); ++i) {
+        const GivenValue& value = m_values[i];
+        const std::size_t judged = value.sameAs < 0 ? i : std::size_t(value.sameAs);
+        verdicts.push_back(m_valueVerdicts[judged].value_or(ReportFiller::Verdict {
+            State::Refused, value.name, value.text, QStringLiteral("its element was not announced")}));
+    }
+    verdicts.insert(verdicts.end(), m_elementVerdicts.begin(), m_elementVerdicts.end());
+    return verdicts;
+}
+
+void ReportFilling::XmlUpdate(XmlEvent* event)
+{
+    if (event->GetType() == XmlEvent::EVENT_ELEM_BEGIN) {
+        const QDomNode node = static_cast<ElemBeginEvent*>(event)->GetElementNode();
+        if (!m_places) {
+            shapeReport(node.toElement());
+        }
+        answer(node);
+    } else if (event->GetType() == XmlEvent::EVENT_DOC_END) {
+        finish();
+    } else if (event->GetType() == XmlEvent::EVENT_ERROR && m_bOffering) {
+        m_refusals.push_back(static_cast<ErrorEvent*>(event)->GetErrorID());
+        note(QStringLiteral("    refused: %1").arg(wordsFor(m_refusals.back())));
+    }
+    // Every other error is one of the walk about a container or a text, and means nothing.
+}
+
+void ReportFilling::shapeReport(const QDomElement& root)
+{
+    m_document = root.ownerDocument();
+    m_places = std::make_unique<SkeletonPlaces>(root, ReportFiller::alternativesOf(m_builder),
+                                                [this](const QDomElement& element, int count) {
+                                                    return ReportFiller::isCountAllowed(m_builder, element, count);
+                                                });
+    ValueTree tree(*m_places, m_values, [this](int value, bool isUnknown, const QString& reason) {
+        judge(value, isUnknown ? State::NotAskedFor : State::Refused, m_values[std::size_t(value)].name, reason);
+    });
+    tree.Assign();
+    if (m_source) {
+        tree.Ask(m_source);
+    }
+    tree.KeepCounts();
+    const Place& place = m_places->GetRoot();
+    shapeChildren(place, tree.GetRoot(), addInstance(place, root, tree.GetRoot(), stepTo(place, 1), -1));
+}
+
+int ReportFilling::addInstance(const Place& place, const QDomElement& element, const ValueBranch& branch,
+                               const QString& path, int around)
+{
+    m_instances.push_back(
+        {&place, element, path, around, branch.text, branch.attributes, place.IsRequired() || !place.parent});
+    return int(m_instances.size()) - 1;
+}
+
+void ReportFilling::shapeChildren(const Place& place, const ValueBranch& branch, int around)
+{
+    QDomElement child = m_instances[std::size_t(around)].element.firstChildElement();
+    judgeChoices(place, branch, m_instances[std::size_t(around)].path);
+    for (const auto& one : place.children) {
+        QVector<QDomElement> laidOut;
+        for (int i = 0; i < one->laidOut; ++i) {
+            laidOut.append(child);
+            child = child.nextSiblingElement();
+        }
+        shapeChild(*one, laidOut, branch, around);
+    }
+}
+
+/// Lets the child occur as often as it has values, or is required.
+void ReportFilling::shapeChild(const Place& child, const QVector<QDomElement>& laidOut, const ValueBranch& branch,
+                               int around)
+{
+    static const ValueBranch nothing;
+    const QString path = m_instances[std::size_t(around)].path;
+    const auto found = branch.children.find(&child);
+    const int given = found == branch.children.end() ? 0 : int(found->second.size());
+    const int least = child.IsRequired() || given > 0 ? child.laidOut : 0;
+    QVector<QDomElement> elements = laidOut;
+    if (child.laidOut > 1) { // One of them holds what the others lack.
+        const int richest = int(std::distance(
+            laidOut.begin(), std::max_element(laidOut.begin(), laidOut.end(), [](const auto& left, const auto& right) {
+                return left.childNodes().count() < right.childNodes().count();
+            })));
+        elements.swapItemsAt(0, richest);
+    }
+    QDomElement last = laidOut.last();
+    QVector<QDomElement> shaped {elements.first()};
+    for (int i = 1; i < std::max(given, least); ++i) {
+        last = last.parentNode().insertAfter(elements.first().cloneNode(true), last).toElement();
+        shaped.append(last);
+    }
+    for (int i = 1; i < int(elements.size()); ++i) {
+        elements[i].parentNode().removeChild(elements[i]);
+    }
+    if (std::max(given, least) == 0) {
+        leaveOut(child, shaped.first(), path + stepTo(child, 1));
+        return;
+    }
+    if (shaped.size() > 1) {
+        note(QStringLiteral("copied %1: %2 of them").arg(path + QLatin1Char('/') + child.name).arg(shaped.size()));
+    }
+    for (int i = 0; i < int(shaped.size()); ++i) {
+        const ValueBranch& below = i < given ? found->second.at(i + 1) : nothing;
+        shapeChildren(child, below, addInstance(child, shaped[i], below, path + stepTo(child, i + 1), around));
+    }
+}
+
+void ReportFilling::leaveOut(const Place& place, const QDomElement& element, const QString& path)
+{
+    note(QStringLiteral("removed %1").arg(path));
+    judgeElement(State::LeftOut, path,
+                 place.isAlternative ? QStringLiteral("an alternative without a value")
+                                     : QStringLiteral("optional, and without a value"));
+    element.parentNode().removeChild(element);
+}
+
+/// Alternatives that stand side by side count as one choice: the library does not say where one ends.
+void ReportFilling::judgeChoices(const Place& place, const ValueBranch& branch, const QString& path)
+{
+    std::vector<const Place*> alternatives;
+    for (const auto& child : place.children) {
+        if (child->isAlternative) {
+            alternatives.push_back(child.get());
+        } else {
+            judgeChoice(std::exchange(alternatives, {}), branch, path);
+        }
+    }
+    judgeChoice(alternatives, branch, path);
+}
+
+void ReportFilling::judgeChoice(const std::vector<const Place*>& alternatives, const ValueBranch& branch,
+                                const QString& path)
+{
+    QStringList names;
+    QStringList taken;
+    bool mayBeEmpty = alternatives.empty();
+    for (const Place* const alternative : alternatives) {
+        names.append(alternative->name);
+        mayBeEmpty = mayBeEmpty || alternative->isOptional;
+        const auto found = branch.children.find(alternative);
+        if (alternative->IsRequired() || (found != branch.children.end() && !found->second.empty())) {
+            taken.append(alternative->name);
+        }
+    }
+    const QString between = QStringLiteral(", ");
+    if (taken.isEmpty() && !mayBeEmpty) {
+        judgeElement(State::Unfilled, path,
+                     QStringLiteral("none of the alternatives %1 has a value").arg(names.join(between)));
+    } else if (taken.size() > 1) {
+        judgeElement(State::Doubtful, path,
+                     QStringLiteral("of the alternatives %1 more than one has values: %2; whether they are of one "
+                                    "choice is not known")
+                         .arg(names.join(between), taken.join(between)));
+    }
+}
+
+/// The walk comes to the instances in their order; a container below the root may be announced twice.
+void ReportFilling::answer(const QDomNode& node)
+{
+    std::size_t found = m_next;
+    while (found < m_instances.size() && m_instances[found].element != node) {
+        ++found;
+    }
+    if (found == m_instances.size()) {
+        return; // A text below the root.
+    }
+    Instance& instance = m_instances[found];
+    noteAnnouncement(instance);
+    if (found == m_next && found > 0) {
+        return; // It is announced again.
+    }
+    m_next = found;
+    setAttributes(instance);
+    if (isValueType(instance.place->type)) {
+        setText(instance);
+    } else {
+        judgeElement(State::Written, instance.path, QString());
+        tidy(instance);
+    }
+}
+
+void ReportFilling::setAttributes(Instance& instance)
+{
+    for (const QString& attribute : instance.place->attributes) {
+        const QString path = instance.path + AttributeMark + attribute;
+        const auto found = instance.attributes.find(attribute);
+        if (found == instance.attributes.end()) {
+            judgeElement(State::LeftOut, path, QStringLiteral("without a value; whether it is required is not known"));
+            removeDeclaration(instance.element, attribute);
+            continue;
+        }
+        const QString text = m_values[std::size_t(found->second)].text;
+        const QString type = instance.element.attribute(attribute);
+        const QString fault = faultOf(text, type, facetsOf(instance.element, attribute));
+        const QString call = QStringLiteral("SetAttributeValue(%1, ").arg(attribute);
+        const QString reason = !fault.isEmpty()
+            ? fault
+            : offer(text, type, call, [&](const TypedValue& one) { setByAttribute(attribute, text, one); });
+        judge(found->second, reason.isEmpty() ? State::Written : State::Refused, path, reason);
+        if (!reason.isEmpty()) {
+            instance.attributes.erase(found);
+            removeDeclaration(instance.element, attribute);
+        }
+    }
+}
+
+/// Removes a declared attribute and its facets.
+void ReportFilling::removeDeclaration(const QDomElement& element, const QString& attribute)
+{
+    const auto attributes = attributesOf(element);
+    for (const auto& one : attributes) {
+        if (one.first == attribute || facetNameIn(one.first).attribute == attribute) {
+            m_builder.RemoveAttribute(one.first);
+        }
+    }
+}
+
+/// There is no operation for truth and time as attributes.
+void ReportFilling::setByAttribute(const QString& attribute, const QString& text, const TypedValue& value)
+{
+    std::visit(
+        [&](const auto& typed) {
+            using Typed = std::decay_t<decltype(typed)>;
+            if constexpr (std::is_same_v<Typed, bool> || std::is_same_v<Typed, QTime>) {
+                m_builder.SetAttributeValue(attribute, text);
+            } else {
+                m_builder.SetAttributeValue(attribute, typed);
+            }
+        },
+        value);
+}
+
+void ReportFilling::setText(Instance& instance)
+{
+    const QString byDefault = instance.place->defaultValue;
+    const bool isGiven = instance.text != ValueBranch::None;
+    if (!isGiven && byDefault.isEmpty()) {
+        judgeElement(State::Unfilled, instance.path, QStringLiteral("required, and without a value"));
+        hold(instance);
+        return;
+    }
+    const QString text = isGiven ? m_values[std::size_t(instance.text)].text : byDefault;
+    const QString type = instance.place->type;
+    const QString fault = faultOf(text, type, facetsOf(instance.element));
+    const QString reason
+        = !fault.isEmpty() ? fault : offer(text, type, QStringLiteral("SetXmlValue("), [this](const TypedValue& one) {
+              std::visit([this](const auto& typed) { m_builder.SetXmlValue(typed); }, one);
+          });
+    const QString written = instance.element.text();
+    if (isGiven) {
+        judge(instance.text, reason.isEmpty() ? State::Written : State::Refused, instance.path,
+              reason.isEmpty() && written != text ? QStringLiteral("written as %1").arg(written) : reason);
+    } else {
+        judgeElement(reason.isEmpty() ? State::Written : State::Unfilled, instance.path,
+                     reason.isEmpty() ? QStringLiteral("by the schema's default, %1").arg(text)
+                                      : QStringLiteral("its default is refused: %1").arg(reason));
+    }
+    if (reason.isEmpty()) {
+        tidy(instance);
+        return;
+    }
+    if (isGiven && instance.isRequired) {
+        judgeElement(State::Unfilled, instance.path, QStringLiteral("required, and its value was refused"));
+    }
+    hold(instance);
+}
+
+/// Offers the value as one type after the other, until one is not refused for its type. Gives why all were refused, by
+/// the first refusal: it is about what the type asks for.
+template <typename Setting>
+QString ReportFilling::offer(const QString& text, const QString& type, const QString& call, const Setting& set)
+{
+    const QScopedValueRollback<bool> offering(m_bOffering, true);
+    m_refusals.clear();
+    const std::vector<TypedValue> offered = typedValues(text, type);
+    for (const TypedValue& typed : offered) {
+        const QString verb = m_refusals.empty() ? QStringLiteral("call") : QStringLiteral("retry");
+        note(QStringLiteral("  %1 %2%3 %4)").arg(verb, call, nameOf(typed), text));
+        const std::size_t before = m_refusals.size();
+        set(typed);
+        if (m_refusals.size() == before) {
+            return QString();
+        }
+        if (!isTypeError(m_refusals.back())) {
+            break;
+        }
+    }
+    return isTypeError(m_refusals.front())
+        ? QStringLiteral("its type, %1, takes no %2").arg(type, ::wordsFor(offered.front()))
+        : QStringLiteral("%1, as the library reads them").arg(wordsFor(m_refusals.front()));
+}
+
+/// What is left of the skeleton on an element that is in the report goes.
+void ReportFilling::tidy(Instance& instance)
+{
+    const auto attributes = attributesOf(instance.element);
+    for (const auto& [name, value] : attributes) {
+        if (instance.attributes.find(name) == instance.attributes.end()) {
+            m_builder.RemoveAttribute(name);
+        }
+    }
+}
+
+/// Answers an element that has no value, so that the walk takes away nothing around it.
+void ReportFilling::hold(Instance& instance)
+{
+    instance.isHeld = true;
+    const auto attributes = attributesOf(instance.element);
+    for (const auto& attribute : attributes) {
+        if (instance.attributes.find(attribute.first) == instance.attributes.end()) {
+            instance.heldAttributes.append(attribute);
+        }
+    }
+    tidy(instance);
+    instance.element.setAttribute(TypeAttribute(), wordOf(Setter::Text));
+    m_builder.SetXmlValue(QLatin1String(""));
+}
+
+void ReportFilling::finish()
+{
+    for (int i = int(m_instances.size()) - 1; i >= 0; --i) {
+        if (m_instances[std::size_t(i)].isHeld) {
+            release(m_instances[std::size_t(i)]);
+            removeEmptied(i);
+        }
+    }
+}
+
+/// Gives back what the element held. A refused integer has cost it its type.
+void ReportFilling::release(Instance& instance)
+{
+    instance.element.removeChild(instance.element.firstChild());
+    for (const auto& [name, value] : instance.heldAttributes) {
+        instance.element.setAttribute(name, value);
+    }
+    instance.element.setAttribute(TypeAttribute(), instance.place->type);
+}
+
+/// Takes out what has no value in the end, and the containers that are empty without it, as far as they may be missing.
+void ReportFilling::removeEmptied(int instance)
+{
+    while (instance > 0) {
+        Instance& emptied = m_instances[std::size_t(instance)];
+        if (emptied.isRequired || !emptied.attributes.empty() || !emptied.element.firstChildElement().isNull()) {
+            return;
+        }
+        note(QStringLiteral("removed %1").arg(emptied.path));
+        emptied.element.parentNode().removeChild(emptied.element);
+        instance = emptied.around;
+    }
+}
+
+void ReportFilling::judge(int value, State state, const QString& path, const QString& reason)
+{
+    m_valueVerdicts.resize(std::max(m_values.size(), m_valueVerdicts.size()));
+    m_valueVerdicts[std::size_t(value)]
+        = ReportFiller::Verdict {state, path, m_values[std::size_t(value)].text, reason};
+}
+
+void ReportFilling::judgeElement(State state, const QString& path, const QString& reason)
+{
+    m_elementVerdicts.push_back({state, path, QString(), reason});
+}
+
+void ReportFilling::note(const QString& line) const
+{
+    if (m_journal) {
+        m_journal(line);
+    }
+}
+
+void ReportFilling::noteAnnouncement(const Instance& instance) const
+{
+    if (!m_journal) {
+        return;
+    }
+    QString line = QStringLiteral("announced ") + instance.path;
+    const auto attributes = attributesOf(instance.element);
+    for (const auto& [name, value] : attributes) {
+        line += QStringLiteral(" %1=%2").arg(name, value);
+    }
+    m_journal(line);
+}
