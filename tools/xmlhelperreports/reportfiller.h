@@ -37,6 +37,7 @@ class XmlCreateReport;
 class XMLHELPERREPORTS_EXPORT ReportFiller final
 {
 public:
+    /// What became of a value, an element or an attribute.
     enum class State {
         Written, ///< it is in the report; of a container that it is kept
         Refused, ///< the value breaks a rule of the schema, or its name is ambiguous
@@ -46,11 +47,11 @@ public:
         Doubtful, ///< it is in the report, and whether the schema allows that is not known
     };
 
-    /// What became of a value, or of an element that has none.
+    /// What became of a value, or of an element or attribute that has none.
     struct Verdict
     {
-        State state;
-        QString path; ///< from the root on; as it was given when it belongs to nothing
+        State state; ///< of the value, element or attribute
+        QString path; ///< from the root on; of a value without a place as it was given
         QString value; ///< as a text; empty for an element without one
         QString reason; ///< a sentence without its stop; empty when there is nothing to say
     };
@@ -62,6 +63,7 @@ public:
     /// Takes a line of text for each thing that happens; lines about an announced element are indented.
     using Journal = std::function<void(const QString& line)>;
 
+    /// Without any value.
     ReportFiller();
     ~ReportFiller();
 
@@ -71,31 +73,43 @@ public:
     void Add(const QString& name, const QVariant& value);
 
     /// Gives the values of an object: names are paths below the object around them, "@name" is an attribute of it and
-    /// "#text" its text; an array has the repeated ones. Each object of an array at the top is a record. Nothing is
-    /// given by null, nor by text that is not understood.
-    /// @param fault  becomes what is wrong, with its place; may be null
-    /// @return whether it was understood
+    /// "#text" its text; an array has the repeated ones, and null gives nothing. Each object of an array at the top is
+    /// a record. Nothing is given by a text that is not understood.
+    /// @param json   in UTF-8
+    /// @param fault  becomes what is wrong, behind the number of the line; may be null
+    /// @return whether the text was understood
     bool AddJson(const QByteArray& json, QString* fault = nullptr);
 
     /// Gives a record for each row below the first, which holds the paths. Cells are separated by whichever of comma,
     /// semicolon and tabulator the first row has, and may be quoted; empty ones give nothing. A value that does not
-    /// repeat may stand in each row if it is the same. Parameters and result as above.
+    /// repeat may stand in each row if it is the same. Nothing is given by a text that is not understood.
+    /// @param csv    in UTF-8
+    /// @param fault  becomes what is wrong, behind the number of the row; may be null
+    /// @return whether the text was understood
     bool AddCsv(const QByteArray& csv, QString* fault = nullptr);
 
-    /// Gives a value for each line "path=value". Empty lines and those that begin with # are passed over. Parameters
-    /// and result as above.
+    /// Gives a value for each line "path=value". Empty lines and those that begin with # are passed over. Nothing is
+    /// given by a text that is not understood.
+    /// @param text   in UTF-8
+    /// @param fault  becomes what is wrong, behind the number of the line; may be null
+    /// @return whether the text was understood
     bool AddText(const QByteArray& text, QString* fault = nullptr);
 
-    /// Gives the values of a file: JSON, CSV or lines of text, by its suffix. Parameters and result as above.
+    /// Gives the values of a file: JSON, CSV or lines of text, by its suffix.
+    /// @param fileName  ending in ".json", ".csv" or anything else
+    /// @param fault     becomes what is wrong, behind the file and the line; may be null
+    /// @return whether the file could be read and was understood
     bool AddFile(const QString& fileName, QString* fault = nullptr);
 
-    /// Asks for values that are not given. It must not call the filler. An empty function ends that.
+    /// Asks for values that are not given, as many as a document may have elements. Without a source none are asked.
+    /// @param source  must not call the filler; an empty function for none
     void SetSource(Source source);
 
-    /// Writes down what happens while the report is filled. An empty function ends that.
+    /// Writes down what happens while the report is filled.
+    /// @param journal  must not call the filler; an empty function for none
     void SetJournal(Journal journal);
 
-    /// Fills a report and writes it, which replaces an earlier one. Not to be called from a source or journal.
+    /// Fills a report and writes it, which replaces an earlier one.
     /// @param schema  the schema file
     /// @param report  the file to write
     /// @return whether the schema was read, the file was written, every value is in it and nothing required is known
@@ -103,15 +117,15 @@ public:
     ///         what there is, as far as that is possible
     bool Fill(const QString& schema, const QString& report);
 
-    /// Whether the schema of the last Fill() could be read and lays out an element.
+    /// @return whether the schema of the last Fill() could be read and lays out an element
     bool IsSchemaRead() const;
 
-    /// Of the last Fill(): one for each value, in the order given, then one for each element without a value and each
-    /// attribute left out, in document order.
+    /// @return the verdicts of the last Fill(): one for each value, in the order given, then one for each element
+    ///         without a value and each attribute left out, in document order; they change with the next Fill()
     const std::vector<Verdict>& GetVerdicts() const;
 
-    /// The verdicts of the last Fill() because of which it gave false, in a line each; also what is no matter of one
-    /// value, such as a file that could not be written.
+    /// @return the verdicts because of which the last Fill() gave false, in a line each; before them what is no matter
+    ///         of one value, such as a file that could not be written
     QStringList Complaints() const;
 
 private:
