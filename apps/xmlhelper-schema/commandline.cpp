@@ -14,6 +14,8 @@ CommandLine commandLineOf(const QStringList& arguments)
     const QCommandLineOption window(QStringLiteral("window"), QStringLiteral("Show them in a window."));
     const QCommandLineOption noProof(QStringLiteral("no-proof"),
                                      QStringLiteral("Do not fill and validate reports on trial."));
+    const QCommandLineOption asButton(QStringLiteral("as-button"),
+                                      QStringLiteral("Say too what the report button fills, by which items."));
     const QCommandLineOption fill(
         QStringLiteral("fill"),
         QStringLiteral("Fill a report from the name=value lines of <file>, and print what happens."),
@@ -25,7 +27,7 @@ CommandLine commandLineOf(const QStringList& arguments)
     parser.setApplicationDescription(
         QStringLiteral("Shows how XMLHelper understands an XML schema, and what its author should know.\n\n"
                        "Exit status: 0 nothing to say, 1 warnings, 2 errors, 3 unreadable or wrong usage."));
-    parser.addOptions({tree, json, html, window, fill, noProof, language});
+    parser.addOptions({tree, json, html, window, fill, noProof, asButton, language});
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("schema"), QStringLiteral("The schema to examine, an .xsd file."));
@@ -53,6 +55,7 @@ CommandLine commandLineOf(const QStringList& arguments)
     }
     line.language = parser.value(language);
     line.isToProve = !parser.isSet(noProof);
+    line.isAsButton = parser.isSet(asButton);
     line.schema = parser.positionalArguments().constFirst();
     if (int(parser.isSet(tree)) + int(parser.isSet(json)) + int(parser.isSet(html)) + int(parser.isSet(window))
             + int(parser.isSet(fill))

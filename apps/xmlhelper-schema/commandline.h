@@ -16,6 +16,7 @@ struct CommandLine
     QString otherFile; ///< the page to write, or the values to read
     bool isToProve = true; ///< by reports that are filled on trial
     QString language; ///< a code such as "de"; empty for that of the system
+    bool isAsButton = false; ///< whether to try what the report button fills
     QString message; ///< the help, the version, or what is wrong
 };
 

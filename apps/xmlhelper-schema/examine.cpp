@@ -9,6 +9,7 @@
 
 #include <xmlhelper/documentfile_p.h>
 
+#include "button/buttontrial.h"
 #include "model/texts.h"
 #include "proof/proof.h"
 #include "reading/doctorlimits.h"
@@ -134,7 +135,7 @@ void dropRepeatedTrees(QVector<Finding>& findings)
 
 } // namespace
 
-Examination examine(const QString& file, bool isToProve)
+Examination examine(const QString& file, bool isToProve, bool isAsButton)
 {
     Examination examination;
     examination.file = file;
@@ -161,6 +162,9 @@ Examination examine(const QString& file, bool isToProve)
     }
     if (isToProve && !examination.tree.IsEmpty()) {
         prove(file, record.GetReadFiles(), examination);
+    }
+    if (isAsButton && !examination.tree.IsEmpty()) {
+        tryButton(file, examination);
     }
     sortFindings(examination.findings, record);
     dropRepeatedTrees(examination.findings);

@@ -10,8 +10,9 @@ namespace schemadoctor {
 ///
 /// Never fails, whatever the file holds: a file that cannot be read gives an examination that says so. Nothing is
 /// fetched from a network and nothing is written.
-/// @param isToProve  whether reports are filled and validated on trial too, see prove()
-Examination examine(const QString& file, bool isToProve = true);
+/// @param isToProve   whether reports are filled and validated on trial too, see prove()
+/// @param isAsButton  whether to try what the report button fills too, see tryButton()
+Examination examine(const QString& file, bool isToProve = true, bool isAsButton = false);
 
 } // namespace schemadoctor
 

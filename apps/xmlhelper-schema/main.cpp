@@ -64,7 +64,7 @@ int run(const CommandLine& line)
         return exitStatusOf(
             dryRun(line.schema, line.otherFile, [](const QString& text) { print(text + QLatin1Char('\n')); }));
     }
-    const Examination examination = examine(line.schema, line.isToProve);
+    const Examination examination = examine(line.schema, line.isToProve, line.isAsButton);
     switch (line.show) {
     case CommandLine::Show::Html:
         return writePage(line.otherFile, examination);

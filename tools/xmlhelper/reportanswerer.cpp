@@ -34,12 +34,6 @@ bool isTimeName(const QString& name)
     return name == DateTimeName || name == DFDateTimeName;
 }
 
-/// The name "parent/child" of an item that fills @p node below its parent.
-QString qualifiedName(const QDomNode& node)
-{
-    return node.parentNode().nodeName() + QLatin1Char('/') + node.nodeName();
-}
-
 /// The items before @p end that set an attribute: those called like one, and every other one an attribute for the time,
 /// behind which no attribute is looked at. Of these, as many are given as can make a difference.
 std::vector<ReportItems::Item> itemsForAttributes(const ReportItems& items, const QXmlAttributes& attributes, int end)
@@ -153,7 +147,9 @@ void ReportAnswerer::answerElement(ElemBeginEvent* event)
 ReportAnswerer::Match ReportAnswerer::findMatch(const QString& name, const QDomNode& node) const
 {
     const int direct = m_items.First(name);
-    const QString nameBelowParent = m_items.HasQualifiedNames() ? qualifiedName(node) : QString();
+    const QString nameBelowParent = m_items.HasQualifiedNames()
+        ? ReportItems::QualifiedName(node.parentNode().nodeName(), node.nodeName())
+        : QString();
     const int qualified = nameBelowParent.isEmpty() ? NO_INDEX : m_items.First(nameBelowParent);
     const bool isQualified = qualified != NO_INDEX && (direct == NO_INDEX || qualified <= direct);
     const int index = isQualified ? qualified : direct;

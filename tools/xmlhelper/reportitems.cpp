@@ -5,9 +5,11 @@
 
 namespace {
 
+const QLatin1Char Separator('/');
+
 bool isQualified(const QString& name)
 {
-    return name.contains(QLatin1Char('/'));
+    return name.contains(Separator);
 }
 
 } // namespace
@@ -16,6 +18,11 @@ ReportItems::ReportItems()
     : m_iNextIndex(0)
     , m_iQualifiedNames(0)
 {
+}
+
+QString ReportItems::QualifiedName(const QString& parent, const QString& name)
+{
+    return parent + Separator + name;
 }
 
 void ReportItems::Append(Item item)

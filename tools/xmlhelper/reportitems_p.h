@@ -23,6 +23,9 @@ public:
 
     ReportItems();
 
+    /// The name of an item that fills an element only below a parent of that name.
+    static QString QualifiedName(const QString& parent, const QString& name);
+
     /// Appends @p item.
     void Append(Item item);
 

@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QVector>
 
+#include "buttonview.h"
 #include "finding.h"
 #include "includetree.h"
 #include "laidouttree.h"
@@ -54,6 +55,7 @@ struct Examination
     ElementCount count;
     IncludedFile includes; ///< the top file and what it includes
     Proof proof;
+    ButtonView button;
     std::map<QString, QString> texts; ///< the text of each file that was read, by the name that places give
 
     bool IsReadable() const { return unreadableReason.isEmpty(); }

@@ -4,6 +4,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "buttonrendering.h"
+
 namespace schemadoctor {
 
 namespace {
@@ -162,6 +164,7 @@ QByteArray jsonOf(const Examination& examination)
                               {key("noTree"), examination.noTreeReason},
                               {key("includes"), jsonFor(examination.includes)},
                               {key("proof"), jsonFor(examination.proof)},
+                              {key("button"), buttonJson(examination)},
                               {key("findings"), jsonForAll(examination.findings)}};
     return QJsonDocument(object).toJson();
 }
