@@ -50,12 +50,13 @@ int writePage(const QString& fileName, const Examination& examination)
     return exitStatusOf(examination);
 }
 
-int showWindow(const Examination& examination)
+int showWindow(const CommandLine& line)
 {
-    DoctorWindow window(examination);
+    const auto examineAsAsked = [&line](const QString& file) { return examine(file, line.isToProve, line.isAsButton); };
+    DoctorWindow window(examineAsAsked(line.schema), examineAsAsked);
     window.show();
     QApplication::exec();
-    return exitStatusOf(examination);
+    return exitStatusOf(window.GetExamination());
 }
 
 int run(const CommandLine& line)
@@ -64,12 +65,13 @@ int run(const CommandLine& line)
         return exitStatusOf(
             dryRun(line.schema, line.otherFile, [](const QString& text) { print(text + QLatin1Char('\n')); }));
     }
+    if (line.show == CommandLine::Show::Window) {
+        return showWindow(line);
+    }
     const Examination examination = examine(line.schema, line.isToProve, line.isAsButton);
     switch (line.show) {
     case CommandLine::Show::Html:
         return writePage(line.otherFile, examination);
-    case CommandLine::Show::Window:
-        return showWindow(examination);
     case CommandLine::Show::Json:
         print(QString::fromUtf8(jsonOf(examination)));
         break;

@@ -1,6 +1,7 @@
 #include "laidouttreemodel.h"
 
 #include "model/texts.h"
+#include <algorithm>
 
 namespace schemadoctor {
 
@@ -104,16 +105,35 @@ LaidOutTreeModel::Row LaidOutTreeModel::rowAt(const QModelIndex& index) const
     return {above.children[std::size_t(index.row() - attributeCount)], nullptr};
 }
 
-QModelIndex LaidOutTreeModel::IndexOf(int number) const
+QModelIndex LaidOutTreeModel::IndexOf(int number, const QString& attribute) const
 {
     if (number == LaidOutElement::None) {
         return QModelIndex();
     }
     const LaidOutElement& wanted = element(number);
+    if (!attribute.isEmpty()) {
+        const auto found = std::find_if(wanted.attributes.begin(), wanted.attributes.end(),
+                                        [&](const DeclaredAttribute& one) { return one.name == attribute; });
+        return found == wanted.attributes.end()
+            ? QModelIndex()
+            : createIndex(int(found - wanted.attributes.begin()), 0, idBelow(number));
+    }
     if (wanted.parent == LaidOutElement::None) {
         return createIndex(0, 0, idBelow(LaidOutElement::None));
     }
     return createIndex(int(element(wanted.parent).attributes.size()) + wanted.row, 0, idBelow(wanted.parent));
+}
+
+int LaidOutTreeModel::ElementOf(const QModelIndex& index) const
+{
+    const Row row = rowAt(index);
+    return row.pAttribute ? holderOf(index) : row.element;
+}
+
+QString LaidOutTreeModel::AttributeOf(const QModelIndex& index) const
+{
+    const Row row = rowAt(index);
+    return row.pAttribute ? row.pAttribute->name : QString();
 }
 
 Place LaidOutTreeModel::PlaceOf(const QModelIndex& index) const

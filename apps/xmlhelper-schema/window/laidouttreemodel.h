@@ -18,8 +18,15 @@ public:
     /// @param tree  is referred to and must outlive the model
     explicit LaidOutTreeModel(const LaidOutTree& tree, QObject* parent = nullptr);
 
-    /// An invalid index for LaidOutElement::None.
-    QModelIndex IndexOf(int element) const;
+    /// Of an element, or of its attribute of that name. An invalid index for LaidOutElement::None, and without such an
+    /// attribute.
+    QModelIndex IndexOf(int element, const QString& attribute = QString()) const;
+
+    /// The element that a row is, or that has the attribute.
+    int ElementOf(const QModelIndex& index) const;
+
+    /// The name of the attribute that a row is; empty for an element.
+    QString AttributeOf(const QModelIndex& index) const;
 
     /// Of the declaration behind a row, an attribute's too.
     Place PlaceOf(const QModelIndex& index) const;

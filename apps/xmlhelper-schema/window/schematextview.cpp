@@ -5,7 +5,26 @@
 #include <QPaintEvent>
 #include <QTextBlock>
 
+#include "schemahighlighter.h"
+
 namespace schemadoctor {
+
+namespace {
+
+constexpr int longestLine = 10000;
+
+QString withShortLines(const QString& text)
+{
+    QStringList lines = text.split(QLatin1Char('\n'));
+    for (QString& line : lines) {
+        if (line.size() > longestLine) {
+            line = line.left(longestLine) + QStringLiteral(" ...");
+        }
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace
 
 /// Beside the text; the text view knows what belongs there.
 class SchemaTextView::Margin : public QWidget
@@ -27,7 +46,9 @@ private:
 SchemaTextView::SchemaTextView(QWidget* parent)
     : QPlainTextEdit(parent)
     , m_pMargin(new Margin(*this))
+    , m_pHighlighter(new SchemaHighlighter(document()))
 {
+    m_pHighlighter->ChooseColours(palette());
     setReadOnly(true);
     setLineWrapMode(NoWrap);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -36,6 +57,13 @@ SchemaTextView::SchemaTextView(QWidget* parent)
     connect(this, &QPlainTextEdit::blockCountChanged, this, &SchemaTextView::updateMarginWidth);
     connect(this, &QPlainTextEdit::updateRequest, this, [this] { m_pMargin->update(); });
     updateMarginWidth();
+}
+
+void SchemaTextView::ShowText(const QString& text)
+{
+    m_pHighlighter->Restart();
+    setPlainText(withShortLines(text));
+    ShowLine(0);
 }
 
 void SchemaTextView::ShowLine(int line)
@@ -55,6 +83,15 @@ void SchemaTextView::ShowLine(int line)
     setExtraSelections(marks);
     setTextCursor(cursor);
     centerCursor();
+}
+
+void SchemaTextView::changeEvent(QEvent* event)
+{
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        m_pHighlighter->ChooseColours(palette());
+        m_pHighlighter->rehighlight();
+    }
 }
 
 void SchemaTextView::resizeEvent(QResizeEvent* event)
