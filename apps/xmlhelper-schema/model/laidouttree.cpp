@@ -117,6 +117,11 @@ bool isContainer(const LaidOutElement& element)
     return !isValueType(element.type);
 }
 
+bool mayBeRepeated(const LaidOutElement& element)
+{
+    return element.counts.greatest == AcceptedCounts::Unbounded || element.counts.greatest > 1;
+}
+
 QString wordsForUnfilled(const LaidOutElement& element)
 {
     return withCopies(wordsFor(element.fate), element, element.staysInCopies);

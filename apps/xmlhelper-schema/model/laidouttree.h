@@ -124,6 +124,7 @@ private:
 };
 
 bool isContainer(const LaidOutElement& element);
+bool mayBeRepeated(const LaidOutElement& element); ///< a count above 1 is accepted
 
 // Words for people, the same in every rendering.
 

@@ -109,10 +109,9 @@ int FillingObserver::indexOf(const QDomElement& element) const
 /// Makes a second one of an element that stands alone and may repeat. Gives whether there is one now.
 bool FillingObserver::multiply(const QDomElement& element, const LaidOutElement& declared)
 {
-    const bool mayRepeat = declared.counts.greatest == AcceptedCounts::Unbounded || declared.counts.greatest > 1;
     const bool isMeantToRepeat = declared.maxOccurs == AcceptedCounts::Unbounded || declared.maxOccurs > 1;
     const QPair<QDomNode, QString> place {element.parentNode(), declared.name};
-    if (!mayRepeat || !isMeantToRepeat || declared.minOccurs > 1 || m_multiplied.contains(place)) {
+    if (!mayBeRepeated(declared) || !isMeantToRepeat || declared.minOccurs > 1 || m_multiplied.contains(place)) {
         return false;
     }
     m_multiplied.append(place);

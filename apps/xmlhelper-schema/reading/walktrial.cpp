@@ -114,11 +114,6 @@ struct Outcome
     std::vector<Record> copies; ///< with the second copies of them
 };
 
-bool mayBeRepeated(const LaidOutElement& element)
-{
-    return element.counts.greatest == AcceptedCounts::Unbounded || element.counts.greatest > 1;
-}
-
 /// Whether others are copied with an element that may be repeated. Its own copies stand where it stands itself.
 bool hasCopiesOfOthers(const LaidOutElement& element)
 {

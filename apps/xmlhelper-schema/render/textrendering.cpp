@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include "buttonrendering.h"
+#include "copiesrendering.h"
 #include "model/texts.h"
 
 namespace schemadoctor {
@@ -196,7 +197,7 @@ QString textOf(const Examination& examination)
     if (examination.IsReadable()) {
         text += countText(examination) + QLatin1Char('\n');
         text += examination.tree.IsEmpty() ? examination.noTreeReason + QLatin1Char('\n') : treeText(examination.tree);
-        text += buttonText(examination);
+        text += copiesText(examination.tree) + buttonText(examination);
         if (!examination.includes.includes.empty()) {
             text += QLatin1Char('\n') + Texts::tr("Files") + QLatin1Char('\n') + includeText(examination.includes, 1);
         }

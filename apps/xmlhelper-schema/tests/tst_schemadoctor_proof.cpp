@@ -1,8 +1,11 @@
+#include <QDomDocument>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include "examine.h"
+#include "proof/filling.h"
+#include "render/copiesrendering.h"
 
 using namespace schemadoctor;
 
@@ -44,6 +47,8 @@ private Q_SLOTS:
     void saysWhatIsLeftOut();
     void saysThatASchemaIsNotTaken();
     void leavesNoFile();
+    void tellsWhatIsDifferentInCopies();
+    void tellsNothingOfCopiesThatAreAlike();
 
 private:
     Examination examined(const QString& schema, bool isToProve = true)
@@ -230,6 +235,91 @@ void TestSchemaDoctorProof::leavesNoFile()
 {
     examined(schemaOf(QStringLiteral("<xs:element name='Report' type='xs:string'/>")));
     QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList {QStringLiteral("schema.xsd")});
+}
+
+namespace {
+
+/// A container that repeats, with all that may differ in its copies, and what cannot.
+const QString reportWithCopies
+    = QStringLiteral("<xs:simpleType name='Modes'><xs:restriction base='xs:string'><xs:enumeration value='AM'/>"
+                     "<xs:enumeration value='FM'/></xs:restriction></xs:simpleType>\n"
+                     "<xs:simpleType name='Powers'><xs:restriction base='xs:double'><xs:minInclusive value='0'/>"
+                     "</xs:restriction></xs:simpleType>\n"
+                     "<xs:element name='Report'><xs:complexType><xs:sequence>\n"
+                     "<xs:element name='Signal' maxOccurs='unbounded'><xs:complexType><xs:sequence>\n"
+                     "<xs:element name='Level' type='xs:double'/>\n"
+                     "<xs:element name='Mode' type='Modes' minOccurs='0'/>\n"
+                     "<xs:element name='Power' type='Powers' minOccurs='0'/>\n"
+                     "<xs:element name='Mark' minOccurs='0'><xs:complexType><xs:sequence>\n"
+                     "<xs:element name='Text' type='xs:string'/></xs:sequence></xs:complexType></xs:element>\n"
+                     "<xs:element name='Note' type='xs:string' default='none' minOccurs='0'/>\n"
+                     "<xs:element name='Line' type='xs:double' maxOccurs='unbounded'/>\n"
+                     "</xs:sequence></xs:complexType></xs:element>\n"
+                     "<xs:element name='Last' type='xs:string' minOccurs='0'/>\n"
+                     "</xs:sequence></xs:complexType></xs:element>");
+
+/// The elements and what is in them, a line each: the name, and when nothing has filled it, its attributes and value.
+QStringList linesOf(const QDomElement& parent)
+{
+    QStringList lines;
+    for (QDomElement child = parent.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        QStringList rest;
+        const QDomNamedNodeMap attributes = child.attributes();
+        for (int i = 0; i < attributes.count(); ++i) {
+            rest.append(attributes.item(i).nodeName());
+        }
+        rest.sort();
+        const QString value = rest.isEmpty() || !child.firstChildElement().isNull() ? QString() : child.text();
+        lines.append(QStringList {child.tagName(), rest.join(QLatin1Char(' ')), value}.join(QLatin1Char('|')));
+        lines.append(linesOf(child));
+    }
+    return lines;
+}
+
+} // namespace
+
+void TestSchemaDoctorProof::tellsWhatIsDifferentInCopies()
+{
+    const Examination examination = examined(schemaOf(reportWithCopies), false);
+    QCOMPARE(copiesText(examination.tree),
+             QStringLiteral("\nIn every copy but the first\n"
+                            "  /Report/Signal\n"
+                            "    Mode: stays when nothing fills it, with type, enumeration\n"
+                            "    Power: stays when nothing fills it, with type, minInclusive\n"
+                            "    Mark: stays when nothing fills it\n"
+                            "    Text: stays when nothing fills it, with type\n"
+                            "    Note: stays when nothing fills it, with type and the value 'none'\n"
+                            "    Line: no count is accepted\n"));
+    // So it is in a report of two signals, and two lines in each, with nothing but what is required.
+    int all = 0;
+    const std::vector<Filling> fillings = fillingsOf(examination.tree, 4, all);
+    QDomDocument report;
+    QVERIFY(report.setContent(
+        filledReport(m_folder.filePath(QStringLiteral("schema.xsd")), examination.tree, fillings.at(3))));
+    const QDomElement first = report.documentElement().firstChildElement(QStringLiteral("Signal"));
+    const QStringList firstLines {QStringLiteral("Level||"), QStringLiteral("Line||"), QStringLiteral("Line||")};
+    QCOMPARE(linesOf(first), firstLines);
+    const QStringList furtherLines {QStringLiteral("Level||"),
+                                    QStringLiteral("Mode|enumeration1 enumeration2 type|"),
+                                    QStringLiteral("Power|minInclusive type|"),
+                                    QStringLiteral("Mark||"),
+                                    QStringLiteral("Text|type|"),
+                                    QStringLiteral("Note|type|none"),
+                                    QStringLiteral("Line||")};
+    QCOMPARE(linesOf(first.nextSiblingElement(QStringLiteral("Signal"))), furtherLines);
+}
+
+void TestSchemaDoctorProof::tellsNothingOfCopiesThatAreAlike()
+{
+    const Examination examination
+        = examined(schemaOf(QStringLiteral("<xs:element name='Report'><xs:complexType><xs:sequence>"
+                                           "<xs:element name='Signal' maxOccurs='unbounded'><xs:complexType>"
+                                           "<xs:sequence><xs:element name='Level' type='xs:double'/></xs:sequence>"
+                                           "</xs:complexType></xs:element><xs:element name='Last' type='xs:string' "
+                                           "minOccurs='0'/></xs:sequence></xs:complexType></xs:element>")),
+                   false);
+    QVERIFY(!examination.tree.IsEmpty());
+    QCOMPARE(copiesText(examination.tree), QString());
 }
 
 QTEST_GUILESS_MAIN(TestSchemaDoctorProof)
