@@ -52,60 +52,52 @@ void explain(const ReportFiller& filler)
     }
 }
 
-} // namespace
+const QLatin1String ValuesOption("values");
+const QLatin1String ExplainOption("explain");
 
-int main(int argc, char** argv)
+void describe(QCommandLineParser& parser)
 {
-    const QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationVersion(QStringLiteral(XMLHELPER_VERSION));
-    QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Fills a report by a schema from named values."));
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption values(QStringLiteral("values"),
-                                    QStringLiteral("Take the values of <file>: JSON, CSV, or lines name=value."),
-                                    QStringLiteral("file"));
-    const QCommandLineOption explaining(QStringLiteral("explain"),
-                                        QStringLiteral("Print what happens, and what became of everything."));
-    parser.addOptions({values, explaining});
+    parser.addOptions({{ValuesOption, QStringLiteral("Take the values of <file>: JSON, CSV, or lines name=value."),
+                        QStringLiteral("file")},
+                       {ExplainOption, QStringLiteral("Print what happens, and what became of everything.")}});
     parser.addPositionalArgument(QStringLiteral("schema"), QStringLiteral("The schema to fill the report by."));
     parser.addPositionalArgument(QStringLiteral("report"), QStringLiteral("The report to write."));
     parser.addPositionalArgument(QStringLiteral("name=value"),
                                  QStringLiteral("Values by path, such as Emission[2]/Frequency@Unit=Hz."),
                                  QStringLiteral("[name=value...]"));
-    if (!parser.parse(QCoreApplication::arguments())) {
-        return refuse(parser.errorText());
-    }
-    if (parser.isSet(QStringLiteral("help")) || parser.isSet(QStringLiteral("version"))) {
-        print(parser.isSet(QStringLiteral("help")) ? parser.helpText()
-                                                   : QStringLiteral("xmlhelper-fill " XMLHELPER_VERSION));
-        return Complete;
-    }
-    const QStringList arguments = parser.positionalArguments();
-    if (arguments.size() < 2) {
-        return refuse(QStringLiteral("give a schema and a report; --help says more"));
-    }
+}
 
-    ReportFiller filler;
-    const QStringList files = parser.values(values);
+/// Gives the filler the values of the command line, or says which of them are none.
+bool addValues(const QCommandLineParser& parser, ReportFiller& filler, QString& fault)
+{
+    const QStringList files = parser.values(ValuesOption);
     for (const QString& file : files) {
-        QString fault;
         if (!filler.AddFile(file, &fault)) {
-            return refuse(fault);
+            return false;
         }
     }
-    for (int i = 2; i < int(arguments.size()); ++i) {
-        const int separator = int(arguments.at(i).indexOf(QLatin1Char('=')));
+    const QStringList values = parser.positionalArguments().mid(2);
+    for (const QString& value : values) {
+        const int separator = int(value.indexOf(QLatin1Char('=')));
         if (separator < 1) {
-            return refuse(QStringLiteral("%1 is not of the form name=value").arg(arguments.at(i)));
+            fault = QStringLiteral("%1 is not of the form name=value").arg(value);
+            return false;
         }
-        filler.Add(arguments.at(i).left(separator), arguments.at(i).mid(separator + 1));
+        filler.Add(value.left(separator), value.mid(separator + 1));
     }
-    if (parser.isSet(explaining)) {
+    return true;
+}
+
+int fill(ReportFiller& filler, const QString& schema, const QString& report, bool isToExplain)
+{
+    if (isToExplain) {
         filler.SetJournal(print);
     }
-    const bool isComplete = filler.Fill(arguments.at(0), arguments.at(1));
-    if (parser.isSet(explaining)) {
+    const bool isComplete = filler.Fill(schema, report);
+    if (isToExplain) {
         explain(filler);
     }
     const QStringList complaints = filler.Complaints();
@@ -113,4 +105,33 @@ int main(int argc, char** argv)
         print(complaint);
     }
     return !filler.IsSchemaRead() ? NoSchema : isComplete ? Complete : Incomplete;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    describe(parser);
+    if (!parser.parse(QCoreApplication::arguments())) {
+        return refuse(parser.errorText());
+    }
+    if (parser.isSet(QStringLiteral("help"))) {
+        print(parser.helpText());
+        return Complete;
+    }
+    if (parser.isSet(QStringLiteral("version"))) {
+        print(QStringLiteral("xmlhelper-fill " XMLHELPER_VERSION));
+        return Complete;
+    }
+    const QStringList arguments = parser.positionalArguments();
+    if (arguments.size() < 2) {
+        return refuse(QStringLiteral("give a schema and a report; --help says more"));
+    }
+    ReportFiller filler;
+    QString fault;
+    return addValues(parser, filler, fault)
+        ? fill(filler, arguments.at(0), arguments.at(1), parser.isSet(ExplainOption))
+        : refuse(fault);
 }

@@ -77,6 +77,16 @@ bool readCells(const QString& text, QChar separator, std::vector<QStringList>& r
     return !isQuoted;
 }
 
+/// Whichever separator the first row has.
+QChar separatorIn(const QString& text)
+{
+    const QString head = text.section(QLatin1Char('\n'), 0, 0);
+    const QString separators = QStringLiteral(",;\t");
+    const auto* const separator
+        = std::find_if(separators.begin(), separators.end(), [&head](QChar one) { return head.contains(one); });
+    return separator == separators.end() ? separators.front() : *separator;
+}
+
 QString textIn(QByteArray bytes)
 {
     const QByteArray byteOrderMark("\xEF\xBB\xBF");
@@ -134,12 +144,8 @@ bool readJson(const QByteArray& json, std::vector<GivenValue>& values, QString& 
 bool readCsv(const QByteArray& csv, std::vector<GivenValue>& values, QString& fault)
 {
     const QString text = textIn(csv);
-    const QString head = text.section(QLatin1Char('\n'), 0, 0);
-    const QString separators = QStringLiteral(",;\t");
-    const auto* const separator
-        = std::find_if(separators.begin(), separators.end(), [&head](QChar one) { return head.contains(one); });
     std::vector<QStringList> rows;
-    if (!readCells(text, separator == separators.end() ? separators.front() : *separator, rows)) {
+    if (!readCells(text, separatorIn(text), rows)) {
         fault = QStringLiteral("%1: A quote is not closed").arg(rows.size());
         return false;
     }

@@ -160,6 +160,28 @@ void ReportFilling::shapeChildren(const Place& place, const ValueBranch& branch,
     }
 }
 
+/// Makes @p count elements, at least one, of those that are laid out. Of several laid out one holds what the others
+/// lack.
+QVector<QDomElement> ReportFilling::occurrencesOf(const QVector<QDomElement>& laidOut, int count)
+{
+    const auto richest
+        = std::max_element(laidOut.begin(), laidOut.end(), [](const QDomElement& left, const QDomElement& right) {
+              return left.childNodes().count() < right.childNodes().count();
+          });
+    QDomElement last = laidOut.last();
+    QVector<QDomElement> occurrences {*richest};
+    while (int(occurrences.size()) < count) {
+        last = last.parentNode().insertAfter(richest->cloneNode(true), last).toElement();
+        occurrences.append(last);
+    }
+    for (const QDomElement& element : laidOut) {
+        if (element != *richest) {
+            element.parentNode().removeChild(element);
+        }
+    }
+    return occurrences;
+}
+
 /// Lets the child occur as often as it has values, or is required.
 void ReportFilling::shapeChild(const Place& child, const QVector<QDomElement>& laidOut, const ValueBranch& branch,
                                int around)
@@ -169,23 +191,7 @@ void ReportFilling::shapeChild(const Place& child, const QVector<QDomElement>& l
     const auto found = branch.children.find(&child);
     const int given = found == branch.children.end() ? 0 : int(found->second.size());
     const int least = child.IsRequired() || given > 0 ? child.laidOut : 0;
-    QVector<QDomElement> elements = laidOut;
-    if (child.laidOut > 1) { // One of them holds what the others lack.
-        const int richest = int(std::distance(
-            laidOut.begin(), std::max_element(laidOut.begin(), laidOut.end(), [](const auto& left, const auto& right) {
-                return left.childNodes().count() < right.childNodes().count();
-            })));
-        elements.swapItemsAt(0, richest);
-    }
-    QDomElement last = laidOut.last();
-    QVector<QDomElement> shaped {elements.first()};
-    for (int i = 1; i < std::max(given, least); ++i) {
-        last = last.parentNode().insertAfter(elements.first().cloneNode(true), last).toElement();
-        shaped.append(last);
-    }
-    for (int i = 1; i < int(elements.size()); ++i) {
-        elements[i].parentNode().removeChild(elements[i]);
-    }
+    const QVector<QDomElement> shaped = occurrencesOf(laidOut, std::max(given, least));
     if (std::max(given, least) == 0) {
         leaveOut(child, shaped.first(), path + stepTo(child, 1));
         return;
@@ -340,23 +346,30 @@ void ReportFilling::setText(Instance& instance)
         = !fault.isEmpty() ? fault : offer(text, type, QStringLiteral("SetXmlValue("), [this](const TypedValue& one) {
               std::visit([this](const auto& typed) { m_builder.SetXmlValue(typed); }, one);
           });
-    const QString written = instance.element.text();
-    if (isGiven) {
-        judge(instance.text, reason.isEmpty() ? State::Written : State::Refused, instance.path,
-              reason.isEmpty() && written != text ? QStringLiteral("written as %1").arg(written) : reason);
-    } else {
-        judgeElement(reason.isEmpty() ? State::Written : State::Unfilled, instance.path,
-                     reason.isEmpty() ? QStringLiteral("by the schema's default, %1").arg(text)
-                                      : QStringLiteral("its default is refused: %1").arg(reason));
-    }
+    judgeText(instance, text, reason);
     if (reason.isEmpty()) {
         tidy(instance);
+    } else {
+        hold(instance);
+    }
+}
+
+/// What became of a text that was offered, given or a default. It is in the report when there is no reason against it.
+void ReportFilling::judgeText(const Instance& instance, const QString& text, const QString& reason)
+{
+    const bool isWritten = reason.isEmpty();
+    if (instance.text == ValueBranch::None) {
+        judgeElement(isWritten ? State::Written : State::Unfilled, instance.path,
+                     isWritten ? QStringLiteral("by the schema's default, %1").arg(text)
+                               : QStringLiteral("its default is refused: %1").arg(reason));
         return;
     }
-    if (isGiven && instance.isRequired) {
+    const QString written = instance.element.text();
+    judge(instance.text, isWritten ? State::Written : State::Refused, instance.path,
+          isWritten && written != text ? QStringLiteral("written as %1").arg(written) : reason);
+    if (!isWritten && instance.isRequired) {
         judgeElement(State::Unfilled, instance.path, QStringLiteral("required, and its value was refused"));
     }
-    hold(instance);
 }
 
 /// Offers the value as one type after the other, until one is not refused for its type. Gives why all were refused, by

@@ -65,6 +65,7 @@ private:
     int addInstance(const Place& place, const QDomElement& element, const ValueBranch& branch, const QString& path,
                     int around);
     void shapeChildren(const Place& place, const ValueBranch& branch, int around);
+    static QVector<QDomElement> occurrencesOf(const QVector<QDomElement>& laidOut, int count);
     void shapeChild(const Place& child, const QVector<QDomElement>& laidOut, const ValueBranch& branch, int around);
     void leaveOut(const Place& place, const QDomElement& element, const QString& path);
     void judgeChoices(const Place& place, const ValueBranch& branch, const QString& path);
@@ -74,6 +75,7 @@ private:
     void setAttributes(Instance& instance);
     void removeDeclaration(const QDomElement& element, const QString& attribute);
     void setText(Instance& instance);
+    void judgeText(const Instance& instance, const QString& text, const QString& reason);
     void tidy(Instance& instance);
     void hold(Instance& instance);
     template <typename Setting>
