@@ -48,14 +48,6 @@
         <translation>Die Bibliothek kann die Datei nicht lesen, %1</translation>
     </message>
     <message>
-        <source>%1: The file cannot be opened.</source>
-        <translation>%1: Die Datei lässt sich nicht öffnen.</translation>
-    </message>
-    <message>
-        <source>%1:%2: The line is not of the form name=value.</source>
-        <translation>%1:%2: Die Zeile hat nicht die Form Name=Wert.</translation>
-    </message>
-    <message>
         <source>complaint: %1</source>
         <translation>Beanstandung: %1</translation>
     </message>
@@ -1533,40 +1525,176 @@
         <translation>Das Wort weglassen, XML Schema nimmt es ohnehin an; dafür sorgen, dass der Beobachter das Attribut setzt oder entfernt.</translation>
     </message>
     <message>
-        <source>%1
-
-What the library does: %2
-
-Write instead: %3</source>
-        <translation>%1
-
-Was die Bibliothek tut: %2
-
-Stattdessen: %3</translation>
-    </message>
-    <message>
-        <source>
-
-As it is meant:
-%1
-
-As it is laid out:
-%2</source>
-        <translation>
-
-Wie es gemeint ist:
-%1
-
-Wie es angelegt wird:
-%2</translation>
-    </message>
-    <message>
-        <source>Elements laid out: %1. Findings: %2.</source>
-        <translation>Angelegte Elemente: %1. Befunde: %2.</translation>
-    </message>
-    <message>
         <source>%1, choice %2</source>
         <translation>%1, Auswahl %2</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::ButtonFindings</name>
+    <message>
+        <source>the element &apos;%1&apos; of the type &apos;%2&apos;</source>
+        <translation>das Element &apos;%1&apos; des Typs &apos;%2&apos;</translation>
+    </message>
+    <message>
+        <source>the attribute &apos;%1&apos; of &apos;%2&apos;, of the type &apos;%3&apos;</source>
+        <translation>das Attribut &apos;%1&apos; von &apos;%2&apos;, vom Typ &apos;%3&apos;</translation>
+    </message>
+    <message>
+        <source>The report button never fills %1.</source>
+        <translation>Der Berichtsknopf füllt nie: %1.</translation>
+    </message>
+    <message>
+        <source>For the number of an item the button writes 65535.</source>
+        <translation>Für die Zahl eines Eintrags schreibt der Knopf 65535.</translation>
+    </message>
+    <message>
+        <source>The button may fill another attribute of the element in its place.</source>
+        <translation>Der Knopf kann stattdessen ein anderes Attribut des Elements füllen.</translation>
+    </message>
+    <message>
+        <source>A setter takes it, but the button offers no value of that kind, whatever items there are.</source>
+        <translation>Ein Setter nimmt es an, aber der Knopf bietet keinen Wert dieser Art, welche Einträge es auch gibt.</translation>
+    </message>
+    <message>
+        <source>Declare it for an element with a value of its own, or fill it by an observer of the report builder.</source>
+        <translation>Es für ein Element mit eigenem Wert deklarieren oder durch einen Beobachter des Berichtserzeugers füllen.</translation>
+    </message>
+    <message>
+        <source>Write another type, such as xs:string, or fill it by an observer of the report builder.</source>
+        <translation>Einen anderen Typ schreiben, etwa xs:string, oder durch einen Beobachter des Berichtserzeugers füllen.</translation>
+    </message>
+    <message>
+        <source>No item of the report button reaches %1 alone.</source>
+        <translation>Kein Eintrag des Berichtsknopfs erreicht nur dies: %1.</translation>
+    </message>
+    <message>
+        <source>An item &apos;%1&apos; fills %2 values of that name, all with the same.</source>
+        <translation>Ein Eintrag &apos;%1&apos; füllt %2 Werte dieses Namens, alle mit demselben.</translation>
+    </message>
+    <message>
+        <source>Give it a name of its own, or a parent with a name of its own.</source>
+        <translation>Einen eigenen Namen geben, oder ein Elternelement mit eigenem Namen.</translation>
+    </message>
+    <message>
+        <source>The unit of an item fills the attribute &apos;%1&apos;, and an item of a value tree&apos;s node has none.</source>
+        <translation>Die Einheit eines Eintrags füllt das Attribut &apos;%1&apos;, und ein Eintrag aus einem Knoten des Wertebaums hat keine.</translation>
+    </message>
+    <message>
+        <source>For such an item the attribute keeps its type, &apos;%1&apos;, as a text.</source>
+        <translation>Bei einem solchen Eintrag behält das Attribut seinen Typ, &apos;%1&apos;, als Text.</translation>
+    </message>
+    <message>
+        <source>For such an item the attribute keeps its type, &apos;%1&apos;, which is none of its values: the report is not valid.</source>
+        <translation>Bei einem solchen Eintrag behält das Attribut seinen Typ, &apos;%1&apos;, der keiner seiner Werte ist: Der Bericht ist nicht gültig.</translation>
+    </message>
+    <message>
+        <source>Register the item by its name and path, with a unit.</source>
+        <translation>Den Eintrag mit Namen und Pfad anmelden, mit einer Einheit.</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::ButtonTrial</name>
+    <message>
+        <source>What the report button fills was not tried: it would take too long.</source>
+        <translation>Was der Berichtsknopf füllt, wurde nicht erprobt: Es würde zu lange dauern.</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::ButtonWords</name>
+    <message>
+        <source>As the report button fills it</source>
+        <translation>Wie der Berichtsknopf es füllt</translation>
+    </message>
+    <message>
+        <source>container</source>
+        <translation>Container</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>a number without its fraction</source>
+        <translation>eine Zahl ohne ihre Nachkommastellen</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>ein Text</translation>
+    </message>
+    <message>
+        <source>an ISO date and time</source>
+        <translation>ein ISO-Datum mit Uhrzeit</translation>
+    </message>
+    <message>
+        <source>an explicit bool</source>
+        <translation>ein expliziter bool</translation>
+    </message>
+    <message>
+        <source>an explicit long</source>
+        <translation>ein expliziter long</translation>
+    </message>
+    <message>
+        <source>never: no setter takes it</source>
+        <translation>nie: kein Setter nimmt es an</translation>
+    </message>
+    <message>
+        <source>never: 65535 is written in place of a number</source>
+        <translation>nie: statt einer Zahl wird 65535 geschrieben</translation>
+    </message>
+    <message>
+        <source>never: another attribute may be filled in its place</source>
+        <translation>nie: stattdessen kann ein anderes Attribut gefüllt werden</translation>
+    </message>
+    <message>
+        <source>never: the button offers no value of its kind</source>
+        <translation>nie: der Knopf bietet keinen Wert seiner Art</translation>
+    </message>
+    <message>
+        <source>item &apos;%1&apos; with %2</source>
+        <translation>Eintrag &apos;%1&apos; mit: %2</translation>
+    </message>
+    <message>
+        <source>which reaches %1 more</source>
+        <translation>der noch %1 weitere erreicht</translation>
+    </message>
+    <message>
+        <source>registered behind that of the element</source>
+        <translation>nach dem des Elements angemeldet</translation>
+    </message>
+    <message>
+        <source>the unit of the element&apos;s item</source>
+        <translation>die Einheit vom Eintrag des Elements</translation>
+    </message>
+    <message>
+        <source>the current time</source>
+        <translation>die aktuelle Zeit</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::CopiesWords</name>
+    <message>
+        <source>In every copy but the first</source>
+        <translation>In jeder Kopie außer der ersten</translation>
+    </message>
+    <message>
+        <source>stays when nothing fills it</source>
+        <translation>bleibt, wenn nichts es füllt</translation>
+    </message>
+    <message>
+        <source>stays when nothing fills it, with %1</source>
+        <translation>bleibt, wenn nichts es füllt, mit %1</translation>
+    </message>
+    <message>
+        <source>%1 and the value &apos;%2&apos;</source>
+        <translation>%1 und dem Wert &apos;%2&apos;</translation>
+    </message>
+    <message>
+        <source>no count is accepted</source>
+        <translation>keine Anzahl wird angenommen</translation>
+    </message>
+    <message>
+        <source>was not tried</source>
+        <translation>wurde nicht erprobt</translation>
     </message>
 </context>
 <context>
@@ -1598,6 +1726,58 @@ Wie es angelegt wird:
     <message>
         <source>What</source>
         <translation>Was</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen...</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Neu laden</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>As it is meant</source>
+        <translation>Wie es gemeint ist</translation>
+    </message>
+    <message>
+        <source>As it is laid out</source>
+        <translation>Wie es angelegt wird</translation>
+    </message>
+    <message>
+        <source>Open a schema</source>
+        <translation>Ein Schema öffnen</translation>
+    </message>
+    <message>
+        <source>Schemas (*.xsd);;All files (*)</source>
+        <translation>Schemas (*.xsd);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>Elements laid out: %1. Findings: %2.</source>
+        <translation>Angelegte Elemente: %1. Befunde: %2.</translation>
+    </message>
+    <message>
+        <source>%1
+
+What the library does: %2
+
+Write instead: %3</source>
+        <translation>%1
+
+Was die Bibliothek tut: %2
+
+Stattdessen: %3</translation>
     </message>
 </context>
 <context>

@@ -48,14 +48,6 @@
         <translation>The library cannot read the file, %1</translation>
     </message>
     <message>
-        <source>%1: The file cannot be opened.</source>
-        <translation>%1: The file cannot be opened.</translation>
-    </message>
-    <message>
-        <source>%1:%2: The line is not of the form name=value.</source>
-        <translation>%1:%2: The line is not of the form name=value.</translation>
-    </message>
-    <message>
         <source>complaint: %1</source>
         <translation>complaint: %1</translation>
     </message>
@@ -1533,40 +1525,176 @@
         <translation>Leave the word out, it is what XML Schema assumes; see that the observer sets or removes the attribute.</translation>
     </message>
     <message>
-        <source>%1
-
-What the library does: %2
-
-Write instead: %3</source>
-        <translation>%1
-
-What the library does: %2
-
-Write instead: %3</translation>
-    </message>
-    <message>
-        <source>
-
-As it is meant:
-%1
-
-As it is laid out:
-%2</source>
-        <translation>
-
-As it is meant:
-%1
-
-As it is laid out:
-%2</translation>
-    </message>
-    <message>
-        <source>Elements laid out: %1. Findings: %2.</source>
-        <translation>Elements laid out: %1. Findings: %2.</translation>
-    </message>
-    <message>
         <source>%1, choice %2</source>
         <translation>%1, choice %2</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::ButtonFindings</name>
+    <message>
+        <source>the element &apos;%1&apos; of the type &apos;%2&apos;</source>
+        <translation>the element &apos;%1&apos; of the type &apos;%2&apos;</translation>
+    </message>
+    <message>
+        <source>the attribute &apos;%1&apos; of &apos;%2&apos;, of the type &apos;%3&apos;</source>
+        <translation>the attribute &apos;%1&apos; of &apos;%2&apos;, of the type &apos;%3&apos;</translation>
+    </message>
+    <message>
+        <source>The report button never fills %1.</source>
+        <translation>The report button never fills %1.</translation>
+    </message>
+    <message>
+        <source>For the number of an item the button writes 65535.</source>
+        <translation>For the number of an item the button writes 65535.</translation>
+    </message>
+    <message>
+        <source>The button may fill another attribute of the element in its place.</source>
+        <translation>The button may fill another attribute of the element in its place.</translation>
+    </message>
+    <message>
+        <source>A setter takes it, but the button offers no value of that kind, whatever items there are.</source>
+        <translation>A setter takes it, but the button offers no value of that kind, whatever items there are.</translation>
+    </message>
+    <message>
+        <source>Declare it for an element with a value of its own, or fill it by an observer of the report builder.</source>
+        <translation>Declare it for an element with a value of its own, or fill it by an observer of the report builder.</translation>
+    </message>
+    <message>
+        <source>Write another type, such as xs:string, or fill it by an observer of the report builder.</source>
+        <translation>Write another type, such as xs:string, or fill it by an observer of the report builder.</translation>
+    </message>
+    <message>
+        <source>No item of the report button reaches %1 alone.</source>
+        <translation>No item of the report button reaches %1 alone.</translation>
+    </message>
+    <message>
+        <source>An item &apos;%1&apos; fills %2 values of that name, all with the same.</source>
+        <translation>An item &apos;%1&apos; fills %2 values of that name, all with the same.</translation>
+    </message>
+    <message>
+        <source>Give it a name of its own, or a parent with a name of its own.</source>
+        <translation>Give it a name of its own, or a parent with a name of its own.</translation>
+    </message>
+    <message>
+        <source>The unit of an item fills the attribute &apos;%1&apos;, and an item of a value tree&apos;s node has none.</source>
+        <translation>The unit of an item fills the attribute &apos;%1&apos;, and an item of a value tree&apos;s node has none.</translation>
+    </message>
+    <message>
+        <source>For such an item the attribute keeps its type, &apos;%1&apos;, as a text.</source>
+        <translation>For such an item the attribute keeps its type, &apos;%1&apos;, as a text.</translation>
+    </message>
+    <message>
+        <source>For such an item the attribute keeps its type, &apos;%1&apos;, which is none of its values: the report is not valid.</source>
+        <translation>For such an item the attribute keeps its type, &apos;%1&apos;, which is none of its values: the report is not valid.</translation>
+    </message>
+    <message>
+        <source>Register the item by its name and path, with a unit.</source>
+        <translation>Register the item by its name and path, with a unit.</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::ButtonTrial</name>
+    <message>
+        <source>What the report button fills was not tried: it would take too long.</source>
+        <translation>What the report button fills was not tried: it would take too long.</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::ButtonWords</name>
+    <message>
+        <source>As the report button fills it</source>
+        <translation>As the report button fills it</translation>
+    </message>
+    <message>
+        <source>container</source>
+        <translation>container</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>a number</translation>
+    </message>
+    <message>
+        <source>a number without its fraction</source>
+        <translation>a number without its fraction</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>a text</translation>
+    </message>
+    <message>
+        <source>an ISO date and time</source>
+        <translation>an ISO date and time</translation>
+    </message>
+    <message>
+        <source>an explicit bool</source>
+        <translation>an explicit bool</translation>
+    </message>
+    <message>
+        <source>an explicit long</source>
+        <translation>an explicit long</translation>
+    </message>
+    <message>
+        <source>never: no setter takes it</source>
+        <translation>never: no setter takes it</translation>
+    </message>
+    <message>
+        <source>never: 65535 is written in place of a number</source>
+        <translation>never: 65535 is written in place of a number</translation>
+    </message>
+    <message>
+        <source>never: another attribute may be filled in its place</source>
+        <translation>never: another attribute may be filled in its place</translation>
+    </message>
+    <message>
+        <source>never: the button offers no value of its kind</source>
+        <translation>never: the button offers no value of its kind</translation>
+    </message>
+    <message>
+        <source>item &apos;%1&apos; with %2</source>
+        <translation>item &apos;%1&apos; with %2</translation>
+    </message>
+    <message>
+        <source>which reaches %1 more</source>
+        <translation>which reaches %1 more</translation>
+    </message>
+    <message>
+        <source>registered behind that of the element</source>
+        <translation>registered behind that of the element</translation>
+    </message>
+    <message>
+        <source>the unit of the element&apos;s item</source>
+        <translation>the unit of the element&apos;s item</translation>
+    </message>
+    <message>
+        <source>the current time</source>
+        <translation>the current time</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::CopiesWords</name>
+    <message>
+        <source>In every copy but the first</source>
+        <translation>In every copy but the first</translation>
+    </message>
+    <message>
+        <source>stays when nothing fills it</source>
+        <translation>stays when nothing fills it</translation>
+    </message>
+    <message>
+        <source>stays when nothing fills it, with %1</source>
+        <translation>stays when nothing fills it, with %1</translation>
+    </message>
+    <message>
+        <source>%1 and the value &apos;%2&apos;</source>
+        <translation>%1 and the value &apos;%2&apos;</translation>
+    </message>
+    <message>
+        <source>no count is accepted</source>
+        <translation>no count is accepted</translation>
+    </message>
+    <message>
+        <source>was not tried</source>
+        <translation>was not tried</translation>
     </message>
 </context>
 <context>
@@ -1598,6 +1726,58 @@ As it is laid out:
     <message>
         <source>What</source>
         <translation>What</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Open...</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Reload</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>As it is meant</source>
+        <translation>As it is meant</translation>
+    </message>
+    <message>
+        <source>As it is laid out</source>
+        <translation>As it is laid out</translation>
+    </message>
+    <message>
+        <source>Open a schema</source>
+        <translation>Open a schema</translation>
+    </message>
+    <message>
+        <source>Schemas (*.xsd);;All files (*)</source>
+        <translation>Schemas (*.xsd);;All files (*)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>Elements laid out: %1. Findings: %2.</source>
+        <translation>Elements laid out: %1. Findings: %2.</translation>
+    </message>
+    <message>
+        <source>%1
+
+What the library does: %2
+
+Write instead: %3</source>
+        <translation>%1
+
+What the library does: %2
+
+Write instead: %3</translation>
     </message>
 </context>
 <context>

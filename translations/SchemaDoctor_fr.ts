@@ -48,14 +48,6 @@
         <translation>La bibliothèque ne peut pas lire le fichier, %1</translation>
     </message>
     <message>
-        <source>%1: The file cannot be opened.</source>
-        <translation>%1 : Le fichier ne peut pas être ouvert.</translation>
-    </message>
-    <message>
-        <source>%1:%2: The line is not of the form name=value.</source>
-        <translation>%1:%2 : La ligne n&apos;est pas de la forme nom=valeur.</translation>
-    </message>
-    <message>
         <source>complaint: %1</source>
         <translation>objection : %1</translation>
     </message>
@@ -1533,40 +1525,176 @@
         <translation>Omettre le mot, XML Schema le suppose ; veiller à ce que l&apos;observateur remplisse ou supprime l&apos;attribut.</translation>
     </message>
     <message>
-        <source>%1
-
-What the library does: %2
-
-Write instead: %3</source>
-        <translation>%1
-
-Ce que fait la bibliothèque : %2
-
-Écrire plutôt : %3</translation>
-    </message>
-    <message>
-        <source>
-
-As it is meant:
-%1
-
-As it is laid out:
-%2</source>
-        <translation>
-
-Ce qui est voulu :
-%1
-
-Ce qui est créé :
-%2</translation>
-    </message>
-    <message>
-        <source>Elements laid out: %1. Findings: %2.</source>
-        <translation>Éléments créés : %1. Constats : %2.</translation>
-    </message>
-    <message>
         <source>%1, choice %2</source>
         <translation>%1, choix %2</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::ButtonFindings</name>
+    <message>
+        <source>the element &apos;%1&apos; of the type &apos;%2&apos;</source>
+        <translation>l&apos;élément &apos;%1&apos; du type &apos;%2&apos;</translation>
+    </message>
+    <message>
+        <source>the attribute &apos;%1&apos; of &apos;%2&apos;, of the type &apos;%3&apos;</source>
+        <translation>l&apos;attribut &apos;%1&apos; de &apos;%2&apos;, du type &apos;%3&apos;</translation>
+    </message>
+    <message>
+        <source>The report button never fills %1.</source>
+        <translation>Le bouton de rapport ne remplit jamais %1.</translation>
+    </message>
+    <message>
+        <source>For the number of an item the button writes 65535.</source>
+        <translation>Pour le nombre d&apos;une entrée, le bouton écrit 65535.</translation>
+    </message>
+    <message>
+        <source>The button may fill another attribute of the element in its place.</source>
+        <translation>Le bouton peut remplir un autre attribut de l&apos;élément à sa place.</translation>
+    </message>
+    <message>
+        <source>A setter takes it, but the button offers no value of that kind, whatever items there are.</source>
+        <translation>Un setter l&apos;accepte, mais le bouton n&apos;offre aucune valeur de cette sorte, quelles que soient les entrées.</translation>
+    </message>
+    <message>
+        <source>Declare it for an element with a value of its own, or fill it by an observer of the report builder.</source>
+        <translation>Le déclarer pour un élément qui a sa propre valeur, ou le remplir par un observateur du générateur de rapports.</translation>
+    </message>
+    <message>
+        <source>Write another type, such as xs:string, or fill it by an observer of the report builder.</source>
+        <translation>Écrire un autre type, par exemple xs:string, ou remplir par un observateur du générateur de rapports.</translation>
+    </message>
+    <message>
+        <source>No item of the report button reaches %1 alone.</source>
+        <translation>Aucune entrée du bouton de rapport n&apos;atteint %1 à lui seul.</translation>
+    </message>
+    <message>
+        <source>An item &apos;%1&apos; fills %2 values of that name, all with the same.</source>
+        <translation>Une entrée &apos;%1&apos; remplit %2 valeurs de ce nom, toutes avec la même.</translation>
+    </message>
+    <message>
+        <source>Give it a name of its own, or a parent with a name of its own.</source>
+        <translation>Lui donner un nom propre, ou un parent avec un nom propre.</translation>
+    </message>
+    <message>
+        <source>The unit of an item fills the attribute &apos;%1&apos;, and an item of a value tree&apos;s node has none.</source>
+        <translation>L&apos;unité d&apos;une entrée remplit l&apos;attribut &apos;%1&apos;, et une entrée issue d&apos;un nœud de l&apos;arbre de valeurs n&apos;en a pas.</translation>
+    </message>
+    <message>
+        <source>For such an item the attribute keeps its type, &apos;%1&apos;, as a text.</source>
+        <translation>Pour une telle entrée, l&apos;attribut garde son type, &apos;%1&apos;, comme texte.</translation>
+    </message>
+    <message>
+        <source>For such an item the attribute keeps its type, &apos;%1&apos;, which is none of its values: the report is not valid.</source>
+        <translation>Pour une telle entrée, l&apos;attribut garde son type, &apos;%1&apos;, qui n&apos;est aucune de ses valeurs : le rapport n&apos;est pas valide.</translation>
+    </message>
+    <message>
+        <source>Register the item by its name and path, with a unit.</source>
+        <translation>Enregistrer l&apos;entrée par son nom et son chemin, avec une unité.</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::ButtonTrial</name>
+    <message>
+        <source>What the report button fills was not tried: it would take too long.</source>
+        <translation>Ce que remplit le bouton de rapport n&apos;a pas été essayé : cela prendrait trop de temps.</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::ButtonWords</name>
+    <message>
+        <source>As the report button fills it</source>
+        <translation>Comme le bouton de rapport le remplit</translation>
+    </message>
+    <message>
+        <source>container</source>
+        <translation>conteneur</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>un nombre</translation>
+    </message>
+    <message>
+        <source>a number without its fraction</source>
+        <translation>un nombre sans sa partie décimale</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>un texte</translation>
+    </message>
+    <message>
+        <source>an ISO date and time</source>
+        <translation>une date et heure ISO</translation>
+    </message>
+    <message>
+        <source>an explicit bool</source>
+        <translation>un bool explicite</translation>
+    </message>
+    <message>
+        <source>an explicit long</source>
+        <translation>un long explicite</translation>
+    </message>
+    <message>
+        <source>never: no setter takes it</source>
+        <translation>jamais : aucun setter ne l&apos;accepte</translation>
+    </message>
+    <message>
+        <source>never: 65535 is written in place of a number</source>
+        <translation>jamais : 65535 est écrit à la place d&apos;un nombre</translation>
+    </message>
+    <message>
+        <source>never: another attribute may be filled in its place</source>
+        <translation>jamais : un autre attribut peut être rempli à sa place</translation>
+    </message>
+    <message>
+        <source>never: the button offers no value of its kind</source>
+        <translation>jamais : le bouton n&apos;offre aucune valeur de sa sorte</translation>
+    </message>
+    <message>
+        <source>item &apos;%1&apos; with %2</source>
+        <translation>entrée &apos;%1&apos; avec %2</translation>
+    </message>
+    <message>
+        <source>which reaches %1 more</source>
+        <translation>qui en atteint %1 de plus</translation>
+    </message>
+    <message>
+        <source>registered behind that of the element</source>
+        <translation>enregistrée après celle de l&apos;élément</translation>
+    </message>
+    <message>
+        <source>the unit of the element&apos;s item</source>
+        <translation>l&apos;unité de l&apos;entrée de l&apos;élément</translation>
+    </message>
+    <message>
+        <source>the current time</source>
+        <translation>l&apos;heure actuelle</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::CopiesWords</name>
+    <message>
+        <source>In every copy but the first</source>
+        <translation>Dans chaque copie sauf la première</translation>
+    </message>
+    <message>
+        <source>stays when nothing fills it</source>
+        <translation>reste si rien ne le remplit</translation>
+    </message>
+    <message>
+        <source>stays when nothing fills it, with %1</source>
+        <translation>reste si rien ne le remplit, avec %1</translation>
+    </message>
+    <message>
+        <source>%1 and the value &apos;%2&apos;</source>
+        <translation>%1 et la valeur &apos;%2&apos;</translation>
+    </message>
+    <message>
+        <source>no count is accepted</source>
+        <translation>aucun nombre n&apos;est accepté</translation>
+    </message>
+    <message>
+        <source>was not tried</source>
+        <translation>n&apos;a pas été essayé</translation>
     </message>
 </context>
 <context>
@@ -1598,6 +1726,58 @@ Ce qui est créé :
     <message>
         <source>What</source>
         <translation>Quoi</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Ouvrir...</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Recharger</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>As it is meant</source>
+        <translation>Ce qui est voulu</translation>
+    </message>
+    <message>
+        <source>As it is laid out</source>
+        <translation>Ce qui est créé</translation>
+    </message>
+    <message>
+        <source>Open a schema</source>
+        <translation>Ouvrir un schéma</translation>
+    </message>
+    <message>
+        <source>Schemas (*.xsd);;All files (*)</source>
+        <translation>Schémas (*.xsd);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 ne peut pas être lu : %2</translation>
+    </message>
+    <message>
+        <source>Elements laid out: %1. Findings: %2.</source>
+        <translation>Éléments créés : %1. Constats : %2.</translation>
+    </message>
+    <message>
+        <source>%1
+
+What the library does: %2
+
+Write instead: %3</source>
+        <translation>%1
+
+Ce que fait la bibliothèque : %2
+
+Écrire plutôt : %3</translation>
     </message>
 </context>
 <context>
