@@ -18,7 +18,7 @@ CommandLine commandLineOf(const QStringList& arguments)
                                       QStringLiteral("Say too what the report button fills, by which items."));
     const QCommandLineOption fill(
         QStringLiteral("fill"),
-        QStringLiteral("Fill a report from the name=value lines of <file>, and print what happens."),
+        QStringLiteral("Fill a report from the values of <file>, and print what happens."),
         QStringLiteral("file"));
     const QCommandLineOption language(
         QStringLiteral("language"), QStringLiteral("Speak this language: de, en or fr; by default that of the system."),

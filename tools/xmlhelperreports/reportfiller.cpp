@@ -31,18 +31,18 @@ bool addBy(const Read& read, const QByteArray& text, std::vector<GivenValue>& va
 
 } // namespace
 
-struct ReportFiller::Private
+struct ReportFillerData
 {
     std::vector<GivenValue> values;
-    Source source;
-    Journal journal;
-    std::vector<Verdict> verdicts;
+    ReportFiller::Source source;
+    ReportFiller::Journal journal;
+    std::vector<ReportFiller::Verdict> verdicts;
     QStringList faults;
     bool isSchemaRead = false;
 };
 
 ReportFiller::ReportFiller()
-    : m_pPrivate(std::make_unique<Private>())
+    : m_pData(std::make_unique<ReportFillerData>())
 {
 }
 
@@ -51,23 +51,23 @@ ReportFiller::~ReportFiller() = default;
 void ReportFiller::Add(const QString& name, const QVariant& value)
 {
     if (value.isValid()) {
-        m_pPrivate->values.push_back({name, textOf(value), 0, -1});
+        m_pData->values.push_back({name, textOf(value), 0, -1});
     }
 }
 
 bool ReportFiller::AddJson(const QByteArray& json, QString* fault)
 {
-    return addBy(readJson, json, m_pPrivate->values, fault);
+    return addBy(readJson, json, m_pData->values, fault);
 }
 
 bool ReportFiller::AddCsv(const QByteArray& csv, QString* fault)
 {
-    return addBy(readCsv, csv, m_pPrivate->values, fault);
+    return addBy(readCsv, csv, m_pData->values, fault);
 }
 
 bool ReportFiller::AddText(const QByteArray& text, QString* fault)
 {
-    return addBy(readLines, text, m_pPrivate->values, fault);
+    return addBy(readLines, text, m_pData->values, fault);
 }
 
 bool ReportFiller::AddFile(const QString& fileName, QString* fault)
@@ -92,38 +92,38 @@ bool ReportFiller::AddFile(const QString& fileName, QString* fault)
 
 void ReportFiller::SetSource(Source source)
 {
-    m_pPrivate->source = std::move(source);
+    m_pData->source = std::move(source);
 }
 
 void ReportFiller::SetJournal(Journal journal)
 {
-    m_pPrivate->journal = std::move(journal);
+    m_pData->journal = std::move(journal);
 }
 
 bool ReportFiller::Fill(const QString& schema, const QString& report)
 {
-    ReportFilling filling(m_pPrivate->values, m_pPrivate->source, m_pPrivate->journal);
+    ReportFilling filling(m_pData->values, m_pData->source, m_pData->journal);
     const bool isMade = filling.Fill(schema, report);
-    m_pPrivate->isSchemaRead = filling.IsSchemaRead();
-    m_pPrivate->verdicts = filling.TakeVerdicts();
-    m_pPrivate->faults = filling.TakeComplaints();
-    return isMade && std::all_of(m_pPrivate->verdicts.begin(), m_pPrivate->verdicts.end(), isGood);
+    m_pData->isSchemaRead = filling.IsSchemaRead();
+    m_pData->verdicts = filling.TakeVerdicts();
+    m_pData->faults = filling.TakeComplaints();
+    return isMade && std::all_of(m_pData->verdicts.begin(), m_pData->verdicts.end(), isGood);
 }
 
 bool ReportFiller::IsSchemaRead() const
 {
-    return m_pPrivate->isSchemaRead;
+    return m_pData->isSchemaRead;
 }
 
 const std::vector<ReportFiller::Verdict>& ReportFiller::GetVerdicts() const
 {
-    return m_pPrivate->verdicts;
+    return m_pData->verdicts;
 }
 
 QStringList ReportFiller::Complaints() const
 {
-    QStringList complaints = m_pPrivate->faults;
-    for (const Verdict& verdict : m_pPrivate->verdicts) {
+    QStringList complaints = m_pData->faults;
+    for (const Verdict& verdict : m_pData->verdicts) {
         if (!isGood(verdict)) {
             const QString what
                 = verdict.value.isEmpty() ? verdict.path : verdict.path + QLatin1Char('=') + verdict.value;

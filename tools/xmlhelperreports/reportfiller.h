@@ -14,6 +14,7 @@
 #include <xmlhelperreports/xmlhelperreportsexport.h>
 
 class QDomElement;
+struct ReportFillerData;
 class XmlCreateReport;
 
 /// Fills a report by a schema from named values, and tells what became of each of them. No widget is needed.
@@ -136,8 +137,7 @@ private:
     static QMultiHash<QString, int> alternativesOf(const XmlCreateReport& builder);
     static void release(XmlCreateReport& builder);
 
-    struct Private;
-    std::unique_ptr<Private> m_pPrivate;
+    std::unique_ptr<ReportFillerData> m_pData;
 };
 
 #endif
