@@ -117,6 +117,18 @@ DoctorWindow::DoctorWindow(const Examination& examination, Examine examine, QWid
 {
     resize(1280, 800);
     setAcceptDrops(true);
+    setCentralWidget(makeCentre());
+    statusBar()->addWidget(m_pSummary);
+    makeMenu();
+    connect(m_pWatcher, &SchemaWatcher::Changed, this, &DoctorWindow::reload);
+    showExamination(examination);
+    chooseFirst();
+    m_pWatcher->Watch(filesOf(m_examination), QDateTime::currentDateTime());
+}
+
+/// The message above the panes.
+QWidget* DoctorWindow::makeCentre()
+{
     auto* const right = new QSplitter(Qt::Vertical);
     right->addWidget(makeTextPane());
     right->addWidget(makeFindingsPane());
@@ -135,13 +147,7 @@ DoctorWindow::DoctorWindow(const Examination& examination, Examine examine, QWid
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_pMessage);
     layout->addWidget(panes, 1);
-    setCentralWidget(all);
-    statusBar()->addWidget(m_pSummary);
-    makeMenu();
-    connect(m_pWatcher, &SchemaWatcher::Changed, this, &DoctorWindow::reload);
-    showExamination(examination);
-    chooseFirst();
-    m_pWatcher->Watch(filesOf(m_examination), QDateTime::currentDateTime());
+    return all;
 }
 
 void DoctorWindow::makeMenu()

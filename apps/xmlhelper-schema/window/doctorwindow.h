@@ -61,6 +61,7 @@ private:
         bool isOfFinding = false; ///< the finding was chosen last, not the element
     };
 
+    QWidget* makeCentre();
     void makeMenu();
     QWidget* makeTreePane();
     QWidget* makeTextPane();

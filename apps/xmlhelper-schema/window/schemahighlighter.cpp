@@ -63,36 +63,35 @@ void SchemaHighlighter::highlightBlock(const QString& text)
         return;
     }
     m_state = State(std::max(0, previousBlockState()));
-    const int size = int(text.size());
-    for (int from = 0; from < size;) {
-        switch (m_state) {
-        case Text:
-            from = colourPlain(text, from);
-            break;
-        case Tag:
-            from = colourTag(text, from);
-            break;
-        case DoubleQuotes:
-            from = colourUntil(text, from, QStringLiteral("\""), Tag, m_value);
-            break;
-        case SingleQuotes:
-            from = colourUntil(text, from, QStringLiteral("'"), Tag, m_value);
-            break;
-        case Comment:
-            from = colourUntil(text, from, QStringLiteral("-->"), Text, m_comment);
-            break;
-        case Data:
-            from = colourUntil(text, from, QStringLiteral("]]>"), Text, QTextCharFormat());
-            break;
-        case Instruction:
-            from = colourUntil(text, from, QStringLiteral("?>"), Text, m_comment);
-            break;
-        }
+    for (int from = 0; from < int(text.size());) {
+        from = colourNext(text, from);
     }
     setCurrentBlockState(m_state);
 }
 
-/// Up to what begins behind the text, and the beginning of that. Gives where to go on.
+/// Gives where to go on.
+int SchemaHighlighter::colourNext(const QString& text, int from)
+{
+    switch (m_state) {
+    case Text:
+        return colourPlain(text, from);
+    case Tag:
+        return colourTag(text, from);
+    case DoubleQuotes:
+        return colourUntil(text, from, QStringLiteral("\""), Tag, m_value);
+    case SingleQuotes:
+        return colourUntil(text, from, QStringLiteral("'"), Tag, m_value);
+    case Comment:
+        return colourUntil(text, from, QStringLiteral("-->"), Text, m_comment);
+    case Data:
+        return colourUntil(text, from, QStringLiteral("]]>"), Text, QTextCharFormat());
+    case Instruction:
+        return colourUntil(text, from, QStringLiteral("?>"), Text, m_comment);
+    }
+    return int(text.size());
+}
+
+/// Up to what begins behind the text, and the beginning of that.
 int SchemaHighlighter::colourPlain(const QString& text, int from)
 {
     const int begin = int(text.indexOf(QLatin1Char('<'), from));

@@ -33,6 +33,7 @@ private:
     enum State { Text, Tag, DoubleQuotes, SingleQuotes, Comment, Data, Instruction };
 
     void colourNextLines();
+    int colourNext(const QString& text, int from);
     int colourPlain(const QString& text, int from);
     int colourTag(const QString& text, int from);
     int colourUntil(const QString& text, int from, const QString& end, State next, const QTextCharFormat& format);
