@@ -13,6 +13,8 @@
 #include "fill/dryrun.h"
 #include "htmlrendering.h"
 #include "language.h"
+#include "mend/mendfile.h"
+#include "mend/mendrendering.h"
 #include "render/jsonrendering.h"
 #include "render/textrendering.h"
 
@@ -50,6 +52,20 @@ int writePage(const QString& fileName, const Examination& examination)
     return exitStatusOf(examination);
 }
 
+int writeMended(const CommandLine& line)
+{
+    const MendedFile result = mendInto(line.otherFile, line.schema, line.mending);
+    const bool isRefused = !result.mending.refusal.isEmpty();
+    if (line.isForPrograms) {
+        print(QString::fromUtf8(jsonOf(result.mending, result.examination)));
+    } else if (isRefused) {
+        std::fprintf(stderr, "xmlhelper-schema: %s\n", qUtf8Printable(result.mending.refusal));
+    } else {
+        print(textOf(result.mending, result.examination));
+    }
+    return isRefused ? Unreadable : exitStatusOf(result.examination);
+}
+
 int showWindow(const CommandLine& line)
 {
     const auto examineAsAsked = [&line](const QString& file) { return examine(file, line.isToProve, line.isAsButton); };
@@ -67,6 +83,9 @@ int run(const CommandLine& line)
     }
     if (line.show == CommandLine::Show::Window) {
         return showWindow(line);
+    }
+    if (line.show == CommandLine::Show::Mend) {
+        return writeMended(line);
     }
     const Examination examination = examine(line.schema, line.isToProve, line.isAsButton);
     switch (line.show) {

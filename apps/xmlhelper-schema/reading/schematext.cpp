@@ -41,12 +41,28 @@ QString qualified(const xmlNs* space, const xmlChar* name)
     return space && space->prefix ? fromXml(space->prefix) + QLatin1Char(':') + fromXml(name) : fromXml(name);
 }
 
+QString takenText(xmlChar* text)
+{
+    const QString taken = fromXml(text);
+    xmlFree(text);
+    return taken;
+}
+
 QString valueOf(const xmlAttr* attribute)
 {
-    xmlChar* const value = xmlNodeListGetString(attribute->doc, attribute->children, 1);
-    const QString text = fromXml(value);
-    xmlFree(value);
-    return text;
+    return takenText(xmlNodeListGetString(attribute->doc, attribute->children, 1));
+}
+
+/// The comments between a tag and what stands in front of it.
+QStringList commentsBefore(const xmlNode* node)
+{
+    QStringList comments;
+    for (xmlNode* before = node->prev; before && before->type != XML_ELEMENT_NODE; before = before->prev) {
+        if (before->type == XML_COMMENT_NODE) {
+            comments.prepend(takenText(xmlNodeGetContent(before)));
+        }
+    }
+    return comments;
 }
 
 std::unique_ptr<TextNode> tagOf(const xmlNode* node, const TextFile& file, const TextNode* parent)
@@ -64,6 +80,10 @@ std::unique_ptr<TextNode> tagOf(const xmlNode* node, const TextFile& file, const
     for (const xmlAttr* attribute = node->properties; attribute; attribute = attribute->next) {
         tag->attributes.append({qualified(attribute->ns, attribute->name), valueOf(attribute)});
     }
+    tag->comments = commentsBefore(node);
+    if (tag->Is("documentation")) {
+        tag->content = takenText(xmlNodeGetContent(node));
+    }
     return tag;
 }
 
@@ -71,6 +91,9 @@ std::unique_ptr<TextNode> tagOf(const xmlNode* node, const TextFile& file, const
 void copyTags(xmlNode* root, TextFile& file)
 {
     file.root = tagOf(root, file, nullptr);
+    for (const xmlNs* space = root->nsDef; space; space = space->next) {
+        file.namespaces[fromXml(space->prefix)] = fromXml(space->href);
+    }
     file.tags.push_back(file.root.get());
     std::vector<TextNode*> open {file.root.get()};
     xmlNode* node = root;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include "model/finding.h"
@@ -32,6 +33,8 @@ struct TextNode
     bool isOfSchemaNamespace = false;
     QVector<Attribute> attributes; ///< as written, in this order; without namespace declarations
     std::vector<std::unique_ptr<TextNode>> children; ///< tags only
+    QStringList comments; ///< directly in front of it
+    QString content; ///< of an xs:documentation: what is written there, without tags
 
     bool Has(const char* attribute) const;
     QString Value(const char* attribute) const; ///< empty when there is no such attribute
@@ -58,6 +61,7 @@ struct TextFile
     QString text;
     std::unique_ptr<TextNode> root; ///< null when the file holds no tag
     std::vector<const TextNode*> tags; ///< all of them, in document order
+    std::map<QString, QString> namespaces; ///< that its root declares, by prefix; empty for the default one
     QString fault; ///< why it is not well-formed; empty when it is
     int faultLine = 0;
     bool isMissing = false;

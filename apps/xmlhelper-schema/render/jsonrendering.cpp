@@ -153,20 +153,23 @@ template <typename Items> QJsonArray jsonForAll(const Items& items)
 
 } // namespace
 
+QJsonObject jsonObjectOf(const Examination& examination)
+{
+    return {{key("file"), examination.file},
+            {key("unreadable"), examination.unreadableReason},
+            {key("status"), int(exitStatusOf(examination))},
+            {key("count"), jsonFor(examination.count)},
+            {key("rootCandidates"), jsonForAll(examination.rootCandidates)},
+            {key("elements"), jsonForAll(examination.tree.elements)},
+            {key("noTree"), examination.noTreeReason},
+            {key("includes"), jsonFor(examination.includes)},
+            {key("proof"), jsonFor(examination.proof)},
+            {key("findings"), jsonForAll(examination.findings)}};
+}
+
 QByteArray jsonOf(const Examination& examination)
 {
-    const QJsonObject object {{key("file"), examination.file},
-                              {key("unreadable"), examination.unreadableReason},
-                              {key("status"), int(exitStatusOf(examination))},
-                              {key("count"), jsonFor(examination.count)},
-                              {key("rootCandidates"), jsonForAll(examination.rootCandidates)},
-                              {key("elements"), jsonForAll(examination.tree.elements)},
-                              {key("noTree"), examination.noTreeReason},
-                              {key("includes"), jsonFor(examination.includes)},
-                              {key("proof"), jsonFor(examination.proof)},
-                              {key("button"), buttonJson(examination)},
-                              {key("findings"), jsonForAll(examination.findings)}};
-    return QJsonDocument(object).toJson();
+    return QJsonDocument(jsonObjectOf(examination)).toJson();
 }
 
 } // namespace schemadoctor

@@ -191,6 +191,21 @@ QString proofText(const Proof& proof)
 
 } // namespace
 
+QString findingsTextOf(const Examination& examination)
+{
+    QString text;
+    const QVector<FindingGroup> groups = groupsOf(examination.findings);
+    for (const FindingGroup& group : groups) {
+        if (group.count > 1) {
+            text += wordsFor(group) + QLatin1Char('\n');
+        }
+        for (int index = group.first; index < group.first + group.count; ++index) {
+            text += findingText(examination.findings.at(index));
+        }
+    }
+    return text + summaryOf(examination.findings) + QLatin1Char('\n') + proofText(examination.proof);
+}
+
 QString textOf(const Examination& examination)
 {
     QString text;
@@ -206,16 +221,7 @@ QString textOf(const Examination& examination)
     }
     if (examination.IsReadable() || !examination.findings.isEmpty()) {
         text += QLatin1Char('\n');
-        const QVector<FindingGroup> groups = groupsOf(examination.findings);
-        for (const FindingGroup& group : groups) {
-            if (group.count > 1) {
-                text += wordsFor(group) + QLatin1Char('\n');
-            }
-            for (int index = group.first; index < group.first + group.count; ++index) {
-                text += findingText(examination.findings.at(index));
-            }
-        }
-        text += summaryOf(examination.findings) + QLatin1Char('\n') + proofText(examination.proof);
+        text += findingsTextOf(examination);
     }
     return text;
 }

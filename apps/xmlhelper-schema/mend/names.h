@@ -1,0 +1,13 @@
+#ifndef SCHEMADOCTOR_NAMES_H
+#define SCHEMADOCTOR_NAMES_H
+
+#include <QString>
+
+namespace schemadoctor {
+
+/// The name itself where XML allows it, else one of what it allows.
+QString allowedXmlName(const QString& name);
+
+} // namespace schemadoctor
+
+#endif

@@ -1,0 +1,130 @@
+#include "schemaset.h"
+
+#include <optional>
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <xmlhelper/documentfile_p.h>
+
+#include "mendwords.h"
+#include "reading/doctorlimits.h"
+
+namespace schemadoctor {
+
+namespace {
+
+const QLatin1String SchemaNamespace("http://www.w3.org/2001/XMLSchema");
+
+std::optional<GlobalKind> kindOf(const TextNode& tag)
+{
+    static const std::map<QString, GlobalKind> kinds {
+        {QStringLiteral("element"), GlobalKind::Element},
+        {QStringLiteral("attribute"), GlobalKind::Attribute},
+        {QStringLiteral("complexType"), GlobalKind::Type},
+        {QStringLiteral("simpleType"), GlobalKind::Type},
+        {QStringLiteral("group"), GlobalKind::Group},
+        {QStringLiteral("attributeGroup"), GlobalKind::AttributeGroup},
+    };
+    const auto found = tag.isOfSchemaNamespace ? kinds.find(tag.localName) : kinds.end();
+    return found == kinds.end() ? std::nullopt : std::make_optional(found->second);
+}
+
+} // namespace
+
+SchemaSet::SchemaSet(const QString& file)
+{
+    read(openableFileName(file));
+}
+
+void SchemaSet::read(const QString& fileName)
+{
+    if (!m_names.insert(QDir::cleanPath(fileName)).second) {
+        return;
+    }
+    const TextFile& file = *m_text.Open(fileName);
+    m_characters += file.text.size();
+    if (file.isTooBig || m_characters > MaxSchemaBytes) {
+        m_refusal = Mend::tr("The files are longer than the %1 bytes that are mended.").arg(MaxSchemaBytes);
+    } else if (!file.root || !file.fault.isEmpty()) {
+        m_refusal = Mend::tr("%1 is no well-formed XML.").arg(fileName);
+    } else if (!file.root->Is("schema")) {
+        m_refusal = Mend::tr("%1 is no XML Schema.").arg(fileName);
+    }
+    if (!m_refusal.isEmpty()) {
+        return;
+    }
+    m_files.push_back(&file);
+    for (const auto& tag : file.root->children) {
+        if (tag->IsAnyOf({"include", "redefine", "import"})) {
+            follow(*tag);
+        }
+    }
+    for (const TextNode* const tag : file.tags) {
+        m_positions.emplace(tag, int(m_positions.size()));
+    }
+    addGlobals(*file.root);
+}
+
+void SchemaSet::follow(const TextNode& include)
+{
+    const QString location = include.Value("schemaLocation");
+    const QString file = QFileInfo(include.file->name).dir().filePath(location);
+    if (include.Is("import") || location.isEmpty() || !QFileInfo(file).isFile()) {
+        m_unread.push_back(&include);
+        return;
+    }
+    m_includes.push_back(&include);
+    addGlobals(include); // What is redefined counts before what is read.
+    read(file);
+}
+
+/// The first declaration of a name counts.
+void SchemaSet::addGlobals(const TextNode& parent)
+{
+    for (const auto& tag : parent.children) {
+        const std::optional<GlobalKind> kind = kindOf(*tag);
+        if (kind && m_globals.emplace(std::make_pair(*kind, tag->Value("name")), tag.get()).second) {
+            m_ordered[*kind].push_back(tag.get());
+        }
+    }
+}
+
+QString SchemaSet::namespaceOf(const TextNode& tag, const QString& qName) const
+{
+    const QString prefix = qName.contains(QLatin1Char(':')) ? qName.section(QLatin1Char(':'), 0, 0) : QString();
+    const auto found = tag.file->namespaces.find(prefix);
+    return found == tag.file->namespaces.end() ? QString() : found->second;
+}
+
+const TextNode* SchemaSet::Find(GlobalKind kind, const TextNode& tag, const QString& qName) const
+{
+    const QString space = namespaceOf(tag, qName);
+    if (!space.isEmpty() && space != GetTop().root->Value("targetNamespace")) {
+        return nullptr;
+    }
+    if (space.isEmpty() && qName.contains(QLatin1Char(':'))) {
+        return nullptr; // such as xml:lang
+    }
+    const auto found = m_globals.find({kind, qName.section(QLatin1Char(':'), -1)});
+    return found == m_globals.end() ? nullptr : found->second;
+}
+
+const std::vector<const TextNode*>& SchemaSet::GetGlobals(GlobalKind kind) const
+{
+    static const std::vector<const TextNode*> none;
+    const auto found = m_ordered.find(kind);
+    return found == m_ordered.end() ? none : found->second;
+}
+
+bool SchemaSet::IsBuiltIn(const TextNode& tag, const QString& qName) const
+{
+    return namespaceOf(tag, qName) == SchemaNamespace;
+}
+
+bool SchemaSet::IsBefore(const TextNode& first, const TextNode& second) const
+{
+    return m_positions.at(&first) < m_positions.at(&second);
+}
+
+} // namespace schemadoctor

@@ -1,0 +1,40 @@
+#ifndef SCHEMADOCTOR_SIMPLEVALUE_H
+#define SCHEMADOCTOR_SIMPLEVALUE_H
+
+#include <utility>
+#include <vector>
+
+#include <QString>
+#include <QStringList>
+
+#include "reading/schematext.h"
+
+namespace schemadoctor {
+
+/// What a value may be: a type of XML Schema and the facets of all restrictions of it together.
+struct SimpleValue
+{
+    QString base; ///< a type of XML Schema, without prefix
+    QStringList enumeration;
+    std::vector<std::pair<QString, QString>> facets; ///< all others: name and value
+    QString name; ///< of the definition; empty when it has none
+    const TextNode* definition = nullptr; ///< null for a type of XML Schema itself
+    bool isList = false;
+
+    bool IsPlain() const { return enumeration.isEmpty() && facets.empty(); }
+
+    /// The value of a facet; empty without it.
+    QString Facet(const char* facet) const;
+    void SetFacet(const QString& facet, const QString& value);
+    void RemoveFacet(const char* facet);
+
+    /// Whether both allow the same in the same words.
+    bool IsSame(const SimpleValue& other) const
+    {
+        return base == other.base && enumeration == other.enumeration && facets == other.facets;
+    }
+};
+
+} // namespace schemadoctor
+
+#endif
