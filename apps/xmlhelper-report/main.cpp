@@ -36,7 +36,7 @@ int main(int argc, char** argv)
     parser.setApplicationDescription(QStringLiteral(
         "Says what finished reports still lack, and validates them.\n\n"
         "Exit status: 0 nothing to say, 1 warnings, 2 errors, 3 something cannot be read; of the worst report."));
-    const QCommandLineOption schema(QStringLiteral("schema"),
+    const QCommandLineOption schema({QStringLiteral("schema"), QStringLiteral("against")},
                                     QStringLiteral("Validate by this schema, not by the one that the report names."),
                                     QStringLiteral("file"));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON, for programs."));

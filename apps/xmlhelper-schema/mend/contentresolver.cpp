@@ -296,15 +296,7 @@ ContentResolver::Content ContentResolver::wildcard(const TextNode& tag)
 /// What a reference stands for: the element itself, or a choice of those that may take its place.
 ContentResolver::Content ContentResolver::substitutes(const TextNode& tag, const TextNode& head)
 {
-    std::vector<const TextNode*> members {&head};
-    for (std::size_t index = 0; index < members.size(); ++index) {
-        for (const TextNode* const global : m_set.GetGlobals(GlobalKind::Element)) {
-            if (m_set.Find(GlobalKind::Element, *global, global->Value("substitutionGroup")) == members[index]
-                && std::find(members.begin(), members.end(), global) == members.end()) {
-                members.push_back(global);
-            }
-        }
-    }
+    const std::vector<const TextNode*> members = m_set.GetSubstitutes(head);
     const bool isSubstituted = members.size() > 1;
     std::vector<MendedContent> alternatives;
     for (const TextNode* const member : members) {
@@ -400,22 +392,31 @@ void ContentResolver::repeatAll(const TextNode& tag, int minOccurs, int maxOccur
 
 void ContentResolver::dropRepeatedNames(const TextNode& tag, MendedContent& content)
 {
-    for (std::size_t second = 1; second < content.size(); ++second) {
-        for (std::size_t first = 0; first < second; ++first) {
-            if (content[first].name != content[second].name || !isAmbiguous(content, first, second)) {
-                continue;
-            }
-            const QString before = Mend::tr("'%1' a second time").arg(content[second].name);
-            if (content[second].minOccurs == 0 || content[second].choice != MendedElement::None) {
-                m_log.Narrow(tag, before, Mend::tr("nothing"));
-            } else if (!m_log.Change(tag, before, Mend::tr("nothing"))) {
-                continue;
-            }
-            content.erase(content.begin() + std::ptrdiff_t(second));
-            --second;
-            break;
+    std::map<QString, std::vector<std::size_t>> earlier;
+    std::set<std::size_t> dropped;
+    for (std::size_t second = 0; second < content.size(); ++second) {
+        std::vector<std::size_t>& firsts = earlier[content[second].name];
+        const bool isDropped = std::any_of(firsts.begin(), firsts.end(),
+                                           [&](std::size_t first) { return isAmbiguous(content, first, second); });
+        if (isDropped && mayDrop(tag, content[second])) {
+            dropped.insert(second);
+        } else {
+            firsts.assign(1, second);
         }
     }
+    for (auto index = dropped.rbegin(); index != dropped.rend(); ++index) {
+        content.erase(content.begin() + std::ptrdiff_t(*index));
+    }
+}
+
+bool ContentResolver::mayDrop(const TextNode& tag, const MendedElement& repeated)
+{
+    const QString before = Mend::tr("'%1' a second time").arg(repeated.name);
+    if (repeated.minOccurs != 0 && repeated.choice == MendedElement::None) {
+        return m_log.Change(tag, before, Mend::tr("nothing"));
+    }
+    m_log.Narrow(tag, before, Mend::tr("nothing"));
+    return true;
 }
 
 std::optional<MendedElement> ContentResolver::element(const TextNode& tag, const TextNode& declaration)

@@ -44,6 +44,7 @@ private:
     void repeatChoice(const TextNode& tag, int minOccurs, int maxOccurs, MendedContent& content);
     void repeatAll(const TextNode& tag, int minOccurs, int maxOccurs, MendedContent& content);
     void dropRepeatedNames(const TextNode& tag, MendedContent& content);
+    bool mayDrop(const TextNode& tag, const MendedElement& repeated);
 
     std::optional<MendedElement> element(const TextNode& tag, const TextNode& declaration);
     bool giveType(MendedElement& element, const TextNode& declaration);

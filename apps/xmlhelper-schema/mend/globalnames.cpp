@@ -1,7 +1,5 @@
 #include "globalnames.h"
 
-#include <algorithm>
-
 #include "mendwords.h"
 
 namespace schemadoctor {
@@ -31,22 +29,28 @@ GlobalNames::GlobalNames(const SchemaSet& set, RewriteLog& log, MendedElement& r
     claimTypes(root);
 }
 
-bool GlobalNames::NeedsGlobal(const MendedElement& element, const MendedContent& siblings)
+std::vector<MendedElement*> GlobalNames::NeedingGlobals(MendedContent& content)
 {
-    if (element.IsPlain()) {
-        return false;
+    std::map<QString, int> counts;
+    for (const MendedElement& element : content) {
+        ++counts[element.name];
     }
-    const auto sameNames = std::count_if(siblings.begin(), siblings.end(),
-                                         [&element](const auto& other) { return other.name == element.name; });
-    return element.minOccurs > 1 || element.choice != MendedElement::None || sameNames > 1;
+    std::vector<MendedElement*> needing;
+    for (MendedElement& element : content) {
+        const bool isSeveral = element.minOccurs > 1 || counts[element.name] > 1;
+        if (!element.IsPlain() && (isSeveral || element.choice != MendedElement::None)) {
+            needing.push_back(&element);
+        }
+    }
+    return needing;
 }
 
-void GlobalNames::reserve(const MendedElement& element)
+void GlobalNames::reserve(MendedElement& element)
 {
-    for (const MendedElement& child : element.children) {
-        if (NeedsGlobal(child, element.children)) {
-            m_reserved.insert(child.name);
-        }
+    for (const MendedElement* const child : NeedingGlobals(element.children)) {
+        m_reserved.insert(child->name);
+    }
+    for (MendedElement& child : element.children) {
         reserve(child);
     }
 }
@@ -66,12 +70,13 @@ void GlobalNames::claimAttributes(MendedElement& element)
 /// Two attributes of one name can be global only when they are the same.
 void GlobalNames::claimAttribute(MendedAttribute& attribute)
 {
-    const auto known = std::find_if(m_attributes.begin(), m_attributes.end(),
-                                    [&attribute](const auto& one) { return one.name == attribute.name; });
+    const auto known = m_attributeIndex.find(attribute.name);
     const QString words = Mend::tr("the attribute '%1' with a type of its own").arg(attribute.name);
-    const bool isFree = known == m_attributes.end() && m_reserved.count(attribute.name) == 0;
-    if (isFree || (known != m_attributes.end() && known->value.IsSame(attribute.value))) {
+    const bool isKnown = known != m_attributeIndex.end();
+    const bool isFree = !isKnown && m_reserved.count(attribute.name) == 0;
+    if (isFree || (isKnown && m_attributes[known->second].value.IsSame(attribute.value))) {
         if (isFree) {
+            m_attributeIndex.emplace(attribute.name, m_attributes.size());
             m_attributes.push_back(attribute);
         }
         if (!attribute.declaration->IsGlobal()) {
@@ -100,15 +105,14 @@ void GlobalNames::claimType(const MendedElement& element)
 {
     for (int attempt = 0;; ++attempt) {
         const QString name = candidateFor(element, attempt);
-        const auto known
-            = std::find_if(m_types.begin(), m_types.end(), [&name](const Type& type) { return type.name == name; });
-        const bool isTaken = m_reserved.count(name) > 0
-            || std::any_of(m_attributes.begin(), m_attributes.end(),
-                           [&name](const MendedAttribute& attribute) { return attribute.name == name; });
-        if (isTaken || (known != m_types.end() && !known->value.IsSame(element.value))) {
+        const auto known = m_typeIndex.find(name);
+        const bool isKnown = known != m_typeIndex.end();
+        const bool isTaken = m_reserved.count(name) > 0 || m_attributeIndex.count(name) > 0;
+        if (isTaken || (isKnown && !m_types[known->second].value.IsSame(element.value))) {
             continue;
         }
-        if (known == m_types.end()) {
+        if (!isKnown) {
+            m_typeIndex.emplace(name, m_types.size());
             m_types.push_back({name, element.value});
         }
         tellName(element, name);
@@ -136,10 +140,8 @@ QString GlobalNames::TypeOf(const MendedElement& element) const
     }
     for (int attempt = 0;; ++attempt) {
         const QString name = candidateFor(element, attempt);
-        const auto known = std::find_if(m_types.begin(), m_types.end(), [&](const Type& type) {
-            return type.name == name && type.value.IsSame(element.value);
-        });
-        if (known != m_types.end()) {
+        const auto known = m_typeIndex.find(name);
+        if (known != m_typeIndex.end() && m_types[known->second].value.IsSame(element.value)) {
             return name;
         }
     }

@@ -33,11 +33,11 @@ public:
 
     static bool IsGlobal(const MendedAttribute& attribute) { return !attribute.value.IsPlain(); }
 
-    /// Whether an element can only be a reference to a global one among these, if it can be had.
-    static bool NeedsGlobal(const MendedElement& element, const MendedContent& siblings);
+    /// Those of the elements in one place that can only be references to global ones, if these can be had.
+    static std::vector<MendedElement*> NeedingGlobals(MendedContent& content);
 
 private:
-    void reserve(const MendedElement& element);
+    void reserve(MendedElement& element);
     void claimAttributes(MendedElement& element);
     void claimAttribute(MendedAttribute& attribute);
     void claimTypes(const MendedElement& element);
@@ -48,7 +48,9 @@ private:
     RewriteLog& m_log;
     std::set<QString> m_reserved; ///< for elements
     std::vector<Type> m_types;
+    std::map<QString, std::size_t> m_typeIndex; ///< by name
     std::vector<MendedAttribute> m_attributes;
+    std::map<QString, std::size_t> m_attributeIndex; ///< likewise
 };
 
 } // namespace schemadoctor

@@ -1,6 +1,8 @@
 #include "mend.h"
 
 #include <algorithm>
+#include <iterator>
+#include <map>
 #include <optional>
 #include <set>
 
@@ -113,36 +115,71 @@ void tellUnused(const SchemaSet& set, const TextNode& root, RewriteLog& log)
     }
 }
 
-void require(MendedElement& element, const std::set<const TextNode*>& particles, RewriteLog& log)
+/// What may be missing in the schema, and yet stays in reports.
+struct Staying
 {
-    for (MendedElement& child : element.children) {
-        if (child.minOccurs == 0 && particles.count(child.particle) > 0) {
-            log.Narrow(*child.particle, Mend::tr("'%1', which may be missing").arg(child.name), Mend::tr("required"));
-            child.minOccurs = 1;
+    std::set<const TextNode*> optional; ///< the particles of optional elements
+    std::set<const TextNode*> alternatives; ///< those of alternatives
+
+    bool IsEmpty() const { return optional.empty() && alternatives.empty(); }
+};
+
+/// Drops the alternatives that the library does not remove.
+void dropAlternatives(MendedElement& element, const Staying& staying, RewriteLog& log)
+{
+    std::set<int> branches;
+    for (const MendedElement& child : element.children) {
+        if (child.choice != MendedElement::None && staying.alternatives.count(child.particle) > 0) {
+            log.Narrow(*child.particle, Mend::tr("the alternative '%1', which holds no value").arg(child.name),
+                       Mend::tr("nothing"));
+            branches.insert(child.branch);
         }
-        require(child, particles, log);
+    }
+    MendedContent& content = element.children;
+    content.erase(std::remove_if(content.begin(), content.end(),
+                                 [&branches](const MendedElement& child) { return branches.count(child.branch) > 0; }),
+                  content.end());
+    std::map<int, std::set<int>> left;
+    for (const MendedElement& child : content) {
+        left[child.choice].insert(child.branch);
+    }
+    for (MendedElement& child : content) {
+        child.choice = left[child.choice].size() > 1 ? child.choice : MendedElement::None;
     }
 }
 
-/// The particles of optional elements that the library does not remove where they are left unfilled.
-std::set<const TextNode*> stayingIn(const QByteArray& text, const SchemaWriter& writer, const QTemporaryDir& folder)
+void require(MendedElement& element, const Staying& staying, RewriteLog& log)
 {
-    std::set<const TextNode*> particles;
+    dropAlternatives(element, staying, log);
+    for (MendedElement& child : element.children) {
+        if (child.minOccurs == 0 && staying.optional.count(child.particle) > 0) {
+            log.Narrow(*child.particle, Mend::tr("'%1', which may be missing").arg(child.name), Mend::tr("required"));
+            child.minOccurs = 1;
+        }
+        require(child, staying, log);
+    }
+}
+
+Staying stayingIn(const SchemaWriter& writer, const QByteArray& text, const QTemporaryDir& folder)
+{
+    Staying staying;
     const QString name = folder.filePath(QStringLiteral("mended.xsd"));
     QFile file(name);
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()) {
-        return particles;
+        return staying;
     }
     file.close();
     const LaidOutTree tree = examine(name, false).tree;
     for (const LaidOutElement& element : tree.elements) {
         const bool mayStay = element.fate == Fate::Stays || element.fate == Fate::IsRemovedWithAnother;
-        if (element.minOccurs == 0 && (mayStay || element.staysInCopies)) {
-            particles.insert(writer.ParticleAt(element.particle.line));
+        const TextNode* const particle = writer.ParticleAt(element.particle.line);
+        if (particle && element.minOccurs == 0 && (mayStay || element.staysInCopies)) {
+            staying.optional.insert(particle);
+        } else if (particle && element.choiceGroup != LaidOutElement::None && mayStay) {
+            staying.alternatives.insert(particle);
         }
     }
-    particles.erase(nullptr);
-    return particles;
+    return staying;
 }
 
 /// Writes the schema, and asks the doctor each time whether what may be missing is removed then.
@@ -152,9 +189,8 @@ QByteArray written(const SchemaSet& set, MendedElement root, RewriteLog& log)
     for (int round = 0;; ++round) {
         const SchemaWriter writer(set, log, root);
         const QByteArray text = writer.GetText().toUtf8();
-        const std::set<const TextNode*> staying
-            = round < MostRounds ? stayingIn(text, writer, folder) : std::set<const TextNode*>();
-        if (staying.empty()) {
+        const Staying staying = round < MostRounds ? stayingIn(writer, text, folder) : Staying();
+        if (staying.IsEmpty()) {
             return text;
         }
         require(root, staying, log);

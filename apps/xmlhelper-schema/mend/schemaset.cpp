@@ -35,6 +35,9 @@ std::optional<GlobalKind> kindOf(const TextNode& tag)
 SchemaSet::SchemaSet(const QString& file)
 {
     read(openableFileName(file));
+    for (const TextNode* const global : GetGlobals(GlobalKind::Element)) {
+        m_substitutes[Find(GlobalKind::Element, *global, global->Value("substitutionGroup"))].push_back(global);
+    }
 }
 
 void SchemaSet::read(const QString& fileName)
@@ -115,6 +118,22 @@ const std::vector<const TextNode*>& SchemaSet::GetGlobals(GlobalKind kind) const
     static const std::vector<const TextNode*> none;
     const auto found = m_ordered.find(kind);
     return found == m_ordered.end() ? none : found->second;
+}
+
+std::vector<const TextNode*> SchemaSet::GetSubstitutes(const TextNode& head) const
+{
+    std::vector<const TextNode*> substitutes {&head};
+    std::set<const TextNode*> known {&head};
+    for (std::size_t index = 0; index < substitutes.size(); ++index) {
+        const auto found = m_substitutes.find(substitutes[index]);
+        for (const TextNode* const one :
+             found == m_substitutes.end() ? std::vector<const TextNode*>() : found->second) {
+            if (known.insert(one).second) {
+                substitutes.push_back(one);
+            }
+        }
+    }
+    return substitutes;
 }
 
 bool SchemaSet::IsBuiltIn(const TextNode& tag, const QString& qName) const

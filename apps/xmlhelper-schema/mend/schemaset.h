@@ -36,6 +36,9 @@ public:
     /// All of one kind, in the order of reading.
     const std::vector<const TextNode*>& GetGlobals(GlobalKind kind) const;
 
+    /// The global elements that may take the place of another, in the order of reading; itself first.
+    std::vector<const TextNode*> GetSubstitutes(const TextNode& head) const;
+
     /// Whether a qualified name in that tag is one of XML Schema's own.
     bool IsBuiltIn(const TextNode& tag, const QString& qName) const;
 
@@ -55,6 +58,7 @@ private:
     std::vector<const TextNode*> m_includes;
     std::map<std::pair<GlobalKind, QString>, const TextNode*> m_globals;
     std::map<GlobalKind, std::vector<const TextNode*>> m_ordered;
+    std::map<const TextNode*, std::vector<const TextNode*>> m_substitutes; ///< by what they directly stand for
     std::map<const TextNode*, int> m_positions;
     QString m_refusal;
     qint64 m_characters = 0;

@@ -1,6 +1,5 @@
 #include "schemawriter.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "documentation.h"
@@ -72,25 +71,26 @@ void SchemaWriter::plan(MendedElement& element)
 {
     for (MendedElement& child : element.children) {
         plan(child);
-        if (GlobalNames::NeedsGlobal(child, element.children)) {
-            planGlobal(child);
-        }
+    }
+    for (MendedElement* const child : GlobalNames::NeedingGlobals(element.children)) {
+        planGlobal(*child);
+    }
+    for (const MendedElement& child : element.children) {
         tellReference(child);
     }
 }
 
 void SchemaWriter::planGlobal(MendedElement& element)
 {
-    const auto known = std::find_if(m_globals.begin(), m_globals.end(),
-                                    [&element](const auto& global) { return global.second.name == element.name; });
+    const auto [known, isNew] = m_globalIndex.emplace(element.name, m_globals.size());
     const QString body = bodyOf(element);
-    element.isReference = known == m_globals.end() || known->first == body;
-    if (known == m_globals.end()) {
+    if (isNew) {
         m_globals.emplace_back(body, element);
-    } else if (known->first != body && element.minOccurs > 1
-               && m_log.Change(*element.particle,
-                               Mend::tr("'%1', required %2 times").arg(element.name).arg(element.minOccurs),
-                               Mend::tr("required once"))) {
+    }
+    element.isReference = m_globals[known->second].first == body;
+    if (!element.isReference && element.minOccurs > 1
+        && m_log.Change(*element.particle, Mend::tr("'%1', required %2 times").arg(element.name).arg(element.minOccurs),
+                        Mend::tr("required once"))) {
         element.minOccurs = 1;
     }
 }

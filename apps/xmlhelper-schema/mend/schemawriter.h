@@ -49,6 +49,7 @@ private:
     int m_lines = 0;
     std::map<int, const TextNode*> m_particles;
     std::vector<std::pair<QString, MendedElement>> m_globals; ///< with their text, in the order of their need
+    std::map<QString, std::size_t> m_globalIndex; ///< by name
 };
 
 } // namespace schemadoctor

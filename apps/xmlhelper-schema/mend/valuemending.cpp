@@ -60,6 +60,11 @@ std::optional<Range> rangeOf(const QString& type)
     return found == ranges.end() ? std::nullopt : std::make_optional(found->second);
 }
 
+bool isNumberType(const QString& type)
+{
+    return type == QLatin1String("double") || type == QLatin1String("decimal") || type == QLatin1String("float");
+}
+
 QString named(const QString& type)
 {
     return QLatin1String("xs:") + type;
@@ -88,6 +93,9 @@ SimpleValue ValueMending::OfElement(SimpleValue value, const TextNode& user)
     takeFillableType(value, tag);
     dropBoundsOfTexts(value, tag);
     keepFromAbsentBound(value, tag);
+    std::stable_sort(value.facets.begin(), value.facets.end(), [](const auto& left, const auto& right) {
+        return left.first.startsWith(QLatin1String("min")) && !right.first.startsWith(QLatin1String("min"));
+    });
     return value;
 }
 
@@ -132,8 +140,7 @@ void ValueMending::takeFillableType(SimpleValue& value, const TextNode& tag)
         takeInteger(value, tag);
         return;
     }
-    const bool isNumber = value.base == QLatin1String("decimal") || value.base == QLatin1String("float");
-    const QString type = isNumber ? QStringLiteral("double") : QStringLiteral("string");
+    const QString type = isNumberType(value.base) ? QStringLiteral("double") : QStringLiteral("string");
     if (isAnyText(value.base) || value.base == QLatin1String("float")) {
         m_log.Narrow(tag, named(value.base), named(type));
         value.base = type;
@@ -184,9 +191,9 @@ void ValueMending::dropBoundsOfTexts(SimpleValue& value, const TextNode& tag)
         const QString text = value.Facet(facet);
         bool isNumber = false;
         const double number = text.toDouble(&isNumber);
-        const bool isChecked = value.base == QLatin1String("double") || value.base == QLatin1String("integer");
-        const bool isUsed = isChecked && isNumber && std::isfinite(number)
-            && (value.base == QLatin1String("double") || std::abs(number) < 2147483647.0);
+        const bool isInteger = value.base == QLatin1String("integer");
+        const bool isUsed = (isInteger && isNumber && std::abs(number) < 2147483647.0)
+            || (isNumberType(value.base) && isNumber && std::isfinite(number));
         if (!text.isEmpty() && !isUsed && m_log.Change(tag, described(facet, text), Mend::tr("nothing"))) {
             value.RemoveFacet(facet);
         }

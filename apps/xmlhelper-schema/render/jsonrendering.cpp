@@ -164,6 +164,7 @@ QJsonObject jsonObjectOf(const Examination& examination)
             {key("noTree"), examination.noTreeReason},
             {key("includes"), jsonFor(examination.includes)},
             {key("proof"), jsonFor(examination.proof)},
+            {key("button"), buttonJson(examination)},
             {key("findings"), jsonForAll(examination.findings)}};
 }
 

@@ -1,0 +1,356 @@
+#include <algorithm>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "examine.h"
+#include "mend/mendfile.h"
+#include "proof/filling.h"
+#include "proof/validation.h"
+
+using namespace schemadoctor;
+
+namespace {
+
+QByteArray contentOf(const QString& name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString written(const QString& name, const QByteArray& text)
+{
+    QFile file(name);
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() ? name : QString();
+}
+
+QByteArray schema(const QByteArray& declarations)
+{
+    return "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>\n" + declarations + "\n</xs:schema>\n";
+}
+
+QByteArray report(const QByteArray& content)
+{
+    return "<xs:element name='Report'><xs:complexType><xs:sequence>\n" + content
+        + "</xs:sequence></xs:complexType></xs:element>";
+}
+
+QString errorsOf(const Examination& examination)
+{
+    QStringList errors;
+    for (const Finding& finding : examination.findings) {
+        if (finding.severity == Severity::Error) {
+            errors.append(finding.rule + QLatin1String(": ") + finding.what);
+        }
+    }
+    return errors.join(QLatin1Char('\n'));
+}
+
+bool has(const QVector<Rewrite>& rewrites, int line, RewriteEffect effect)
+{
+    return std::any_of(rewrites.begin(), rewrites.end(), [line, effect](const Rewrite& rewrite) {
+        return rewrite.place.line == line && rewrite.effect == effect;
+    });
+}
+
+} // namespace
+
+/// Schemas of the corpus, and schemas as people write them, as mended ones.
+class TestSchemaDoctorMend : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void comesOutRight_data();
+    void comesOutRight();
+    void keepsWhatHasNoFindings_data();
+    void keepsWhatHasNoFindings();
+    void putsIncludesInTheirPlace();
+    void tells_data();
+    void tells();
+    void keepsTheFormatOnRequest();
+    void keepsReportsValidByTheOriginal();
+    void unrollsToLevels_data();
+    void unrollsToLevels();
+    void takesTheRootThatIsNamed();
+    void refuses_data();
+    void refuses();
+    void writesOverNoFileOfTheSchema();
+    void keepsCommentsAndAnnotations();
+
+private:
+    Mending mended(const QByteArray& text, const MendOptions& options = MendOptions());
+
+    QTemporaryDir m_folder;
+};
+
+Mending TestSchemaDoctorMend::mended(const QByteArray& text, const MendOptions& options)
+{
+    return mend(written(m_folder.filePath(QStringLiteral("given.xsd")), text), options);
+}
+
+void TestSchemaDoctorMend::comesOutRight_data()
+{
+    QTest::addColumn<QString>("file");
+    int own = 0;
+    for (const char* const folder : {CORPUS_FOLDER, MEND_FOLDER, EXAMPLES_FOLDER}) {
+        const QDir files(QString::fromLocal8Bit(folder));
+        const QStringList names = files.entryList({QStringLiteral("*.xsd")}, QDir::Files, QDir::Name);
+        for (const QString& name : names) {
+            if (!name.endsWith(QLatin1String(".inc.xsd"))) { // Files that are included declare no element.
+                QTest::newRow(qPrintable(name.chopped(4))) << files.filePath(name);
+                own += folder == QByteArray(MEND_FOLDER) ? 1 : 0;
+            }
+        }
+    }
+    QVERIFY(own >= 20);
+}
+
+/// Without errors, with valid reports of every filling, and the same when it is mended once more.
+void TestSchemaDoctorMend::comesOutRight()
+{
+    QFETCH(QString, file);
+    const QString out = m_folder.filePath(QStringLiteral("mended.xsd"));
+    const MendedFile result = mendInto(out, file, MendOptions());
+    QCOMPARE(result.mending.refusal, QString());
+    QCOMPARE(errorsOf(result.examination), QString());
+    QVERIFY(!result.examination.tree.IsEmpty());
+    QVERIFY(result.examination.proof.reports >= 4);
+    QCOMPARE(result.examination.proof.validReports, result.examination.proof.reports);
+    QCOMPARE(result.examination.proof.leftOut, QString());
+    QCOMPARE(QString::fromUtf8(mend(out).text), QString::fromUtf8(result.mending.text));
+}
+
+void TestSchemaDoctorMend::keepsWhatHasNoFindings_data()
+{
+    QTest::addColumn<QString>("file");
+    const QDir files(QStringLiteral(EXAMPLES_FOLDER));
+    for (const char* const name :
+         {"spectrometer.xsd", "observinglog-mended.xsd", "starcatalogue-mended.xsd", "weatherstation-mended.xsd"}) {
+        QTest::newRow(name) << files.filePath(QLatin1String(name));
+    }
+}
+
+void TestSchemaDoctorMend::keepsWhatHasNoFindings()
+{
+    QFETCH(QString, file);
+    const Mending mending = mend(file);
+    QCOMPARE(mending.text, contentOf(file));
+    QVERIFY(mending.rewrites.isEmpty());
+}
+
+void TestSchemaDoctorMend::putsIncludesInTheirPlace()
+{
+    const QByteArray type = "  <xs:simpleType  name='Level' ><xs:restriction base='xs:string'>"
+                            "<xs:enumeration value='low'/></xs:restriction></xs:simpleType>";
+    const QByteArray root = report("<xs:element name='Value' type='Level'/>");
+    QVERIFY(!written(m_folder.filePath(QStringLiteral("level.xsd")), schema(type)).isEmpty());
+    const Mending mending = mended(schema("<xs:include schemaLocation='level.xsd'/>\n" + root));
+    QCOMPARE(QString::fromUtf8(mending.text), QString::fromUtf8(schema(type.trimmed() + "\n" + root)));
+}
+
+void TestSchemaDoctorMend::tells_data()
+{
+    QTest::addColumn<QByteArray>("declarations");
+    QTest::addColumn<int>("line");
+    QTest::addColumn<bool>("staysValid");
+    const QByteArray last = "\n<xs:element name='Last' type='xs:string'/>";
+    const auto add = [](const char* name, const QByteArray& text, bool staysValid) {
+        QTest::newRow(name) << text << 3 << staysValid;
+    };
+    const auto ofType = [&last](const QByteArray& facets, const QByteArray& base) {
+        return report("<xs:element name='Value'><xs:simpleType><xs:restriction base='" + base + "'>" + facets
+                      + "</xs:restriction></xs:simpleType></xs:element>" + last);
+    };
+    add("float", report("<xs:element name='Value' type='xs:float'/>"), true);
+    add("decimal", report("<xs:element name='Value' type='xs:decimal'/>"), false);
+    add("date", report("<xs:element name='Value' type='xs:date'/>"), false);
+    add("positive-integer", report("<xs:element name='Value' type='xs:positiveInteger'/>"), true);
+    add("pattern", ofType("<xs:pattern value='a+'/>", "xs:string"), false);
+    add("white-space", ofType("<xs:whiteSpace value='collapse'/>", "xs:string"), true);
+    add("pattern-of-enumeration", ofType("<xs:pattern value='a+'/><xs:enumeration value='aa'/>", "xs:string"), true);
+    add("numbers-enumerated", ofType("<xs:enumeration value='1'/>", "xs:double"), true);
+    add("bound-of-65535", ofType("<xs:maxInclusive value='65535'/>", "xs:integer"), true);
+    add("fixed", report("<xs:element name='Value' type='xs:int' fixed='7'/>"), true);
+    add("nillable", report("<xs:element name='Value' type='xs:string' nillable='true'/><xs:any/>"), true);
+    add("any-required", report("<xs:any processContents='lax'/>" + last), false);
+    add("any-optional", report("<xs:element name='A' type='xs:date'/><xs:any minOccurs='0'/>"), true);
+    add("repeated-choice-of-elements",
+        report("<xs:choice minOccurs='0' maxOccurs='unbounded'><xs:element name='A' type='xs:string'/>"
+               "<xs:element name='B' type='xs:string'/></xs:choice>"),
+        true);
+    add("repeated-choice-that-is-required",
+        report("<xs:choice maxOccurs='unbounded'><xs:element name='A' type='xs:string'/>"
+               "<xs:element name='B' type='xs:string'/></xs:choice>"),
+        false);
+}
+
+/// The rewrite, its line in the original, and what it does to reports.
+void TestSchemaDoctorMend::tells()
+{
+    QFETCH(QByteArray, declarations);
+    QFETCH(int, line);
+    QFETCH(bool, staysValid);
+    const Mending mending = mended(schema(declarations));
+    QVERIFY(has(mending.rewrites, line, staysValid ? RewriteEffect::StaysValid : RewriteEffect::ChangesFormat));
+}
+
+void TestSchemaDoctorMend::keepsTheFormatOnRequest()
+{
+    MendOptions options;
+    options.isFormatKept = true;
+    const Mending mending = mended(schema(report("<xs:element name='Day' type='xs:date'/>\n"
+                                                 "<xs:element name='Level' type='xs:float'/>\n"
+                                                 "<xs:element name='Items'><xs:simpleType>"
+                                                 "<xs:list itemType='xs:float'/></xs:simpleType></xs:element>")),
+                                   options);
+    QCOMPARE(mending.left.size(), 1);
+    QCOMPARE(mending.left.first().place.line, 3);
+    QVERIFY(has(mending.rewrites, 4, RewriteEffect::StaysValid));
+    QVERIFY(has(mending.rewrites, 5, RewriteEffect::StaysValid));
+    QVERIFY(mending.text.contains("name=\"Day\" type=\"xs:date\""));
+    QVERIFY(mending.text.contains("name=\"Level\" type=\"xs:double\""));
+    QVERIFY(mending.text.contains("name=\"Items\" type=\"xs:double\""));
+}
+
+/// Reports filled by the mended schema, where no rewrite changes the format.
+void TestSchemaDoctorMend::keepsReportsValidByTheOriginal()
+{
+    int kept = 0;
+    const QDir files(QStringLiteral(CORPUS_FOLDER));
+    const QStringList names = files.entryList({QStringLiteral("place-*.xsd")}, QDir::Files);
+    for (const QString& name : names) {
+        const QString out = m_folder.filePath(QStringLiteral("mended.xsd"));
+        const Mending mending = mend(files.filePath(name));
+        const bool isKept = std::none_of(mending.rewrites.begin(), mending.rewrites.end(), [](const Rewrite& rewrite) {
+            return rewrite.effect == RewriteEffect::ChangesFormat;
+        });
+        const LaidOutTree tree = examine(written(out, mending.text), false).tree;
+        if (!isKept || mending.rewrites.isEmpty()) {
+            continue;
+        }
+        ++kept;
+        int all = 0;
+        QVector<QByteArray> reports;
+        for (const Filling& filling : fillingsOf(tree, 20, all)) {
+            reports.append(filledReport(out, tree, filling));
+        }
+        QVector<ValidityError> errors;
+        QVERIFY(validate(files.filePath(name), reports, errors));
+        QVERIFY2(errors.isEmpty(), qPrintable(name + (errors.isEmpty() ? QString() : errors.first().sentence)));
+    }
+    QVERIFY(kept > 20);
+}
+
+void TestSchemaDoctorMend::unrollsToLevels_data()
+{
+    QTest::addColumn<int>("levels");
+    QTest::addColumn<int>("parts");
+    QTest::newRow("one") << 1 << 1;
+    QTest::newRow("two-by-default") << 0 << 2;
+    QTest::newRow("four") << 4 << 4;
+}
+
+void TestSchemaDoctorMend::unrollsToLevels()
+{
+    QFETCH(int, levels);
+    QFETCH(int, parts);
+    MendOptions options;
+    options.levels = levels;
+    const Mending mending = mended(schema("<xs:element name='Part'><xs:complexType><xs:sequence>"
+                                          "<xs:element name='Number' type='xs:string'/>"
+                                          "<xs:element ref='Part' minOccurs='0'/>"
+                                          "</xs:sequence></xs:complexType></xs:element>"),
+                                   options);
+    QCOMPARE(mending.refusal, QString());
+    QCOMPARE(int(mending.text.count("name=\"Part\"")), parts);
+}
+
+void TestSchemaDoctorMend::takesTheRootThatIsNamed()
+{
+    MendOptions options;
+    options.root = QStringLiteral("Alpha");
+    const QByteArray text = schema("<xs:element name='Alpha' type='xs:string'/>\n"
+                                   "<xs:element name='Omega' type='xs:string'/>");
+    QVERIFY(!mended(text, options).text.contains("Omega"));
+    QVERIFY(!mended(text).text.contains("Alpha"));
+}
+
+void TestSchemaDoctorMend::refuses_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("root");
+    QTest::addColumn<QString>("reason");
+    const auto add = [](const char* name, const QByteArray& text, const char* reason, const char* root = "") {
+        QTest::newRow(name) << text << QString::fromLatin1(root) << QString::fromLatin1(reason);
+    };
+    QByteArray wide; // Each element may hold each other: the more of them, the more ways there are.
+    QByteArray references;
+    for (int i = 0; i < 40; ++i) {
+        references += "<xs:element ref='E" + QByteArray::number(i) + "' minOccurs='0'/>";
+    }
+    for (int i = 0; i < 40; ++i) {
+        wide += "<xs:element name='E" + QByteArray::number(i) + "'><xs:complexType><xs:sequence>" + references
+            + "</xs:sequence></xs:complexType></xs:element>";
+    }
+    add("what-is-no-xml", "<xs:schema", "The library cannot read the file");
+    add("what-is-no-schema", "<report/>", "is no XML Schema.");
+    add("what-has-no-element", schema("<xs:simpleType name='A'><xs:restriction base='xs:string'/></xs:simpleType>"),
+        "The schema declares no global element.");
+    add("an-unknown-root", schema(report("")), "There is no global element 'Other'.", "Other");
+    add("what-becomes-too-large", schema(wide), "Written out, the schema has more than 30000 elements.");
+    add("what-is-never-finite", schema(report("<xs:element ref='Report'/>")), "No report is finite");
+    add("types-that-stand-on-each-other",
+        schema("<xs:complexType name='A'><xs:complexContent><xs:extension base='A'/></xs:complexContent>"
+               "</xs:complexType><xs:element name='Report' type='A'/>"),
+        "");
+}
+
+/// By name, and without an end of its own.
+void TestSchemaDoctorMend::refuses()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, root);
+    QFETCH(QString, reason);
+    MendOptions options;
+    options.root = root;
+    const Mending mending = mended(text, options);
+    QVERIFY2(mending.refusal.contains(reason), qPrintable(mending.refusal));
+    QCOMPARE(mending.text.isEmpty(), !reason.isEmpty());
+}
+
+void TestSchemaDoctorMend::writesOverNoFileOfTheSchema()
+{
+    const QByteArray part = schema("<xs:element name='Part' type='xs:date'/>");
+    const QByteArray whole = schema("<xs:include schemaLocation='part.xsd'/>" + report("<xs:element ref='Part'/>"));
+    const QString partName = written(m_folder.filePath(QStringLiteral("part.xsd")), part);
+    const QString wholeName = written(m_folder.filePath(QStringLiteral("whole.xsd")), whole);
+    const QString link = m_folder.filePath(QStringLiteral("link.xsd"));
+    QFile::link(partName, link);
+    for (const QString& out : {partName, wholeName, link}) {
+        QVERIFY(!mendInto(out, wholeName, MendOptions()).mending.refusal.isEmpty());
+    }
+    QCOMPARE(contentOf(partName), part);
+    QCOMPARE(contentOf(wholeName), whole);
+    const QString nowhere = m_folder.filePath(QStringLiteral("nowhere/out.xsd"));
+    QVERIFY(!mendInto(nowhere, wholeName, MendOptions()).mending.refusal.isEmpty());
+}
+
+void TestSchemaDoctorMend::keepsCommentsAndAnnotations()
+{
+    const Mending mending
+        = mended("<!-- Head. -->\n"
+                 + schema("<xs:annotation><xs:documentation>All &lt; of it.</xs:documentation></xs:annotation>"
+                          + report("<!-- Of a value. --><xs:element name='Value' type='xs:date'><xs:annotation>"
+                                   "<xs:documentation>What it is.</xs:documentation></xs:annotation></xs:element>")));
+    for (const char* const text : {"<!-- Head. -->\n<xs:schema", "All &lt; of it.", "<!-- Of a value. -->\n",
+                                   "<xs:documentation>What it is.</xs:documentation>"}) {
+        QVERIFY2(mending.text.contains(text), text);
+    }
+}
+
+QTEST_GUILESS_MAIN(TestSchemaDoctorMend)
+
+#include "tst_schemadoctor_mend.moc"
