@@ -37,7 +37,7 @@ void Attributes::Add(const TextNode& owner, std::vector<MendedAttribute>& attrib
             const TextNode* const group = m_set.Find(GlobalKind::AttributeGroup, *tag, tag->Value("ref"));
             m_log.Narrow(*tag, QStringLiteral("xs:attributeGroup '%1'").arg(tag->Value("ref")),
                          Mend::tr("its attributes"));
-            if (group && depth < MostGroupsInsideOfEachOther) {
+            if (group && depth < MostGroupsInsideOfEachOther && --m_groupsLeft > 0) {
                 Add(*group, attributes, depth + 1);
             }
         } else if (tag->Is("anyAttribute")) {

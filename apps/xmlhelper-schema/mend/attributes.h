@@ -2,6 +2,7 @@
 #define SCHEMADOCTOR_ATTRIBUTES_H
 
 #include "mendedelement.h"
+#include "mendlimits.h"
 #include "schemaset.h"
 #include "simpletypes.h"
 #include "valuemending.h"
@@ -26,6 +27,9 @@ public:
     /// Gives names that do not get in each other's way.
     void Rename(std::vector<MendedAttribute>& attributes);
 
+    /// Whether there were more groups inside of groups than are followed.
+    bool IsBeyondLimit() const { return m_groupsLeft <= 0; }
+
 private:
     void addOne(const TextNode& tag, std::vector<MendedAttribute>& attributes);
     MendedAttribute declared(const TextNode& tag, const TextNode& declaration);
@@ -35,6 +39,7 @@ private:
     SimpleTypes& m_types;
     ValueMending m_mending;
     RewriteLog& m_log;
+    int m_groupsLeft = MaxFollowed; ///< to be followed
 };
 
 } // namespace schemadoctor

@@ -7,9 +7,9 @@
 #include <xmlhelper/constants_p.h>
 
 #include "documentation.h"
+#include "mendlimits.h"
 #include "mendwords.h"
 #include "names.h"
-#include "reading/doctorlimits.h"
 
 namespace schemadoctor {
 
@@ -104,13 +104,17 @@ ContentResolver::ContentResolver(const SchemaSet& set, RewriteLog& log, int leve
 
 std::optional<MendedElement> ContentResolver::Root(const TextNode& global)
 {
-    return element(global, global);
+    std::optional<MendedElement> root = element(global, global);
+    return isBeyondLimit() ? std::nullopt : root;
 }
 
 bool ContentResolver::isBeyondLimit()
 {
-    if (m_elements > MaxShownElements) {
-        m_refusal = Mend::tr("Written out, the schema has more than %1 elements.").arg(MaxShownElements);
+    const bool isTooMuch = m_particles > MaxFollowed || m_types.IsBeyondLimit() || m_attributes.IsBeyondLimit();
+    if (isTooMuch) {
+        m_refusal = Mend::tr("Written out, the groups and types hold each other more often than is followed.");
+    } else if (m_elements > MaxMendedElements) {
+        m_refusal = Mend::tr("Written out, the schema has more than %1 elements.").arg(MaxMendedElements);
     } else if (m_depth > DeepestContent) {
         m_refusal = Mend::tr("Definitions contain each other more than %1 levels deep.").arg(DeepestContent);
     }
@@ -131,6 +135,7 @@ ContentResolver::Content ContentResolver::particle(const TextNode& tag)
         };
         const auto reader = readers.find(tag.localName);
         if (reader != readers.end() && tag.isOfSchemaNamespace) {
+            ++m_particles;
             ++m_depth;
             Content content = (this->*reader->second)(tag);
             --m_depth;
@@ -404,9 +409,16 @@ void ContentResolver::dropRepeatedNames(const TextNode& tag, MendedContent& cont
             firsts.assign(1, second);
         }
     }
-    for (auto index = dropped.rbegin(); index != dropped.rend(); ++index) {
-        content.erase(content.begin() + std::ptrdiff_t(*index));
+    if (dropped.empty()) {
+        return;
     }
+    MendedContent kept;
+    for (std::size_t index = 0; index < content.size(); ++index) {
+        if (dropped.count(index) == 0) {
+            kept.push_back(std::move(content[index]));
+        }
+    }
+    content = std::move(kept);
 }
 
 bool ContentResolver::mayDrop(const TextNode& tag, const MendedElement& repeated)

@@ -67,6 +67,7 @@ private:
     std::map<const TextNode*, int> m_open; ///< declarations and definitions that are being written out
     int m_depth = 0;
     int m_elements = 0;
+    int m_particles = 0;
     int m_choices = 0;
     int m_branches = 0;
     QString m_refusal;

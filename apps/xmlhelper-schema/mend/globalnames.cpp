@@ -6,15 +6,22 @@ namespace schemadoctor {
 
 namespace {
 
-QString candidateFor(const MendedElement& element, int attempt)
+/// What a type is called first.
+QString wantedName(const MendedElement& element)
 {
-    const QString& given = element.value.name;
     const QString called = element.name.left(1).toUpper() + element.name.mid(1) + QLatin1String("Type");
-    if (attempt == 0) {
-        return given.isEmpty() ? called : given;
+    return element.value.name.isEmpty() ? called : element.value.name;
+}
+
+/// Types of one name are the same where this is.
+QString keyOf(const MendedElement& element)
+{
+    QStringList parts {wantedName(element), element.value.base};
+    parts += element.value.enumeration;
+    for (const auto& facet : element.value.facets) {
+        parts << facet.first << facet.second;
     }
-    const QString base = given.isEmpty() ? called : given + QLatin1String("Type");
-    return attempt == 1 ? base : base + QString::number(attempt);
+    return parts.join(QChar(0));
 }
 
 } // namespace
@@ -103,20 +110,25 @@ void GlobalNames::claimTypes(const MendedElement& element)
 
 void GlobalNames::claimType(const MendedElement& element)
 {
-    for (int attempt = 0;; ++attempt) {
-        const QString name = candidateFor(element, attempt);
-        const auto known = m_typeIndex.find(name);
-        const bool isKnown = known != m_typeIndex.end();
-        const bool isTaken = m_reserved.count(name) > 0 || m_attributeIndex.count(name) > 0;
-        if (isTaken || (isKnown && !m_types[known->second].value.IsSame(element.value))) {
-            continue;
+    QString& name = m_typeNames[keyOf(element)];
+    if (name.isEmpty()) {
+        name = nameFor(element);
+        m_types.push_back({name, element.value});
+    }
+    tellName(element, name);
+}
+
+/// A name that nothing has yet.
+QString GlobalNames::nameFor(const MendedElement& element)
+{
+    const QString wanted = wantedName(element);
+    int& attempt = m_attempts[wanted];
+    for (;; ++attempt) {
+        const QString base = element.value.name.isEmpty() ? wanted : wanted + QLatin1String("Type");
+        const QString name = attempt == 0 ? wanted : attempt == 1 ? base : base + QString::number(attempt);
+        if (m_reserved.count(name) == 0 && m_attributeIndex.count(name) == 0 && m_takenNames.insert(name).second) {
+            return name;
         }
-        if (!isKnown) {
-            m_typeIndex.emplace(name, m_types.size());
-            m_types.push_back({name, element.value});
-        }
-        tellName(element, name);
-        return;
     }
 }
 
@@ -138,13 +150,7 @@ QString GlobalNames::TypeOf(const MendedElement& element) const
     if (element.value.IsPlain()) {
         return QLatin1String("xs:") + element.value.base;
     }
-    for (int attempt = 0;; ++attempt) {
-        const QString name = candidateFor(element, attempt);
-        const auto known = m_typeIndex.find(name);
-        if (known != m_typeIndex.end() && m_types[known->second].value.IsSame(element.value)) {
-            return name;
-        }
-    }
+    return m_typeNames.at(keyOf(element));
 }
 
 } // namespace schemadoctor

@@ -42,13 +42,16 @@ private:
     void claimAttribute(MendedAttribute& attribute);
     void claimTypes(const MendedElement& element);
     void claimType(const MendedElement& element);
+    QString nameFor(const MendedElement& element);
     void tellName(const MendedElement& element, const QString& name);
 
     const SchemaSet& m_set;
     RewriteLog& m_log;
     std::set<QString> m_reserved; ///< for elements
     std::vector<Type> m_types;
-    std::map<QString, std::size_t> m_typeIndex; ///< by name
+    std::map<QString, QString> m_typeNames; ///< by keyOf() an element
+    std::set<QString> m_takenNames; ///< of types
+    std::map<QString, int> m_attempts; ///< that a name for a type has needed
     std::vector<MendedAttribute> m_attributes;
     std::map<QString, std::size_t> m_attributeIndex; ///< likewise
 };

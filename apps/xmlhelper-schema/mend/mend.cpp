@@ -11,9 +11,9 @@
 
 #include "contentresolver.h"
 #include "examine.h"
+#include "mendlimits.h"
 #include "mendwords.h"
 #include "merging.h"
-#include "reading/doctorlimits.h"
 #include "rewritelog.h"
 #include "schemaset.h"
 #include "schemawriter.h"
@@ -160,7 +160,8 @@ void require(MendedElement& element, const Staying& staying, RewriteLog& log)
     }
 }
 
-Staying stayingIn(const SchemaWriter& writer, const QByteArray& text, const QTemporaryDir& folder)
+/// @param asked  becomes how many elements the doctor has been asked about
+Staying stayingIn(const SchemaWriter& writer, const QByteArray& text, const QTemporaryDir& folder, int& asked)
 {
     Staying staying;
     const QString name = folder.filePath(QStringLiteral("mended.xsd"));
@@ -170,6 +171,7 @@ Staying stayingIn(const SchemaWriter& writer, const QByteArray& text, const QTem
     }
     file.close();
     const LaidOutTree tree = examine(name, false).tree;
+    asked += int(tree.elements.size());
     for (const LaidOutElement& element : tree.elements) {
         const bool mayStay = element.fate == Fate::Stays || element.fate == Fate::IsRemovedWithAnother;
         const TextNode* const particle = writer.ParticleAt(element.particle.line);
@@ -186,10 +188,12 @@ Staying stayingIn(const SchemaWriter& writer, const QByteArray& text, const QTem
 QByteArray written(const SchemaSet& set, MendedElement root, RewriteLog& log)
 {
     const QTemporaryDir folder;
+    int asked = 0;
     for (int round = 0;; ++round) {
         const SchemaWriter writer(set, log, root);
         const QByteArray text = writer.GetText().toUtf8();
-        const Staying staying = round < MostRounds ? stayingIn(writer, text, folder) : Staying();
+        const bool isToAsk = round < MostRounds && asked < MaxAskedElements;
+        const Staying staying = isToAsk ? stayingIn(writer, text, folder, asked) : Staying();
         if (staying.IsEmpty()) {
             return text;
         }
@@ -240,7 +244,7 @@ void mendSet(const SchemaSet& set, const MendOptions& options, Mending& mending)
 Mending mend(const QString& file, const MendOptions& options)
 {
     Mending mending;
-    const Examination examination = examine(file);
+    const Examination examination = examine(file, false);
     if (!examination.IsReadable()) {
         mending.refusal = examination.unreadableReason;
         return mending;
@@ -251,7 +255,7 @@ Mending mend(const QString& file, const MendOptions& options)
     }
     const bool isRoot = options.root.isEmpty()
         || (!examination.tree.IsEmpty() && examination.tree.elements.front().name == options.root);
-    if (isRoot && isWithoutFindings(examination)) {
+    if (isRoot && isWithoutFindings(examination) && isWithoutFindings(examine(file))) {
         mending.text = set.GetIncludes().empty() ? bytesOf(set.GetTop()) : mergedText(set.GetTop());
         return mending;
     }

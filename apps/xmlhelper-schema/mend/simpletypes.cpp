@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include <QRegularExpression>
-
 #include "mendwords.h"
 
 namespace schemadoctor {
@@ -60,7 +58,7 @@ SimpleValue SimpleTypes::OfDefinition(const TextNode& simpleType)
 {
     SimpleValue value;
     value.base = QStringLiteral("string");
-    if (m_depth < MostTypesInsideOfEachOther) {
+    if (m_depth < MostTypesInsideOfEachOther && --m_typesLeft > 0) {
         ++m_depth;
         value = read(simpleType);
         --m_depth;
@@ -137,8 +135,7 @@ SimpleValue SimpleTypes::ofList(const TextNode& list)
 SimpleValue SimpleTypes::ofUnion(const TextNode& unionTag)
 {
     std::vector<SimpleValue> members;
-    const QStringList names
-        = unionTag.Value("memberTypes").split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
+    const QStringList names = unionTag.Value("memberTypes").simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (const QString& name : names) {
         members.push_back(Of(unionTag, name));
     }

@@ -1,6 +1,7 @@
 #ifndef SCHEMADOCTOR_SIMPLETYPES_H
 #define SCHEMADOCTOR_SIMPLETYPES_H
 
+#include "mendlimits.h"
 #include "rewritelog.h"
 #include "schemaset.h"
 #include "simplevalue.h"
@@ -27,6 +28,9 @@ public:
     /// Adds the facets inside of a restriction to those of its base.
     void Restrict(SimpleValue& value, const TextNode& restriction) const;
 
+    /// Whether there were more types inside of types than are followed.
+    bool IsBeyondLimit() const { return m_typesLeft <= 0; }
+
 private:
     SimpleValue read(const TextNode& simpleType);
     SimpleValue ofRestriction(const TextNode& restriction);
@@ -36,6 +40,7 @@ private:
 
     const SchemaSet& m_set;
     RewriteLog& m_log;
+    int m_typesLeft = MaxFollowed; ///< to be followed
     int m_depth = 0; ///< of types inside of each other: a circle has no end
 };
 
