@@ -86,9 +86,9 @@ CommandLine commandLineOf(const QStringList& arguments)
     line.isToProve = !parser.isSet(noProof);
     line.isAsButton = parser.isSet(asButton);
     line.schema = parser.positionalArguments().constFirst();
-    const bool isJsonOfMending = parser.isSet(json) && parser.isSet(mend);
-    if (int(parser.isSet(tree)) + int(parser.isSet(json) && !isJsonOfMending) + int(parser.isSet(html))
-            + int(parser.isSet(window)) + int(parser.isSet(fill)) + int(parser.isSet(mend))
+    const bool isOfMending = parser.isSet(mend) && parser.isSet(json) != parser.isSet(html);
+    if (int(parser.isSet(tree)) + int(parser.isSet(json)) + int(parser.isSet(html)) + int(parser.isSet(window))
+            + int(parser.isSet(fill)) + int(parser.isSet(mend) && !isOfMending)
         > 1) {
         return wrong(QStringLiteral("Give one of --tree, --json, --html, --window, --fill and --mend."));
     }
@@ -98,7 +98,8 @@ CommandLine commandLineOf(const QStringList& arguments)
         : parser.isSet(window)     ? CommandLine::Show::Window
         : parser.isSet(fill)       ? CommandLine::Show::Fill
                                    : CommandLine::Show::Tree;
-    line.otherFile = parser.value(parser.isSet(html) ? html : parser.isSet(mend) ? mend : fill);
+    line.otherFile = parser.value(parser.isSet(mend) ? mend : parser.isSet(html) ? html : fill);
+    line.page = parser.isSet(mend) ? parser.value(html) : QString();
     return line;
 }
 

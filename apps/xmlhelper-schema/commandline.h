@@ -16,6 +16,7 @@ struct CommandLine
     Show show = Show::Tree;
     QString schema;
     QString otherFile; ///< the page or the schema to write, or the values to read
+    QString page; ///< to show what was mended; empty for none
     bool isForPrograms = false; ///< what was mended is told as JSON
     MendOptions mending;
     bool isToProve = true; ///< by reports that are filled on trial

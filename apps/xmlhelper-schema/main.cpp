@@ -15,6 +15,7 @@
 #include "language.h"
 #include "mend/mendfile.h"
 #include "mend/mendrendering.h"
+#include "mendpage.h"
 #include "render/jsonrendering.h"
 #include "render/textrendering.h"
 
@@ -40,16 +41,15 @@ int exitStatusOf(DryRunEnd end)
     }
 }
 
-int writePage(const QString& fileName, const Examination& examination)
+bool writePage(const QString& fileName, const QByteArray& page)
 {
-    const QByteArray page = htmlOf(examination);
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly) || file.write(page) != page.size() || !file.commit()) {
         std::fprintf(stderr, "xmlhelper-schema: %s: %s\n", qUtf8Printable(fileName),
                      qUtf8Printable(file.errorString()));
-        return Unreadable;
+        return false;
     }
-    return exitStatusOf(examination);
+    return true;
 }
 
 int writeMended(const CommandLine& line)
@@ -60,8 +60,10 @@ int writeMended(const CommandLine& line)
         print(QString::fromUtf8(jsonOf(result.mending, result.examination)));
     } else if (isRefused) {
         std::fprintf(stderr, "xmlhelper-schema: %s\n", qUtf8Printable(result.mending.refusal));
-    } else {
+    } else if (line.page.isEmpty()) {
         print(textOf(result.mending, result.examination));
+    } else if (!writePage(line.page, htmlOf(result.mending))) {
+        return Unreadable;
     }
     return isRefused ? Unreadable : exitStatusOf(result.examination);
 }
@@ -90,7 +92,7 @@ int run(const CommandLine& line)
     const Examination examination = examine(line.schema, line.isToProve, line.isAsButton);
     switch (line.show) {
     case CommandLine::Show::Html:
-        return writePage(line.otherFile, examination);
+        return writePage(line.otherFile, htmlOf(examination)) ? exitStatusOf(examination) : Unreadable;
     case CommandLine::Show::Json:
         print(QString::fromUtf8(jsonOf(examination)));
         break;

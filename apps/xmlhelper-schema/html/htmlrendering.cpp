@@ -4,18 +4,11 @@
 #include <map>
 #include <utility>
 
-#include <QCryptographicHash>
-#include <QFile>
 #include <QHash>
 
 #include "htmlwriter.h"
 #include "model/texts.h"
-
-// Resources of a static library have to be asked for, outside of any namespace.
-static void initialiseResources()
-{
-    Q_INIT_RESOURCE(page);
-}
+#include "pageparts.h"
 
 namespace schemadoctor {
 
@@ -25,18 +18,6 @@ constexpr int shownElements = 10000;
 constexpr int shownFindings = 5000;
 constexpr int shownCharacters = 4 * 1024 * 1024;
 constexpr int unfoldedElements = 300; // a longer tree starts folded below its first level
-
-QString resource(const QString& name)
-{
-    QFile file(QStringLiteral(":/xmlhelper-schema/") + name);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-QString hashOf(const QString& content)
-{
-    const QByteArray hash = QCryptographicHash::hash(content.toUtf8(), QCryptographicHash::Sha256);
-    return QStringLiteral("'sha256-%1'").arg(QString::fromLatin1(hash.toBase64()));
-}
 
 QString wordsForMany(Severity severity)
 {
@@ -555,7 +536,6 @@ private:
 
 QByteArray htmlOf(const Examination& examination)
 {
-    initialiseResources();
     return Page(examination).Write().toUtf8();
 }
 

@@ -251,7 +251,7 @@ Mending mend(const QString& file, const MendOptions& options)
     }
     const SchemaSet set(file);
     for (const TextFile* const one : set.GetFiles()) {
-        mending.files.append(one->name);
+        mending.texts[one->name] = one->text;
     }
     const bool isRoot = options.root.isEmpty()
         || (!examination.tree.IsEmpty() && examination.tree.elements.front().name == options.root);

@@ -1,9 +1,10 @@
 #ifndef SCHEMADOCTOR_MEND_H
 #define SCHEMADOCTOR_MEND_H
 
+#include <map>
+
 #include <QByteArray>
 #include <QString>
-#include <QStringList>
 #include <QVector>
 
 #include "rewrite.h"
@@ -25,7 +26,7 @@ struct Mending
     QByteArray text; ///< of the mended schema
     QVector<Rewrite> rewrites; ///< in the order of files and lines; none: the declarations are as they were
     QVector<Rewrite> left; ///< what would have changed the format, and was not made
-    QStringList files; ///< that were read: none of them may be written over
+    std::map<QString, QString> texts; ///< of the files that were read, by name: none of them may be written over
 };
 
 /// Writes any XML Schema, with all that it includes, as one schema in what the library understands. One that the doctor

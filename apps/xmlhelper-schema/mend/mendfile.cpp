@@ -37,8 +37,8 @@ MendedFile mendInto(const QString& out, const QString& file, const MendOptions& 
     if (!mending.refusal.isEmpty()) {
         return result;
     }
-    if (std::any_of(mending.files.begin(), mending.files.end(),
-                    [&out](const QString& read) { return isSameFile(out, read); })) {
+    if (std::any_of(mending.texts.begin(), mending.texts.end(),
+                    [&out](const auto& read) { return isSameFile(out, read.first); })) {
         mending.refusal = Mend::tr("%1 is a file of the schema itself, and is not written over.").arg(out);
         return result;
     }

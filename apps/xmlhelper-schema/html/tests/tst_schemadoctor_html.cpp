@@ -5,6 +5,7 @@
 
 #include "htmlrendering.h"
 #include "htmlwriter.h"
+#include "mendpage.h"
 #include "sampleexamination.h"
 
 using namespace schemadoctor;
@@ -48,6 +49,7 @@ private Q_SLOTS:
     void saysWhyTheSchemaCannotBeRead();
     void showsLargeSchemasInPart();
     void showsLongTextsInPart();
+    void listsWhatWasMendedBesideBothSchemas();
 };
 
 void TestHtmlRendering::escapes_data()
@@ -194,6 +196,20 @@ void TestHtmlRendering::showsLongTextsInPart()
     const QString page = pageOf(examination);
     QVERIFY(page.size() < 1024 * 1024);
     QVERIFY(page.contains(QLatin1String("Files that are too long for the page are left out.")));
+}
+
+void TestHtmlRendering::listsWhatWasMendedBesideBothSchemas()
+{
+    Mending mending;
+    mending.texts[QStringLiteral("/a.xsd")] = QStringLiteral("<first>\n<second>");
+    mending.text = "<mended>\n<more>";
+    mending.rewrites.append({{QStringLiteral("/a.xsd"), 2}, QStringLiteral("<old>"), QStringLiteral("new"), {}});
+    const QString page = QString::fromUtf8(htmlOf(mending));
+    QVERIFY(page.contains(QLatin1String("href=\"#t0-2\"")));
+    QVERIFY(page.contains(QLatin1String("<span id=\"t0-2\">&lt;second&gt;</span>")));
+    QVERIFY(page.contains(QLatin1String("<span id=\"m-2\">&lt;more&gt;</span>")));
+    QVERIFY(page.contains(QStringLiteral("&lt;old&gt; \u2192 new (reports stay valid by the original)")));
+    QVERIFY(!page.contains(QLatin1String("<script")));
 }
 
 QTEST_GUILESS_MAIN(TestHtmlRendering)
