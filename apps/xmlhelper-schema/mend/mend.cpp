@@ -36,6 +36,15 @@ QByteArray bytesOf(const TextFile& text)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+/// Whether the texts can be put together as they are: they are in one encoding.
+bool isMergeable(const SchemaSet& set)
+{
+    const std::vector<const TextFile*>& files = set.GetFiles();
+    return set.GetIncludes().empty() || std::none_of(files.begin(), files.end(), [](const TextFile* file) {
+               return file->text.contains(QChar(QChar::ReplacementCharacter));
+           });
+}
+
 /// The global declarations that something refers to.
 std::set<const TextNode*> referredIn(const SchemaSet& set)
 {
@@ -255,7 +264,7 @@ Mending mend(const QString& file, const MendOptions& options)
     }
     const bool isRoot = options.root.isEmpty()
         || (!examination.tree.IsEmpty() && examination.tree.elements.front().name == options.root);
-    if (isRoot && isWithoutFindings(examination) && isWithoutFindings(examine(file))) {
+    if (isRoot && isMergeable(set) && isWithoutFindings(examination) && isWithoutFindings(examine(file))) {
         mending.text = set.GetIncludes().empty() ? bytesOf(set.GetTop()) : mergedText(set.GetTop());
         return mending;
     }

@@ -68,6 +68,7 @@ private Q_SLOTS:
     void keepsWhatHasNoFindings_data();
     void keepsWhatHasNoFindings();
     void putsIncludesInTheirPlace();
+    void putsTextsOfOtherEncodingsTogether();
     void tells_data();
     void tells();
     void keepsTheFormatOnRequest();
@@ -149,6 +150,18 @@ void TestSchemaDoctorMend::putsIncludesInTheirPlace()
     QVERIFY(!written(m_folder.filePath(QStringLiteral("level.xsd")), schema(type)).isEmpty());
     const Mending mending = mended(schema("<xs:include schemaLocation='level.xsd'/>\n" + root));
     QCOMPARE(QString::fromUtf8(mending.text), QString::fromUtf8(schema(type.trimmed() + "\n" + root)));
+}
+
+void TestSchemaDoctorMend::putsTextsOfOtherEncodingsTogether()
+{
+    const QByteArray type = "<xs:simpleType name='Level'><xs:restriction base='xs:string'>"
+                            "<xs:enumeration value='\xe9'/></xs:restriction></xs:simpleType>";
+    QVERIFY(!written(m_folder.filePath(QStringLiteral("latin.xsd")),
+                     "<?xml version='1.0' encoding='ISO-8859-1'?>" + schema(type))
+                 .isEmpty());
+    const Mending mending = mended(
+        schema("<xs:include schemaLocation='latin.xsd'/>\n" + report("<xs:element name='Value' type='Level'/>")));
+    QVERIFY(mending.text.contains("<xs:enumeration value=\"\xc3\xa9\"/>"));
 }
 
 void TestSchemaDoctorMend::tells_data()
