@@ -24,6 +24,16 @@ QString textOf(const QVector<Rewrite>& rewrites, const QString& heading)
     return text;
 }
 
+/// Why findings remain.
+QString wordsForRest(const Mending& mending, const Examination& result)
+{
+    if (exitStatusOf(result) == NothingToSay) {
+        return QString();
+    }
+    return mending.left.isEmpty() ? Mend::tr("No other way of writing takes these findings away.\n")
+                                  : Mend::tr("More can be mended where the format may change.\n");
+}
+
 QJsonArray jsonOf(const QVector<Rewrite>& rewrites)
 {
     QJsonArray all;
@@ -50,9 +60,7 @@ QString textOf(const Mending& mending, const Examination& result)
     const QString none = mending.rewrites.isEmpty() ? Mend::tr("Nothing is written otherwise.\n") : QString();
     return none + textOf(mending.rewrites, Mend::tr("Written otherwise:"))
         + textOf(mending.left, Mend::tr("Left as it is, because it would change the format:"))
-        + Mend::tr("\nThe mended schema:\n") + findingsTextOf(result)
-        + (exitStatusOf(result) == NothingToSay ? QString()
-                                                : Mend::tr("No other way of writing takes these findings away.\n"));
+        + Mend::tr("\nThe mended schema:\n") + findingsTextOf(result) + wordsForRest(mending, result);
 }
 
 QByteArray jsonOf(const Mending& mending, const Examination& result)
