@@ -2,6 +2,441 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Mend</name>
+    <message>
+        <source>Written otherwise</source>
+        <translation>Anders geschrieben</translation>
+    </message>
+    <message>
+        <source>Left as it is, because it would change the format</source>
+        <translation>So gelassen, weil es das Format ändern würde</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>Mended</source>
+        <translation>Überarbeitet</translation>
+    </message>
+    <message>
+        <source>The mended schema</source>
+        <translation>Das überarbeitete Schema</translation>
+    </message>
+    <message>
+        <source>Mended schema</source>
+        <translation>Überarbeitetes Schema</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>its attributes</source>
+        <translation>seine Attribute</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>the attribute &apos;%1&apos; of another namespace</source>
+        <translation>das Attribut &apos;%1&apos; eines anderen Namensraums</translation>
+    </message>
+    <message>
+        <source>the prohibited attribute &apos;%1&apos;</source>
+        <translation>das verbotene Attribut &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the fixed value &apos;%1&apos;</source>
+        <translation>der feste Wert &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>an enumeration of this value</source>
+        <translation>eine Aufzählung dieses Werts</translation>
+    </message>
+    <message>
+        <source>the attribute &apos;%1&apos;</source>
+        <translation>das Attribut &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the facets of the attribute &apos;%1&apos;, whose name contains that of another</source>
+        <translation>die Facetten des Attributs &apos;%1&apos;, dessen Name den eines anderen enthält</translation>
+    </message>
+    <message>
+        <source>minOccurs and maxOccurs of %1</source>
+        <translation>minOccurs und maxOccurs von %1</translation>
+    </message>
+    <message>
+        <source>Written out, the groups and types hold each other more often than is followed.</source>
+        <translation>Ausgeschrieben enthalten sich die Gruppen und Typen öfter, als verfolgt wird.</translation>
+    </message>
+    <message>
+        <source>Written out, the schema has more than %1 elements.</source>
+        <translation>Ausgeschrieben hat das Schema mehr als %1 Elemente.</translation>
+    </message>
+    <message>
+        <source>Definitions contain each other more than %1 levels deep.</source>
+        <translation>Definitionen enthalten sich mehr als %1 Ebenen tief.</translation>
+    </message>
+    <message>
+        <source>an element that never occurs</source>
+        <translation>ein Element, das nie vorkommt</translation>
+    </message>
+    <message>
+        <source>the element &apos;%1&apos;, which is declared nowhere</source>
+        <translation>das Element &apos;%1&apos;, das nirgends deklariert ist</translation>
+    </message>
+    <message>
+        <source>an alternative that leads deeper</source>
+        <translation>eine Alternative, die tiefer führt</translation>
+    </message>
+    <message>
+        <source>xs:choice inside of xs:choice</source>
+        <translation>xs:choice in xs:choice</translation>
+    </message>
+    <message>
+        <source>one choice of all alternatives</source>
+        <translation>eine Auswahl aus allen Alternativen</translation>
+    </message>
+    <message>
+        <source>xs:choice inside of an alternative</source>
+        <translation>xs:choice in einer Alternative</translation>
+    </message>
+    <message>
+        <source>its first alternative</source>
+        <translation>seine erste Alternative</translation>
+    </message>
+    <message>
+        <source>its alternatives, each optional</source>
+        <translation>seine Alternativen, jede optional</translation>
+    </message>
+    <message>
+        <source>the group &apos;%1&apos;, which is defined nowhere</source>
+        <translation>die Gruppe &apos;%1&apos;, die nirgends definiert ist</translation>
+    </message>
+    <message>
+        <source>its elements</source>
+        <translation>ihre Elemente</translation>
+    </message>
+    <message>
+        <source>an xs:any that is required</source>
+        <translation>ein xs:any, das vorgeschrieben ist</translation>
+    </message>
+    <message>
+        <source>the substitution group of &apos;%1&apos;</source>
+        <translation>die Ersetzungsgruppe von &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>a choice of its elements</source>
+        <translation>eine Auswahl aus ihren Elementen</translation>
+    </message>
+    <message>
+        <source>a group that never occurs</source>
+        <translation>eine Gruppe, die nie vorkommt</translation>
+    </message>
+    <message>
+        <source>minOccurs and maxOccurs of &apos;%1&apos;</source>
+        <translation>minOccurs und maxOccurs von &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>one choice</source>
+        <translation>eine Auswahl</translation>
+    </message>
+    <message>
+        <source>its alternatives in their order, each optional</source>
+        <translation>seine Alternativen in ihrer Reihenfolge, jede optional</translation>
+    </message>
+    <message>
+        <source>minOccurs and maxOccurs of each element inside</source>
+        <translation>minOccurs und maxOccurs jedes Elements darin</translation>
+    </message>
+    <message>
+        <source>the group once</source>
+        <translation>die Gruppe einmal</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; a second time</source>
+        <translation>&apos;%1&apos; ein zweites Mal</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; inside of itself</source>
+        <translation>&apos;%1&apos; in sich selbst</translation>
+    </message>
+    <message>
+        <source>%1 levels</source>
+        <translation>%1 Ebenen</translation>
+    </message>
+    <message>
+        <source>the complex type &apos;%1&apos;</source>
+        <translation>der komplexe Typ &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>written inside of the elements that are of it</source>
+        <translation>in die Elemente geschrieben, die von ihm sind</translation>
+    </message>
+    <message>
+        <source>an abstract type</source>
+        <translation>ein abstrakter Typ</translation>
+    </message>
+    <message>
+        <source>the type itself</source>
+        <translation>der Typ selbst</translation>
+    </message>
+    <message>
+        <source>mixed content</source>
+        <translation>gemischter Inhalt</translation>
+    </message>
+    <message>
+        <source>the type &apos;%1&apos;, which is defined nowhere</source>
+        <translation>der Typ &apos;%1&apos;, der nirgends definiert ist</translation>
+    </message>
+    <message>
+        <source>the content written out</source>
+        <translation>der Inhalt ausgeschrieben</translation>
+    </message>
+    <message>
+        <source>an abstract element</source>
+        <translation>ein abstraktes Element</translation>
+    </message>
+    <message>
+        <source>the element itself</source>
+        <translation>das Element selbst</translation>
+    </message>
+    <message>
+        <source>the element &apos;%1&apos;</source>
+        <translation>das Element &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the attribute &apos;%1&apos; with a type of its own</source>
+        <translation>das Attribut &apos;%1&apos; mit eigenem Typ</translation>
+    </message>
+    <message>
+        <source>a global attribute</source>
+        <translation>ein globales Attribut</translation>
+    </message>
+    <message>
+        <source>%1, whose name another has</source>
+        <translation>%1, dessen Namen auch anderes trägt</translation>
+    </message>
+    <message>
+        <source>an attribute of the type xs:%1</source>
+        <translation>ein Attribut des Typs xs:%1</translation>
+    </message>
+    <message>
+        <source>the type &apos;%1&apos;</source>
+        <translation>der Typ &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>a type without a name</source>
+        <translation>ein Typ ohne Namen</translation>
+    </message>
+    <message>
+        <source>the type &apos;%1&apos; behind its use</source>
+        <translation>der Typ &apos;%1&apos; hinter seiner Verwendung</translation>
+    </message>
+    <message>
+        <source>in front of it</source>
+        <translation>davor</translation>
+    </message>
+    <message>
+        <source>what stands in that file</source>
+        <translation>was in jener Datei steht</translation>
+    </message>
+    <message>
+        <source>nothing: it is not read</source>
+        <translation>nichts: sie wird nicht gelesen</translation>
+    </message>
+    <message>
+        <source>tags without the prefix xs:</source>
+        <translation>Tags ohne das Präfix xs:</translation>
+    </message>
+    <message>
+        <source>the prefix xs:</source>
+        <translation>das Präfix xs:</translation>
+    </message>
+    <message>
+        <source>xs:%1 &apos;%2&apos;, to which nothing refers</source>
+        <translation>xs:%1 &apos;%2&apos;, worauf nichts verweist</translation>
+    </message>
+    <message>
+        <source>nothing: reports begin with &apos;%1&apos;</source>
+        <translation>nichts: Berichte beginnen mit &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the alternative &apos;%1&apos;, which holds no value</source>
+        <translation>die Alternative &apos;%1&apos;, die keinen Wert enthält</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;, which may be missing</source>
+        <translation>&apos;%1&apos;, das fehlen darf</translation>
+    </message>
+    <message>
+        <source>required</source>
+        <translation>vorgeschrieben</translation>
+    </message>
+    <message>
+        <source>No report is finite with &apos;%1&apos; inside of itself %2 times.</source>
+        <translation>Kein Bericht ist endlich, in dem &apos;%1&apos; %2-mal in sich selbst steht.</translation>
+    </message>
+    <message>
+        <source>The schema declares no global element.</source>
+        <translation>Das Schema deklariert kein globales Element.</translation>
+    </message>
+    <message>
+        <source>There is no global element &apos;%1&apos;.</source>
+        <translation>Es gibt kein globales Element &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>%1 is a file of the schema itself, and is not written over.</source>
+        <translation>%1 ist eine Datei des Schemas selbst und wird nicht überschrieben.</translation>
+    </message>
+    <message>
+        <source>%1:%2: %3 -&gt; %4 [%5]
+</source>
+        <translation>%1:%2: %3 -&gt; %4 [%5]
+</translation>
+    </message>
+    <message>
+        <source>No other way of writing takes these findings away.
+</source>
+        <translation>Keine andere Schreibweise beseitigt diese Befunde.
+</translation>
+    </message>
+    <message>
+        <source>More can be mended where the format may change.
+</source>
+        <translation>Mehr lässt sich überarbeiten, wo sich das Format ändern darf.
+</translation>
+    </message>
+    <message>
+        <source>Nothing is written otherwise.
+</source>
+        <translation>Nichts ist anders geschrieben.
+</translation>
+    </message>
+    <message>
+        <source>Written otherwise:</source>
+        <translation>Anders geschrieben:</translation>
+    </message>
+    <message>
+        <source>Left as it is, because it would change the format:</source>
+        <translation>So gelassen, weil es das Format ändern würde:</translation>
+    </message>
+    <message>
+        <source>
+The mended schema:
+</source>
+        <translation>
+Das überarbeitete Schema:
+</translation>
+    </message>
+    <message>
+        <source>reports stay valid by the original</source>
+        <translation>Berichte bleiben nach dem Original gültig</translation>
+    </message>
+    <message>
+        <source>changes the format</source>
+        <translation>ändert das Format</translation>
+    </message>
+    <message>
+        <source>The files are longer than the %1 bytes that are mended.</source>
+        <translation>Die Dateien sind länger als die %1 Bytes, die überarbeitet werden.</translation>
+    </message>
+    <message>
+        <source>%1 is no well-formed XML.</source>
+        <translation>%1 ist kein wohlgeformtes XML.</translation>
+    </message>
+    <message>
+        <source>%1 is no XML Schema.</source>
+        <translation>%1 ist kein XML-Schema.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;, required %2 times</source>
+        <translation>&apos;%1&apos;, %2-mal vorgeschrieben</translation>
+    </message>
+    <message>
+        <source>required once</source>
+        <translation>einmal vorgeschrieben</translation>
+    </message>
+    <message>
+        <source>a reference to &apos;%1&apos;</source>
+        <translation>ein Verweis auf &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the element in its place</source>
+        <translation>das Element an seiner Stelle</translation>
+    </message>
+    <message>
+        <source>a global element in front of a reference to it</source>
+        <translation>ein globales Element vor einem Verweis darauf</translation>
+    </message>
+    <message>
+        <source>the target namespace &apos;%1&apos;</source>
+        <translation>der Zielnamensraum &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>no namespace</source>
+        <translation>kein Namensraum</translation>
+    </message>
+    <message>
+        <source>a restriction of the type &apos;%1&apos;</source>
+        <translation>eine Einschränkung des Typs &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>a restriction of xs:%1 with the facets of both</source>
+        <translation>eine Einschränkung von xs:%1 mit den Facetten beider</translation>
+    </message>
+    <message>
+        <source>a single item</source>
+        <translation>ein einzelner Eintrag</translation>
+    </message>
+    <message>
+        <source>xs:string, which holds the items as a text</source>
+        <translation>xs:string, das die Einträge als Text enthält</translation>
+    </message>
+    <message>
+        <source>one enumeration of all texts</source>
+        <translation>eine Aufzählung aller Texte</translation>
+    </message>
+    <message>
+        <source>its first member, a type on xs:%1</source>
+        <translation>ihr erstes Mitglied, ein Typ auf xs:%1</translation>
+    </message>
+    <message>
+        <source>an attribute of the type xs:boolean</source>
+        <translation>ein Attribut des Typs xs:boolean</translation>
+    </message>
+    <message>
+        <source>the texts true and false</source>
+        <translation>die Texte true und false</translation>
+    </message>
+    <message>
+        <source>an attribute of the type xs:time</source>
+        <translation>ein Attribut des Typs xs:time</translation>
+    </message>
+    <message>
+        <source>an enumeration of %1</source>
+        <translation>eine Aufzählung von %1</translation>
+    </message>
+    <message>
+        <source>an enumeration of xs:string</source>
+        <translation>eine Aufzählung von xs:string</translation>
+    </message>
+    <message>
+        <source>the enumeration alone</source>
+        <translation>die Aufzählung allein</translation>
+    </message>
+    <message>
+        <source>xs:integer with %1</source>
+        <translation>xs:integer mit %1</translation>
+    </message>
+    <message>
+        <source>%1 of an attribute</source>
+        <translation>%1 eines Attributs</translation>
+    </message>
+</context>
+<context>
     <name>SchemaDoctor</name>
     <message>
         <source>line %1: %2</source>

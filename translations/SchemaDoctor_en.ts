@@ -2,6 +2,441 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>Mend</name>
+    <message>
+        <source>Written otherwise</source>
+        <translation>Written otherwise</translation>
+    </message>
+    <message>
+        <source>Left as it is, because it would change the format</source>
+        <translation>Left as it is, because it would change the format</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>Mended</source>
+        <translation>Mended</translation>
+    </message>
+    <message>
+        <source>The mended schema</source>
+        <translation>The mended schema</translation>
+    </message>
+    <message>
+        <source>Mended schema</source>
+        <translation>Mended schema</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Line %1</translation>
+    </message>
+    <message>
+        <source>its attributes</source>
+        <translation>its attributes</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nothing</translation>
+    </message>
+    <message>
+        <source>the attribute &apos;%1&apos; of another namespace</source>
+        <translation>the attribute &apos;%1&apos; of another namespace</translation>
+    </message>
+    <message>
+        <source>the prohibited attribute &apos;%1&apos;</source>
+        <translation>the prohibited attribute &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the fixed value &apos;%1&apos;</source>
+        <translation>the fixed value &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>an enumeration of this value</source>
+        <translation>an enumeration of this value</translation>
+    </message>
+    <message>
+        <source>the attribute &apos;%1&apos;</source>
+        <translation>the attribute &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the facets of the attribute &apos;%1&apos;, whose name contains that of another</source>
+        <translation>the facets of the attribute &apos;%1&apos;, whose name contains that of another</translation>
+    </message>
+    <message>
+        <source>minOccurs and maxOccurs of %1</source>
+        <translation>minOccurs and maxOccurs of %1</translation>
+    </message>
+    <message>
+        <source>Written out, the groups and types hold each other more often than is followed.</source>
+        <translation>Written out, the groups and types hold each other more often than is followed.</translation>
+    </message>
+    <message>
+        <source>Written out, the schema has more than %1 elements.</source>
+        <translation>Written out, the schema has more than %1 elements.</translation>
+    </message>
+    <message>
+        <source>Definitions contain each other more than %1 levels deep.</source>
+        <translation>Definitions contain each other more than %1 levels deep.</translation>
+    </message>
+    <message>
+        <source>an element that never occurs</source>
+        <translation>an element that never occurs</translation>
+    </message>
+    <message>
+        <source>the element &apos;%1&apos;, which is declared nowhere</source>
+        <translation>the element &apos;%1&apos;, which is declared nowhere</translation>
+    </message>
+    <message>
+        <source>an alternative that leads deeper</source>
+        <translation>an alternative that leads deeper</translation>
+    </message>
+    <message>
+        <source>xs:choice inside of xs:choice</source>
+        <translation>xs:choice inside of xs:choice</translation>
+    </message>
+    <message>
+        <source>one choice of all alternatives</source>
+        <translation>one choice of all alternatives</translation>
+    </message>
+    <message>
+        <source>xs:choice inside of an alternative</source>
+        <translation>xs:choice inside of an alternative</translation>
+    </message>
+    <message>
+        <source>its first alternative</source>
+        <translation>its first alternative</translation>
+    </message>
+    <message>
+        <source>its alternatives, each optional</source>
+        <translation>its alternatives, each optional</translation>
+    </message>
+    <message>
+        <source>the group &apos;%1&apos;, which is defined nowhere</source>
+        <translation>the group &apos;%1&apos;, which is defined nowhere</translation>
+    </message>
+    <message>
+        <source>its elements</source>
+        <translation>its elements</translation>
+    </message>
+    <message>
+        <source>an xs:any that is required</source>
+        <translation>an xs:any that is required</translation>
+    </message>
+    <message>
+        <source>the substitution group of &apos;%1&apos;</source>
+        <translation>the substitution group of &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>a choice of its elements</source>
+        <translation>a choice of its elements</translation>
+    </message>
+    <message>
+        <source>a group that never occurs</source>
+        <translation>a group that never occurs</translation>
+    </message>
+    <message>
+        <source>minOccurs and maxOccurs of &apos;%1&apos;</source>
+        <translation>minOccurs and maxOccurs of &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>one choice</source>
+        <translation>one choice</translation>
+    </message>
+    <message>
+        <source>its alternatives in their order, each optional</source>
+        <translation>its alternatives in their order, each optional</translation>
+    </message>
+    <message>
+        <source>minOccurs and maxOccurs of each element inside</source>
+        <translation>minOccurs and maxOccurs of each element inside</translation>
+    </message>
+    <message>
+        <source>the group once</source>
+        <translation>the group once</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; a second time</source>
+        <translation>&apos;%1&apos; a second time</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; inside of itself</source>
+        <translation>&apos;%1&apos; inside of itself</translation>
+    </message>
+    <message>
+        <source>%1 levels</source>
+        <translation>%1 levels</translation>
+    </message>
+    <message>
+        <source>the complex type &apos;%1&apos;</source>
+        <translation>the complex type &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>written inside of the elements that are of it</source>
+        <translation>written inside of the elements that are of it</translation>
+    </message>
+    <message>
+        <source>an abstract type</source>
+        <translation>an abstract type</translation>
+    </message>
+    <message>
+        <source>the type itself</source>
+        <translation>the type itself</translation>
+    </message>
+    <message>
+        <source>mixed content</source>
+        <translation>mixed content</translation>
+    </message>
+    <message>
+        <source>the type &apos;%1&apos;, which is defined nowhere</source>
+        <translation>the type &apos;%1&apos;, which is defined nowhere</translation>
+    </message>
+    <message>
+        <source>the content written out</source>
+        <translation>the content written out</translation>
+    </message>
+    <message>
+        <source>an abstract element</source>
+        <translation>an abstract element</translation>
+    </message>
+    <message>
+        <source>the element itself</source>
+        <translation>the element itself</translation>
+    </message>
+    <message>
+        <source>the element &apos;%1&apos;</source>
+        <translation>the element &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the attribute &apos;%1&apos; with a type of its own</source>
+        <translation>the attribute &apos;%1&apos; with a type of its own</translation>
+    </message>
+    <message>
+        <source>a global attribute</source>
+        <translation>a global attribute</translation>
+    </message>
+    <message>
+        <source>%1, whose name another has</source>
+        <translation>%1, whose name another has</translation>
+    </message>
+    <message>
+        <source>an attribute of the type xs:%1</source>
+        <translation>an attribute of the type xs:%1</translation>
+    </message>
+    <message>
+        <source>the type &apos;%1&apos;</source>
+        <translation>the type &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>a type without a name</source>
+        <translation>a type without a name</translation>
+    </message>
+    <message>
+        <source>the type &apos;%1&apos; behind its use</source>
+        <translation>the type &apos;%1&apos; behind its use</translation>
+    </message>
+    <message>
+        <source>in front of it</source>
+        <translation>in front of it</translation>
+    </message>
+    <message>
+        <source>what stands in that file</source>
+        <translation>what stands in that file</translation>
+    </message>
+    <message>
+        <source>nothing: it is not read</source>
+        <translation>nothing: it is not read</translation>
+    </message>
+    <message>
+        <source>tags without the prefix xs:</source>
+        <translation>tags without the prefix xs:</translation>
+    </message>
+    <message>
+        <source>the prefix xs:</source>
+        <translation>the prefix xs:</translation>
+    </message>
+    <message>
+        <source>xs:%1 &apos;%2&apos;, to which nothing refers</source>
+        <translation>xs:%1 &apos;%2&apos;, to which nothing refers</translation>
+    </message>
+    <message>
+        <source>nothing: reports begin with &apos;%1&apos;</source>
+        <translation>nothing: reports begin with &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the alternative &apos;%1&apos;, which holds no value</source>
+        <translation>the alternative &apos;%1&apos;, which holds no value</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;, which may be missing</source>
+        <translation>&apos;%1&apos;, which may be missing</translation>
+    </message>
+    <message>
+        <source>required</source>
+        <translation>required</translation>
+    </message>
+    <message>
+        <source>No report is finite with &apos;%1&apos; inside of itself %2 times.</source>
+        <translation>No report is finite with &apos;%1&apos; inside of itself %2 times.</translation>
+    </message>
+    <message>
+        <source>The schema declares no global element.</source>
+        <translation>The schema declares no global element.</translation>
+    </message>
+    <message>
+        <source>There is no global element &apos;%1&apos;.</source>
+        <translation>There is no global element &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>%1 is a file of the schema itself, and is not written over.</source>
+        <translation>%1 is a file of the schema itself, and is not written over.</translation>
+    </message>
+    <message>
+        <source>%1:%2: %3 -&gt; %4 [%5]
+</source>
+        <translation>%1:%2: %3 -&gt; %4 [%5]
+</translation>
+    </message>
+    <message>
+        <source>No other way of writing takes these findings away.
+</source>
+        <translation>No other way of writing takes these findings away.
+</translation>
+    </message>
+    <message>
+        <source>More can be mended where the format may change.
+</source>
+        <translation>More can be mended where the format may change.
+</translation>
+    </message>
+    <message>
+        <source>Nothing is written otherwise.
+</source>
+        <translation>Nothing is written otherwise.
+</translation>
+    </message>
+    <message>
+        <source>Written otherwise:</source>
+        <translation>Written otherwise:</translation>
+    </message>
+    <message>
+        <source>Left as it is, because it would change the format:</source>
+        <translation>Left as it is, because it would change the format:</translation>
+    </message>
+    <message>
+        <source>
+The mended schema:
+</source>
+        <translation>
+The mended schema:
+</translation>
+    </message>
+    <message>
+        <source>reports stay valid by the original</source>
+        <translation>reports stay valid by the original</translation>
+    </message>
+    <message>
+        <source>changes the format</source>
+        <translation>changes the format</translation>
+    </message>
+    <message>
+        <source>The files are longer than the %1 bytes that are mended.</source>
+        <translation>The files are longer than the %1 bytes that are mended.</translation>
+    </message>
+    <message>
+        <source>%1 is no well-formed XML.</source>
+        <translation>%1 is no well-formed XML.</translation>
+    </message>
+    <message>
+        <source>%1 is no XML Schema.</source>
+        <translation>%1 is no XML Schema.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;, required %2 times</source>
+        <translation>&apos;%1&apos;, required %2 times</translation>
+    </message>
+    <message>
+        <source>required once</source>
+        <translation>required once</translation>
+    </message>
+    <message>
+        <source>a reference to &apos;%1&apos;</source>
+        <translation>a reference to &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the element in its place</source>
+        <translation>the element in its place</translation>
+    </message>
+    <message>
+        <source>a global element in front of a reference to it</source>
+        <translation>a global element in front of a reference to it</translation>
+    </message>
+    <message>
+        <source>the target namespace &apos;%1&apos;</source>
+        <translation>the target namespace &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>no namespace</source>
+        <translation>no namespace</translation>
+    </message>
+    <message>
+        <source>a restriction of the type &apos;%1&apos;</source>
+        <translation>a restriction of the type &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>a restriction of xs:%1 with the facets of both</source>
+        <translation>a restriction of xs:%1 with the facets of both</translation>
+    </message>
+    <message>
+        <source>a single item</source>
+        <translation>a single item</translation>
+    </message>
+    <message>
+        <source>xs:string, which holds the items as a text</source>
+        <translation>xs:string, which holds the items as a text</translation>
+    </message>
+    <message>
+        <source>one enumeration of all texts</source>
+        <translation>one enumeration of all texts</translation>
+    </message>
+    <message>
+        <source>its first member, a type on xs:%1</source>
+        <translation>its first member, a type on xs:%1</translation>
+    </message>
+    <message>
+        <source>an attribute of the type xs:boolean</source>
+        <translation>an attribute of the type xs:boolean</translation>
+    </message>
+    <message>
+        <source>the texts true and false</source>
+        <translation>the texts true and false</translation>
+    </message>
+    <message>
+        <source>an attribute of the type xs:time</source>
+        <translation>an attribute of the type xs:time</translation>
+    </message>
+    <message>
+        <source>an enumeration of %1</source>
+        <translation>an enumeration of %1</translation>
+    </message>
+    <message>
+        <source>an enumeration of xs:string</source>
+        <translation>an enumeration of xs:string</translation>
+    </message>
+    <message>
+        <source>the enumeration alone</source>
+        <translation>the enumeration alone</translation>
+    </message>
+    <message>
+        <source>xs:integer with %1</source>
+        <translation>xs:integer with %1</translation>
+    </message>
+    <message>
+        <source>%1 of an attribute</source>
+        <translation>%1 of an attribute</translation>
+    </message>
+</context>
+<context>
     <name>SchemaDoctor</name>
     <message>
         <source>line %1: %2</source>

@@ -2,6 +2,441 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>Mend</name>
+    <message>
+        <source>Written otherwise</source>
+        <translation>Écrit autrement</translation>
+    </message>
+    <message>
+        <source>Left as it is, because it would change the format</source>
+        <translation>Laissé tel quel, car cela changerait le format</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>Mended</source>
+        <translation>Corrigé</translation>
+    </message>
+    <message>
+        <source>The mended schema</source>
+        <translation>Le schéma corrigé</translation>
+    </message>
+    <message>
+        <source>Mended schema</source>
+        <translation>Schéma corrigé</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Ligne %1</translation>
+    </message>
+    <message>
+        <source>its attributes</source>
+        <translation>ses attributs</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>rien</translation>
+    </message>
+    <message>
+        <source>the attribute &apos;%1&apos; of another namespace</source>
+        <translation>l&apos;attribut &apos;%1&apos; d&apos;un autre espace de noms</translation>
+    </message>
+    <message>
+        <source>the prohibited attribute &apos;%1&apos;</source>
+        <translation>l&apos;attribut interdit &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the fixed value &apos;%1&apos;</source>
+        <translation>la valeur fixe &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>an enumeration of this value</source>
+        <translation>une énumération de cette valeur</translation>
+    </message>
+    <message>
+        <source>the attribute &apos;%1&apos;</source>
+        <translation>l&apos;attribut &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the facets of the attribute &apos;%1&apos;, whose name contains that of another</source>
+        <translation>les facettes de l&apos;attribut &apos;%1&apos;, dont le nom contient celui d&apos;un autre</translation>
+    </message>
+    <message>
+        <source>minOccurs and maxOccurs of %1</source>
+        <translation>minOccurs et maxOccurs de %1</translation>
+    </message>
+    <message>
+        <source>Written out, the groups and types hold each other more often than is followed.</source>
+        <translation>Écrits en entier, les groupes et les types se contiennent plus souvent qu&apos;on ne le suit.</translation>
+    </message>
+    <message>
+        <source>Written out, the schema has more than %1 elements.</source>
+        <translation>Écrit en entier, le schéma a plus de %1 éléments.</translation>
+    </message>
+    <message>
+        <source>Definitions contain each other more than %1 levels deep.</source>
+        <translation>Des définitions se contiennent sur plus de %1 niveaux.</translation>
+    </message>
+    <message>
+        <source>an element that never occurs</source>
+        <translation>un élément qui n&apos;apparaît jamais</translation>
+    </message>
+    <message>
+        <source>the element &apos;%1&apos;, which is declared nowhere</source>
+        <translation>l&apos;élément &apos;%1&apos;, qui n&apos;est déclaré nulle part</translation>
+    </message>
+    <message>
+        <source>an alternative that leads deeper</source>
+        <translation>une alternative qui mène plus profond</translation>
+    </message>
+    <message>
+        <source>xs:choice inside of xs:choice</source>
+        <translation>xs:choice dans xs:choice</translation>
+    </message>
+    <message>
+        <source>one choice of all alternatives</source>
+        <translation>un seul choix entre toutes les alternatives</translation>
+    </message>
+    <message>
+        <source>xs:choice inside of an alternative</source>
+        <translation>xs:choice dans une alternative</translation>
+    </message>
+    <message>
+        <source>its first alternative</source>
+        <translation>sa première alternative</translation>
+    </message>
+    <message>
+        <source>its alternatives, each optional</source>
+        <translation>ses alternatives, chacune facultative</translation>
+    </message>
+    <message>
+        <source>the group &apos;%1&apos;, which is defined nowhere</source>
+        <translation>le groupe &apos;%1&apos;, qui n&apos;est défini nulle part</translation>
+    </message>
+    <message>
+        <source>its elements</source>
+        <translation>ses éléments</translation>
+    </message>
+    <message>
+        <source>an xs:any that is required</source>
+        <translation>un xs:any obligatoire</translation>
+    </message>
+    <message>
+        <source>the substitution group of &apos;%1&apos;</source>
+        <translation>le groupe de substitution de &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>a choice of its elements</source>
+        <translation>un choix entre ses éléments</translation>
+    </message>
+    <message>
+        <source>a group that never occurs</source>
+        <translation>un groupe qui n&apos;apparaît jamais</translation>
+    </message>
+    <message>
+        <source>minOccurs and maxOccurs of &apos;%1&apos;</source>
+        <translation>minOccurs et maxOccurs de &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>one choice</source>
+        <translation>un seul choix</translation>
+    </message>
+    <message>
+        <source>its alternatives in their order, each optional</source>
+        <translation>ses alternatives dans leur ordre, chacune facultative</translation>
+    </message>
+    <message>
+        <source>minOccurs and maxOccurs of each element inside</source>
+        <translation>minOccurs et maxOccurs de chaque élément qu&apos;il contient</translation>
+    </message>
+    <message>
+        <source>the group once</source>
+        <translation>le groupe une fois</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; a second time</source>
+        <translation>&apos;%1&apos; une seconde fois</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; inside of itself</source>
+        <translation>&apos;%1&apos; dans lui-même</translation>
+    </message>
+    <message>
+        <source>%1 levels</source>
+        <translation>%1 niveaux</translation>
+    </message>
+    <message>
+        <source>the complex type &apos;%1&apos;</source>
+        <translation>le type complexe &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>written inside of the elements that are of it</source>
+        <translation>écrit dans les éléments de ce type</translation>
+    </message>
+    <message>
+        <source>an abstract type</source>
+        <translation>un type abstrait</translation>
+    </message>
+    <message>
+        <source>the type itself</source>
+        <translation>le type lui-même</translation>
+    </message>
+    <message>
+        <source>mixed content</source>
+        <translation>contenu mixte</translation>
+    </message>
+    <message>
+        <source>the type &apos;%1&apos;, which is defined nowhere</source>
+        <translation>le type &apos;%1&apos;, qui n&apos;est défini nulle part</translation>
+    </message>
+    <message>
+        <source>the content written out</source>
+        <translation>le contenu écrit en entier</translation>
+    </message>
+    <message>
+        <source>an abstract element</source>
+        <translation>un élément abstrait</translation>
+    </message>
+    <message>
+        <source>the element itself</source>
+        <translation>l&apos;élément lui-même</translation>
+    </message>
+    <message>
+        <source>the element &apos;%1&apos;</source>
+        <translation>l&apos;élément &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the attribute &apos;%1&apos; with a type of its own</source>
+        <translation>l&apos;attribut &apos;%1&apos; avec un type propre</translation>
+    </message>
+    <message>
+        <source>a global attribute</source>
+        <translation>un attribut global</translation>
+    </message>
+    <message>
+        <source>%1, whose name another has</source>
+        <translation>%1, dont un autre porte le nom</translation>
+    </message>
+    <message>
+        <source>an attribute of the type xs:%1</source>
+        <translation>un attribut du type xs:%1</translation>
+    </message>
+    <message>
+        <source>the type &apos;%1&apos;</source>
+        <translation>le type &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>a type without a name</source>
+        <translation>un type sans nom</translation>
+    </message>
+    <message>
+        <source>the type &apos;%1&apos; behind its use</source>
+        <translation>le type &apos;%1&apos; après son emploi</translation>
+    </message>
+    <message>
+        <source>in front of it</source>
+        <translation>avant celui-ci</translation>
+    </message>
+    <message>
+        <source>what stands in that file</source>
+        <translation>ce qui se trouve dans ce fichier</translation>
+    </message>
+    <message>
+        <source>nothing: it is not read</source>
+        <translation>rien : il n&apos;est pas lu</translation>
+    </message>
+    <message>
+        <source>tags without the prefix xs:</source>
+        <translation>balises sans le préfixe xs:</translation>
+    </message>
+    <message>
+        <source>the prefix xs:</source>
+        <translation>le préfixe xs:</translation>
+    </message>
+    <message>
+        <source>xs:%1 &apos;%2&apos;, to which nothing refers</source>
+        <translation>xs:%1 &apos;%2&apos;, auquel rien ne se réfère</translation>
+    </message>
+    <message>
+        <source>nothing: reports begin with &apos;%1&apos;</source>
+        <translation>rien : les rapports commencent par &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the alternative &apos;%1&apos;, which holds no value</source>
+        <translation>l&apos;alternative &apos;%1&apos;, qui ne contient aucune valeur</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;, which may be missing</source>
+        <translation>&apos;%1&apos;, qui peut manquer</translation>
+    </message>
+    <message>
+        <source>required</source>
+        <translation>obligatoire</translation>
+    </message>
+    <message>
+        <source>No report is finite with &apos;%1&apos; inside of itself %2 times.</source>
+        <translation>Aucun rapport n&apos;est fini avec &apos;%1&apos; %2 fois dans lui-même.</translation>
+    </message>
+    <message>
+        <source>The schema declares no global element.</source>
+        <translation>Le schéma ne déclare aucun élément global.</translation>
+    </message>
+    <message>
+        <source>There is no global element &apos;%1&apos;.</source>
+        <translation>Il n&apos;y a pas d&apos;élément global &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>%1 is a file of the schema itself, and is not written over.</source>
+        <translation>%1 est un fichier du schéma lui-même et n&apos;est pas écrasé.</translation>
+    </message>
+    <message>
+        <source>%1:%2: %3 -&gt; %4 [%5]
+</source>
+        <translation>%1:%2: %3 -&gt; %4 [%5]
+</translation>
+    </message>
+    <message>
+        <source>No other way of writing takes these findings away.
+</source>
+        <translation>Aucune autre écriture ne supprime ces constats.
+</translation>
+    </message>
+    <message>
+        <source>More can be mended where the format may change.
+</source>
+        <translation>On peut corriger davantage si le format peut changer.
+</translation>
+    </message>
+    <message>
+        <source>Nothing is written otherwise.
+</source>
+        <translation>Rien n&apos;est écrit autrement.
+</translation>
+    </message>
+    <message>
+        <source>Written otherwise:</source>
+        <translation>Écrit autrement :</translation>
+    </message>
+    <message>
+        <source>Left as it is, because it would change the format:</source>
+        <translation>Laissé tel quel, car cela changerait le format :</translation>
+    </message>
+    <message>
+        <source>
+The mended schema:
+</source>
+        <translation>
+Le schéma corrigé :
+</translation>
+    </message>
+    <message>
+        <source>reports stay valid by the original</source>
+        <translation>les rapports restent valides selon l&apos;original</translation>
+    </message>
+    <message>
+        <source>changes the format</source>
+        <translation>change le format</translation>
+    </message>
+    <message>
+        <source>The files are longer than the %1 bytes that are mended.</source>
+        <translation>Les fichiers dépassent les %1 octets que l&apos;on corrige.</translation>
+    </message>
+    <message>
+        <source>%1 is no well-formed XML.</source>
+        <translation>%1 n&apos;est pas du XML bien formé.</translation>
+    </message>
+    <message>
+        <source>%1 is no XML Schema.</source>
+        <translation>%1 n&apos;est pas un schéma XML.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;, required %2 times</source>
+        <translation>&apos;%1&apos;, obligatoire %2 fois</translation>
+    </message>
+    <message>
+        <source>required once</source>
+        <translation>obligatoire une fois</translation>
+    </message>
+    <message>
+        <source>a reference to &apos;%1&apos;</source>
+        <translation>une référence à &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the element in its place</source>
+        <translation>l&apos;élément à sa place</translation>
+    </message>
+    <message>
+        <source>a global element in front of a reference to it</source>
+        <translation>un élément global avant une référence à lui</translation>
+    </message>
+    <message>
+        <source>the target namespace &apos;%1&apos;</source>
+        <translation>l&apos;espace de noms cible &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>no namespace</source>
+        <translation>aucun espace de noms</translation>
+    </message>
+    <message>
+        <source>a restriction of the type &apos;%1&apos;</source>
+        <translation>une restriction du type &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>a restriction of xs:%1 with the facets of both</source>
+        <translation>une restriction de xs:%1 avec les facettes des deux</translation>
+    </message>
+    <message>
+        <source>a single item</source>
+        <translation>un seul élément de liste</translation>
+    </message>
+    <message>
+        <source>xs:string, which holds the items as a text</source>
+        <translation>xs:string, qui contient les éléments de liste comme texte</translation>
+    </message>
+    <message>
+        <source>one enumeration of all texts</source>
+        <translation>une énumération de tous les textes</translation>
+    </message>
+    <message>
+        <source>its first member, a type on xs:%1</source>
+        <translation>son premier membre, un type basé sur xs:%1</translation>
+    </message>
+    <message>
+        <source>an attribute of the type xs:boolean</source>
+        <translation>un attribut du type xs:boolean</translation>
+    </message>
+    <message>
+        <source>the texts true and false</source>
+        <translation>les textes true et false</translation>
+    </message>
+    <message>
+        <source>an attribute of the type xs:time</source>
+        <translation>un attribut du type xs:time</translation>
+    </message>
+    <message>
+        <source>an enumeration of %1</source>
+        <translation>une énumération de %1</translation>
+    </message>
+    <message>
+        <source>an enumeration of xs:string</source>
+        <translation>une énumération de xs:string</translation>
+    </message>
+    <message>
+        <source>the enumeration alone</source>
+        <translation>l&apos;énumération seule</translation>
+    </message>
+    <message>
+        <source>xs:integer with %1</source>
+        <translation>xs:integer avec %1</translation>
+    </message>
+    <message>
+        <source>%1 of an attribute</source>
+        <translation>%1 d&apos;un attribut</translation>
+    </message>
+</context>
+<context>
     <name>SchemaDoctor</name>
     <message>
         <source>line %1: %2</source>

@@ -225,7 +225,7 @@ void TestSchemaDoctorLanguages::pageNamesItsLanguage()
 void TestSchemaDoctorLanguages::windowSpeaksGerman()
 {
     const Speaking speaking(QStringLiteral("de"));
-    const DoctorWindow window(examine(schemaOf(QStringLiteral("optional-that-stays"))));
+    const DoctorWindow window(examine(schemaOf(QStringLiteral("optional-that-stays"))), {});
 
     QVERIFY(window.windowTitle().endsWith(QLatin1String("triggers.xsd - Schema-Doktor")));
     const auto* const findings = window.findChild<QTreeWidget*>(QStringLiteral("findings"));
