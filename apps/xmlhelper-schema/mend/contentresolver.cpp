@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 #include <set>
 
 #include <xmlhelper/constants_p.h>
@@ -26,7 +27,11 @@ int occursOf(const TextNode& tag, const char* attribute)
 
 int product(int left, int right)
 {
-    return left == 0 || right == 0 ? 0 : left == Unbounded || right == Unbounded ? Unbounded : left * right;
+    if (left == 0 || right == 0) {
+        return 0;
+    }
+    const qint64 product = left == Unbounded || right == Unbounded ? Unbounded : qint64(left) * right;
+    return int(std::min<qint64>(product, std::numeric_limits<int>::max()));
 }
 
 const TextNode* childOf(const TextNode& tag, std::initializer_list<const char*> names)

@@ -73,6 +73,7 @@ private Q_SLOTS:
     void tells();
     void keepsTheFormatOnRequest();
     void keepsReportsValidByTheOriginal();
+    void multipliesCountsWithinTheirRange();
     void unrollsToLevels_data();
     void unrollsToLevels();
     void takesTheRootThatIsNamed();
@@ -255,6 +256,16 @@ void TestSchemaDoctorMend::keepsReportsValidByTheOriginal()
         QVERIFY2(errors.isEmpty(), qPrintable(name + (errors.isEmpty() ? QString() : errors.first().sentence)));
     }
     QVERIFY(kept > 20);
+}
+
+void TestSchemaDoctorMend::multipliesCountsWithinTheirRange()
+{
+    const Mending mending
+        = mended(schema(report("<xs:sequence minOccurs='0' maxOccurs='100000'>"
+                               "<xs:element name='A' type='xs:string' minOccurs='0' maxOccurs='100000'/></xs:sequence>"
+                               "<xs:element name='B' type='xs:string'/>")));
+    QCOMPARE(mending.refusal, QString());
+    QVERIFY2(mending.text.contains("maxOccurs=\"2147483647\""), mending.text.constData());
 }
 
 void TestSchemaDoctorMend::unrollsToLevels_data()
