@@ -88,9 +88,9 @@ QString faultByType(const QString& text, const QString& type)
 {
     bool isNumber = true;
     if (type.contains(ShortType)) {
-        text.toShort(&isNumber);
+        static_cast<void>(text.toShort(&isNumber));
     } else if (isUniversal(type)) {
-        text.toLongLong(&isNumber);
+        static_cast<void>(text.toLongLong(&isNumber));
     } else if (isOf(type, Setter::Floating)) {
         bool isConverted = false;
         isNumber = std::isfinite(text.toDouble(&isConverted)) || !isConverted;
