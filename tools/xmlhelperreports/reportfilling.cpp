@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <type_traits>
+#include <utility>
 
 #include <QDateTime>
 #include <QFile>
@@ -437,7 +438,7 @@ void ReportFilling::finish()
 void ReportFilling::release(Instance& instance)
 {
     instance.element.removeChild(instance.element.firstChild());
-    for (const auto& [name, value] : instance.heldAttributes) {
+    for (const auto& [name, value] : std::as_const(instance.heldAttributes)) {
         instance.element.setAttribute(name, value);
     }
     instance.element.setAttribute(TypeAttribute(), instance.place->type);

@@ -40,7 +40,8 @@ ValuePath::Step parsedStep(const QString& text, bool& isValid)
         return {text, 0};
     }
     bool isNumber = false;
-    const int index = text.mid(bracket + 1, text.size() - bracket - 2).toInt(&isNumber);
+    const QString number = text.mid(bracket + 1, text.size() - bracket - 2);
+    const int index = number.toInt(&isNumber);
     isValid = isValid && bracket > 0 && text.endsWith(QLatin1Char(']')) && isNumber && index > 0;
     return {text.left(bracket), index};
 }

@@ -102,7 +102,7 @@ QString Attributes::allowedName(const MendedAttribute& attribute)
 {
     QString name = attribute.name;
     if (isAnnotation(name)) {
-        name = QLatin1String("its") + name.left(1).toUpper() + name.mid(1);
+        name = QLatin1String("its") + capitalised(name);
         name.replace(QLatin1String("enumeration"), QLatin1String("listing"));
         name.replace(QLatin1String("Enumeration"), QLatin1String("Listing"));
         name.replace(QLatin1String("clusive"), QLatin1String("cluding"));

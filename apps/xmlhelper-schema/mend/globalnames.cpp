@@ -1,6 +1,7 @@
 #include "globalnames.h"
 
 #include "mendwords.h"
+#include "names.h"
 
 namespace schemadoctor {
 
@@ -9,7 +10,7 @@ namespace {
 /// What a type is called first.
 QString wantedName(const MendedElement& element)
 {
-    const QString called = element.name.left(1).toUpper() + element.name.mid(1) + QLatin1String("Type");
+    const QString called = capitalised(element.name) + QLatin1String("Type");
     return element.value.name.isEmpty() ? called : element.value.name;
 }
 

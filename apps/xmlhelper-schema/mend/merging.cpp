@@ -71,7 +71,7 @@ QString merged(const QString& name, QSet<QString>& read, bool isTop)
     QString result;
     qint64 position = whole.begin;
     for (const IncludeSpan& include : spans.includes) {
-        result += text.mid(int(position), int(include.span.begin - position));
+        result.append(text.constData() + position, int(include.span.begin - position));
         position = include.span.end;
         const QString file = QFileInfo(name).dir().filePath(include.location);
         const qsizetype before = read.size();

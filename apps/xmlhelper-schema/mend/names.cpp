@@ -17,4 +17,12 @@ QString allowedXmlName(const QString& name)
     return isName(allowed) ? allowed : QLatin1Char('_') + allowed;
 }
 
+QString capitalised(QString name)
+{
+    if (!name.isEmpty()) {
+        name[0] = name.at(0).toUpper();
+    }
+    return name;
+}
+
 } // namespace schemadoctor

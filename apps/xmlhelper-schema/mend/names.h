@@ -8,6 +8,9 @@ namespace schemadoctor {
 /// The name itself where XML allows it, else one of what it allows.
 QString allowedXmlName(const QString& name);
 
+/// The name with a capital in front.
+QString capitalised(QString name);
+
 } // namespace schemadoctor
 
 #endif

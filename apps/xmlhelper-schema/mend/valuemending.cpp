@@ -8,6 +8,7 @@
 #include <xmlhelper/constants_p.h>
 
 #include "mendwords.h"
+#include "names.h"
 
 namespace schemadoctor {
 
@@ -166,7 +167,7 @@ void ValueMending::takeInteger(SimpleValue& value, const TextNode& tag)
                  bounds.isEmpty() ? QStringLiteral("xs:integer")
                                   : Mend::tr("xs:integer with %1").arg(bounds.join(QLatin1String(", "))));
     if (!value.definition) {
-        value.name = value.base.left(1).toUpper() + value.base.mid(1);
+        value.name = capitalised(value.base);
     }
     value.base = QStringLiteral("integer");
 }
