@@ -152,8 +152,8 @@
         <translation>Das Element hat keinen Wert und trägt noch seine Annotationen: Nichts kann seinen Typ füllen, &quot;%1&quot;.</translation>
     </message>
     <message>
-        <source>Give it a type in the schema that can be filled: string, double, integer, int, short, long, boolean, dateTime or time.</source>
-        <translation>Ihm im Schema einen Typ geben, der sich füllen lässt: string, double, integer, int, short, long, boolean, dateTime oder time.</translation>
+        <source>Give it a type in the schema that can be filled, one of %1.</source>
+        <translation>Ihm im Schema einen Typ geben, der sich füllen lässt, einen von %1.</translation>
     </message>
     <message>
         <source>The element has no value and still carries its annotations: nothing of the type &quot;%1&quot; was offered, or what was offered was refused.</source>

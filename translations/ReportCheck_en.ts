@@ -152,8 +152,8 @@
         <translation>The element has no value and still carries its annotations: nothing can fill its type, &quot;%1&quot;.</translation>
     </message>
     <message>
-        <source>Give it a type in the schema that can be filled: string, double, integer, int, short, long, boolean, dateTime or time.</source>
-        <translation>Give it a type in the schema that can be filled: string, double, integer, int, short, long, boolean, dateTime or time.</translation>
+        <source>Give it a type in the schema that can be filled, one of %1.</source>
+        <translation>Give it a type in the schema that can be filled, one of %1.</translation>
     </message>
     <message>
         <source>The element has no value and still carries its annotations: nothing of the type &quot;%1&quot; was offered, or what was offered was refused.</source>

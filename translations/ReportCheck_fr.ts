@@ -152,8 +152,8 @@
         <translation>L&apos;élément n&apos;a pas de valeur et porte encore ses annotations : rien ne peut remplir son type, &quot;%1&quot;.</translation>
     </message>
     <message>
-        <source>Give it a type in the schema that can be filled: string, double, integer, int, short, long, boolean, dateTime or time.</source>
-        <translation>Lui donner dans le schéma un type qui puisse être rempli : string, double, integer, int, short, long, boolean, dateTime ou time.</translation>
+        <source>Give it a type in the schema that can be filled, one of %1.</source>
+        <translation>Lui donner dans le schéma un type qui puisse être rempli, l&apos;un de %1.</translation>
     </message>
     <message>
         <source>The element has no value and still carries its annotations: nothing of the type &quot;%1&quot; was offered, or what was offered was refused.</source>

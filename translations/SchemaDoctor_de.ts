@@ -1816,8 +1816,8 @@ Das überarbeitete Schema:
         <translation>xs:string schreiben.</translation>
     </message>
     <message>
-        <source>Write one of xs:string, xs:double, xs:integer, xs:boolean, xs:dateTime and xs:time, or a named xs:simpleType that restricts one of them.</source>
-        <translation>xs:string, xs:double, xs:integer, xs:boolean, xs:dateTime oder xs:time schreiben, oder einen benannten xs:simpleType, der einen davon einschränkt.</translation>
+        <source>Write one of %1, or a named xs:simpleType that restricts one of them.</source>
+        <translation>Einen der Typen %1 schreiben oder einen benannten xs:simpleType, der einen davon einschränkt.</translation>
     </message>
     <message>
         <source>Write xs:integer.</source>
@@ -1828,8 +1828,8 @@ Das überarbeitete Schema:
         <translation>xs:string schreiben und &apos;true&apos; oder &apos;false&apos; als Wert.</translation>
     </message>
     <message>
-        <source>Write one of xs:string, xs:double, xs:integer and xs:dateTime; for a restricted type, declare the attribute globally with the type inside, and refer to it.</source>
-        <translation>xs:string, xs:double, xs:integer oder xs:dateTime schreiben; für einen eingeschränkten Typ das Attribut global mit dem Typ darin deklarieren und darauf verweisen.</translation>
+        <source>Write one of %1; for a restricted type, declare the attribute globally with the type inside, and refer to it.</source>
+        <translation>Einen der Typen %1 schreiben; für einen eingeschränkten Typ das Attribut global mit dem Typ darin deklarieren und darauf verweisen.</translation>
     </message>
     <message>
         <source>The facet %1 is &apos;%2&apos;.</source>

@@ -1816,8 +1816,8 @@ The mended schema:
         <translation>Write xs:string.</translation>
     </message>
     <message>
-        <source>Write one of xs:string, xs:double, xs:integer, xs:boolean, xs:dateTime and xs:time, or a named xs:simpleType that restricts one of them.</source>
-        <translation>Write one of xs:string, xs:double, xs:integer, xs:boolean, xs:dateTime and xs:time, or a named xs:simpleType that restricts one of them.</translation>
+        <source>Write one of %1, or a named xs:simpleType that restricts one of them.</source>
+        <translation>Write one of %1, or a named xs:simpleType that restricts one of them.</translation>
     </message>
     <message>
         <source>Write xs:integer.</source>
@@ -1828,8 +1828,8 @@ The mended schema:
         <translation>Write xs:string, and &apos;true&apos; or &apos;false&apos; as its value.</translation>
     </message>
     <message>
-        <source>Write one of xs:string, xs:double, xs:integer and xs:dateTime; for a restricted type, declare the attribute globally with the type inside, and refer to it.</source>
-        <translation>Write one of xs:string, xs:double, xs:integer and xs:dateTime; for a restricted type, declare the attribute globally with the type inside, and refer to it.</translation>
+        <source>Write one of %1; for a restricted type, declare the attribute globally with the type inside, and refer to it.</source>
+        <translation>Write one of %1; for a restricted type, declare the attribute globally with the type inside, and refer to it.</translation>
     </message>
     <message>
         <source>The facet %1 is &apos;%2&apos;.</source>

@@ -1816,8 +1816,8 @@ Le schéma corrigé :
         <translation>Écrire xs:string.</translation>
     </message>
     <message>
-        <source>Write one of xs:string, xs:double, xs:integer, xs:boolean, xs:dateTime and xs:time, or a named xs:simpleType that restricts one of them.</source>
-        <translation>Écrire xs:string, xs:double, xs:integer, xs:boolean, xs:dateTime ou xs:time, ou un xs:simpleType nommé qui restreint l&apos;un d&apos;eux.</translation>
+        <source>Write one of %1, or a named xs:simpleType that restricts one of them.</source>
+        <translation>Écrire l&apos;un des types %1, ou un xs:simpleType nommé qui restreint l&apos;un d&apos;eux.</translation>
     </message>
     <message>
         <source>Write xs:integer.</source>
@@ -1828,8 +1828,8 @@ Le schéma corrigé :
         <translation>Écrire xs:string, et &apos;true&apos; ou &apos;false&apos; comme valeur.</translation>
     </message>
     <message>
-        <source>Write one of xs:string, xs:double, xs:integer and xs:dateTime; for a restricted type, declare the attribute globally with the type inside, and refer to it.</source>
-        <translation>Écrire xs:string, xs:double, xs:integer ou xs:dateTime ; pour un type restreint, déclarer l&apos;attribut globalement avec le type à l&apos;intérieur, et s&apos;y référer.</translation>
+        <source>Write one of %1; for a restricted type, declare the attribute globally with the type inside, and refer to it.</source>
+        <translation>Écrire l&apos;un des types %1 ; pour un type restreint, déclarer l&apos;attribut globalement avec le type à l&apos;intérieur, et s&apos;y référer.</translation>
     </message>
     <message>
         <source>The facet %1 is &apos;%2&apos;.</source>

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void typesAreTaken_data();
     void typesAreTaken();
     void shortAndLongAreTakenAsThemselves();
+    void eachSetterHasABuiltInType();
     void onlyTypedElementsHoldValues();
     void namesAreEnumerationValues_data();
     void namesAreEnumerationValues();
@@ -85,6 +86,22 @@ void TestValueRules::shortAndLongAreTakenAsThemselves()
     QCOMPARE(typeTakenBy(word, QStringLiteral("myshortlong")), textOf(ShortType));
     QCOMPARE(typeTakenBy(word, QStringLiteral("long")), QStringLiteral("long"));
     QCOMPARE(typeTakenBy(word, QStringLiteral("shortdouble")), QStringLiteral("shortdouble"));
+}
+
+void TestValueRules::eachSetterHasABuiltInType()
+{
+    const QStringList ofElements {QStringLiteral("string"),  QStringLiteral("double"),   QStringLiteral("integer"),
+                                  QStringLiteral("boolean"), QStringLiteral("dateTime"), QStringLiteral("time")};
+    const QStringList ofAttributes {QStringLiteral("string"), QStringLiteral("double"), QStringLiteral("integer"),
+                                    QStringLiteral("dateTime")};
+    QCOMPARE(builtInTypesOfElements(), ofElements);
+    QCOMPARE(builtInTypesOfAttributes(), ofAttributes);
+    for (const QString& type : ofElements) {
+        QVERIFY2(settersOfElement(type), qPrintable(type));
+    }
+    for (const QString& type : ofAttributes) {
+        QVERIFY2(settersOfAttribute(type), qPrintable(type));
+    }
 }
 
 void TestValueRules::onlyTypedElementsHoldValues()

@@ -1,6 +1,7 @@
 #include "valuerules_p.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 
 #include "constants_p.h"
@@ -17,6 +18,19 @@ constexpr Setter SettersOfAttributes[] = {Setter::Text, Setter::Floating, Setter
 
 /// In the order in which a name is held against them.
 const QLatin1String RangeFacets[] = {MinInclusiveFacet, MaxInclusiveFacet, MinExclusiveFacet, MaxExclusiveFacet};
+
+// Of the words, one is short for the type's name.
+QString builtInTypeOf(Setter setter)
+{
+    return setter == Setter::Truth ? QStringLiteral("boolean") : wordOf(setter);
+}
+
+template <std::size_t Count> QStringList builtInTypesOf(const Setter (&setters)[Count])
+{
+    QStringList types;
+    std::transform(std::begin(setters), std::end(setters), std::back_inserter(types), builtInTypeOf);
+    return types;
+}
 
 QLatin1String rangeFacetWithin(const QString& attribute)
 {
@@ -65,6 +79,16 @@ QString typeTakenBy(const QString& word, const QString& type)
 bool isAttributeTakenBy(const QString& word, const QString& type)
 {
     return type.contains(word);
+}
+
+QStringList builtInTypesOfElements()
+{
+    return builtInTypesOf(AllSetters);
+}
+
+QStringList builtInTypesOfAttributes()
+{
+    return builtInTypesOf(SettersOfAttributes);
 }
 
 Setters settersOfElement(const QString& type)

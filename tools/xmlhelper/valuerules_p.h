@@ -6,6 +6,7 @@
 #include <QFlags>
 #include <QLatin1String>
 #include <QString>
+#include <QStringList>
 
 // Which values the elements and attributes of a skeleton take, and how often elements may occur: what the report
 // builder, its walk and the companion programs go by. All that is asked for is the text that the skeleton holds.
@@ -36,6 +37,10 @@ QString typeTakenBy(const QString& word, const QString& type);
 
 /// Whether the setter with @p word takes a declared attribute, which holds @p type.
 bool isAttributeTakenBy(const QString& word, const QString& type);
+
+/// The types of XML Schema that the setters are made for, one for each: what to advise where a type has no setter.
+QStringList builtInTypesOfElements();
+QStringList builtInTypesOfAttributes();
 
 Setters settersOfElement(const QString& type);
 Setters settersOfAttribute(const QString& type);

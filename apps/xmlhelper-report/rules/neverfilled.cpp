@@ -1,5 +1,7 @@
 #include "rule.h"
 
+#include <xmlhelper/valuerules_p.h>
+
 #include "../annotations.h"
 
 namespace reportcheck {
@@ -17,8 +19,8 @@ Remarks neverFilled(const ReportElement& element, const RuleContext& context)
                  Texts::tr("The element has no value and still carries its annotations: nothing can fill its type, "
                            "\"%1\".")
                      .arg(type),
-                 Texts::tr("Give it a type in the schema that can be filled: string, double, integer, int, short, "
-                           "long, boolean, dateTime or time.")}};
+                 Texts::tr("Give it a type in the schema that can be filled, one of %1.")
+                     .arg(builtInTypesOfElements().join(QLatin1String(", ")))}};
     }
     return {{Severity::Error,
              Texts::tr("The element has no value and still carries its annotations: nothing of the type \"%1\" was "

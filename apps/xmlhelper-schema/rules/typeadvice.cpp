@@ -2,6 +2,8 @@
 
 #include <QHash>
 
+#include <xmlhelper/valuerules_p.h>
+
 #include "rule.h"
 
 namespace schemadoctor {
@@ -52,6 +54,11 @@ Kind kindOf(const QString& type)
     return kinds.value(localPart(type), Kind::Unknown);
 }
 
+QString listOf(const QStringList& types)
+{
+    return QLatin1String("xs:") + types.join(QLatin1String(", xs:"));
+}
+
 } // namespace
 
 QString adviceForElement(const QString& type)
@@ -66,8 +73,8 @@ QString adviceForElement(const QString& type)
     case Kind::Text:
         return Texts::tr("Write xs:string.");
     default:
-        return Texts::tr("Write one of xs:string, xs:double, xs:integer, xs:boolean, xs:dateTime and xs:time, or a "
-                         "named xs:simpleType that restricts one of them.");
+        return Texts::tr("Write one of %1, or a named xs:simpleType that restricts one of them.")
+            .arg(listOf(builtInTypesOfElements()));
     }
 }
 
@@ -85,9 +92,9 @@ QString adviceForAttribute(const QString& type)
     case Kind::Text:
         return Texts::tr("Write xs:string.");
     default:
-        return Texts::tr(
-            "Write one of xs:string, xs:double, xs:integer and xs:dateTime; for a restricted type, declare "
-            "the attribute globally with the type inside, and refer to it.");
+        return Texts::tr("Write one of %1; for a restricted type, declare the attribute globally with the type "
+                         "inside, and refer to it.")
+            .arg(listOf(builtInTypesOfAttributes()));
     }
 }
 
