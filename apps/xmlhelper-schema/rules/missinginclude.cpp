@@ -20,25 +20,19 @@ QString remedyFor(const IncludedFile& included, const QString& topFile)
         : Texts::tr("Give the location as seen from the folder of the top file.");
 }
 
-void look(const IncludedFile& file, const QString& topFile, Findings& findings)
-{
-    for (const IncludedFile& included : file.includes) {
-        if (included.state == IncludeState::Missing) {
-            findings.Add(Severity::Error, included.place, included.written,
-                         Texts::tr("The file '%1' is included and cannot be read.").arg(included.written),
-                         Texts::tr("It is looked for as '%1', and passed over without a word.").arg(included.file),
-                         remedyFor(included, topFile));
-        }
-        look(included, topFile, findings);
-    }
-}
-
 } // namespace
 
 void missingInclude(const Schema& schema, Findings& findings)
 {
     const IncludedFile& top = schema.GetRecord().GetIncludes();
-    look(top, top.written, findings);
+    for (const IncludedFile* const included : includesBelow(top)) {
+        if (included->state == IncludeState::Missing) {
+            findings.Add(Severity::Error, included->place, included->written,
+                         Texts::tr("The file '%1' is included and cannot be read.").arg(included->written),
+                         Texts::tr("It is looked for as '%1', and passed over without a word.").arg(included->file),
+                         remedyFor(*included, top.written));
+        }
+    }
 }
 
 } // namespace schemadoctor

@@ -2,23 +2,6 @@
 
 namespace schemadoctor {
 
-namespace {
-
-/// Whether a group around the element may occur more than once, so that the element is meant to.
-bool isInRepeatedGroup(const TextNode& tag)
-{
-    for (const TextNode* group = tag.parent; group && group->IsAnyOf({"sequence", "choice", "all"});
-         group = group->parent) {
-        const int maxOccurs = occursOf(*group, "maxOccurs", 1);
-        if (maxOccurs < 0 || maxOccurs > 1) {
-            return true;
-        }
-    }
-    return false;
-}
-
-} // namespace
-
 /// For an element that occurs at most once this is right; nobody asks for a count then.
 void optionalWithoutMaximum(const Schema& schema, Findings& findings)
 {

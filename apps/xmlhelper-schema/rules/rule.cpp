@@ -163,4 +163,27 @@ int occursOf(const TextNode& tag, const char* attribute, int otherwise)
     return value == QLatin1String("unbounded") ? UnboundedOccurs : value.toInt();
 }
 
+std::vector<const IncludedFile*> includesBelow(const IncludedFile& file)
+{
+    std::vector<const IncludedFile*> all;
+    for (const IncludedFile& included : file.includes) {
+        all.push_back(&included);
+        const std::vector<const IncludedFile*> below = includesBelow(included);
+        all.insert(all.end(), below.begin(), below.end());
+    }
+    return all;
+}
+
+bool isInRepeatedGroup(const TextNode& tag)
+{
+    for (const TextNode* group = tag.parent; group && group->IsAnyOf({"sequence", "choice", "all"});
+         group = group->parent) {
+        const int maxOccurs = occursOf(*group, "maxOccurs", 1);
+        if (maxOccurs < 0 || maxOccurs > 1) {
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace schemadoctor

@@ -105,6 +105,12 @@ QString localPart(const QString& name);
 /// The number as the library reads it in minOccurs or maxOccurs.
 int occursOf(const TextNode& tag, const char* attribute, int otherwise);
 
+/// Every include below a file, in the order of reading.
+std::vector<const IncludedFile*> includesBelow(const IncludedFile& file);
+
+/// Whether a group around an element may occur more than once, so that the element is meant to.
+bool isInRepeatedGroup(const TextNode& tag);
+
 /// What the author means below a declaration, and what is laid out for it: for Finding::meantTree and laidOutTree.
 QString meantTreeOf(const Schema& schema, const TextNode& declaration);
 QString laidOutTreeOf(const Schema& schema, const TextNode& declaration);
