@@ -23,10 +23,10 @@ public:
 };
 
 // Keeps what the library lays out for declared attributes.
-class Listener : public SchemaReadingLog
+class ReadingListener : public SchemaReadingLog
 {
 public:
-    explicit Listener(DeclaredAttributes& attributes)
+    explicit ReadingListener(DeclaredAttributes& attributes)
         : m_attributes(attributes)
     {
     }
@@ -48,7 +48,7 @@ private:
 DeclaredAttributes DeclaredAttributes::FromSchema(const QString& file)
 {
     DeclaredAttributes attributes;
-    Listener listener(attributes);
+    ReadingListener listener(attributes);
     SilentObserver observer;
     // Includes are looked for beside a schema that is named with its folder.
     XmlSchemaHandler handler(&observer, QFileInfo(file).absoluteFilePath());

@@ -13,7 +13,7 @@ namespace reportcheck {
 
 namespace {
 
-QString lineOf(const Finding& finding)
+QString lineFor(const Finding& finding)
 {
     const QString place = finding.line > 0 ? QStringLiteral("%1:%2").arg(finding.file).arg(finding.line) : finding.file;
     const QString path = finding.path.isEmpty() ? QString() : finding.path + QStringLiteral(": ");
@@ -25,7 +25,7 @@ QString linesOf(const std::vector<Finding>& findings)
 {
     QString lines;
     for (const Finding& finding : findings) {
-        lines += lineOf(finding);
+        lines += lineFor(finding);
         if (!finding.advice.isEmpty()) {
             lines += QStringLiteral("    ") + finding.advice + QLatin1Char('\n');
         }

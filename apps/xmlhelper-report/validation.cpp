@@ -34,7 +34,7 @@ using Validator = std::unique_ptr<xmlSchemaValidCtxt, Release<xmlSchemaFreeValid
 using Write = std::function<void(const QByteArray&)>;
 
 // What takes the messages of one run, and sends the first of them off.
-struct Listener
+struct ValidationListener
 {
     QString file; // that the messages are about
     const char* rule;
@@ -92,7 +92,7 @@ const xmlNode* elementOf(const xmlError& error)
     return node && node->type == XML_ATTRIBUTE_NODE ? node->parent : node;
 }
 
-Finding messageOf(const xmlError& error, const Listener& listener)
+Finding messageOf(const xmlError& error, const ValidationListener& listener)
 {
     const xmlNode* const element = elementOf(error);
     Finding message;
@@ -111,7 +111,7 @@ Finding messageOf(const xmlError& error, const Listener& listener)
 
 void takeMessage(void* data, xmlErrorPtr error)
 {
-    auto* const listener = static_cast<Listener*>(data);
+    auto* const listener = static_cast<ValidationListener*>(data);
     if (++listener->count <= MaxFindingsOfARule) {
         send(messageOf(*error, *listener), listener->write);
     } else {
@@ -119,7 +119,7 @@ void takeMessage(void* data, xmlErrorPtr error)
     }
 }
 
-void sendLast(Listener& listener)
+void sendLast(ValidationListener& listener)
 {
     Finding& last = listener.last;
     last.count = listener.count - MaxFindingsOfARule;
@@ -133,7 +133,7 @@ void sendLast(Listener& listener)
 
 Schema readSchema(const QString& file, const Write& write)
 {
-    Listener listener {file, "schema", nullptr, write, {Severity::Note, {}, {}, 0, {}, {}, {}, 1}};
+    ValidationListener listener {file, "schema", nullptr, write, {Severity::Note, {}, {}, 0, {}, {}, {}, 1}};
     const SchemaParser parser(xmlSchemaNewParserCtxt(urlOf(file).constData()));
     xmlSchemaSetParserStructuredErrors(parser.get(), takeMessage, &listener);
     Schema schema(xmlSchemaParse(parser.get()));
@@ -148,7 +148,7 @@ void validateInto(xmlDoc* document, const QString& report, const QString& schema
     if (!parsed) {
         return;
     }
-    Listener listener {report, "validation", &paths, write, {Severity::Note, {}, {}, 0, {}, {}, {}, 1}};
+    ValidationListener listener {report, "validation", &paths, write, {Severity::Note, {}, {}, 0, {}, {}, {}, 1}};
     const Validator validator(xmlSchemaNewValidCtxt(parsed.get()));
     xmlSchemaSetValidStructuredErrors(validator.get(), takeMessage, &listener);
     const bool isDone = xmlSchemaValidateDoc(validator.get(), document) >= 0;

@@ -11,7 +11,7 @@
 namespace {
 
 /// Up to here counting from the start is the fastest way.
-constexpr int FewAttributes = 500;
+constexpr int FewToCount = 500;
 
 /// The names before the values of the tag that @p text begins with. No value has a quotation mark in it.
 QStringList namesInTag(const QString& text)
@@ -67,7 +67,7 @@ DomAttributes countedAttributes(const QDomNamedNodeMap& map)
 DomAttributes attributesOf(const QDomElement& element)
 {
     const QDomNamedNodeMap map = element.attributes();
-    if (map.count() <= FewAttributes) {
+    if (map.count() <= FewToCount) {
         return countedAttributes(map);
     }
     DomAttributes attributes;

@@ -40,7 +40,7 @@ bool isValueElement(const QDomElement& element)
 }
 
 /// Up to here listing the attributes takes less than knowing those that were listed.
-constexpr int FewAttributes = 16;
+constexpr int FewToList = 16;
 
 /// Up to here a list of owners is looked through as it is.
 constexpr std::size_t FewOwners = 8;
@@ -335,7 +335,7 @@ void DomParser::RemoveAttributes(const DomAttributes& attributes)
 
 const QStringList* DomParser::FacetNames()
 {
-    if (m_currentElement.attributes().count() <= FewAttributes) {
+    if (m_currentElement.attributes().count() <= FewToList) {
         return nullptr;
     }
     if (m_facetElement != m_currentElement) {

@@ -10,7 +10,7 @@
 
 namespace {
 
-const char Component[] = "schemabudget";
+const char BudgetComponent[] = "schemabudget";
 
 } // namespace
 
@@ -18,7 +18,7 @@ void SchemaBudget::Refuse(const QString& reason)
 {
     if (!m_bRefused) {
         m_bRefused = true;
-        trace(reason, Component, __LINE__);
+        trace(reason, BudgetComponent, __LINE__);
         if (m_pLog) {
             m_pLog->ContentRefused(reason);
         }
@@ -31,7 +31,7 @@ bool SchemaBudget::refuse(const char* sentence, qint64 asked, Number Limits::*li
     if (!m_bRefused) {
         m_bRefused = true;
         const QString text = QString::fromLatin1(sentence);
-        trace(text.arg(limits().*(traced ? traced : limit)), Component, __LINE__);
+        trace(text.arg(limits().*(traced ? traced : limit)), BudgetComponent, __LINE__);
         if (m_pLog) {
             m_pLog->Refused(text, asked, limits().*limit, Limits().*limit);
         }

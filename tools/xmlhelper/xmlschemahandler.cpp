@@ -97,7 +97,7 @@ struct XmlSchemaHandler::ElementDeclaration
 
 namespace {
 
-const char Component[] = "xmlschemahandler";
+const char HandlerComponent[] = "xmlschemahandler";
 
 const QLatin1String IncludeTag("xs:include");
 const QLatin1String ComplexTypeTag("xs:complexType");
@@ -207,7 +207,7 @@ XmlSchemaHandler::ElementDeclaration::ElementDeclaration(const QXmlAttributes& a
 XmlSchemaHandler::XmlSchemaHandler(IXMLHelper* pCallback, const QString& schemaPath)
     : XmlSchemaHandler(std::make_shared<SchemaReading>(), pCallback, schemaPath)
 {
-    if (checkObserver(pCallback, "XmlSchemaHandler", Component, 35)) {
+    if (checkObserver(pCallback, "XmlSchemaHandler", HandlerComponent, 35)) {
         m_pReading->budget.OpenFile(identityOfFile(openableFileName(schemaPath)), 0);
     } else {
         m_pDocument.reset();
@@ -333,7 +333,7 @@ bool XmlSchemaHandler::startDocument()
 bool XmlSchemaHandler::endDocument()
 {
     if (!m_pCallback) {
-        trace(QStringLiteral("Callback-Pointer is NULL!"), Component, __LINE__);
+        trace(QStringLiteral("Callback-Pointer is NULL!"), HandlerComponent, __LINE__);
         return false;
     }
     m_bFaultIsTold = true;
@@ -495,7 +495,7 @@ void XmlSchemaHandler::readInclude()
     const QString identity = identityOfFile(fileName);
     SchemaBudget& budget = m_pReading->budget;
     if (!budget.MayOpen(identity)) {
-        trace(QStringLiteral("Include was skipped, it is already being read!"), Component, __LINE__);
+        trace(QStringLiteral("Include was skipped, it is already being read!"), HandlerComponent, __LINE__);
         if (m_pLog) {
             m_pLog->FileSkipped(firstValue(), fileName, m_tag, budget.IsOpen(identity));
         }
@@ -1060,7 +1060,7 @@ bool XmlSchemaHandler::resolveReferences()
     }
     names.usable.merge(names.usableLater);
     if (!missing.empty() || !names.blocked.empty()) {
-        trace(QStringLiteral("Missing Element was not found! XmlSchemaHandler terminates..."), Component, 1389);
+        trace(QStringLiteral("Missing Element was not found! XmlSchemaHandler terminates..."), HandlerComponent, 1389);
         return false;
     }
     return true;
@@ -1194,7 +1194,7 @@ bool XmlSchemaHandler::makeSkeleton(const QDomNode& root)
         m_pDocument->appendChild(m_eRootUse == RootUse::Moved ? root : root.cloneNode(true));
     }
     if (!m_pDocument->documentElement().nextSiblingElement().isNull()) {
-        trace(QStringLiteral("The schema lays out several roots, the report is no XML document!"), Component, __LINE__);
+        trace(QStringLiteral("The schema lays out several roots, the report is no XML document!"), HandlerComponent, __LINE__);
     }
     return true;
 }

@@ -8,7 +8,7 @@ namespace {
 
 using Index = decltype(QString().size());
 
-const char Component[] = "xmltext";
+const char TextComponent[] = "xmltext";
 
 /// As much of a refused name as a trace shows.
 constexpr int ShownNameLength = 80;
@@ -96,7 +96,7 @@ QString representableText(const QString& text, const char* place)
     trace(QStringLiteral("%1: XML cannot carry %2 of the characters, they were dropped!")
               .arg(QLatin1String(place))
               .arg(text.size() - kept.size()),
-          Component, __LINE__);
+          TextComponent, __LINE__);
     return kept;
 }
 
@@ -132,7 +132,7 @@ bool isRepresentableName(const QString& name, const char* place)
     if (!isAllowed) {
         trace(QStringLiteral("%1: XML does not allow the name \"%2\", it was refused!")
                   .arg(QLatin1String(place), name.left(ShownNameLength)),
-              Component, __LINE__);
+              TextComponent, __LINE__);
     }
     return isAllowed;
 }

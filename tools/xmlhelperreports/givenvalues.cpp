@@ -14,7 +14,6 @@
 namespace {
 
 const QLatin1String TextKey("#text");
-const QLatin1Char AttributeMark('@');
 
 QString textOfNumber(double number)
 {

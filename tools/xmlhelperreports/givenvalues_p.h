@@ -7,6 +7,9 @@
 #include <QString>
 #include <QVariant>
 
+/// Stands before the name of an attribute.
+const QLatin1Char AttributeMark('@');
+
 /// A value as it was given.
 struct GivenValue
 {

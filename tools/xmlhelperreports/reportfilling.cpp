@@ -16,8 +16,6 @@ QT_WARNING_DISABLE_DEPRECATED
 
 namespace {
 
-const QLatin1Char AttributeMark('@');
-
 bool isTypeError(IXMLHelper::ErrorID error)
 {
     return error >= IXMLHelper::CURRENT_TYPE_IS_UNKNOWN && error <= IXMLHelper::CURRENT_TYPE_IS_NOT_BOOLEAN;

@@ -29,7 +29,7 @@ namespace schemadoctor {
 namespace {
 
 /// An attribute of the trial's document: which element of the tree it is.
-const QLatin1String IndexMark("xmlhelper-schema-index");
+const QLatin1String IndexAttribute("xmlhelper-schema-index");
 
 const QString& someIsoTime()
 {
@@ -152,7 +152,7 @@ void ButtonTrial::XmlUpdate(XmlEvent* event)
         m_builder.RemoveAttribute(QString()); // The first operation of a builder knows no type, and truncates nothing.
     }
     bool isNumber = false;
-    const int index = m_element.attribute(IndexMark).toInt(&isNumber);
+    const int index = m_element.attribute(IndexAttribute).toInt(&isNumber);
     if (!isNumber || m_areTried[std::size_t(index)]) {
         return;
     }
@@ -167,7 +167,7 @@ void ButtonTrial::mark(const QDomElement& root)
 {
     QDomElement element = root;
     for (int index = 0; index < int(m_tree.elements.size()) && !element.isNull(); ++index) {
-        element.setAttribute(IndexMark, index);
+        element.setAttribute(IndexAttribute, index);
         QDomElement next = element.firstChildElement();
         for (; next.isNull() && element != root; element = element.parentNode().toElement()) {
             next = element.nextSiblingElement();
@@ -302,7 +302,7 @@ QXmlAttributes ButtonTrial::attributesWith(const QString& attribute, bool isFirs
     const auto append = [&](bool isAttribute) {
         for (int i = 0; i < m_attributes.count(); ++i) {
             const QString name = m_attributes.qName(i);
-            if (name != IndexMark && (name == attribute) == isAttribute) {
+            if (name != IndexAttribute && (name == attribute) == isAttribute) {
                 ordered.append(name, m_attributes.uri(i), m_attributes.localName(i), m_attributes.value(i));
             }
         }
@@ -444,7 +444,7 @@ void readView(const QByteArray& result, std::vector<ButtonElement>& view)
     }
 }
 
-class ButtonWords
+class TrialWords
 {
     Q_DECLARE_TR_FUNCTIONS(schemadoctor::ButtonTrial)
 };
@@ -455,7 +455,7 @@ void tryButton(const QString& file, Examination& examination)
 {
     const LaidOutTree& tree = examination.tree;
     ButtonView& button = examination.button;
-    button.leftOut = ButtonWords::tr("What the report button fills was not tried: it would take too long.");
+    button.leftOut = TrialWords::tr("What the report button fills was not tried: it would take too long.");
     if (tree.elements.size() > std::size_t(MaxProofElements)) {
         return;
     }

@@ -14,8 +14,6 @@ namespace schemadoctor {
 
 namespace {
 
-const QLatin1String SchemaNamespace("http://www.w3.org/2001/XMLSchema");
-
 std::optional<GlobalKind> kindOf(const TextNode& tag)
 {
     static const std::map<QString, GlobalKind> kinds {

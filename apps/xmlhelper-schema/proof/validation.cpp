@@ -29,7 +29,7 @@ struct Listener
 {
     QVector<ValidityError>* pErrors;
     int report;
-    int left; // cppcheck-suppress unusedStructMember ; counted down by collect()
+    int left; // cppcheck-suppress unusedStructMember ; counted down by collectError()
 };
 
 QString stringOf(const xmlChar* text)
@@ -50,7 +50,7 @@ QStringList namesUpTo(const xmlNode* node)
 
 void ignore(void*, xmlError*) { }
 
-void collect(void* data, xmlError* error)
+void collectError(void* data, xmlError* error)
 {
     auto* const listener = static_cast<Listener*>(data);
     if (listener->left-- > 0) {
@@ -68,7 +68,7 @@ void validateOne(xmlSchema* schema, const QByteArray& bytes, Listener listener)
         return;
     }
     const Validator validator(xmlSchemaNewValidCtxt(schema));
-    xmlSchemaSetValidStructuredErrors(validator.get(), collect, &listener);
+    xmlSchemaSetValidStructuredErrors(validator.get(), collectError, &listener);
     xmlSchemaValidateDoc(validator.get(), document.get());
 }
 

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int MaxFaults = 100;
 
-void collect(void* userData, xmlError* error)
+void collectFault(void* userData, xmlError* error)
 {
     auto* const faults = static_cast<QJsonArray*>(userData);
     if (faults->size() < MaxFaults) {
@@ -34,9 +34,9 @@ QByteArray checked(const QString& file)
     // Imports are not the library's business either, and may name places in a network.
     xmlSetExternalEntityLoader(xmlNoNetExternalEntityLoader);
     // The XML parser below the schema parser reports on its own.
-    xmlSetStructuredErrorFunc(&faults, collect);
+    xmlSetStructuredErrorFunc(&faults, collectFault);
     xmlSchemaParserCtxt* const parser = xmlSchemaNewParserCtxt(QFile::encodeName(file).constData());
-    xmlSchemaSetParserStructuredErrors(parser, collect, &faults);
+    xmlSchemaSetParserStructuredErrors(parser, collectFault, &faults);
     xmlSchemaFree(xmlSchemaParse(parser));
     xmlSchemaFreeParserCtxt(parser);
     return QJsonDocument(faults).toJson(QJsonDocument::Compact);

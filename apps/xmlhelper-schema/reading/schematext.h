@@ -13,6 +13,8 @@
 
 namespace schemadoctor {
 
+const QLatin1String SchemaNamespace("http://www.w3.org/2001/XMLSchema");
+
 struct TextFile;
 
 /// A tag of a schema file.

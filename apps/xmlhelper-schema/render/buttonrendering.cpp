@@ -7,6 +7,8 @@
 #include <QJsonObject>
 #include <QStringList>
 
+#include "jsonkey.h"
+
 namespace schemadoctor {
 
 namespace {
@@ -84,11 +86,6 @@ QString ButtonWords::For(const ButtonFilling& filling)
 QString line(int level, const QString& name, const QString& words)
 {
     return QStringLiteral("%1%2: %3\n").arg(QString(2 * level, QLatin1Char(' ')), name, words);
-}
-
-QString key(const char* name)
-{
-    return QString::fromLatin1(name);
 }
 
 QJsonObject jsonFor(const ButtonFilling& filling)

@@ -5,15 +5,11 @@
 #include <QJsonObject>
 
 #include "buttonrendering.h"
+#include "jsonkey.h"
 
 namespace schemadoctor {
 
 namespace {
-
-QString key(const char* name)
-{
-    return QString::fromLatin1(name);
-}
 
 QJsonObject jsonFor(const Place& place)
 {
