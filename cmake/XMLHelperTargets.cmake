@@ -2,7 +2,6 @@
 # all of it is private to the target it is called for.
 #
 #   xmlhelper_target_defaults(<target>)   warnings, strict Qt, sanitizers, C++17
-#   xmlhelper_precompile_headers(<target>)   those that most sources of a great target read, if wanted
 #   xmlhelper_lay_translations_beside(<program> <catalogue>...)   into a folder of that name
 
 function(xmlhelper_target_defaults target)
@@ -33,14 +32,6 @@ function(xmlhelper_target_defaults target)
             -fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
         target_link_options(${target} PUBLIC -fsanitize=${sanitizers})
     endif()
-endfunction()
-
-function(xmlhelper_precompile_headers target)
-    if(NOT XMLHELPER_PRECOMPILE_HEADERS)
-        return()
-    endif()
-    target_precompile_headers(${target} PRIVATE
-        <algorithm> <functional> <list> <map> <memory> <set> <utility> <vector> <QtCore> <QDomDocument> <QXmlSimpleReader>)
 endfunction()
 
 # The catalogues in all languages, when they are made. The program's property XMLHELPER_CATALOGUES tells what to install.

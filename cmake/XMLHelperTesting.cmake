@@ -37,13 +37,13 @@ function(xmlhelper_add_test name)
 
     set(program tst_${name})
     add_executable(${program} ${arg_SOURCES})
-    set_target_properties(${program} PROPERTIES AUTOMOC ON)
+    set_target_properties(${program} PROPERTIES AUTOMOC ON UNITY_BUILD OFF)
     xmlhelper_target_defaults(${program})
     target_link_libraries(${program} PRIVATE ${arg_LIBRARIES} ${xmlhelper_qt_test})
-    # Those of the library can be taken by what links all of its Qt, and nothing else of Qt that they read.
-    if(XMLHELPER_PRECOMPILE_HEADERS AND arg_LIBRARIES MATCHES "^(xmlhelper|xmlreader|internals)_"
-            AND NOT arg_LIBRARIES STREQUAL "xmlhelper_reportcheck")
-        target_precompile_headers(${program} REUSE_FROM xmlhelper_internals)
+    # What links more or less of Qt reads other headers.
+    if(TARGET xmlhelper_test_headers AND arg_LIBRARIES MATCHES "^(xmlhelper|xmlreader|internals|measurementpanel_scene)"
+            AND NOT arg_LIBRARIES STREQUAL "xmlhelper_reportcheck" AND NOT arg_LIBRARIES MATCHES "::Network")
+        target_precompile_headers(${program} REUSE_FROM xmlhelper_test_headers)
         set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/${program}_autogen/mocs_compilation.cpp"
             PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
     endif()
