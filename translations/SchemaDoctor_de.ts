@@ -435,6 +435,14 @@ Das überarbeitete Schema:
         <source>%1 of an attribute</source>
         <translation>%1 eines Attributs</translation>
     </message>
+    <message>
+        <source>Written otherwise: %1. Left: %2. Findings: %3.</source>
+        <translation>Anders geschrieben: %1. So gelassen: %2. Befunde: %3.</translation>
+    </message>
+    <message>
+        <source>The doctor finds in the mended schema</source>
+        <translation>Was der Doktor im überarbeiteten Schema findet</translation>
+    </message>
 </context>
 <context>
     <name>SchemaDoctor</name>
@@ -2214,6 +2222,18 @@ Was die Bibliothek tut: %2
 
 Stattdessen: %3</translation>
     </message>
+    <message>
+        <source>&amp;Mend...</source>
+        <translation>Ü&amp;berarbeiten...</translation>
+    </message>
+    <message>
+        <source>Write the mended schema</source>
+        <translation>Überarbeitetes Schema schreiben</translation>
+    </message>
+    <message>
+        <source>Not mended</source>
+        <translation>Nicht überarbeitet</translation>
+    </message>
 </context>
 <context>
     <name>schemadoctor::LaidOutTreeModel</name>
@@ -2244,6 +2264,29 @@ Stattdessen: %3</translation>
     <message>
         <source>Set by</source>
         <translation>Gesetzt durch</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::MendWindow</name>
+    <message>
+        <source>%1 - mended schema</source>
+        <translation>%1 - überarbeitetes Schema</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Nachher</translation>
+    </message>
+    <message>
+        <source>What it does to reports</source>
+        <translation>Was es für Berichte bedeutet</translation>
     </message>
 </context>
 </TS>

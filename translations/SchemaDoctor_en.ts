@@ -435,6 +435,14 @@ The mended schema:
         <source>%1 of an attribute</source>
         <translation>%1 of an attribute</translation>
     </message>
+    <message>
+        <source>Written otherwise: %1. Left: %2. Findings: %3.</source>
+        <translation>Written otherwise: %1. Left: %2. Findings: %3.</translation>
+    </message>
+    <message>
+        <source>The doctor finds in the mended schema</source>
+        <translation>The doctor finds in the mended schema</translation>
+    </message>
 </context>
 <context>
     <name>SchemaDoctor</name>
@@ -2214,6 +2222,18 @@ What the library does: %2
 
 Write instead: %3</translation>
     </message>
+    <message>
+        <source>&amp;Mend...</source>
+        <translation>&amp;Mend...</translation>
+    </message>
+    <message>
+        <source>Write the mended schema</source>
+        <translation>Write the mended schema</translation>
+    </message>
+    <message>
+        <source>Not mended</source>
+        <translation>Not mended</translation>
+    </message>
 </context>
 <context>
     <name>schemadoctor::LaidOutTreeModel</name>
@@ -2244,6 +2264,29 @@ Write instead: %3</translation>
     <message>
         <source>Set by</source>
         <translation>Set by</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::MendWindow</name>
+    <message>
+        <source>%1 - mended schema</source>
+        <translation>%1 - mended schema</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Before</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>After</translation>
+    </message>
+    <message>
+        <source>What it does to reports</source>
+        <translation>What it does to reports</translation>
     </message>
 </context>
 </TS>

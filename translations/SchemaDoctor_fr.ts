@@ -435,6 +435,14 @@ Le schéma corrigé :
         <source>%1 of an attribute</source>
         <translation>%1 d&apos;un attribut</translation>
     </message>
+    <message>
+        <source>Written otherwise: %1. Left: %2. Findings: %3.</source>
+        <translation>Écrit autrement : %1. Laissé tel quel : %2. Constats : %3.</translation>
+    </message>
+    <message>
+        <source>The doctor finds in the mended schema</source>
+        <translation>Ce que le docteur trouve dans le schéma corrigé</translation>
+    </message>
 </context>
 <context>
     <name>SchemaDoctor</name>
@@ -2214,6 +2222,18 @@ Ce que fait la bibliothèque : %2
 
 Écrire plutôt : %3</translation>
     </message>
+    <message>
+        <source>&amp;Mend...</source>
+        <translation>&amp;Corriger...</translation>
+    </message>
+    <message>
+        <source>Write the mended schema</source>
+        <translation>Écrire le schéma corrigé</translation>
+    </message>
+    <message>
+        <source>Not mended</source>
+        <translation>Non corrigé</translation>
+    </message>
 </context>
 <context>
     <name>schemadoctor::LaidOutTreeModel</name>
@@ -2244,6 +2264,29 @@ Ce que fait la bibliothèque : %2
     <message>
         <source>Set by</source>
         <translation>Rempli par</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::MendWindow</name>
+    <message>
+        <source>%1 - mended schema</source>
+        <translation>%1 - schéma corrigé</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Avant</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Après</translation>
+    </message>
+    <message>
+        <source>What it does to reports</source>
+        <translation>Effet sur les rapports</translation>
     </message>
 </context>
 </TS>

@@ -11,13 +11,14 @@ namespace schemadoctor {
 /// What the program is asked for.
 struct CommandLine
 {
-    enum class Show { Tree, Json, Html, Window, Fill, Mend, Help, Version, WrongUsage };
+    enum class Show { Tree, Json, Html, Window, Fill, Help, Version, WrongUsage };
 
     Show show = Show::Tree;
     QString schema;
-    QString otherFile; ///< the page or the schema to write, or the values to read
-    QString page; ///< to show what was mended; empty for none
-    bool isForPrograms = false; ///< what was mended is told as JSON
+    QString page; ///< to write, for Show::Html
+    QString values; ///< to read, for Show::Fill
+    bool isToMend = false; ///< what is shown is the mending
+    QString mended; ///< the schema to write, to be mended
     MendOptions mending;
     bool isToProve = true; ///< by reports that are filled on trial
     QString language; ///< a code such as "de"; empty for that of the system

@@ -16,6 +16,7 @@
 #include "mend/mendfile.h"
 #include "mend/mendrendering.h"
 #include "mendpage.h"
+#include "mendwindow.h"
 #include "render/jsonrendering.h"
 #include "render/textrendering.h"
 
@@ -52,47 +53,67 @@ bool writePage(const QString& fileName, const QByteArray& page)
     return true;
 }
 
-int writeMended(const CommandLine& line)
+template <class Window> void showUntilClosed(Window& window)
 {
-    const MendedFile result = mendInto(line.otherFile, line.schema, line.mending);
-    const bool isRefused = !result.mending.refusal.isEmpty();
-    if (line.isForPrograms) {
-        print(QString::fromUtf8(jsonOf(result.mending, result.examination)));
-    } else if (isRefused) {
-        std::fprintf(stderr, "xmlhelper-schema: %s\n", qUtf8Printable(result.mending.refusal));
-    } else if (line.page.isEmpty()) {
-        print(textOf(result.mending, result.examination));
-    } else if (!writePage(line.page, htmlOf(result.mending))) {
-        return Unreadable;
-    }
-    return isRefused ? Unreadable : exitStatusOf(result.examination);
+    window.show();
+    QApplication::exec();
 }
 
 int showWindow(const CommandLine& line)
 {
     const auto examineAsAsked = [&line](const QString& file) { return examine(file, line.isToProve, line.isAsButton); };
     DoctorWindow window(examineAsAsked(line.schema), examineAsAsked);
-    window.show();
-    QApplication::exec();
+    showUntilClosed(window);
     return exitStatusOf(window.GetExamination());
+}
+
+/// Shows what was mended; false when it cannot be shown.
+bool showMended(const CommandLine& line, const MendedFile& mended)
+{
+    switch (line.show) {
+    case CommandLine::Show::Html:
+        return writePage(line.page, htmlOf(mended.mending));
+    case CommandLine::Show::Window: {
+        MendWindow window(mended);
+        showUntilClosed(window);
+        return true;
+    }
+    case CommandLine::Show::Json:
+        return true; // printed, refused or not
+    default:
+        print(textOf(mended.mending, mended.examination));
+        return true;
+    }
+}
+
+int mendAndShow(const CommandLine& line)
+{
+    const MendedFile mended = mendInto(line.mended, line.schema, line.mending);
+    const bool isRefused = !mended.mending.refusal.isEmpty();
+    if (line.show == CommandLine::Show::Json) {
+        print(QString::fromUtf8(jsonOf(mended.mending, mended.examination)));
+    } else if (isRefused) {
+        std::fprintf(stderr, "xmlhelper-schema: %s\n", qUtf8Printable(mended.mending.refusal));
+    }
+    return isRefused || !showMended(line, mended) ? Unreadable : exitStatusOf(mended.examination);
 }
 
 int run(const CommandLine& line)
 {
+    if (line.isToMend) {
+        return mendAndShow(line);
+    }
     if (line.show == CommandLine::Show::Fill) {
         return exitStatusOf(
-            dryRun(line.schema, line.otherFile, [](const QString& text) { print(text + QLatin1Char('\n')); }));
+            dryRun(line.schema, line.values, [](const QString& text) { print(text + QLatin1Char('\n')); }));
     }
     if (line.show == CommandLine::Show::Window) {
         return showWindow(line);
     }
-    if (line.show == CommandLine::Show::Mend) {
-        return writeMended(line);
-    }
     const Examination examination = examine(line.schema, line.isToProve, line.isAsButton);
     switch (line.show) {
     case CommandLine::Show::Html:
-        return writePage(line.otherFile, htmlOf(examination)) ? exitStatusOf(examination) : Unreadable;
+        return writePage(line.page, htmlOf(examination)) ? exitStatusOf(examination) : Unreadable;
     case CommandLine::Show::Json:
         print(QString::fromUtf8(jsonOf(examination)));
         break;

@@ -4,6 +4,7 @@
 
 #include "htmlwriter.h"
 #include "mend/mendwords.h"
+#include "model/texts.h"
 #include "pageparts.h"
 
 namespace schemadoctor {
@@ -67,7 +68,7 @@ void MendPage::writeHead()
 {
     const QString policy
         = QStringLiteral("default-src 'none'; base-uri 'none'; form-action 'none'; style-src %1").arg(hashOf(style()));
-    m_writer.Start(QLatin1String("html"), {{QLatin1String("lang"), QStringLiteral("en")}});
+    m_writer.Start(QLatin1String("html"), {{QLatin1String("lang"), Texts::tr("en", "the language of the page")}});
     m_writer.Start(QLatin1String("head"));
     m_writer.Start(QLatin1String("meta"), {{QLatin1String("charset"), QStringLiteral("utf-8")}});
     m_writer.Start(

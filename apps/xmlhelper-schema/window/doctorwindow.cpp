@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDateTime>
+#include <QDir>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -17,6 +18,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -31,7 +33,9 @@
 #include <xmlhelper/documentfile_p.h>
 
 #include "laidouttreemodel.h"
+#include "mendwindow.h"
 #include "model/texts.h"
+#include "placewords.h"
 #include "schematextview.h"
 #include "schemawatcher.h"
 
@@ -53,12 +57,6 @@ QStyle::StandardPixmap pictureOf(Severity severity)
         break;
     }
     return QStyle::SP_MessageBoxInformation;
-}
-
-QString wordsFor(const Place& place)
-{
-    const QString file = place.file.section(QLatin1Char('/'), -1);
-    return place.line > 0 ? QStringLiteral("%1:%2").arg(file).arg(place.line) : file;
 }
 
 /// The files that an examination depends on, those that are missing too.
@@ -159,6 +157,8 @@ void DoctorWindow::makeMenu()
     QAction* const again = menu->addAction(tr("&Reload"), this, &DoctorWindow::reload);
     again->setObjectName(QStringLiteral("reload"));
     again->setShortcut(QKeySequence::Refresh);
+    QAction* const mend = menu->addAction(tr("&Mend..."), this, &DoctorWindow::chooseMended);
+    mend->setObjectName(QStringLiteral("mend"));
     menu->addSeparator();
     QAction* const close = menu->addAction(tr("&Close"), this, &QWidget::close);
     close->setShortcut(QKeySequence::Close);
@@ -259,6 +259,39 @@ void DoctorWindow::chooseFile()
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QFileDialog::fileSelected, this, &DoctorWindow::Open);
     dialog->open();
+}
+
+void DoctorWindow::chooseMended()
+{
+    const QFileInfo schema(m_examination.file);
+    const QString proposal = schema.dir().filePath(schema.completeBaseName() + QStringLiteral("-mended.xsd"));
+    auto* const dialog
+        = new QFileDialog(this, tr("Write the mended schema"), proposal, tr("Schemas (*.xsd);;All files (*)"));
+    dialog->setObjectName(QStringLiteral("mendDialog"));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QStringLiteral("xsd"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QFileDialog::fileSelected, this, &DoctorWindow::Mend);
+    dialog->open();
+}
+
+void DoctorWindow::Mend(const QString& out)
+{
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const MendedFile mended = mendInto(out, m_examination.file, MendOptions());
+    QGuiApplication::restoreOverrideCursor();
+    if (!mended.mending.refusal.isEmpty()) {
+        auto* const refusal
+            = new QMessageBox(QMessageBox::Warning, tr("Not mended"), mended.mending.refusal, QMessageBox::Ok, this);
+        refusal->setObjectName(QStringLiteral("refusal"));
+        refusal->setTextFormat(Qt::PlainText);
+        refusal->setAttribute(Qt::WA_DeleteOnClose);
+        refusal->open();
+        return;
+    }
+    auto* const window = new MendWindow(mended, this);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->show();
 }
 
 void DoctorWindow::Open(const QString& file)

@@ -29,8 +29,8 @@ class SchemaWatcher;
 /// schema is examined anew, and what was chosen stays chosen as long as it is there. Another schema is opened from the
 /// menu, or dropped on the window. One that cannot be read says so above the panes.
 ///
-/// Object names: message, filter, tree, file, text, findings, details, trees, meant, laidOut, openDialog; of actions:
-/// open, reload.
+/// Object names: message, filter, tree, file, text, findings, details, trees, meant, laidOut, openDialog, mendDialog,
+/// refusal; of actions: open, reload, mend.
 class DoctorWindow : public QMainWindow
 {
     Q_OBJECT
@@ -46,6 +46,10 @@ public:
 
     /// Examines another schema and shows it.
     void Open(const QString& file);
+
+    /// Mends the schema into another file, as the command does, and shows what was written otherwise in a window of its
+    /// own, or why it was not.
+    void Mend(const QString& out);
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -70,6 +74,7 @@ private:
     QTreeWidgetItem* makeItem(int number) const;
 
     void chooseFile();
+    void chooseMended();
     void reload();
     void examineAnew(const QString& file);
     void showExamination(const Examination& examination);

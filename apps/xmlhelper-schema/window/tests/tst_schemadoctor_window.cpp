@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QSaveFile>
@@ -21,6 +22,7 @@
 #include "doctorwindow.h"
 #include "examine.h"
 #include "laidouttreemodel.h"
+#include "mendwindow.h"
 #include "sampleexamination.h"
 #include "schematextview.h"
 
@@ -37,6 +39,11 @@ QStringList namesBelow(const QAbstractItemModel& model, const QModelIndex& paren
         names.append(namesBelow(model, index));
     }
     return names;
+}
+
+QStringList namesOf(const Examination& examination)
+{
+    return namesBelow(LaidOutTreeModel(examination.tree), QModelIndex());
 }
 
 QString textOfMarkedLine(const SchemaTextView& view)
@@ -207,6 +214,8 @@ private Q_SLOTS:
     void choosesAnotherForWhatIsGone();
     void filterStays();
     void opensAFileFromTheMenu();
+    void mendsFromTheMenu();
+    void saysWhyItDoesNotMend();
     void opensAFileThatIsDropped();
     void opensNothingThatIsNoFile();
     void saysThatAFileCannotBeRead_data();
@@ -736,6 +745,49 @@ void TestSchemaDoctorWindow::opensAFileFromTheMenu()
     QVERIFY(desk.Replace(QStringLiteral("b.xsd"), schemaOf(value(QStringLiteral("TheThird")))));
     QTRY_VERIFY(desk.Names().contains(QStringLiteral("TheThird")));
     QCOMPARE(desk.Examinations(), 2);
+}
+
+void TestSchemaDoctorWindow::mendsFromTheMenu()
+{
+    Desk desk;
+    QVERIFY(desk.Write(QStringLiteral("a.xsd"),
+                       schemaOf(QStringLiteral("<xs:group ref='Pair'/>\n"),
+                                QStringLiteral("<xs:group name='Pair'><xs:sequence>%1"
+                                               "</xs:sequence></xs:group>\n")
+                                    .arg(value(QStringLiteral("First"))))));
+    DoctorWindow& window = desk.Show(QStringLiteral("a.xsd"));
+    window.findChild<QAction*>(QStringLiteral("mend"))->trigger();
+    auto* const dialog = window.findChild<QFileDialog*>(QStringLiteral("mendDialog"));
+    QVERIFY(dialog);
+    QTRY_VERIFY(dialog->isVisible());
+    auto* const name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    QVERIFY(name);
+    QCOMPARE(name->text(), QStringLiteral("a-mended.xsd"));
+    name->setText(desk.PathOf(QStringLiteral("b")));
+    QTest::keyClick(name, Qt::Key_Return);
+    QTRY_VERIFY(window.findChild<MendWindow*>());
+    const auto* const mended = window.findChild<MendWindow*>();
+    QVERIFY(mended->isVisible());
+    QVERIFY(mended->windowTitle().contains(desk.PathOf(QStringLiteral("b.xsd"))));
+    QCOMPARE(namesOf(examined(desk.PathOf(QStringLiteral("b.xsd")))),
+             (QStringList {QStringLiteral("Report"), QStringLiteral("First")}));
+}
+
+void TestSchemaDoctorWindow::saysWhyItDoesNotMend()
+{
+    Desk desk;
+    const QString text = schemaOf(value(QStringLiteral("First")));
+    QVERIFY(desk.Write(QStringLiteral("a.xsd"), text));
+    DoctorWindow& window = desk.Show(QStringLiteral("a.xsd"));
+    window.Mend(desk.PathOf(QStringLiteral("a.xsd")));
+    const auto* const refusal = window.findChild<QMessageBox*>(QStringLiteral("refusal"));
+    QVERIFY(refusal);
+    QVERIFY(refusal->isVisible());
+    QVERIFY2(refusal->text().contains(QStringLiteral("is not written over")), qPrintable(refusal->text()));
+    QVERIFY(!window.findChild<MendWindow*>());
+    QFile file(desk.PathOf(QStringLiteral("a.xsd")));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(QString::fromUtf8(file.readAll()), text);
 }
 
 void TestSchemaDoctorWindow::opensAFileThatIsDropped()
