@@ -538,7 +538,7 @@ bool ContentResolver::giveDerived(MendedElement& element, const TextNode& type, 
     const QString name = derivation.Value("base");
     const TextNode* base = m_set.Find(GlobalKind::Type, derivation, name);
     if (base == &type) {
-        base = nullptr; // It redefines what was read before.
+        base = nullptr; // Nothing extends itself.
     }
     if (!base && !m_set.IsBuiltIn(derivation, name)) {
         m_log.Change(derivation, Mend::tr("the type '%1', which is defined nowhere").arg(name), Mend::tr("nothing"));

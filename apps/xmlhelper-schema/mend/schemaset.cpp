@@ -28,6 +28,16 @@ std::optional<GlobalKind> kindOf(const TextNode& tag)
     return found == kinds.end() ? std::nullopt : std::make_optional(found->second);
 }
 
+/// The redefinition of that name in which a tag stands: there the name means what is redefined.
+const TextNode* redefinitionAround(const TextNode& tag, GlobalKind kind, const QString& name)
+{
+    const TextNode* global = &tag;
+    while (global->parent && !global->parent->Is("redefine")) {
+        global = global->parent;
+    }
+    return global->parent && kindOf(*global) == kind && global->Value("name") == name ? global : nullptr;
+}
+
 } // namespace
 
 SchemaSet::SchemaSet(const QString& file)
@@ -80,14 +90,32 @@ void SchemaSet::follow(const TextNode& include)
     read(file);
 }
 
-/// The first declaration of a name counts.
+/// The first declaration of a name counts; those that it redefines follow it.
 void SchemaSet::addGlobals(const TextNode& parent)
 {
     for (const auto& tag : parent.children) {
         const std::optional<GlobalKind> kind = kindOf(*tag);
-        if (kind && m_globals.emplace(std::make_pair(*kind, tag->Value("name")), tag.get()).second) {
-            m_ordered[*kind].push_back(tag.get());
+        if (!kind) {
+            continue;
         }
+        const auto [found, isFirst] = m_globals.emplace(std::make_pair(*kind, tag->Value("name")), tag.get());
+        if (isFirst) {
+            m_ordered[*kind].push_back(tag.get());
+        } else {
+            redefine(*found->second, *tag);
+        }
+    }
+}
+
+/// What was redefined already is redefined by the last redefinition.
+void SchemaSet::redefine(const TextNode& first, const TextNode& original)
+{
+    const TextNode* last = &first;
+    for (auto next = m_redefined.find(last); next != m_redefined.end(); next = m_redefined.find(last)) {
+        last = next->second;
+    }
+    if (last->parent->Is("redefine")) {
+        m_redefined.emplace(last, &original);
     }
 }
 
@@ -107,7 +135,12 @@ const TextNode* SchemaSet::Find(GlobalKind kind, const TextNode& tag, const QStr
     if (space.isEmpty() && qName.contains(QLatin1Char(':'))) {
         return nullptr; // such as xml:lang
     }
-    const auto found = m_globals.find({kind, qName.section(QLatin1Char(':'), -1)});
+    const QString name = qName.section(QLatin1Char(':'), -1);
+    if (const TextNode* const redefinition = redefinitionAround(tag, kind, name)) {
+        const auto original = m_redefined.find(redefinition);
+        return original == m_redefined.end() ? nullptr : original->second;
+    }
+    const auto found = m_globals.find({kind, name});
     return found == m_globals.end() ? nullptr : found->second;
 }
 

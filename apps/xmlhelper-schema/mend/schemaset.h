@@ -31,7 +31,8 @@ public:
     const std::vector<const TextNode*>& GetUnread() const { return m_unread; }
     const std::vector<const TextNode*>& GetIncludes() const { return m_includes; }
 
-    /// What a tag refers to by a qualified name; null when this schema does not declare it.
+    /// What a tag refers to by a qualified name; null when this schema does not declare it. In a redefinition its own
+    /// name means what it redefines.
     const TextNode* Find(GlobalKind kind, const TextNode& tag, const QString& qName) const;
     /// All of one kind, in the order of reading.
     const std::vector<const TextNode*>& GetGlobals(GlobalKind kind) const;
@@ -49,6 +50,7 @@ private:
     void read(const QString& fileName);
     void follow(const TextNode& include);
     void addGlobals(const TextNode& parent);
+    void redefine(const TextNode& first, const TextNode& original);
     QString namespaceOf(const TextNode& tag, const QString& qName) const;
 
     SchemaText m_text;
@@ -58,6 +60,7 @@ private:
     std::vector<const TextNode*> m_includes;
     std::map<std::pair<GlobalKind, QString>, const TextNode*> m_globals;
     std::map<GlobalKind, std::vector<const TextNode*>> m_ordered;
+    std::map<const TextNode*, const TextNode*> m_redefined; ///< what each redefinition redefines
     std::map<const TextNode*, std::vector<const TextNode*>> m_substitutes; ///< by what they directly stand for
     std::map<const TextNode*, int> m_positions;
     QString m_refusal;
