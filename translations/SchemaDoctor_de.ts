@@ -298,12 +298,6 @@
 </translation>
     </message>
     <message>
-        <source>No other way of writing takes these findings away.
-</source>
-        <translation>Keine andere Schreibweise beseitigt diese Befunde.
-</translation>
-    </message>
-    <message>
         <source>More can be mended where the format may change.
 </source>
         <translation>Mehr lässt sich überarbeiten, wo sich das Format ändern darf.
@@ -442,6 +436,38 @@ Das überarbeitete Schema:
     <message>
         <source>The doctor finds in the mended schema</source>
         <translation>Was der Doktor im überarbeiteten Schema findet</translation>
+    </message>
+    <message>
+        <source>the element &apos;%1&apos; of a namespace that is not read</source>
+        <translation>das Element &apos;%1&apos; eines Namensraums, der nicht gelesen wird</translation>
+    </message>
+    <message>
+        <source>the group &apos;%1&apos; of a namespace that is not read</source>
+        <translation>die Gruppe &apos;%1&apos; eines Namensraums, der nicht gelesen wird</translation>
+    </message>
+    <message>
+        <source>the other alternatives</source>
+        <translation>die übrigen Alternativen</translation>
+    </message>
+    <message>
+        <source>the type &apos;%1&apos; of a namespace that is not read</source>
+        <translation>der Typ &apos;%1&apos; eines Namensraums, der nicht gelesen wird</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>The mender knows no way of writing without these findings; another root or number of levels may help.
+</source>
+        <translation>Eine Schreibweise ohne diese Befunde ist nicht bekannt; eine andere Wurzel oder Zahl von Ebenen hilft vielleicht.
+</translation>
+    </message>
+    <message>
+        <source>The format is not kept: what changes it cannot be left as it is.
+</source>
+        <translation>Das Format bleibt nicht erhalten: Was es ändert, kann nicht so gelassen werden, wie es ist.
+</translation>
     </message>
 </context>
 <context>

@@ -298,12 +298,6 @@
 </translation>
     </message>
     <message>
-        <source>No other way of writing takes these findings away.
-</source>
-        <translation>No other way of writing takes these findings away.
-</translation>
-    </message>
-    <message>
         <source>More can be mended where the format may change.
 </source>
         <translation>More can be mended where the format may change.
@@ -442,6 +436,38 @@ The mended schema:
     <message>
         <source>The doctor finds in the mended schema</source>
         <translation>The doctor finds in the mended schema</translation>
+    </message>
+    <message>
+        <source>the element &apos;%1&apos; of a namespace that is not read</source>
+        <translation>the element &apos;%1&apos; of a namespace that is not read</translation>
+    </message>
+    <message>
+        <source>the group &apos;%1&apos; of a namespace that is not read</source>
+        <translation>the group &apos;%1&apos; of a namespace that is not read</translation>
+    </message>
+    <message>
+        <source>the other alternatives</source>
+        <translation>the other alternatives</translation>
+    </message>
+    <message>
+        <source>the type &apos;%1&apos; of a namespace that is not read</source>
+        <translation>the type &apos;%1&apos; of a namespace that is not read</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 is no file.</translation>
+    </message>
+    <message>
+        <source>The mender knows no way of writing without these findings; another root or number of levels may help.
+</source>
+        <translation>The mender knows no way of writing without these findings; another root or number of levels may help.
+</translation>
+    </message>
+    <message>
+        <source>The format is not kept: what changes it cannot be left as it is.
+</source>
+        <translation>The format is not kept: what changes it cannot be left as it is.
+</translation>
     </message>
 </context>
 <context>

@@ -298,12 +298,6 @@
 </translation>
     </message>
     <message>
-        <source>No other way of writing takes these findings away.
-</source>
-        <translation>Aucune autre écriture ne supprime ces constats.
-</translation>
-    </message>
-    <message>
         <source>More can be mended where the format may change.
 </source>
         <translation>On peut corriger davantage si le format peut changer.
@@ -442,6 +436,38 @@ Le schéma corrigé :
     <message>
         <source>The doctor finds in the mended schema</source>
         <translation>Ce que le docteur trouve dans le schéma corrigé</translation>
+    </message>
+    <message>
+        <source>the element &apos;%1&apos; of a namespace that is not read</source>
+        <translation>l&apos;élément &apos;%1&apos; d&apos;un espace de noms qui n&apos;est pas lu</translation>
+    </message>
+    <message>
+        <source>the group &apos;%1&apos; of a namespace that is not read</source>
+        <translation>le groupe &apos;%1&apos; d&apos;un espace de noms qui n&apos;est pas lu</translation>
+    </message>
+    <message>
+        <source>the other alternatives</source>
+        <translation>les autres branches</translation>
+    </message>
+    <message>
+        <source>the type &apos;%1&apos; of a namespace that is not read</source>
+        <translation>le type &apos;%1&apos; d&apos;un espace de noms qui n&apos;est pas lu</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 n&apos;est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>The mender knows no way of writing without these findings; another root or number of levels may help.
+</source>
+        <translation>Aucune écriture sans ces constats n&apos;est connue ; une autre racine ou un autre nombre de niveaux peut aider.
+</translation>
+    </message>
+    <message>
+        <source>The format is not kept: what changes it cannot be left as it is.
+</source>
+        <translation>Le format n&apos;est pas conservé : ce qui le change ne peut pas être laissé tel quel.
+</translation>
     </message>
 </context>
 <context>

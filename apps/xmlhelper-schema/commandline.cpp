@@ -124,8 +124,8 @@ QString Options::faultOfMending() const
             ? QStringLiteral("--keep-format, --levels and --root belong to --mend.")
             : QString();
     }
-    if (isSet(m_fill)) {
-        return QStringLiteral("Give one of --mend and --fill.");
+    if (isSet(m_fill) || isSet(m_noProof) || isSet(m_asButton)) {
+        return QStringLiteral("--fill, --no-proof and --as-button do not go with --mend.");
     }
     const int levels = m_parser.value(m_levels).toInt();
     return isSet(m_levels) && (levels < 1 || levels > MostLevels)

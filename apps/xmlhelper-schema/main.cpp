@@ -5,7 +5,8 @@
 #include <memory>
 
 #include <QApplication>
-#include <QSaveFile>
+
+#include <xmlhelper/documentfile_p.h>
 
 #include "commandline.h"
 #include "doctorwindow.h"
@@ -17,6 +18,7 @@
 #include "mend/mendrendering.h"
 #include "mendpage.h"
 #include "mendwindow.h"
+#include "outputfile.h"
 #include "render/jsonrendering.h"
 #include "render/textrendering.h"
 
@@ -42,15 +44,26 @@ int exitStatusOf(DryRunEnd end)
     }
 }
 
-bool writePage(const QString& fileName, const QByteArray& page)
+/// @param files  which must not be written over
+bool writePage(const QString& fileName, const QByteArray& page, const QStringList& files)
 {
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(page) != page.size() || !file.commit()) {
-        std::fprintf(stderr, "xmlhelper-schema: %s: %s\n", qUtf8Printable(fileName),
-                     qUtf8Printable(file.errorString()));
-        return false;
+    const QString fault = isFileAmong(fileName, files)
+        ? QStringLiteral("%1 is a file of the schema itself, and is not written over.").arg(fileName)
+        : writeOutput(fileName, page);
+    if (!fault.isEmpty()) {
+        std::fprintf(stderr, "xmlhelper-schema: %s\n", qUtf8Printable(fault));
     }
-    return true;
+    return fault.isEmpty();
+}
+
+int showPage(const CommandLine& line, const Examination& examination)
+{
+    QStringList files;
+    for (const auto& text : examination.texts) {
+        files.append(openableFileName(text.first));
+    }
+    files.append(openableFileName(line.schema));
+    return writePage(line.page, htmlOf(examination), files) ? exitStatusOf(examination) : Unreadable;
 }
 
 template <class Window> void showUntilClosed(Window& window)
@@ -72,7 +85,7 @@ bool showMended(const CommandLine& line, const MendedFile& mended)
 {
     switch (line.show) {
     case CommandLine::Show::Html:
-        return writePage(line.page, htmlOf(mended.mending));
+        return writePage(line.page, htmlOf(mended.mending), mended.mending.files + QStringList(line.mended));
     case CommandLine::Show::Window: {
         MendWindow window(mended);
         showUntilClosed(window);
@@ -95,7 +108,10 @@ int mendAndShow(const CommandLine& line)
     } else if (isRefused) {
         std::fprintf(stderr, "xmlhelper-schema: %s\n", qUtf8Printable(mended.mending.refusal));
     }
-    return isRefused || !showMended(line, mended) ? Unreadable : exitStatusOf(mended.examination);
+    if (isRefused || !showMended(line, mended)) {
+        return Unreadable;
+    }
+    return mended.mending.isFormatLost ? HasErrors : exitStatusOf(mended.examination);
 }
 
 int run(const CommandLine& line)
@@ -113,7 +129,7 @@ int run(const CommandLine& line)
     const Examination examination = examine(line.schema, line.isToProve, line.isAsButton);
     switch (line.show) {
     case CommandLine::Show::Html:
-        return writePage(line.page, htmlOf(examination)) ? exitStatusOf(examination) : Unreadable;
+        return showPage(line, examination);
     case CommandLine::Show::Json:
         print(QString::fromUtf8(jsonOf(examination)));
         break;

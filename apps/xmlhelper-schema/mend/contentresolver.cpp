@@ -7,6 +7,7 @@
 
 #include <xmlhelper/constants_p.h>
 
+#include "choices.h"
 #include "documentation.h"
 #include "mendlimits.h"
 #include "mendwords.h"
@@ -62,6 +63,11 @@ bool isOfSingleElements(const MendedContent& content)
                        [&branches](const auto& one) { return branches.insert(one.branch).second; });
 }
 
+bool isRequiredOnceAtMost(const MendedContent& content)
+{
+    return std::all_of(content.begin(), content.end(), [](const auto& one) { return one.minOccurs < 2; });
+}
+
 bool isAllOptional(const MendedContent& content)
 {
     return std::all_of(content.begin(), content.end(), [](const auto& one) { return one.minOccurs == 0; });
@@ -79,20 +85,53 @@ QString describedOccurs(const TextNode& tag)
     return Mend::tr("minOccurs and maxOccurs of %1").arg(tag.qName);
 }
 
+/// Whether nothing has to stand between two elements, given that both are there.
+bool isNothingBetween(const MendedContent& content, std::size_t first, std::size_t second)
+{
+    const auto isOtherBranch = [](const MendedElement& between, const MendedElement& one) {
+        return between.choice != MendedElement::None && between.choice == one.choice && between.branch != one.branch;
+    };
+    std::map<int, std::map<int, bool>> mayBeEmpty; // the branches of the choices between
+    for (std::size_t index = first + 1; index < second; ++index) {
+        const MendedElement& between = content[index];
+        if (isOtherBranch(between, content[first]) || isOtherBranch(between, content[second])) {
+            continue;
+        }
+        const bool isInOtherChoice = between.choice != MendedElement::None && between.choice != content[first].choice
+            && between.choice != content[second].choice;
+        if (isInOtherChoice) {
+            bool& isEmpty = mayBeEmpty[between.choice].emplace(between.branch, true).first->second;
+            isEmpty = isEmpty && between.minOccurs == 0;
+        } else if (between.minOccurs > 0) {
+            return false;
+        }
+    }
+    return std::all_of(mayBeEmpty.begin(), mayBeEmpty.end(), [](const auto& choice) {
+        return std::any_of(choice.second.begin(), choice.second.end(),
+                           [](const auto& branch) { return branch.second; });
+    });
+}
+
+/// Whether an element can be the first of its alternative.
+bool isFirstOfBranch(const MendedContent& content, std::size_t index)
+{
+    for (std::size_t before = index; before > 0 && content[before - 1].branch == content[index].branch; --before) {
+        if (content[before - 1].minOccurs > 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
 /// Whether a reader cannot tell to which of two elements of one name a tag belongs.
 bool isAmbiguous(const MendedContent& content, std::size_t first, std::size_t second)
 {
     const MendedElement& earlier = content[first];
-    const auto isPassable = [&earlier](const MendedElement& between) {
-        return between.minOccurs == 0 || between.choice == earlier.choice;
-    };
-    const auto begin = content.begin() + std::ptrdiff_t(first) + 1;
-    const bool isReached = std::all_of(begin, content.begin() + std::ptrdiff_t(second), isPassable);
-    if (earlier.choice != MendedElement::None && earlier.choice == content[second].choice) {
-        const bool isAlone = content[second - 1].branch != content[second].branch;
-        return earlier.branch != content[second].branch ? isAlone : isReached;
+    const bool isOneChoice = earlier.choice != MendedElement::None && earlier.choice == content[second].choice;
+    if (isOneChoice && earlier.branch != content[second].branch) {
+        return isFirstOfBranch(content, first) && isFirstOfBranch(content, second);
     }
-    return isReached && earlier.minOccurs != earlier.maxOccurs;
+    return isNothingBetween(content, first, second) && earlier.minOccurs != earlier.maxOccurs;
 }
 
 } // namespace
@@ -150,6 +189,16 @@ ContentResolver::Content ContentResolver::particle(const TextNode& tag)
     return MendedContent();
 }
 
+/// Leaves out what cannot be written.
+void ContentResolver::leaveOut(const TextNode& particle, const QString& before)
+{
+    if (occursOf(particle, "minOccurs") == 0) {
+        m_log.Narrow(particle, before, Mend::tr("nothing"));
+    } else {
+        m_log.Lose(particle, before, Mend::tr("nothing"));
+    }
+}
+
 ContentResolver::Content ContentResolver::elementParticle(const TextNode& tag)
 {
     const QString ref = tag.Value("ref");
@@ -160,12 +209,10 @@ ContentResolver::Content ContentResolver::elementParticle(const TextNode& tag)
         return MendedContent();
     }
     if (!declaration) {
-        const QString before = Mend::tr("the element '%1', which is declared nowhere").arg(ref);
-        if (isOptional) {
-            m_log.Narrow(tag, before, Mend::tr("nothing"));
-        } else {
-            m_log.Change(tag, before, Mend::tr("nothing"));
-        }
+        const QString before = m_set.IsOfOtherNamespace(tag, ref)
+            ? Mend::tr("the element '%1' of a namespace that is not read").arg(ref)
+            : Mend::tr("the element '%1', which is declared nowhere").arg(ref);
+        leaveOut(tag, before);
         return MendedContent();
     }
     if (!ref.isEmpty()) {
@@ -196,18 +243,26 @@ ContentResolver::Content ContentResolver::sequence(const TextNode& tag)
 ContentResolver::Content ContentResolver::choice(const TextNode& tag)
 {
     std::vector<MendedContent> alternatives;
+    std::vector<const TextNode*> wildcards;
     for (const auto& child : tag.children) {
         if (child->Is("annotation")) {
             continue;
         }
         if (child->Is("any")) {
-            m_log.Narrow(*child, QStringLiteral("xs:any"), Mend::tr("nothing"));
+            wildcards.push_back(child.get());
             continue;
         }
         if (Content alternative = particle(*child)) {
             alternatives.push_back(std::move(*alternative));
         } else {
             m_log.Narrow(*child, Mend::tr("an alternative that leads deeper"), Mend::tr("nothing"));
+        }
+    }
+    for (const TextNode* const any : wildcards) {
+        if (alternatives.empty() && occursOf(tag, "minOccurs") > 0) {
+            static_cast<void>(wildcard(*any));
+        } else {
+            m_log.Narrow(*any, QStringLiteral("xs:any"), Mend::tr("nothing"));
         }
     }
     if (alternatives.empty() && childOf(tag, {"element", "sequence", "choice", "group"})) {
@@ -280,8 +335,10 @@ ContentResolver::Content ContentResolver::groupReference(const TextNode& tag)
     const TextNode* const group = m_set.Find(GlobalKind::Group, tag, tag.Value("ref"));
     const TextNode* const inside = group ? childOf(*group, {"sequence", "choice", "all"}) : nullptr;
     if (!inside) {
-        m_log.Change(tag, Mend::tr("the group '%1', which is defined nowhere").arg(tag.Value("ref")),
-                     Mend::tr("nothing"));
+        leaveOut(tag,
+                 m_set.IsOfOtherNamespace(tag, tag.Value("ref"))
+                     ? Mend::tr("the group '%1' of a namespace that is not read").arg(tag.Value("ref"))
+                     : Mend::tr("the group '%1', which is defined nowhere").arg(tag.Value("ref")));
         return MendedContent();
     }
     m_log.Narrow(tag, QStringLiteral("xs:group '%1'").arg(tag.Value("ref")), Mend::tr("its elements"));
@@ -295,11 +352,7 @@ ContentResolver::Content ContentResolver::groupReference(const TextNode& tag)
 
 ContentResolver::Content ContentResolver::wildcard(const TextNode& tag)
 {
-    if (occursOf(tag, "minOccurs") == 0) {
-        m_log.Narrow(tag, QStringLiteral("xs:any"), Mend::tr("nothing"));
-    } else {
-        m_log.Change(tag, Mend::tr("an xs:any that is required"), Mend::tr("nothing"));
-    }
+    leaveOut(tag, occursOf(tag, "minOccurs") == 0 ? QStringLiteral("xs:any") : Mend::tr("an xs:any that is required"));
     return MendedContent();
 }
 
@@ -349,8 +402,8 @@ void ContentResolver::repeat(const TextNode& tag, MendedContent& content)
         const QString after = Mend::tr("minOccurs and maxOccurs of '%1'").arg(element.name);
         if (element.minOccurs < 2 && element.choice == MendedElement::None) {
             m_log.Narrow(tag, describedOccurs(tag), after);
-        } else if (!m_log.Change(tag, describedOccurs(tag), after)) {
-            return;
+        } else {
+            m_log.Lose(tag, describedOccurs(tag), after);
         }
         element.minOccurs = product(element.minOccurs, minOccurs);
         element.maxOccurs = product(element.maxOccurs, maxOccurs);
@@ -369,10 +422,10 @@ void ContentResolver::repeatChoice(const TextNode& tag, int minOccurs, int maxOc
         return;
     }
     const QString after = Mend::tr("its alternatives in their order, each optional");
-    if (minOccurs == 0 && maxOccurs == Unbounded && isOfSingleElements(content)) {
+    if (minOccurs == 0 && maxOccurs == Unbounded && isOfSingleElements(content) && isRequiredOnceAtMost(content)) {
         m_log.Narrow(tag, describedOccurs(tag), after);
-    } else if (!m_log.Change(tag, describedOccurs(tag), after)) {
-        return;
+    } else {
+        m_log.Lose(tag, describedOccurs(tag), after);
     }
     makeOptional(content);
     for (MendedElement& element : content) {
@@ -384,15 +437,16 @@ void ContentResolver::repeatChoice(const TextNode& tag, int minOccurs, int maxOc
 void ContentResolver::repeatAll(const TextNode& tag, int minOccurs, int maxOccurs, MendedContent& content)
 {
     const bool isExact = maxOccurs == 1
-        && (minOccurs != 0 || isAllOptional(content) || (isChoice(content) && isOfSingleElements(content)));
+        && (minOccurs != 0 || isAllOptional(content)
+            || (isChoice(content) && isOfSingleElements(content) && isRequiredOnceAtMost(content)));
     const QString after = Mend::tr("minOccurs and maxOccurs of each element inside");
     if (isExact) {
         m_log.Narrow(tag, describedOccurs(tag), after);
     } else if (m_log.IsFormatKept() && minOccurs < 2) {
         m_log.Narrow(tag, describedOccurs(tag), Mend::tr("the group once"));
         return;
-    } else if (!m_log.Change(tag, describedOccurs(tag), after)) {
-        return;
+    } else {
+        m_log.Lose(tag, describedOccurs(tag), after);
     }
     for (MendedElement& element : content) {
         element.minOccurs = product(element.minOccurs, minOccurs);
@@ -400,39 +454,55 @@ void ContentResolver::repeatAll(const TextNode& tag, int minOccurs, int maxOccur
     }
 }
 
+/// Drops elements that a reader cannot tell from an earlier one, in a choice with their alternative.
 void ContentResolver::dropRepeatedNames(const TextNode& tag, MendedContent& content)
 {
-    std::map<QString, std::vector<std::size_t>> earlier;
-    std::set<std::size_t> dropped;
-    for (std::size_t second = 0; second < content.size(); ++second) {
-        std::vector<std::size_t>& firsts = earlier[content[second].name];
-        const bool isDropped = std::any_of(firsts.begin(), firsts.end(),
-                                           [&](std::size_t first) { return isAmbiguous(content, first, second); });
-        if (isDropped && mayDrop(tag, content[second])) {
-            dropped.insert(second);
-        } else {
-            firsts.assign(1, second);
-        }
-    }
-    if (dropped.empty()) {
-        return;
-    }
+    std::map<int, std::set<int>> branches = branchesOf(content);
+    std::set<int> dropped;
+    std::map<QString, std::size_t> last;
     MendedContent kept;
-    for (std::size_t index = 0; index < content.size(); ++index) {
-        if (dropped.count(index) == 0) {
-            kept.push_back(std::move(content[index]));
+    for (MendedElement& element : content) {
+        if (element.choice != MendedElement::None && dropped.count(element.branch) > 0) {
+            continue;
+        }
+        kept.push_back(std::move(element));
+        const MendedElement repeated = kept.back();
+        const auto earlier = last.emplace(repeated.name, kept.size() - 1);
+        if (earlier.second) {
+            continue;
+        }
+        if (!isAmbiguous(kept, earlier.first->second, kept.size() - 1) || !mayDrop(tag, repeated, branches)) {
+            earlier.first->second = kept.size() - 1;
+        } else if (repeated.minOccurs == 0 || repeated.choice == MendedElement::None) {
+            kept.pop_back();
+        } else {
+            dropped.insert(repeated.branch);
+            dropBranches(kept, {repeated.branch});
+            last.clear();
+            for (std::size_t index = 0; index < kept.size(); ++index) {
+                last[kept[index].name] = index;
+            }
         }
     }
     content = std::move(kept);
+    settleChoices(content);
 }
 
-bool ContentResolver::mayDrop(const TextNode& tag, const MendedElement& repeated)
+/// Whether an element that comes a second time may be dropped. Takes its alternative out of @p branches if that goes.
+bool ContentResolver::mayDrop(const TextNode& tag, const MendedElement& repeated,
+                              std::map<int, std::set<int>>& branches)
 {
     const QString before = Mend::tr("'%1' a second time").arg(repeated.name);
-    if (repeated.minOccurs != 0 && repeated.choice == MendedElement::None) {
+    if (repeated.minOccurs == 0) {
+        m_log.Narrow(tag, before, Mend::tr("nothing"));
+        return true;
+    }
+    std::set<int>& alternatives = branches[repeated.choice];
+    if (repeated.choice == MendedElement::None || alternatives.size() < 2) {
         return m_log.Change(tag, before, Mend::tr("nothing"));
     }
-    m_log.Narrow(tag, before, Mend::tr("nothing"));
+    alternatives.erase(repeated.branch);
+    m_log.Narrow(tag, before, Mend::tr("the other alternatives"));
     return true;
 }
 
@@ -475,6 +545,9 @@ bool ContentResolver::giveType(MendedElement& element, const TextNode& declarati
     if (named && named->Is("complexType") && !m_set.IsBuiltIn(declaration, name)) {
         m_log.Narrow(*named, Mend::tr("the complex type '%1'").arg(named->Value("name")),
                      Mend::tr("written inside of the elements that are of it"));
+        if (isTrue(*named, "abstract")) {
+            m_log.Lose(*named, Mend::tr("an abstract type"), Mend::tr("the type itself"));
+        }
         return giveComplexType(element, *named);
     }
     const QString head = declaration.Value("substitutionGroup");
@@ -500,9 +573,6 @@ bool ContentResolver::giveComplexType(MendedElement& element, const TextNode& ty
 {
     if (isBeyondLimit()) {
         return false;
-    }
-    if (isTrue(type, "abstract")) {
-        m_log.Change(type, Mend::tr("an abstract type"), Mend::tr("the type itself"));
     }
     ++m_depth;
     const bool isFinite = giveComplexContent(element, type);
@@ -541,7 +611,11 @@ bool ContentResolver::giveDerived(MendedElement& element, const TextNode& type, 
         base = nullptr; // Nothing extends itself.
     }
     if (!base && !m_set.IsBuiltIn(derivation, name)) {
-        m_log.Change(derivation, Mend::tr("the type '%1', which is defined nowhere").arg(name), Mend::tr("nothing"));
+        m_log.Lose(derivation,
+                   m_set.IsOfOtherNamespace(derivation, name)
+                       ? Mend::tr("the type '%1' of a namespace that is not read").arg(name)
+                       : Mend::tr("the type '%1', which is defined nowhere").arg(name),
+                   Mend::tr("nothing"));
     }
     m_log.Narrow(derivation, QStringLiteral("xs:%1 '%2'").arg(derivation.localName, name),
                  Mend::tr("the content written out"));
@@ -617,12 +691,12 @@ void ContentResolver::tellPassedOver(const TextNode& declaration)
         m_log.Narrow(declaration, QStringLiteral("nillable"), Mend::tr("nothing"));
     }
     if (isTrue(declaration, "abstract")) {
-        m_log.Change(declaration, Mend::tr("an abstract element"), Mend::tr("the element itself"));
+        m_log.Lose(declaration, Mend::tr("an abstract element"), Mend::tr("the element itself"));
     }
     for (const auto& child : declaration.children) {
         if (child->IsAnyOf({"key", "keyref", "unique"})) {
-            m_log.Change(*child, QStringLiteral("xs:%1 '%2'").arg(child->localName, child->Value("name")),
-                         Mend::tr("nothing"));
+            m_log.Lose(*child, QStringLiteral("xs:%1 '%2'").arg(child->localName, child->Value("name")),
+                       Mend::tr("nothing"));
         }
     }
 }

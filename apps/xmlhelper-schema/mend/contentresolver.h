@@ -3,6 +3,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 
 #include "attributes.h"
 #include "mendedelement.h"
@@ -31,6 +32,7 @@ private:
     using Content = std::optional<MendedContent>;
 
     Content particle(const TextNode& tag);
+    void leaveOut(const TextNode& particle, const QString& before);
     Content elementParticle(const TextNode& tag);
     Content sequence(const TextNode& tag);
     Content choice(const TextNode& tag);
@@ -44,7 +46,7 @@ private:
     void repeatChoice(const TextNode& tag, int minOccurs, int maxOccurs, MendedContent& content);
     void repeatAll(const TextNode& tag, int minOccurs, int maxOccurs, MendedContent& content);
     void dropRepeatedNames(const TextNode& tag, MendedContent& content);
-    bool mayDrop(const TextNode& tag, const MendedElement& repeated);
+    bool mayDrop(const TextNode& tag, const MendedElement& repeated, std::map<int, std::set<int>>& branches);
 
     std::optional<MendedElement> element(const TextNode& tag, const TextNode& declaration);
     bool giveType(MendedElement& element, const TextNode& declaration);

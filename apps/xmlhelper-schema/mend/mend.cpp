@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "choices.h"
 #include "contentresolver.h"
 #include "examine.h"
 #include "mendlimits.h"
@@ -36,16 +37,18 @@ QByteArray bytesOf(const TextFile& text)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Whether the texts can be put together as they are: they are in one encoding.
+/// Whether the texts can be put together as they are: they are in one encoding, and the top file declares all prefixes.
 bool isMergeable(const SchemaSet& set)
 {
+    const auto& prefixes = set.GetTop().namespaces;
     const std::vector<const TextFile*>& files = set.GetFiles();
-    return set.GetIncludes().empty() || std::none_of(files.begin(), files.end(), [](const TextFile* file) {
-               return file->text.contains(QChar(QChar::ReplacementCharacter));
+    return set.GetIncludes().empty() || std::all_of(files.begin(), files.end(), [&prefixes](const TextFile* file) {
+               return !file->text.contains(QChar(QChar::ReplacementCharacter))
+                   && std::includes(prefixes.begin(), prefixes.end(), file->namespaces.begin(), file->namespaces.end());
            });
 }
 
-/// The global declarations that something refers to.
+/// The global declarations that something refers to, or that may take the place of such a one.
 std::set<const TextNode*> referredIn(const SchemaSet& set)
 {
     std::set<const TextNode*> referred;
@@ -58,6 +61,12 @@ std::set<const TextNode*> referredIn(const SchemaSet& set)
             referred.insert(set.Find(kind, *tag, tag->Value("ref")));
             referred.insert(set.Find(GlobalKind::Element, *tag, tag->Value("substitutionGroup")));
         }
+    }
+    referred.erase(nullptr);
+    const std::set<const TextNode*> heads = referred;
+    for (const TextNode* const head : heads) {
+        const std::vector<const TextNode*> members = set.GetSubstitutes(*head);
+        referred.insert(members.begin(), members.end());
     }
     return referred;
 }
@@ -133,33 +142,27 @@ struct Staying
     bool IsEmpty() const { return optional.empty() && alternatives.empty(); }
 };
 
-/// Drops the alternatives that the library does not remove.
-void dropAlternatives(MendedElement& element, const Staying& staying, RewriteLog& log)
+/// Drops the alternatives that the library does not remove. The last one of a choice stays, as no choice.
+void dropAlternatives(MendedContent& content, const Staying& staying, RewriteLog& log)
 {
-    std::set<int> branches;
-    for (const MendedElement& child : element.children) {
-        if (child.choice != MendedElement::None && staying.alternatives.count(child.particle) > 0) {
+    std::map<int, std::set<int>> left = branchesOf(content);
+    std::set<int> dropped;
+    for (const MendedElement& child : content) {
+        const bool mayStay = child.choice != MendedElement::None && staying.alternatives.count(child.particle) > 0;
+        if (mayStay && dropped.count(child.branch) == 0 && left[child.choice].size() > 1) {
             log.Narrow(*child.particle, Mend::tr("the alternative '%1', which holds no value").arg(child.name),
                        Mend::tr("nothing"));
-            branches.insert(child.branch);
+            left[child.choice].erase(child.branch);
+            dropped.insert(child.branch);
         }
     }
-    MendedContent& content = element.children;
-    content.erase(std::remove_if(content.begin(), content.end(),
-                                 [&branches](const MendedElement& child) { return branches.count(child.branch) > 0; }),
-                  content.end());
-    std::map<int, std::set<int>> left;
-    for (const MendedElement& child : content) {
-        left[child.choice].insert(child.branch);
-    }
-    for (MendedElement& child : content) {
-        child.choice = left[child.choice].size() > 1 ? child.choice : MendedElement::None;
-    }
+    dropBranches(content, dropped);
+    settleChoices(content);
 }
 
 void require(MendedElement& element, const Staying& staying, RewriteLog& log)
 {
-    dropAlternatives(element, staying, log);
+    dropAlternatives(element.children, staying, log);
     for (MendedElement& child : element.children) {
         if (child.minOccurs == 0 && staying.optional.count(child.particle) > 0) {
             log.Narrow(*child.particle, Mend::tr("'%1', which may be missing").arg(child.name), Mend::tr("required"));
@@ -241,6 +244,9 @@ void mendSet(const SchemaSet& set, const MendOptions& options, Mending& mending)
             mending.text = written(set, *element, log);
             mending.rewrites = log.GetRewrites();
             mending.left = log.GetLeft();
+            mending.isFormatLost = options.isFormatKept
+                && std::any_of(mending.rewrites.begin(), mending.rewrites.end(),
+                               [](const Rewrite& rewrite) { return rewrite.effect == RewriteEffect::ChangesFormat; });
         }
         if (mending.refusal.isEmpty() || options.levels > 0) {
             return;
@@ -253,7 +259,9 @@ void mendSet(const SchemaSet& set, const MendOptions& options, Mending& mending)
 Mending mend(const QString& file, const MendOptions& options)
 {
     Mending mending;
-    const Examination examination = examine(file, false);
+    const bool isBareName = !file.contains(QLatin1Char('/')) && !file.contains(QLatin1Char('\\'));
+    const QString path = isBareName ? QStringLiteral("./") + file : file; // Seen from no folder no include is found.
+    const Examination examination = examine(path, false);
     if (!examination.IsReadable()) {
         mending.refusal = examination.unreadableReason;
         return mending;
@@ -261,17 +269,22 @@ Mending mend(const QString& file, const MendOptions& options)
     const SchemaSet set(file);
     for (const TextFile* const one : set.GetFiles()) {
         mending.texts[one->name] = one->text;
+        mending.files.append(one->name);
+    }
+    for (const TextNode* const unread : set.GetUnread()) {
+        mending.files.append(set.LocationOf(*unread));
+    }
+    mending.refusal = set.GetRefusal();
+    if (!mending.refusal.isEmpty()) {
+        return mending;
     }
     const bool isRoot = options.root.isEmpty()
         || (!examination.tree.IsEmpty() && examination.tree.elements.front().name == options.root);
-    if (isRoot && isMergeable(set) && isWithoutFindings(examination) && isWithoutFindings(examine(file))) {
+    if (isRoot && isMergeable(set) && isWithoutFindings(examination) && isWithoutFindings(examine(path))) {
         mending.text = set.GetIncludes().empty() ? bytesOf(set.GetTop()) : mergedText(set.GetTop());
         return mending;
     }
-    mending.refusal = set.GetRefusal();
-    if (mending.refusal.isEmpty()) {
-        mendSet(set, options, mending);
-    }
+    mendSet(set, options, mending);
     if (mending.refusal.isEmpty() && mending.rewrites.isEmpty()) {
         mending.text = bytesOf(set.GetTop());
     }

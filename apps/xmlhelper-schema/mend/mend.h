@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include "rewrite.h"
@@ -26,7 +27,9 @@ struct Mending
     QByteArray text; ///< of the mended schema
     QVector<Rewrite> rewrites; ///< in the order of files and lines; none: the declarations are as they were
     QVector<Rewrite> left; ///< what would have changed the format, and was not made
-    std::map<QString, QString> texts; ///< of the files that were read, by name: none of them may be written over
+    bool isFormatLost = false; ///< some rewrites change the format, which was to be kept, because there is no other way
+    std::map<QString, QString> texts; ///< of the files that were read, by name
+    QStringList files; ///< these and others that the schema names: none of them may be written over
 };
 
 /// Writes any XML Schema, with all that it includes, as one schema in what the library understands. One that the doctor

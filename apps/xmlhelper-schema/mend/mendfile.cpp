@@ -1,33 +1,12 @@
 #include "mendfile.h"
 
-#include <algorithm>
-
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include "examine.h"
 #include "mendwords.h"
+#include "outputfile.h"
 
 namespace schemadoctor {
-
-namespace {
-
-/// Whether both names lead to one file, by whatever links.
-bool isSameFile(const QString& left, const QString& right)
-{
-    const QString path = QFileInfo(left).canonicalFilePath();
-    return !path.isEmpty() && path == QFileInfo(right).canonicalFilePath();
-}
-
-/// Gives why the text cannot be written; empty when it was.
-QString write(const QString& out, const QByteArray& text)
-{
-    QSaveFile file(out);
-    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
-    return isWritten ? QString() : QStringLiteral("%1: %2").arg(out, file.errorString());
-}
-
-} // namespace
 
 MendedFile mendInto(const QString& out, const QString& file, const MendOptions& options)
 {
@@ -37,12 +16,14 @@ MendedFile mendInto(const QString& out, const QString& file, const MendOptions& 
     if (!mending.refusal.isEmpty()) {
         return result;
     }
-    if (std::any_of(mending.texts.begin(), mending.texts.end(),
-                    [&out](const auto& read) { return isSameFile(out, read.first); })) {
+    const QFileInfo there(out);
+    if (there.exists() && !there.isFile()) {
+        mending.refusal = Mend::tr("%1 is no file.").arg(out); // What is written is read again.
+    } else if (isFileAmong(out, mending.files)) {
         mending.refusal = Mend::tr("%1 is a file of the schema itself, and is not written over.").arg(out);
-        return result;
+    } else {
+        mending.refusal = writeOutput(out, mending.text);
     }
-    mending.refusal = write(out, mending.text);
     if (mending.refusal.isEmpty()) {
         result.examination = examine(out);
     }

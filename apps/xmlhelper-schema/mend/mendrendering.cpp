@@ -24,14 +24,17 @@ QString textOf(const QVector<Rewrite>& rewrites, const QString& heading)
     return text;
 }
 
-/// Why findings remain.
+/// Why findings remain, and whether the format does.
 QString wordsForRest(const Mending& mending, const Examination& result)
 {
-    if (exitStatusOf(result) == NothingToSay) {
-        return QString();
+    QString words;
+    if (exitStatusOf(result) != NothingToSay) {
+        words = mending.left.isEmpty() ? Mend::tr("The mender knows no way of writing without these findings; another "
+                                                  "root or number of levels may help.\n")
+                                       : Mend::tr("More can be mended where the format may change.\n");
     }
-    return mending.left.isEmpty() ? Mend::tr("No other way of writing takes these findings away.\n")
-                                  : Mend::tr("More can be mended where the format may change.\n");
+    return mending.isFormatLost ? words + Mend::tr("The format is not kept: what changes it cannot be left as it is.\n")
+                                : words;
 }
 
 QJsonArray jsonOf(const QVector<Rewrite>& rewrites)
@@ -69,6 +72,7 @@ QByteArray jsonOf(const Mending& mending, const Examination& result)
         {QStringLiteral("refusal"), mending.refusal},
         {QStringLiteral("rewrites"), jsonOf(mending.rewrites)},
         {QStringLiteral("left"), jsonOf(mending.left)},
+        {QStringLiteral("formatLost"), mending.isFormatLost},
         {QStringLiteral("result"), mending.refusal.isEmpty() ? QJsonValue(jsonObjectOf(result)) : QJsonValue()},
     };
     return QJsonDocument(object).toJson();

@@ -21,6 +21,14 @@ bool RewriteLog::Change(const TextNode& tag, const QString& before, const QStrin
     return !m_isFormatKept;
 }
 
+void RewriteLog::Lose(const TextNode& tag, const QString& before, const QString& after)
+{
+    const Rewrite rewrite {tag.GetPlace(), before, after, RewriteEffect::ChangesFormat};
+    if (isNew(rewrite)) {
+        m_rewrites.append(rewrite);
+    }
+}
+
 bool RewriteLog::isNew(const Rewrite& rewrite)
 {
     return m_told.emplace(rewrite.place.file, rewrite.place.line, rewrite.before, rewrite.after).second;

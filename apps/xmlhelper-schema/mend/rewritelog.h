@@ -28,6 +28,10 @@ public:
     /// Tells a rewrite that allows what the original does not. Gives false when it must not be made.
     bool Change(const TextNode& tag, const QString& before, const QString& after);
 
+    /// Tells a rewrite that allows what the original does not, and that is made all the same: what it rewrites can be
+    /// written in no other way.
+    void Lose(const TextNode& tag, const QString& before, const QString& after);
+
     /// In the order of files and lines.
     QVector<Rewrite> GetRewrites() const { return sorted(m_rewrites); }
     QVector<Rewrite> GetLeft() const { return sorted(m_left); } ///< what would have changed the format

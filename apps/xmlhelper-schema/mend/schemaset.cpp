@@ -79,15 +79,19 @@ void SchemaSet::read(const QString& fileName)
 
 void SchemaSet::follow(const TextNode& include)
 {
-    const QString location = include.Value("schemaLocation");
-    const QString file = QFileInfo(include.file->name).dir().filePath(location);
-    if (include.Is("import") || location.isEmpty() || !QFileInfo(file).isFile()) {
+    const QString file = LocationOf(include);
+    if (include.Is("import") || !QFileInfo(file).isFile()) {
         m_unread.push_back(&include);
         return;
     }
     m_includes.push_back(&include);
     addGlobals(include); // What is redefined counts before what is read.
     read(file);
+}
+
+QString SchemaSet::LocationOf(const TextNode& include) const
+{
+    return QFileInfo(include.file->name).dir().filePath(include.Value("schemaLocation"));
 }
 
 /// The first declaration of a name counts; those that it redefines follow it.
@@ -124,6 +128,12 @@ QString SchemaSet::namespaceOf(const TextNode& tag, const QString& qName) const
     const QString prefix = qName.contains(QLatin1Char(':')) ? qName.section(QLatin1Char(':'), 0, 0) : QString();
     const auto found = tag.file->namespaces.find(prefix);
     return found == tag.file->namespaces.end() ? QString() : found->second;
+}
+
+bool SchemaSet::IsOfOtherNamespace(const TextNode& tag, const QString& qName) const
+{
+    const QString space = namespaceOf(tag, qName);
+    return !space.isEmpty() && space != SchemaNamespace && space != GetTop().root->Value("targetNamespace");
 }
 
 const TextNode* SchemaSet::Find(GlobalKind kind, const TextNode& tag, const QString& qName) const

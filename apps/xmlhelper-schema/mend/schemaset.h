@@ -30,6 +30,8 @@ public:
     /// What cannot be opened, and schemas of other namespaces.
     const std::vector<const TextNode*>& GetUnread() const { return m_unread; }
     const std::vector<const TextNode*>& GetIncludes() const { return m_includes; }
+    /// The file that an include, a redefinition or an import names, there or not.
+    QString LocationOf(const TextNode& include) const;
 
     /// What a tag refers to by a qualified name; null when this schema does not declare it. In a redefinition its own
     /// name means what it redefines.
@@ -39,6 +41,9 @@ public:
 
     /// The global elements that may take the place of another, in the order of reading; itself first.
     std::vector<const TextNode*> GetSubstitutes(const TextNode& head) const;
+
+    /// Whether a qualified name in that tag belongs to a namespace that is not read.
+    bool IsOfOtherNamespace(const TextNode& tag, const QString& qName) const;
 
     /// Whether a qualified name in that tag is one of XML Schema's own.
     bool IsBuiltIn(const TextNode& tag, const QString& qName) const;

@@ -99,9 +99,18 @@ void SchemaWriter::tellReference(const MendedElement& element)
 {
     const TextNode& particle = *element.particle;
     const bool isWritten = particle.Has("ref");
+    // What is global has the namespace; what stands in its place has it only where that is the default.
+    const auto tell
+        = isNamespaceKept() && m_set.GetTop().root->Value("elementFormDefault") != QLatin1String("qualified")
+        ? &RewriteLog::Lose
+        : &RewriteLog::Narrow;
     if (isWritten && !element.isReference) {
-        m_log.Narrow(particle, Mend::tr("a reference to '%1'").arg(element.name), Mend::tr("the element in its place"));
-    } else if (element.isReference && (!isWritten || !m_set.IsBefore(*element.declaration, particle))) {
+        (m_log.*tell)(particle, Mend::tr("a reference to '%1'").arg(element.name),
+                      Mend::tr("the element in its place"));
+    } else if (element.isReference && !isWritten) {
+        (m_log.*tell)(*element.declaration, Mend::tr("the element '%1'").arg(element.name),
+                      Mend::tr("a global element in front of a reference to it"));
+    } else if (element.isReference && !m_set.IsBefore(*element.declaration, particle)) {
         m_log.Narrow(*element.declaration, Mend::tr("the element '%1'").arg(element.name),
                      Mend::tr("a global element in front of a reference to it"));
     }
@@ -115,6 +124,22 @@ QString SchemaWriter::bodyOf(const MendedElement& element)
     return std::exchange(m_text, text);
 }
 
+bool SchemaWriter::isNamespaceKept() const
+{
+    return m_log.IsFormatKept() && m_set.GetTop().root->Has("targetNamespace");
+}
+
+void SchemaWriter::tellForms()
+{
+    for (const TextFile* const file : m_set.GetFiles()) {
+        for (const TextNode* const tag : file->tags) {
+            if (tag->Has("form")) {
+                m_log.Lose(*tag, QStringLiteral("form='%1'").arg(tag->Value("form")), Mend::tr("nothing"));
+            }
+        }
+    }
+}
+
 void SchemaWriter::writeHead()
 {
     const TextNode& schema = *m_set.GetTop().root;
@@ -125,8 +150,10 @@ void SchemaWriter::writeHead()
     if (!space.isEmpty()
         && !m_log.Change(schema, Mend::tr("the target namespace '%1'").arg(space), Mend::tr("no namespace"))) {
         head += attribute("xmlns", space) + attribute("targetNamespace", space);
-        head += schema.Has("elementFormDefault") ? attribute("elementFormDefault", schema.Value("elementFormDefault"))
-                                                 : QString();
+        for (const char* const form : {"elementFormDefault", "attributeFormDefault"}) {
+            head += schema.Has(form) ? attribute(form, schema.Value(form)) : QString();
+        }
+        tellForms();
     }
     write(0, head + QLatin1Char('>'));
     const QStringList texts = documentationOf(schema);
@@ -162,6 +189,9 @@ void SchemaWriter::writeRestriction(const SimpleValue& value, int level)
 
 void SchemaWriter::writeAttribute(const MendedAttribute& one)
 {
+    if (isNamespaceKept() && !one.declaration->IsGlobal()) {
+        m_log.Lose(*one.declaration, Mend::tr("the attribute '%1'").arg(one.name), Mend::tr("a global attribute"));
+    }
     writeComments(one.declaration->comments, 1);
     write(1, QStringLiteral("<xs:attribute") + attribute("name", one.name) + QLatin1Char('>'));
     writeDocumentation(documentationOf(*one.declaration), 2);

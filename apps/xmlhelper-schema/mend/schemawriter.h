@@ -28,6 +28,8 @@ private:
     void planGlobal(MendedElement& element);
     void tellReference(const MendedElement& element);
 
+    bool isNamespaceKept() const;
+    void tellForms();
     void writeHead();
     void writeType(const GlobalNames::Type& type);
     void writeRestriction(const SimpleValue& value, int level);

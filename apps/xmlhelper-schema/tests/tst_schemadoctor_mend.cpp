@@ -73,6 +73,13 @@ private Q_SLOTS:
     void tells();
     void keepsTheFormatOnRequest();
     void keepsReportsValidByTheOriginal();
+    void saysRightlyThatReportsStayValid_data();
+    void saysRightlyThatReportsStayValid();
+    void saysThatTheFormatIsLost();
+    void saysWhichFormsTheNamespaceLoses();
+    void beginsWithNoSubstitute();
+    void mergesOnlyWhatHasItsPrefixes();
+    void findsIncludesOfABareName();
     void multipliesCountsWithinTheirRange();
     void unrollsToLevels_data();
     void unrollsToLevels();
@@ -258,6 +265,144 @@ void TestSchemaDoctorMend::keepsReportsValidByTheOriginal()
     QVERIFY(kept > 20);
 }
 
+void TestSchemaDoctorMend::saysRightlyThatReportsStayValid_data()
+{
+    QTest::addColumn<QByteArray>("declarations");
+    QTest::addColumn<bool>("staysValid");
+    const auto value = [](const char* name, const char* more = "") {
+        return "<xs:element name='" + QByteArray(name) + "' type='xs:string' " + more + "/>";
+    };
+    const auto empty
+        = [](const char* name) { return "<xs:element name='" + QByteArray(name) + "'><xs:complexType/></xs:element>"; };
+    const auto add = [&value](const char* name, const QByteArray& choice, bool staysValid) {
+        QTest::newRow(name) << report(value("First") + choice) << staysValid;
+    };
+    const char twice[] = "minOccurs='2' maxOccurs='2'";
+    add("twice-in-one-alternative",
+        "<xs:choice>" + value("D") + "<xs:sequence>" + value("A") + value("B") + value("A")
+            + "</xs:sequence></xs:choice>",
+        true);
+    add("only-alternatives-without-values", "<xs:choice>" + empty("On") + empty("Off") + "</xs:choice>", true);
+    add("alternatives-that-begin-without-values",
+        "<xs:choice>" + empty("Flag") + "<xs:sequence>" + empty("Mark") + value("V") + "</xs:sequence></xs:choice>",
+        true);
+    add("only-any", "<xs:choice><xs:any processContents='skip'/></xs:choice>", false);
+    add("any-beside-others", "<xs:choice><xs:any namespace='##other'/>" + value("A") + "</xs:choice>", true);
+    add("optional-choice-of-two-at-once", "<xs:choice minOccurs='0'>" + value("A", twice) + value("B") + "</xs:choice>",
+        false);
+    add("repeated-choice-of-two-at-once",
+        "<xs:choice minOccurs='0' maxOccurs='unbounded'>" + value("A", twice) + value("B") + "</xs:choice>", false);
+    QTest::newRow("abstract-base") << QByteArray(
+        "<xs:complexType name='Base' abstract='true'><xs:sequence>" + value("A")
+        + "</xs:sequence></xs:complexType>"
+          "<xs:complexType name='Derived'><xs:complexContent><xs:extension base='Base'><xs:sequence>"
+        + value("B") + "</xs:sequence></xs:extension></xs:complexContent></xs:complexType>"
+        + report("<xs:element name='Item' type='Derived'/>"))
+                                   << true;
+    QTest::newRow("abstract-type-itself")
+        << QByteArray("<xs:complexType name='Base' abstract='true'><xs:sequence>" + value("A")
+                      + "</xs:sequence></xs:complexType>" + report("<xs:element name='Item' type='Base'/>"))
+        << false;
+}
+
+/// What is said of the rewrites, and reports of every filling.
+void TestSchemaDoctorMend::saysRightlyThatReportsStayValid()
+{
+    QFETCH(QByteArray, declarations);
+    QFETCH(bool, staysValid);
+    const Mending mending = mended(schema(declarations));
+    QCOMPARE(mending.refusal, QString());
+    const bool isSaid = std::none_of(mending.rewrites.begin(), mending.rewrites.end(), [](const Rewrite& rewrite) {
+        return rewrite.effect == RewriteEffect::ChangesFormat;
+    });
+    QCOMPARE(isSaid, staysValid);
+    if (staysValid) {
+        const QString out = written(m_folder.filePath(QStringLiteral("mended.xsd")), mending.text);
+        const LaidOutTree tree = examine(out, false).tree;
+        int all = 0;
+        QVector<QByteArray> reports;
+        for (const Filling& filling : fillingsOf(tree, 20, all)) {
+            reports.append(filledReport(out, tree, filling));
+        }
+        QVERIFY(!reports.isEmpty());
+        QVector<ValidityError> errors;
+        QVERIFY(validate(m_folder.filePath(QStringLiteral("given.xsd")), reports, errors));
+        QVERIFY2(errors.isEmpty(), qPrintable(errors.isEmpty() ? QString() : errors.first().sentence));
+    }
+}
+
+/// What can be written in no other way is told as what it is, and not as left.
+void TestSchemaDoctorMend::saysThatTheFormatIsLost()
+{
+    MendOptions options;
+    options.isFormatKept = true;
+    const Mending kept = mended(schema(report("<xs:element name='Day' type='xs:date'/>")), options);
+    QVERIFY(!kept.isFormatLost);
+    const Mending lost = mended(schema(report("<xs:element name='A' type='xs:string'/>\n"
+                                              "<xs:any processContents='skip'/>")),
+                                options);
+    QVERIFY(lost.isFormatLost);
+    QVERIFY(has(lost.rewrites, 4, RewriteEffect::ChangesFormat));
+    QVERIFY(lost.left.isEmpty());
+}
+
+void TestSchemaDoctorMend::saysWhichFormsTheNamespaceLoses()
+{
+    MendOptions options;
+    options.isFormatKept = true;
+    const auto mendedWith = [&](const QByteArray& form) {
+        return mended("<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' xmlns='urn:r' targetNamespace='urn:r' "
+                          + form + ">\n<xs:element name='Value' type='xs:string'/>\n"
+                          + report("<xs:element name='A' type='xs:string'/><xs:element ref='Value' maxOccurs='2'/>")
+                          + "</xs:schema>",
+                      options);
+    };
+    QVERIFY(!mendedWith("elementFormDefault='qualified'").isFormatLost);
+    QVERIFY(mendedWith("").isFormatLost);
+}
+
+void TestSchemaDoctorMend::beginsWithNoSubstitute()
+{
+    const Mending mending = mended(schema("<xs:element name='Head' type='xs:string'/>\n"
+                                          "<xs:element name='Zone' type='xs:string' substitutionGroup='Head'/>\n"
+                                          + report("<xs:element ref='Head'/>")));
+    const LaidOutTree tree
+        = examine(written(m_folder.filePath(QStringLiteral("mended.xsd")), mending.text), false).tree;
+    QVERIFY(!tree.IsEmpty());
+    QCOMPARE(tree.elements.front().name, QStringLiteral("Report"));
+}
+
+void TestSchemaDoctorMend::mergesOnlyWhatHasItsPrefixes()
+{
+    const QByteArray root = "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'";
+    const QByteArray type = "<xs:simpleType name='Level'><xs:annotation><xs:appinfo><m:x/></xs:appinfo></xs:annotation>"
+                            "<xs:restriction base='xs:double'/></xs:simpleType></xs:schema>";
+    QVERIFY(!written(m_folder.filePath(QStringLiteral("type.xsd")), root + " xmlns:m='urn:m'>" + type).isEmpty());
+    const QString out = m_folder.filePath(QStringLiteral("mended.xsd"));
+    const QByteArray content = "<xs:include schemaLocation='type.xsd'/>\n"
+        + report("<xs:element name='Value' type='Level'/>") + "</xs:schema>";
+    for (const QByteArray& prefix : {QByteArray(), QByteArray(" xmlns:m='urn:m'")}) {
+        const QString top = written(m_folder.filePath(QStringLiteral("top.xsd")), root + prefix + ">\n" + content);
+        QCOMPARE(errorsOf(mendInto(out, top, MendOptions()).examination), QString());
+        QCOMPARE(contentOf(out).contains("<m:x/>"), !prefix.isEmpty());
+    }
+}
+
+/// The library looks for includes in the folder of the name that it is given.
+void TestSchemaDoctorMend::findsIncludesOfABareName()
+{
+    const QString folder = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(m_folder.path()));
+    written(QStringLiteral("type.xsd"),
+            schema("<xs:simpleType name='Level'><xs:restriction base='xs:double'/></xs:simpleType>"));
+    written(QStringLiteral("top.xsd"),
+            schema("<xs:include schemaLocation='type.xsd'/>\n" + report("<xs:element name='Value' type='Level'/>")));
+    const Mending mending = mend(QStringLiteral("top.xsd"));
+    QVERIFY(QDir::setCurrent(folder));
+    QVERIFY(mending.rewrites.isEmpty());
+    QVERIFY(mending.text.contains("<xs:restriction base='xs:double'/>"));
+}
+
 void TestSchemaDoctorMend::multipliesCountsWithinTheirRange()
 {
     const Mending mending
@@ -383,8 +528,15 @@ void TestSchemaDoctorMend::writesOverNoFileOfTheSchema()
     }
     QCOMPARE(contentOf(partName), part);
     QCOMPARE(contentOf(wholeName), whole);
+    const QString other = written(m_folder.filePath(QStringLiteral("other.xsd")), part);
+    const QString importing = written(m_folder.filePath(QStringLiteral("importing.xsd")),
+                                      schema("<xs:import namespace='urn:o' schemaLocation='other.xsd'/>"
+                                             + report("<xs:element name='A' type='xs:string'/>")));
+    QVERIFY(!mendInto(other, importing, MendOptions()).mending.refusal.isEmpty());
+    QCOMPARE(contentOf(other), part);
     const QString nowhere = m_folder.filePath(QStringLiteral("nowhere/out.xsd"));
     QVERIFY(!mendInto(nowhere, wholeName, MendOptions()).mending.refusal.isEmpty());
+    QVERIFY(!mendInto(m_folder.path(), wholeName, MendOptions()).mending.refusal.isEmpty());
 }
 
 void TestSchemaDoctorMend::keepsCommentsAndAnnotations()
