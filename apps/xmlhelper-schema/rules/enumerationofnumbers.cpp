@@ -1,6 +1,3 @@
-#include <set>
-#include <tuple>
-
 #include "rule.h"
 
 namespace schemadoctor {
@@ -18,29 +15,22 @@ template <class Declared> bool isNeverChecked(const Declared& declared)
 /// Only texts are compared with an enumeration, and only that takes it away.
 void enumerationOfNumbers(const Schema& schema, Findings& findings)
 {
-    std::set<std::tuple<QString, int, QString>> told;
+    ToldDeclarations told;
     const LaidOutTree& tree = schema.GetTree();
     for (int index = 0; index < int(tree.elements.size()); ++index) {
         const LaidOutElement& element = tree.elements[std::size_t(index)];
-        const auto tell = [&](const Place& place, const QString& name, const QString& what) {
-            if (told.emplace(place.file, place.line, name).second) {
-                findings.Add(Severity::Error, place, name, what,
+        const auto tell = [&](const auto& declared, const QString& what) {
+            if (isNeverChecked(declared) && told.Add(declared.place, declared.name, declared.type)) {
+                findings.Add(Severity::Error, declared.place, declared.name, what.arg(declared.name, declared.type),
                              Texts::tr("Any value is taken, and the enumeration stays in the report as attributes "
                                        "that the schema does not allow."),
                              Texts::tr("Enumerate texts, xs:string, or write bounds: minInclusive and maxInclusive."),
                              index);
             }
         };
-        if (isNeverChecked(element)) {
-            tell(element.place, element.name,
-                 Texts::tr("The element '%1' enumerates values of the type '%2'.").arg(element.name, element.type));
-        }
+        tell(element, Texts::tr("The element '%1' enumerates values of the type '%2'."));
         for (const DeclaredAttribute& attribute : element.attributes) {
-            if (isNeverChecked(attribute)) {
-                tell(attribute.place, attribute.name,
-                     Texts::tr("The attribute '%1' enumerates values of the type '%2'.")
-                         .arg(attribute.name, attribute.type));
-            }
+            tell(attribute, Texts::tr("The attribute '%1' enumerates values of the type '%2'."));
         }
     }
 }

@@ -2,6 +2,8 @@
 #define SCHEMADOCTOR_RULE_H
 
 #include <initializer_list>
+#include <set>
+#include <tuple>
 #include <vector>
 
 #include <QHash>
@@ -69,6 +71,20 @@ private:
     QVector<Finding> m_findings;
     Finding m_leftOut;
     int m_leftOutCount = 0;
+};
+
+/// Keeps a rule from telling of a declaration as often as it is laid out. Several may stand in one line.
+class ToldDeclarations
+{
+public:
+    /// Whether it is the first time.
+    bool Add(const Place& place, const QString& name, const QString& type)
+    {
+        return m_told.emplace(place.file, place.line, name, type).second;
+    }
+
+private:
+    std::set<std::tuple<QString, int, QString, QString>> m_told;
 };
 
 using Check = void (*)(const Schema& schema, Findings& findings);

@@ -1,5 +1,3 @@
-#include <QSet>
-
 #include "rule.h"
 #include "typeadvice.h"
 
@@ -7,18 +5,13 @@ namespace schemadoctor {
 
 void unfillableAttribute(const Schema& schema, Findings& findings)
 {
-    QSet<QString> told;
+    ToldDeclarations told;
     const LaidOutTree& tree = schema.GetTree();
     for (int index = 0; index < int(tree.elements.size()); ++index) {
         for (const DeclaredAttribute& attribute : tree.elements[std::size_t(index)].attributes) {
-            const QString key = QStringLiteral("%1:%2:%3")
-                                    .arg(attribute.place.file)
-                                    .arg(attribute.place.line)
-                                    .arg(attribute.name + QLatin1Char(' ') + attribute.type);
-            if (attribute.setters != Setters() || told.contains(key)) {
+            if (attribute.setters != Setters() || !told.Add(attribute.place, attribute.name, attribute.type)) {
                 continue;
             }
-            told.insert(key);
             findings.Add(
                 Severity::Warning, attribute.place, attribute.name,
                 attribute.type.isEmpty()

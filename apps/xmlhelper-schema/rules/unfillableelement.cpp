@@ -1,4 +1,4 @@
-#include <QSet>
+#include <QHash>
 
 #include "rule.h"
 #include "typeadvice.h"
@@ -34,9 +34,10 @@ QString effectOn(const LaidOutElement& element)
         : Texts::tr("No setter takes it: the element is removed from every report.");
 }
 
-QString keyOf(const Place& place)
+/// Of a declaration: its place and name.
+QString declarationKey(const Place& place, const QString& name)
 {
-    return place.file + QLatin1Char(':') + QString::number(place.line);
+    return QStringLiteral("%1:%2:%3").arg(place.line).arg(name, place.file);
 }
 
 } // namespace
@@ -45,9 +46,9 @@ void unfillableElement(const Schema& schema, Findings& findings)
 {
     QHash<QString, const TextNode*> declarations;
     for (const TextNode* const tag : schema.Tags({"element"})) {
-        declarations.insert(keyOf(tag->GetPlace()), tag);
+        declarations.insert(declarationKey(tag->GetPlace(), tag->Value("name")), tag);
     }
-    QSet<QString> told;
+    ToldDeclarations told;
     const LaidOutTree& tree = schema.GetTree();
     for (int index = 0; index < int(tree.elements.size()); ++index) {
         const LaidOutElement& element = tree.elements[std::size_t(index)];
@@ -55,13 +56,11 @@ void unfillableElement(const Schema& schema, Findings& findings)
         if (element.setters != Setters() || !element.children.empty() || hasAttributesOnly) {
             continue;
         }
-        const QString place = keyOf(element.place);
-        if (told.contains(place)) {
+        if (!told.Add(element.place, element.name, element.type)) {
             continue;
         }
-        told.insert(place);
         if (element.type.isEmpty()) {
-            const TextNode* const declaration = declarations.value(place);
+            const TextNode* const declaration = declarations.value(declarationKey(element.place, element.name));
             if (!declaration || isMeantToBeEmpty(schema, *declaration)) {
                 continue;
             }

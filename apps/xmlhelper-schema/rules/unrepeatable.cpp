@@ -1,5 +1,3 @@
-#include <QSet>
-
 #include "rule.h"
 
 namespace schemadoctor {
@@ -7,17 +5,16 @@ namespace schemadoctor {
 /// Limits are found in the same way as what is optional: by the names of owners.
 void unrepeatable(const Schema& schema, Findings& findings)
 {
-    QSet<QPair<QString, int>> told;
+    ToldDeclarations told;
     const LaidOutTree& tree = schema.GetTree();
     for (int index = 0; index < int(tree.elements.size()); ++index) {
         const LaidOutElement& element = tree.elements[std::size_t(index)];
         const bool isMeantToBe = element.maxOccurs == AcceptedCounts::Unbounded || element.maxOccurs > 1;
         const bool isNever = element.counts.isKnown && element.counts.greatest == 0;
-        const QPair<QString, int> place(element.place.file, element.place.line);
-        if (!isMeantToBe || told.contains(place) || (!isNever && !element.isSingleInCopies)) {
+        if (!isMeantToBe || (!isNever && !element.isSingleInCopies)
+            || !told.Add(element.place, element.name, element.type)) {
             continue;
         }
-        told.insert(place);
         findings.Add(
             Severity::Warning, element.place, element.name,
             isNever ? Texts::tr("The element '%1' may be repeated, but is not known to.").arg(element.name)

@@ -10,7 +10,7 @@ using namespace schemadoctor;
 namespace {
 
 /// Every rule has a folder of its name: in the files around triggers.xsd, a comment such as <!-- error --> stands in
-/// each line that the rule has something to say about; about quiet.xsd it says nothing.
+/// each line that the rule has something to say about, as often as it does; about quiet.xsd it says nothing.
 QString folderOf(const QString& rule)
 {
     return QStringLiteral(RULES_FOLDER "/") + rule;
@@ -33,8 +33,9 @@ QStringList markedFindings(const QString& rule)
             continue;
         }
         for (int line = 1; !file.atEnd(); ++line) {
-            const QRegularExpressionMatch match = mark.match(QString::fromUtf8(file.readLine()));
-            if (match.hasMatch()) {
+            QRegularExpressionMatchIterator marks = mark.globalMatch(QString::fromUtf8(file.readLine()));
+            while (marks.hasNext()) {
+                const QRegularExpressionMatch match = marks.next();
                 marked.append(finding(name, match.captured(2).isEmpty() ? line : 0, match.captured(1)));
             }
         }
