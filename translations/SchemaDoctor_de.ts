@@ -1318,10 +1318,6 @@ Das überarbeitete Schema:
         <translation>libxml2 nimmt das Schema nicht an: %1</translation>
     </message>
     <message>
-        <source>libxml2 does not accept the schema: %1 The same of %2 other names.</source>
-        <translation>libxml2 nimmt das Schema nicht an: %1 Dasselbe gilt für weitere Namen: %2.</translation>
-    </message>
-    <message>
         <source>The library does not look at it, but no report can be validated.</source>
         <translation>Die Bibliothek achtet nicht darauf, aber kein Bericht lässt sich validieren.</translation>
     </message>
@@ -1996,6 +1992,30 @@ Das überarbeitete Schema:
     <message>
         <source>%1, choice %2</source>
         <translation>%1, Auswahl %2</translation>
+    </message>
+    <message>
+        <source>Include the schema that defines these names, and refer to them without a namespace.</source>
+        <translation>Das Schema, das diese Namen definiert, einbinden und ohne Namensraum auf sie verweisen.</translation>
+    </message>
+    <message>
+        <source>the namespace &apos;%1&apos;</source>
+        <translation>der Namensraum &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>libxml2 does not accept the schema: %1 The same of %2 other uses.</source>
+        <translation>libxml2 nimmt das Schema nicht an: %1 Weitere Verwendungen mit demselben Fehler: %2.</translation>
+    </message>
+    <message>
+        <source>Nothing fills it and nothing removes it: it stays, whether a report is meant to have it or not.</source>
+        <translation>Nichts füllt es, und nichts entfernt es: Es bleibt, ob ein Bericht es haben soll oder nicht.</translation>
+    </message>
+    <message>
+        <source>Nothing fills it: it stays, whether a report is meant to have it or not, unless a value behind it is unfilled. That one removes it.</source>
+        <translation>Nichts füllt es: Es bleibt, ob ein Bericht es haben soll oder nicht, außer wenn ein Wert dahinter unausgefüllt ist. Der entfernt es.</translation>
+    </message>
+    <message>
+        <source>Give &apos;%1&apos; a type that takes a value, such as xs:boolean, or make it required.</source>
+        <translation>&apos;%1&apos; einen Typ geben, der einen Wert annimmt, etwa xs:boolean, oder es als vorgeschrieben deklarieren.</translation>
     </message>
 </context>
 <context>

@@ -1318,10 +1318,6 @@ The mended schema:
         <translation>libxml2 does not accept the schema: %1</translation>
     </message>
     <message>
-        <source>libxml2 does not accept the schema: %1 The same of %2 other names.</source>
-        <translation>libxml2 does not accept the schema: %1 The same of %2 other names.</translation>
-    </message>
-    <message>
         <source>The library does not look at it, but no report can be validated.</source>
         <translation>The library does not look at it, but no report can be validated.</translation>
     </message>
@@ -1996,6 +1992,30 @@ The mended schema:
     <message>
         <source>%1, choice %2</source>
         <translation>%1, choice %2</translation>
+    </message>
+    <message>
+        <source>Include the schema that defines these names, and refer to them without a namespace.</source>
+        <translation>Include the schema that defines these names, and refer to them without a namespace.</translation>
+    </message>
+    <message>
+        <source>the namespace &apos;%1&apos;</source>
+        <translation>the namespace &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>libxml2 does not accept the schema: %1 The same of %2 other uses.</source>
+        <translation>libxml2 does not accept the schema: %1 The same of %2 other uses.</translation>
+    </message>
+    <message>
+        <source>Nothing fills it and nothing removes it: it stays, whether a report is meant to have it or not.</source>
+        <translation>Nothing fills it and nothing removes it: it stays, whether a report is meant to have it or not.</translation>
+    </message>
+    <message>
+        <source>Nothing fills it: it stays, whether a report is meant to have it or not, unless a value behind it is unfilled. That one removes it.</source>
+        <translation>Nothing fills it: it stays, whether a report is meant to have it or not, unless a value behind it is unfilled. That one removes it.</translation>
+    </message>
+    <message>
+        <source>Give &apos;%1&apos; a type that takes a value, such as xs:boolean, or make it required.</source>
+        <translation>Give &apos;%1&apos; a type that takes a value, such as xs:boolean, or make it required.</translation>
     </message>
 </context>
 <context>

@@ -1318,10 +1318,6 @@ Le schéma corrigé :
         <translation>libxml2 n&apos;accepte pas le schéma : %1</translation>
     </message>
     <message>
-        <source>libxml2 does not accept the schema: %1 The same of %2 other names.</source>
-        <translation>libxml2 n&apos;accepte pas le schéma : %1 De même pour d&apos;autres noms : %2.</translation>
-    </message>
-    <message>
         <source>The library does not look at it, but no report can be validated.</source>
         <translation>La bibliothèque n&apos;en tient pas compte, mais aucun rapport ne peut être validé.</translation>
     </message>
@@ -1996,6 +1992,30 @@ Le schéma corrigé :
     <message>
         <source>%1, choice %2</source>
         <translation>%1, choix %2</translation>
+    </message>
+    <message>
+        <source>Include the schema that defines these names, and refer to them without a namespace.</source>
+        <translation>Inclure le schéma qui définit ces noms, et s&apos;y référer sans espace de noms.</translation>
+    </message>
+    <message>
+        <source>the namespace &apos;%1&apos;</source>
+        <translation>l&apos;espace de noms &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>libxml2 does not accept the schema: %1 The same of %2 other uses.</source>
+        <translation>libxml2 n&apos;accepte pas le schéma : %1 Autres emplois concernés : %2.</translation>
+    </message>
+    <message>
+        <source>Nothing fills it and nothing removes it: it stays, whether a report is meant to have it or not.</source>
+        <translation>Rien ne le remplit et rien ne le supprime : il reste, que le rapport doive le contenir ou non.</translation>
+    </message>
+    <message>
+        <source>Nothing fills it: it stays, whether a report is meant to have it or not, unless a value behind it is unfilled. That one removes it.</source>
+        <translation>Rien ne le remplit : il reste, que le rapport doive le contenir ou non, sauf si une valeur qui le suit n&apos;est pas remplie. C&apos;est elle qui le supprime.</translation>
+    </message>
+    <message>
+        <source>Give &apos;%1&apos; a type that takes a value, such as xs:boolean, or make it required.</source>
+        <translation>Donner à &apos;%1&apos; un type qui accepte une valeur, comme xs:boolean, ou le rendre obligatoire.</translation>
     </message>
 </context>
 <context>

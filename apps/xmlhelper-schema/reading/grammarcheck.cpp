@@ -16,7 +16,8 @@ namespace schemadoctor {
 
 namespace {
 
-constexpr int MaxFaults = 100;
+/// More than findings are shown, because those of one cause are told once.
+constexpr int MaxFaults = 10000;
 
 void collectFault(void* userData, xmlError* error)
 {
@@ -53,8 +54,9 @@ QVector<GrammarFault> grammarFaultsOf(const QString& file)
     QVector<GrammarFault> faults;
     const QJsonArray all = QJsonDocument::fromJson(result.bytes).array();
     for (const QJsonValue& fault : all) {
-        faults.append({{fault[QStringLiteral("file")].toString(), fault[QStringLiteral("line")].toInt()},
-                       fault[QStringLiteral("message")].toString()});
+        const Place place {fault[QStringLiteral("file")].toString(), fault[QStringLiteral("line")].toInt()};
+        // Without a file the lines are those of an entity.
+        faults.append({place.file.isEmpty() ? Place {file, 0} : place, fault[QStringLiteral("message")].toString()});
     }
     return faults;
 }

@@ -74,6 +74,11 @@ SchemaRecord::SchemaRecord(SchemaText& text, const QString& file)
 
 SchemaRecord::~SchemaRecord() = default;
 
+Place SchemaRecord::PlaceOf(const TextNode* tag) const
+{
+    return tag ? tag->GetPlace() : Place {m_includes.file, 0};
+}
+
 QDomElement SchemaRecord::GetRoot() const
 {
     return m_handler->GetDocument()->documentElement();
@@ -107,9 +112,8 @@ IncludedFile& SchemaRecord::addInclude(const QString& written, const QString& op
     included.written = written;
     included.file = opened;
     included.isOutsideOfFolder = !isBelowFolder(opened, m_includes.file);
-    if (const TextNode* const tag = tagOf(include)) {
-        included.place = tag->GetPlace();
-    }
+    const TextNode* const tag = tagOf(include);
+    included.place = tag ? tag->GetPlace() : Place {m_openFiles.back()->file, 0};
     return included;
 }
 
@@ -227,8 +231,7 @@ void SchemaRecord::UnusedGlobal(int file, const QString& name)
     if (!m_rootCandidates.isEmpty()) {
         m_rootCandidates.last().isChosen = false;
     }
-    m_rootCandidates.append(
-        {name, declaration && declaration->Is("attribute"), true, declaration ? declaration->GetPlace() : Place()});
+    m_rootCandidates.append({name, declaration && declaration->Is("attribute"), true, PlaceOf(declaration)});
 }
 
 void SchemaRecord::ElementLaidOut(const QDomElement&, const SchemaTag& declaration, const SchemaTag& reference)

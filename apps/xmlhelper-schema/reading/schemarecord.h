@@ -89,6 +89,9 @@ public:
     /// Global declarations that the end of an included file has made unfit for the root, with the include.
     const std::map<const TextNode*, const TextNode*>& GetHiddenRoots() const { return m_hiddenRoots; }
 
+    /// Of a tag; of an unknown one the top file as a whole.
+    Place PlaceOf(const TextNode* tag) const;
+
     QDomElement GetRoot() const; ///< of the skeleton; null when nothing is laid out
     /// Of the elements from the root on, in document order.
     const std::vector<ElementOrigin>& GetOrigins() const { return m_origins; }

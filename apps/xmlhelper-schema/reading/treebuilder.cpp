@@ -42,17 +42,16 @@ QStringList valuesByNumber(const QDomElement& element, const QStringList& names)
 }
 
 /// Facets and enumeration belong to an attribute when their names contain its name.
-DeclaredAttribute declaredAttribute(const SchemaRecord::AttributeOrigin& origin, const QStringList& all,
-                                    const QDomElement& element)
+DeclaredAttribute declaredAttribute(const SchemaRecord::AttributeOrigin& origin, const Place& place,
+                                    const QStringList& all, const QDomElement& element)
 {
     DeclaredAttribute declared;
     declared.name = origin.name;
     declared.type = element.attribute(origin.name);
     declared.setters = settersOfAttribute(declared.type);
-    if (origin.tag) {
-        declared.place = origin.tag->GetPlace();
-        declared.isRequired = origin.tag->IsGlobal() || origin.tag->Value("use") == QLatin1String("required");
-    }
+    declared.place = place;
+    declared.isRequired
+        = origin.tag && (origin.tag->IsGlobal() || origin.tag->Value("use") == QLatin1String("required"));
     QStringList enumeration;
     for (const QString& other : all) {
         const QLatin1String facet = rangeFacetOfAttribute(other, origin.name);
@@ -156,10 +155,11 @@ int TreeBuilder::add(const QDomElement& element, int parent)
 /// What a reference says of occurrences counts in place of what the declaration says.
 void TreeBuilder::applyDeclaration(LaidOutElement& laidOut, const SchemaRecord::ElementOrigin& origin) const
 {
+    laidOut.place = m_record.PlaceOf(origin.declaration);
+    laidOut.particle = laidOut.place;
     if (!origin.declaration) {
         return;
     }
-    laidOut.place = origin.declaration->GetPlace();
     const bool isReferred = origin.reference && !origin.reference->Has("name");
     const TextNode& particle = isReferred ? *origin.reference : *origin.declaration;
     laidOut.particle = particle.GetPlace();
@@ -189,7 +189,7 @@ void TreeBuilder::annotate(LaidOutElement& laidOut, const QDomElement& element,
     for (const SchemaRecord::AttributeOrigin& origin : origins) {
         const QString value = element.attribute(origin.name);
         if (origin.kind == Kind::Declared) {
-            laidOut.attributes.append(declaredAttribute(origin, all, element));
+            laidOut.attributes.append(declaredAttribute(origin, m_record.PlaceOf(origin.tag), all, element));
         }
         Facet facet {origin.name, value, false};
         facet.isChecked = rangeFacetOfElement(origin.name).size() > 0;

@@ -77,9 +77,9 @@ QString lineFor(const LaidOutElement& element)
     if (!isContainer(element)) {
         words.append(wordsFor(element.setters));
     }
-    return QStringLiteral("%1: %2  [%3:%4]")
-        .arg(element.name, words.join(QLatin1String("; ")), fileNameOf(element.place.file))
-        .arg(element.place.line);
+    return QStringLiteral("%1: %2  [%3]")
+        .arg(element.name, words.join(QLatin1String("; ")),
+             wordsFor(Place {fileNameOf(element.place.file), element.place.line}));
 }
 
 QString lineFor(const DeclaredAttribute& attribute)

@@ -1,4 +1,4 @@
-#include <QSet>
+#include <algorithm>
 
 #include "rule.h"
 
@@ -55,32 +55,56 @@ Cause noValue(const QString& name)
                 .arg(name)};
 }
 
-Cause causeOf(const LaidOutTree& tree, const LaidOutElement& element)
+/// Of an element in which there is nothing to be set at all.
+Cause alwaysEmpty(const QString& name, Fate fate)
 {
+    return {Texts::tr("The element '%1' is optional, and nothing inside of it takes a value.").arg(name),
+            fate == Fate::Stays
+                ? Texts::tr("Nothing fills it and nothing removes it: it stays, whether a report is meant to have it "
+                            "or not.")
+                : Texts::tr("Nothing fills it: it stays, whether a report is meant to have it or not, unless a value "
+                            "behind it is unfilled. That one removes it."),
+            Texts::tr("Give '%1' a type that takes a value, such as xs:boolean, or make it required.").arg(name)};
+}
+
+/// Whether the element or one inside of it has any.
+bool isAnyAttributeIn(const LaidOutTree& tree, int index)
+{
+    const auto begin = tree.elements.begin() + index;
+    const auto end = std::find_if(begin + 1, tree.elements.end(),
+                                  [index](const LaidOutElement& other) { return other.parent < index; });
+    return std::any_of(begin, end, [](const LaidOutElement& element) { return !element.attributes.isEmpty(); });
+}
+
+Cause causeOf(const LaidOutTree& tree, int index)
+{
+    const LaidOutElement& element = tree.elements[std::size_t(index)];
     if (element.staysInCopies) {
         return firstCopyOnly(element.name);
     }
     if (element.goesInstead != LaidOutElement::None) {
         return goneInstead(element.name, tree.elements[std::size_t(element.goesInstead)].name);
     }
-    return element.counts.takesZero ? noValue(element.name) : unknownOwner(element.name);
+    if (!element.counts.takesZero) {
+        return unknownOwner(element.name);
+    }
+    return isAnyAttributeIn(tree, index) ? noValue(element.name) : alwaysEmpty(element.name, element.fate);
 }
 
 } // namespace
 
 void optionalThatStays(const Schema& schema, Findings& findings)
 {
-    QSet<QPair<QString, int>> told;
+    ToldDeclarations told;
     const LaidOutTree& tree = schema.GetTree();
     for (int index = 0; index < int(tree.elements.size()); ++index) {
         const LaidOutElement& element = tree.elements[std::size_t(index)];
-        const QPair<QString, int> place(element.particle.file, element.particle.line);
         const bool mayStay = element.fate == Fate::Stays || element.fate == Fate::IsRemovedWithAnother;
-        if (element.minOccurs != 0 || told.contains(place) || (!mayStay && !element.staysInCopies)) {
+        if (element.minOccurs != 0 || (!mayStay && !element.staysInCopies)
+            || !told.Add(element.particle, element.name, element.type)) {
             continue;
         }
-        told.insert(place);
-        const Cause cause = causeOf(tree, element);
+        const Cause cause = causeOf(tree, index);
         findings.Add(Severity::Warning, element.particle, element.name, cause.what, cause.effect, cause.remedy, index);
     }
 }

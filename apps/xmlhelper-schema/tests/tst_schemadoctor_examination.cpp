@@ -224,13 +224,14 @@ private Q_SLOTS:
     void tellsOfAReferenceByItsOwnOccurrence();
     void placesTagsWhereTheyBegin_data();
     void placesTagsWhereTheyBegin();
-    void placesNothingBehindTagsOfAnEntity();
+    void placesWhatStandsBehindTagsOfAnEntityInTheFile();
     void tellsWhichCountsAreAccepted_data();
     void tellsWhichCountsAreAccepted();
     void tellsWhatBecomesOfUnfilledElements_data();
     void tellsWhatBecomesOfUnfilledElements();
     void saysWhatTheBuilderDoes_data();
     void saysWhatTheBuilderDoes();
+    void tellsWhatIsAlwaysThere();
     void tellsOfFurtherCopies_data();
     void tellsOfFurtherCopies();
     void keepsInFurtherCopiesWhatTheBuilderKeeps();
@@ -249,6 +250,8 @@ private Q_SLOTS:
     void endsWithTheWorstFinding_data();
     void endsWithTheWorstFinding();
     void putsFindingsOfOneCauseTogether();
+    void tellsOfANamespaceOnce_data();
+    void tellsOfANamespaceOnce();
     void showsEachPairOfTreesOnce();
     void printsEveryElementAndFinding();
     void writesEveryElementAndFindingAsJson();
@@ -418,21 +421,41 @@ void TestSchemaDoctorExamination::placesTagsWhereTheyBegin()
     QCOMPARE(nillable->place.line, line);
 }
 
-/// The library reads them, and the text does not show them: what follows has no place, rather than a wrong one.
-void TestSchemaDoctorExamination::placesNothingBehindTagsOfAnEntity()
+/// The library reads them, and the text does not show them: what follows has no line, rather than a wrong one, but
+/// never no file. Neither have the faults of an entity, in which libxml2 counts lines on their own.
+void TestSchemaDoctorExamination::placesWhatStandsBehindTagsOfAnEntityInTheFile()
 {
     QFile file(m_folder.filePath(QStringLiteral("schema.xsd")));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("<!DOCTYPE xs:schema [<!ENTITY level \"<xs:element name='Level' type='xs:double'/>\">]>\n"
                "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>\n"
-               "<xs:element name='Report'><xs:complexType>&level;<xs:element name='Site' type='xs:string'/>"
-               "</xs:complexType></xs:element></xs:schema>");
+               "<xs:element name='Report'><xs:complexType>&level;<xs:element name='Cost' type='xs:decimal'/>"
+               "<xs:attribute name='Site' type='xs:string'/></xs:complexType></xs:element></xs:schema>");
     file.close();
     const Examination examination = examine(file.fileName());
     QCOMPARE(int(examination.tree.elements.size()), 3);
     QCOMPARE(examination.tree.elements.at(0).place.line, 3);
     QCOMPARE(examination.tree.elements.at(1).name, QStringLiteral("Level"));
-    QCOMPARE(examination.tree.elements.at(2).place.line, 0);
+    for (const Place& place : {examination.tree.elements.at(2).place, examination.tree.elements.at(2).particle}) {
+        QCOMPARE(place.line, 0);
+        QCOMPARE(place.file, file.fileName());
+    }
+    for (const LaidOutElement& element : examination.tree.elements) {
+        for (const DeclaredAttribute& attribute : element.attributes) {
+            QCOMPARE(attribute.place.file, file.fileName());
+        }
+    }
+    QStringList rules;
+    for (const Finding& finding : examination.findings) {
+        QCOMPARE(finding.place.file, file.fileName());
+        rules.append(finding.rule);
+    }
+    QVERIFY(rules.contains(QStringLiteral("unfillable-element")));
+    QVERIFY(rules.contains(QStringLiteral("invalid-schema")));
+    const QString text = textOf(examination);
+    QVERIFY2(text.contains(QStringLiteral("no setter  [schema.xsd]\n")), qPrintable(text));
+    QVERIFY2(!text.contains(QRegularExpression(QStringLiteral("^:"), QRegularExpression::MultilineOption)),
+             qPrintable(text));
 }
 
 void TestSchemaDoctorExamination::tellsWhichCountsAreAccepted_data()
@@ -534,6 +557,34 @@ void TestSchemaDoctorExamination::saysWhatTheBuilderDoes()
         const bool isToStay = element.fate == Fate::Stays || element.fate == Fate::IsRemovedWithAnother;
         QVERIFY2(kept.contains(element.name) == isToStay, (element.name.toUtf8() + '\n' + shown).constData());
     }
+}
+
+/// Nothing of it can be set, so nobody is told to. The builder is asked whether it stays.
+void TestSchemaDoctorExamination::tellsWhatIsAlwaysThere()
+{
+    const auto empty = [](const QByteArray& name) {
+        return "<xs:element name='" + name + "' minOccurs='0'><xs:complexType/></xs:element>\n";
+    };
+    const QString file = schema(report(empty("Removed") + value("Level") + empty("Kept")));
+    const Examination examination = examine(file);
+    QStringList effects;
+    for (const Finding& finding : examination.findings) {
+        QCOMPARE(finding.rule, QStringLiteral("optional-that-stays"));
+        QVERIFY2(!finding.effect.contains(QLatin1String("ttribute")), qPrintable(finding.effect));
+        QVERIFY2(!finding.remedy.contains(QLatin1String("ttribute")), qPrintable(finding.remedy));
+        effects.append(finding.effect);
+    }
+    QCOMPARE(effects.size(), 2);
+    QVERIFY2(effects.at(0).contains(QLatin1String("unless a value behind it is unfilled")), qPrintable(effects.at(0)));
+    QVERIFY2(effects.at(1).endsWith(QLatin1String("to have it or not.")), qPrintable(effects.at(1)));
+
+    const QString written = m_folder.filePath(QStringLiteral("report.xml"));
+    const QSet<QString> unfilled = Filler({QStringLiteral("Level")}).NamesIn(file, written);
+    QVERIFY(!unfilled.contains(QStringLiteral("Removed")));
+    QVERIFY(unfilled.contains(QStringLiteral("Kept")));
+    const QSet<QString> filled = Filler(QSet<QString>()).NamesIn(file, written);
+    QVERIFY(filled.contains(QStringLiteral("Removed")));
+    QVERIFY(filled.contains(QStringLiteral("Kept")));
 }
 
 void TestSchemaDoctorExamination::tellsOfFurtherCopies_data()
@@ -846,6 +897,49 @@ void TestSchemaDoctorExamination::putsFindingsOfOneCauseTogether()
                            QStringLiteral("invalid-schema")}));
     QVERIFY(textOf(examination).contains(QStringLiteral("\nthe prefix 'st:': 3 findings\n")));
     QVERIFY(!textOf(examination).contains(QStringLiteral("any: 1 findings")));
+}
+
+void TestSchemaDoctorExamination::tellsOfANamespaceOnce_data()
+{
+    QTest::addColumn<QByteArray>("root");
+    QTest::addColumn<QByteArray>("prefix");
+    QTest::addColumn<QString>("cause");
+    QTest::newRow("not-imported") << QByteArray("xmlns:st='urn:st'>") << QByteArray("st:")
+                                  << QStringLiteral("the prefix 'st:'");
+    QTest::newRow("imported-from-nowhere")
+        << QByteArray("xmlns:st='urn:st'>\n<xs:import namespace='urn:st' schemaLocation='nowhere.xsd'/>")
+        << QByteArray("st:") << QStringLiteral("the prefix 'st:'");
+    QTest::newRow("default-namespace") << QByteArray("xmlns='urn:st'>") << QByteArray()
+                                       << QStringLiteral("the namespace 'urn:st'");
+    QTest::newRow("no-namespace") << QByteArray("targetNamespace='urn:st'>") << QByteArray()
+                                  << QStringLiteral("target-namespace");
+}
+
+/// However often it is used: 150 times here.
+void TestSchemaDoctorExamination::tellsOfANamespaceOnce()
+{
+    QFETCH(const QByteArray, root);
+    QFETCH(const QByteArray, prefix);
+    QFETCH(const QString, cause);
+    QByteArray content = "\n\n";
+    for (int i = 0; i < 150; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        content += "<xs:element name='N" + number + "' type='" + prefix + "T" + QByteArray::number(i % 3) + "'/>\n";
+    }
+    QFile file(m_folder.filePath(QStringLiteral("schema.xsd")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' " + root + report(content) + "</xs:schema>");
+    file.close();
+    const Examination examination = examine(file.fileName());
+    QVector<Finding> told;
+    for (const Finding& finding : examination.findings) {
+        if (finding.rule == QLatin1String("invalid-schema") && finding.place.line > 2) {
+            told.append(finding);
+        }
+    }
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(causeOf(told.first()), cause);
+    QVERIFY2(told.first().what.contains(QLatin1String("149 other")), qPrintable(told.first().what));
 }
 
 void TestSchemaDoctorExamination::showsEachPairOfTreesOnce()
