@@ -259,5 +259,9 @@
         <source>It has more than %1 bytes.</source>
         <translation>Die Datei hat mehr als %1 Bytes.</translation>
     </message>
+    <message>
+        <source>%1: %2; %3</source>
+        <translation>%1: %2; %3</translation>
+    </message>
 </context>
 </TS>

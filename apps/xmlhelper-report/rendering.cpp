@@ -118,7 +118,7 @@ QString textOf(const Result& result)
         return Texts::tr("%1: cannot be checked. %2").arg(result.report, result.unreadableReason) + QLatin1Char('\n');
     }
     return linesOf(result.findings) + linesOf(result.validation)
-        + QStringLiteral("%1: %2; %3\n").arg(result.report, countsOf(result), validationOf(result));
+        + Texts::tr("%1: %2; %3").arg(result.report, countsOf(result), validationOf(result)) + QLatin1Char('\n');
 }
 
 QByteArray jsonOf(const std::vector<Result>& results)

@@ -133,6 +133,11 @@ void sendLast(ValidationListener& listener)
 
 Schema readSchema(const QString& file, const Write& write)
 {
+    const QString reason = whyNoXml(file);
+    if (!reason.isEmpty()) {
+        send({Severity::Error, QStringLiteral("schema"), file, 0, {}, reason, {}, 1}, write);
+        return nullptr;
+    }
     ValidationListener listener {file, "schema", nullptr, write, {Severity::Note, {}, {}, 0, {}, {}, {}, 1}};
     const SchemaParser parser(xmlSchemaNewParserCtxt(urlOf(file).constData()));
     xmlSchemaSetParserStructuredErrors(parser.get(), takeMessage, &listener);

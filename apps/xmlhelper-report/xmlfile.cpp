@@ -1,5 +1,8 @@
 #include "xmlfile.h"
 
+#include <algorithm>
+#include <cstring>
+
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
 
@@ -79,26 +82,46 @@ ReadFile parserFailure(const Parser& parser, const Tally& tally)
 
 constexpr int BytesLookedAt = 4096;
 
+/// Whether no text in whatever encoding has this byte: tabs, the ends of lines and pages, and the escape that switches
+/// between character sets are all that is left of the control characters.
+bool isNeverInText(char byte)
+{
+    const auto code = static_cast<unsigned char>(byte);
+    return (code < ' ' && !std::strchr("\t\n\v\f\r\x1b", code)) || code == 0x7f;
+}
+
 /// What a file is that begins so, when it cannot be XML; empty when it may be. In UTF-16 every ASCII character has a
-/// null byte beside it.
-QString whyNoXml(const QByteArray& begin)
+/// null byte beside it. What begins with a tag is left to the parser, which knows the line.
+QString whyNoXmlIn(const QByteArray& begin)
 {
     const bool isUtf16 = begin.startsWith("\xff\xfe") || begin.startsWith("\xfe\xff")
         || begin.startsWith(QByteArray::fromRawData("<\0", 2)) || begin.startsWith(QByteArray::fromRawData("\0<", 2));
     if (isUtf16) {
         return QString();
     }
+    const QString binary = Texts::tr("It is a binary file, and no XML.");
     if (begin.contains('\0')) {
-        return Texts::tr("It is a binary file, and no XML.");
+        return binary;
     }
     const QByteArray text = (begin.startsWith("\xef\xbb\xbf") ? begin.mid(3) : begin).trimmed();
     if (text.isEmpty()) {
         return Texts::tr("The file is empty.");
     }
-    return text.startsWith('<') ? QString() : Texts::tr("It is no XML: it does not begin with a tag.");
+    if (text.startsWith('<')) {
+        return QString();
+    }
+    return std::any_of(text.begin(), text.end(), isNeverInText)
+        ? binary
+        : Texts::tr("It is no XML: it does not begin with a tag.");
 }
 
 } // namespace
+
+QString whyNoXml(const QString& file)
+{
+    QFile source(file);
+    return source.open(QIODevice::ReadOnly) ? whyNoXmlIn(source.read(BytesLookedAt)) : QString();
+}
 
 ReadFile readXmlFile(const QString& file)
 {
@@ -110,7 +133,7 @@ ReadFile readXmlFile(const QString& file)
     if (source.size() > MaximumBytes) {
         return unreadable(Texts::tr("It has more than %1 bytes.").arg(MaximumBytes));
     }
-    const QString reason = whyNoXml(source.peek(BytesLookedAt));
+    const QString reason = whyNoXmlIn(source.peek(BytesLookedAt));
     if (!reason.isEmpty()) {
         return unreadable(reason);
     }

@@ -32,6 +32,9 @@ struct ReadFile
 
 ReadFile readXmlFile(const QString& file);
 
+/// What a file is that cannot be XML, by how it begins, in a sentence; empty when it may be or cannot be opened.
+QString whyNoXml(const QString& file);
+
 /// While it lives, libxml2 fetches nothing from a network and prints nothing, whatever asks it to. What the application
 /// has set comes back afterwards.
 class Seclusion

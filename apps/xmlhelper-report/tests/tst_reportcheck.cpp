@@ -58,6 +58,8 @@ private Q_SLOTS:
 
     void refusesWhatItCannotRead_data();
     void refusesWhatItCannotRead();
+    void knowsBinaryFiles_data();
+    void knowsBinaryFiles();
     void refusesAGivenSchemaThatIsNotThere();
     void refusesMoreElementsThanTheLibraryLaysOut();
     void readsOtherEncodings();
@@ -72,6 +74,8 @@ private Q_SLOTS:
     void validates_data();
     void validates();
     void namesFileAndLineOfAFaultInTheSchema();
+    void saysWhatASchemaIsThatIsNoXml_data();
+    void saysWhatASchemaIsThatIsNoXml();
     void fetchesNothingFromANetwork();
     void readsNoExternalEntity();
 
@@ -85,6 +89,7 @@ private Q_SLOTS:
 
 private:
     QString write(const QString& name, const QString& text);
+    QString writeBytes(const QString& name, const QByteArray& bytes);
 
     std::unique_ptr<QTemporaryDir> m_pFolder;
 };
@@ -96,10 +101,15 @@ void TestReportCheck::init()
 
 QString TestReportCheck::write(const QString& name, const QString& text)
 {
+    return writeBytes(name, text.toUtf8());
+}
+
+QString TestReportCheck::writeBytes(const QString& name, const QByteArray& bytes)
+{
     const QString path = m_pFolder->filePath(name);
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) < 0) {
         qFatal("%s cannot be written", qPrintable(path));
     }
     return path;
@@ -140,6 +150,31 @@ void TestReportCheck::refusesWhatItCannotRead()
     QCOMPARE(exitStatusOf(result), Unreadable);
     QVERIFY(result.findings.empty());
     QVERIFY(result.validation.empty());
+}
+
+void TestReportCheck::knowsBinaryFiles_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("reason");
+
+    const QString binary = QStringLiteral("It is a binary file, and no XML.");
+    const QString text = QStringLiteral("It is no XML: it does not begin with a tag.");
+    QTest::newRow("zero-byte") << QByteArray::fromRawData("BM\0\0", 4) << binary;
+    QTest::newRow("signature-of-an-image") << QByteArray("\x89PNG\r\n\x1a\n") << binary;
+    QTest::newRow("compressed") << QByteArray("\x1f\x8b\x08\x08") << binary;
+    QTest::newRow("other-encoding") << QByteArray("Gr\xfc\xdf"
+                                                  "e\r\n\tund\fmehr")
+                                    << text;
+    QTest::newRow("text-that-switches-its-encoding") << QByteArray("\x1b$B%l\x1b(B") << text;
+    QTest::newRow("control-character-in-xml") << QByteArray("<a>\x01</a>") << QStringLiteral("not well-formed");
+}
+
+void TestReportCheck::knowsBinaryFiles()
+{
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const QString, reason);
+    const Result result = checkReport(writeBytes(QStringLiteral("report.xml"), bytes));
+    QVERIFY2(result.unreadableReason.contains(reason), qPrintable(result.unreadableReason));
 }
 
 void TestReportCheck::refusesAGivenSchemaThatIsNotThere()
@@ -326,6 +361,36 @@ void TestReportCheck::namesFileAndLineOfAFaultInTheSchema()
     QCOMPARE(result.validation.front().file, m_pFolder->filePath(QStringLiteral("schema.xsd")));
     QCOMPARE(result.validation.front().line, 6);
     QCOMPARE(exitStatusOf(result), HasErrors);
+}
+
+void TestReportCheck::saysWhatASchemaIsThatIsNoXml_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("empty") << QByteArray() << QStringLiteral("The file is empty.");
+    QTest::newRow("blank") << QByteArray(" \n") << QStringLiteral("The file is empty.");
+    QTest::newRow("binary") << QByteArray("\x89PNG\r\n\x1a\n") << QStringLiteral("It is a binary file, and no XML.");
+    QTest::newRow("text") << QByteArray("Level: 7\n") << QStringLiteral("It is no XML: it does not begin with a tag.");
+}
+
+/// Whether it is given or named by the report.
+void TestReportCheck::saysWhatASchemaIsThatIsNoXml()
+{
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const QString, text);
+    const QString schema = writeBytes(QStringLiteral("schema.xsd"), bytes);
+    const QString file
+        = write(QStringLiteral("report.xml"), report(QStringLiteral("schema.xsd"), QStringLiteral("<Level>7</Level>")));
+    for (const QString& given : {schema, QString()}) {
+        const Result result = checkReport(file, given);
+        QVERIFY(!result.isValidated);
+        QCOMPARE(result.validation.size(), std::size_t(1));
+        QCOMPARE(result.validation.front().rule, QStringLiteral("schema"));
+        QCOMPARE(result.validation.front().file, schema);
+        QCOMPARE(result.validation.front().text, text);
+        QCOMPARE(exitStatusOf(result), HasErrors);
+    }
 }
 
 void TestReportCheck::fetchesNothingFromANetwork()

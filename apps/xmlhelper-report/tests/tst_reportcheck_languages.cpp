@@ -87,7 +87,7 @@ void TestReportCheckLanguages::textSpeaksTheLanguage_data()
     QTest::newRow("german") << QStringLiteral("de") << QStringLiteral("unnamed.xml")
                             << QStringLiteral(": 1 Warnung; nicht validiert, kein Schema\n");
     QTest::newRow("french") << QStringLiteral("fr") << QStringLiteral("unnamed.xml")
-                            << QStringLiteral(": 1 avertissement; non validé, aucun schéma\n");
+                            << QStringLiteral(" : 1 avertissement ; non validé, aucun schéma\n");
     QTest::newRow("german-missing-file") << QStringLiteral("de") << QStringLiteral("nowhere.xml")
                                          << QStringLiteral(": nicht prüfbar. Diese Datei gibt es nicht.\n");
     QTest::newRow("french-missing-file") << QStringLiteral("fr") << QStringLiteral("nowhere.xml")
