@@ -7,6 +7,10 @@
 
 #include <xmlhelperreports/reportfiller.h>
 
+#ifdef XMLHELPER_HAS_VALIDATION
+#include <validityfaults.h>
+#endif
+
 namespace {
 
 enum ExitStatus { Complete = 0, Incomplete = 1, NoSchema = 2, WrongUsage = 3 };
@@ -37,6 +41,8 @@ QString wordFor(ReportFiller::State state)
         return QStringLiteral("left out");
     case ReportFiller::State::Doubtful:
         return QStringLiteral("doubtful");
+    case ReportFiller::State::Invalid:
+        return QStringLiteral("invalid");
     }
     return QString();
 }
@@ -45,7 +51,8 @@ QString wordFor(ReportFiller::State state)
 void explain(const ReportFiller& filler)
 {
     for (const ReportFiller::Verdict& verdict : filler.GetVerdicts()) {
-        QString line = wordFor(verdict.state) + QLatin1Char(' ') + verdict.path;
+        QString line = wordFor(verdict.state);
+        line += verdict.path.isEmpty() ? QString() : QLatin1Char(' ') + verdict.path;
         line += verdict.value.isEmpty() ? QString() : QLatin1Char('=') + verdict.value;
         line += verdict.reason.isEmpty() ? QString() : QStringLiteral(": ") + verdict.reason;
         print(line);
@@ -130,6 +137,9 @@ int main(int argc, char** argv)
         return refuse(QStringLiteral("give a schema and a report; --help says more"));
     }
     ReportFiller filler;
+#ifdef XMLHELPER_HAS_VALIDATION
+    filler.SetValidator(reportcheck::validityFaults);
+#endif
     QString fault;
     return addValues(parser, filler, fault)
         ? fill(filler, arguments.at(0), arguments.at(1), parser.isSet(ExplainOption))

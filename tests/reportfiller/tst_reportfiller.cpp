@@ -39,6 +39,12 @@ private Q_SLOTS:
     void endsAskingASourceThatAlwaysAnswers();
     void asksForNoMoreThanMayOccur();
     void saysWhenTheReportCannotBeWritten();
+    void asksAValidatorWhenAllElseIsWell();
+    void replacesAReportThroughALink();
+    void leavesAReportWhereTheSchemaGivesNone_data();
+    void leavesAReportWhereTheSchemaGivesNone();
+    void refusesToReplaceTheSchema();
+    void writesToWhatIsNoFile();
     void saysWhenTheSchemaCannotBeRead_data();
     void saysWhenTheSchemaCannotBeRead();
     void fillsSeveralReports();
@@ -268,12 +274,114 @@ void TestReportFiller::saysWhenTheReportCannotBeWritten()
     QVERIFY(filler.Complaints().isEmpty());
 }
 
+void TestReportFiller::asksAValidatorWhenAllElseIsWell()
+{
+    const SchemaFolder folder(surveyElements());
+    ReportFiller filler;
+    QStringList asked;
+    filler.SetValidator([&](const QString& schema, const QString& report) {
+        asked = QStringList {schema, report};
+        return QStringList {QStringLiteral("it is too short"), QStringLiteral("it is too thin")};
+    });
+    filler.Add(QStringLiteral("Station"), QStringLiteral("S"));
+    QVERIFY(!filler.Fill(folder.Schema(), folder.Report()));
+    QVERIFY(asked.isEmpty());
+
+    filler.Add(QStringLiteral("Fixed"), QStringLiteral("yes"));
+    QVERIFY(!filler.Fill(folder.Schema(), folder.Report()));
+    QCOMPARE(asked, (QStringList {folder.Schema(), folder.Report()}));
+    QCOMPARE(filler.Complaints(), (QStringList {QStringLiteral("it is too short"), QStringLiteral("it is too thin")}));
+    QVERIFY(filler.GetVerdicts().back().state == State::Invalid);
+
+    filler.SetValidator([](const QString&, const QString&) { return QStringList(); });
+    QVERIFY(filler.Fill(folder.Schema(), folder.Report()));
+    filler.SetValidator({});
+    QVERIFY(filler.Fill(folder.Schema(), folder.Report()));
+}
+
+void TestReportFiller::replacesAReportThroughALink()
+{
+#ifdef Q_OS_UNIX
+    const SchemaFolder folder(surveyElements());
+    const QTemporaryDir other;
+    const QString target = other.filePath(QStringLiteral("target.xml"));
+    QVERIFY(QFile::copy(folder.Schema(), target));
+    QVERIFY(QFile::link(target, folder.Report()));
+    ReportFiller filler;
+    QVERIFY(filler.AddText("Station=S\nFixed=yes"));
+    QVERIFY(filler.Fill(folder.Schema(), folder.Report()));
+    QVERIFY(QFileInfo(folder.Report()).isSymLink());
+    QCOMPARE(documentInFile(target).documentElement().tagName(), QStringLiteral("Survey"));
+#endif
+}
+
+void TestReportFiller::leavesAReportWhereTheSchemaGivesNone_data()
+{
+    QTest::addColumn<QByteArray>("schema");
+    QTest::newRow("missing") << QByteArray();
+    QTest::newRow("not-well-formed") << QByteArray("<xs:schema>\n<xs:element");
+    QTest::newRow("without-a-root") << QByteArray("<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'/>");
+}
+
+void TestReportFiller::leavesAReportWhereTheSchemaGivesNone()
+{
+    QFETCH(QByteArray, schema);
+    const SchemaFolder folder(surveyElements());
+    ReportFiller filler;
+    QVERIFY(filler.AddText("Station=S\nFixed=yes"));
+    QVERIFY(filler.Fill(folder.Schema(), folder.Report()));
+
+    QVERIFY(QFile::remove(folder.Schema()));
+    if (!schema.isEmpty()) {
+        QFile file(folder.Schema());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(schema);
+    }
+    QVERIFY(!filler.Fill(folder.Schema(), folder.Report()));
+    QVERIFY(filler.GetVerdicts().empty());
+    QCOMPARE(int(filler.Complaints().size()), 1);
+    QCOMPARE(folder.Content(), QStringLiteral("Survey(Station=S Fixed=yes)"));
+}
+
+void TestReportFiller::refusesToReplaceTheSchema()
+{
+    const SchemaFolder folder(surveyElements());
+    ReportFiller filler;
+    QVERIFY(filler.AddText("Station=S\nFixed=yes"));
+    QVERIFY(!filler.Fill(folder.Schema(), folder.Schema()));
+    QCOMPARE(filler.Complaints(), QStringList(QStringLiteral("the report would replace its schema")));
+    QVERIFY(filler.Fill(folder.Schema(), folder.Report())); // The schema is there as it was.
+}
+
+/// Reading a device back could go on for ever.
+void TestReportFiller::writesToWhatIsNoFile()
+{
+#ifdef Q_OS_LINUX
+    const SchemaFolder folder(surveyElements());
+    ReportFiller filler;
+    QString validated;
+    filler.SetValidator([&](const QString&, const QString& report) {
+        validated = documentInFile(report).documentElement().tagName();
+        return QStringList();
+    });
+    QVERIFY(filler.AddText("Station=S\nFixed=yes"));
+    QVERIFY(filler.Fill(folder.Schema(), QStringLiteral("/dev/null")));
+    QCOMPARE(validated, QStringLiteral("Survey"));
+    QVERIFY(!filler.Fill(folder.Schema(), QStringLiteral("/dev/full")));
+    QCOMPARE(filler.Complaints(), QStringList(QStringLiteral("the report could not be written")));
+#endif
+}
+
 void TestReportFiller::saysWhenTheSchemaCannotBeRead_data()
 {
     QTest::addColumn<QByteArray>("declarations");
     QTest::addColumn<QString>("complaint");
     QTest::newRow("missing-type") << QByteArray("<xs:element name='R' type='Nowhere'/>")
-                                  << QStringLiteral("the schema cannot be read");
+                                  << QStringLiteral("the schema cannot be read: a definition or a file that it uses is "
+                                                    "missing or at fault, or it is beyond the limits");
+    QTest::newRow("not-well-formed") << QByteArray("\n<xs:element name='R'>")
+                                     << QStringLiteral("the schema cannot be read: it is not well-formed XML, line 2: "
+                                                       "Opening and ending tag mismatch.");
     QTest::newRow("nothing-laid-out") << QByteArray("") << QStringLiteral("the schema lays out no element");
 }
 
@@ -285,7 +393,9 @@ void TestReportFiller::saysWhenTheSchemaCannotBeRead()
     ReportFiller filler;
     QVERIFY(!filler.Fill(folder.Schema(), folder.Report()));
     QVERIFY(!filler.IsSchemaRead());
-    QVERIFY(filler.Complaints().contains(complaint));
+    QCOMPARE(filler.Complaints(), QStringList(complaint));
+    QVERIFY(!filler.Fill(folder.Schema() + QStringLiteral(".nowhere"), folder.Report()));
+    QCOMPARE(filler.Complaints(), QStringList(QStringLiteral("the schema cannot be read: there is no such file")));
 }
 
 void TestReportFiller::fillsSeveralReports()

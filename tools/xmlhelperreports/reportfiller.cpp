@@ -36,6 +36,7 @@ struct ReportFillerData
     std::vector<GivenValue> values;
     ReportFiller::Source source;
     ReportFiller::Journal journal;
+    ReportFiller::Validator validator;
     std::vector<ReportFiller::Verdict> verdicts;
     QStringList faults;
     bool isSchemaRead = false;
@@ -100,6 +101,11 @@ void ReportFiller::SetJournal(Journal journal)
     m_pData->journal = std::move(journal);
 }
 
+void ReportFiller::SetValidator(Validator validator)
+{
+    m_pData->validator = std::move(validator);
+}
+
 bool ReportFiller::Fill(const QString& schema, const QString& report)
 {
     ReportFilling filling(m_pData->values, m_pData->source, m_pData->journal);
@@ -107,7 +113,15 @@ bool ReportFiller::Fill(const QString& schema, const QString& report)
     m_pData->isSchemaRead = filling.IsSchemaRead();
     m_pData->verdicts = filling.TakeVerdicts();
     m_pData->faults = filling.TakeComplaints();
-    return isMade && std::all_of(m_pData->verdicts.begin(), m_pData->verdicts.end(), isGood);
+    const bool isComplete = isMade && std::all_of(m_pData->verdicts.begin(), m_pData->verdicts.end(), isGood);
+    if (!isComplete || !m_pData->validator) {
+        return isComplete;
+    }
+    const QStringList sentences = m_pData->validator(schema, filling.WrittenFile());
+    for (const QString& sentence : sentences) {
+        m_pData->verdicts.push_back({State::Invalid, QString(), QString(), sentence});
+    }
+    return sentences.isEmpty();
 }
 
 bool ReportFiller::IsSchemaRead() const
@@ -127,7 +141,7 @@ QStringList ReportFiller::Complaints() const
         if (!isGood(verdict)) {
             const QString what
                 = verdict.value.isEmpty() ? verdict.path : verdict.path + QLatin1Char('=') + verdict.value;
-            complaints.append(QStringLiteral("%1: %2").arg(what, verdict.reason));
+            complaints.append(what.isEmpty() ? verdict.reason : QStringLiteral("%1: %2").arg(what, verdict.reason));
         }
     }
     return complaints;

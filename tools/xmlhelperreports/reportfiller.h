@@ -46,6 +46,7 @@ public:
         Unfilled, ///< of an element: it is required and has no value
         LeftOut, ///< of an element or attribute: it has no value and is not in the report
         Doubtful, ///< it is in the report, and whether the schema allows that is not known
+        Invalid, ///< of the report: a validator refuses it; the path is empty, and the reason what the validator says
     };
 
     /// What became of a value, or of an element or attribute that has none.
@@ -63,6 +64,10 @@ public:
 
     /// Takes a line of text for each thing that happens; lines about an announced element are indented.
     using Journal = std::function<void(const QString& line)>;
+
+    /// Holds a written report against its schema by other means than the builder. Gives a sentence without its stop for
+    /// everything that speaks against the report, or nothing.
+    using Validator = std::function<QStringList(const QString& schemaPath, const QString& reportPath)>;
 
     /// Without any value.
     ReportFiller();
@@ -110,19 +115,26 @@ public:
     /// @param journal  must not call the filler; an empty function for none
     void SetJournal(Journal journal);
 
+    /// Has each report validated that is written and would be complete: the builder knows a part of XML Schema only, so
+    /// without a validator a report may be called complete that the schema does not allow. The library has none of its
+    /// own. A report that goes to a device or a pipe is validated as a file of the same content.
+    /// @param validator  must not call the filler; an empty function for none
+    void SetValidator(Validator validator);
+
     /// Fills a report and writes it, which replaces an earlier one.
     /// @param schema  the schema file
     /// @param report  the file to write
     /// @return whether the schema was read, the file was written, every value is in it and nothing required is known
-    ///         to be missing: whether all verdicts are Written or LeftOut. Else the file is written all the same with
-    ///         what there is, as far as that is possible
+    ///         to be missing: whether all verdicts are Written or LeftOut, and the validator said nothing. Else the
+    ///         file is written all the same with what there is, as far as that is possible
     bool Fill(const QString& schema, const QString& report);
 
     /// @return whether the schema of the last Fill() could be read and lays out an element
     bool IsSchemaRead() const;
 
     /// @return the verdicts of the last Fill(): one for each value, in the order given, then one for each element
-    ///         without a value and each attribute left out, in document order; they change with the next Fill()
+    ///         without a value and each attribute left out, in document order, then one for each sentence of the
+    ///         validator; none when the schema could not be read. They change with the next Fill()
     const std::vector<Verdict>& GetVerdicts() const;
 
     /// @return the verdicts because of which the last Fill() gave false, in a line each; before them what is no matter

@@ -5,12 +5,13 @@
 #include <utility>
 
 #include <QDateTime>
-#include <QFile>
 #include <QFileInfo>
 #include <QScopedValueRollback>
 
 #include <xmlhelper/skeletonwords_p.h>
 #include <xmlhelper/valuerules_p.h>
+
+#include "reportfile_p.h"
 
 QT_WARNING_DISABLE_DEPRECATED
 
@@ -53,20 +54,21 @@ ReportFilling::ReportFilling(std::vector<GivenValue> values, const ReportFiller:
 
 bool ReportFilling::Fill(const QString& schema, const QString& report)
 {
-    const QFileInfo before(report);
-    const QDateTime timeBefore = before.lastModified();
-    const qint64 sizeBefore = before.exists() ? before.size() : -1;
-    const bool isRead = m_builder.CreateXmlFromSchema(schema, report, false);
+    if (isSameFile(schema, report)) {
+        m_complaints.append(QStringLiteral("the report would replace its schema"));
+        return false;
+    }
+    m_writtenFile = m_folder.filePath(QStringLiteral("report.xml"));
+    const bool isRead = m_builder.CreateXmlFromSchema(schema, m_writtenFile, false);
     m_bSchemaRead = isRead && !m_instances.empty();
     if (!m_bSchemaRead) {
-        m_complaints.append(isRead ? QStringLiteral("the schema lays out no element")
-                                   : QStringLiteral("the schema cannot be read"));
+        complainOfSchema(schema, isRead);
     }
     if (!m_document.documentElement().nextSiblingElement().isNull()) {
         m_complaints.append(QStringLiteral("the schema lays out several roots: the report is no XML document"));
     }
-    if (!isWritten(report, timeBefore, sizeBefore)) {
-        m_complaints.append(QStringLiteral("the report could not be written"));
+    if (!m_instances.empty()) {
+        put(report);
     }
     m_instances.clear();
     m_places.reset();
@@ -75,21 +77,29 @@ bool ReportFilling::Fill(const QString& schema, const QString& report)
     return m_complaints.isEmpty();
 }
 
-/// The library does not say so. A file that did not change is looked at itself.
-bool ReportFilling::isWritten(const QString& report, const QDateTime& before, qint64 sizeBefore) const
+void ReportFilling::complainOfSchema(const QString& schema, bool isRead)
 {
-    const QFileInfo after(report);
-    if (!after.exists() || after.lastModified() != before || after.size() != sizeBefore) {
-        return after.exists();
+    const QString reason = isRead ? QString() : reasonAgainst(schema);
+    m_complaints.append(isRead ? QStringLiteral("the schema lays out no element")
+                               : QStringLiteral("the schema cannot be read: %1").arg(reason));
+}
+
+/// Puts what the builder has written in its place.
+void ReportFilling::put(const QString& report)
+{
+    if (!putFile(m_writtenFile, report)) {
+        m_complaints.append(QStringLiteral("the report could not be written"));
+    } else if (QFileInfo(report).isFile()) {
+        m_writtenFile = report;
     }
-    QFile file(report);
-    const int indentation = 4;
-    return file.open(QIODevice::ReadOnly) && file.readAll() == m_document.toByteArray(indentation);
 }
 
 std::vector<ReportFiller::Verdict> ReportFilling::TakeVerdicts()
 {
     std::vector<ReportFiller::Verdict> verdicts;
+    if (!m_bSchemaRead) {
+        return verdicts; // What speaks against the schema says it all.
+    }
     m_valueVerdicts.resize(m_values.size());
     for (std::size_t i = 0; i < m_values.size(); ++i) {
         const GivenValue& value = m_values[i];

@@ -13,6 +13,7 @@
 #include <QPair>
 #include <QString>
 #include <QStringList>
+#include <QTemporaryDir>
 #include <QVector>
 
 #include <xmlhelper/xmlhelper.h>
@@ -37,6 +38,7 @@ public:
     ~ReportFilling() = default;
 
     bool Fill(const QString& schema, const QString& report);
+    QString WrittenFile() const { return m_writtenFile; } ///< the report, or what went to a device, as a file
     bool IsSchemaRead() const { return m_bSchemaRead; }
     std::vector<ReportFiller::Verdict> TakeVerdicts();
     QStringList TakeComplaints() { return std::exchange(m_complaints, QStringList()); } ///< of no value or element
@@ -85,7 +87,8 @@ private:
     void finish();
     void release(Instance& instance);
     void removeEmptied(int instance);
-    bool isWritten(const QString& report, const QDateTime& before, qint64 sizeBefore) const;
+    void put(const QString& report);
+    void complainOfSchema(const QString& schema, bool isRead);
 
     void judge(int value, State state, const QString& path, const QString& reason);
     void judgeElement(State state, const QString& path, const QString& reason);
@@ -95,6 +98,9 @@ private:
     std::vector<GivenValue> m_values;
     const ReportFiller::Source& m_source;
     const ReportFiller::Journal& m_journal;
+    const QTemporaryDir
+        m_folder; ///< where the builder writes: it would empty a good report for a schema without a root
+    QString m_writtenFile;
     XmlCreateReport m_builder;
     QDomDocument m_document;
     std::unique_ptr<SkeletonPlaces> m_places;

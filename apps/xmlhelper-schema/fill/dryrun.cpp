@@ -5,6 +5,8 @@
 
 #include <xmlhelperreports/reportfiller.h>
 
+#include <validityfaults.h>
+
 #include "examine.h"
 #include "model/texts.h"
 
@@ -43,6 +45,7 @@ DryRunEnd dryRun(const QString& schema, const QString& valuesFile, const std::fu
     const QTemporaryDir folder;
     const QString report = folder.filePath(QStringLiteral("report.xml"));
     filler.SetJournal(write);
+    filler.SetValidator(reportcheck::validityFaults);
     const bool isComplete = filler.Fill(schema, report);
     if (!filler.IsSchemaRead()) {
         return DryRunEnd::NoSchema;
