@@ -91,9 +91,16 @@ void TestReportFiller::fills_data()
         "Remark=r: the name is ambiguous: /Survey/Emission/Line/Remark, /Survey/Closing/Remark");
     row("name-without-a-place", "Station=S\nFixed=yes\nColour=red\nStation@Height=2", "Survey(Station=S Fixed=yes)",
         "Colour=red: the schema has no place for it\nStation@Height=2: the schema has no place for it");
-    row("index-that-is-none", "Station=S\nFixed=yes\nOperator[0]=A\nOperator[x]=A\nOperator[1=A",
+    row("index-that-is-none",
+        "Station=S\nFixed=yes\nOperator[0]=A\nOperator[x]=A\nOperator[1=A\nOperator[+1]=A\n"
+        "Operator[ 1 ]=A\nOperator[]=A",
         "Survey(Station=S Fixed=yes)",
-        "Operator[0]=A: this is no path\nOperator[x]=A: this is no path\nOperator[1=A: this is no path");
+        "Operator[0]=A: this is no path\nOperator[x]=A: this is no path\nOperator[1=A: this is no path\n"
+        "Operator[+1]=A: this is no path\nOperator[ 1 ]=A: this is no path\nOperator[]=A: this is no path");
+    row("next-value-behind-one-with-an-index", "Station=S\nFixed=yes\nEmission[1]/Frequency=1\nFrequency=3",
+        "Survey(Station=S Emission(Frequency=1) Emission(Frequency=3) Fixed=yes)");
+    row("attribute-that-the-root-does-not-have", "Station=S\nFixed=yes\n.@nope=1", "Survey(Station=S Fixed=yes)",
+        ".@nope=1: the schema has no place for it");
     row("gap", "Station=S\nFixed=yes\nOperator[1]=A\nOperator[3]=C", "Survey(Station=S Operator=A Fixed=yes)",
         "Operator[3]=C: there is no /Survey/Operator[2] before it");
     row("more-than-may-occur", "Station=S\nFixed=yes\nOperator=A\nOperator=B\nOperator=C\nOperator=D",

@@ -29,6 +29,10 @@ private Q_SLOTS:
     void takesOrRefusesAValue();
     void takesTypedValues_data();
     void takesTypedValues();
+    void readsNumbersWithoutLoss_data();
+    void readsNumbersWithoutLoss();
+    void continuesTheRecords();
+    void refusesASecondValueInOneRecord();
     void writesByTheDefault();
     void removesADefaultBesideAValue();
     void takesFacetsOfAnAttribute();
@@ -150,6 +154,54 @@ void TestReportFillerValues::takesTypedValues()
     QCOMPARE(folder.Content(), QStringLiteral("R(Value=%1)").arg(written));
 }
 
+void TestReportFillerValues::readsNumbersWithoutLoss_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("value");
+    QTest::newRow("short") << QByteArray("1.1") << QStringLiteral("1.1");
+    QTest::newRow("third") << QByteArray("0.30000000000000004") << QStringLiteral("0.30000000000000004");
+    QTest::newRow("whole") << QByteArray("98.5e6") << QStringLiteral("98500000");
+    QTest::newRow("beyond-doubles") << QByteArray("9007199254740993") << QStringLiteral("9007199254740993");
+    QTest::newRow("negative") << QByteArray("-7") << QStringLiteral("-7");
+}
+
+void TestReportFillerValues::readsNumbersWithoutLoss()
+{
+    QFETCH(QByteArray, json);
+    QFETCH(QString, value);
+    const SchemaFolder folder(valueElement("string", ""));
+    ReportFiller filler;
+    QVERIFY(filler.AddJson("{\"Value\": " + json + "}"));
+    QVERIFY(filler.Fill(folder.Schema(), folder.Report()));
+    QCOMPARE(folder.Content(), QStringLiteral("R(Value=%1)").arg(value));
+    ReportFiller typed;
+    typed.Add(QStringLiteral("Value"), json.toDouble());
+    QVERIFY(typed.Fill(folder.Schema(), folder.Report()));
+    QCOMPARE(typed.GetVerdicts().front().value.toDouble(), json.toDouble());
+    QVERIFY(typed.GetVerdicts().front().value.size() <= value.size());
+}
+
+void TestReportFillerValues::continuesTheRecords()
+{
+    const SchemaFolder folder(surveyElements());
+    ReportFiller filler;
+    QVERIFY(filler.AddCsv("Station,Fixed,Operator\nS,yes,A\n"));
+    QVERIFY(filler.AddCsv("Operator\nA\n"));
+    QVERIFY(filler.AddJson("[{\"Operator\": \"A\", \"Station\": \"S\"}]"));
+    QVERIFY2(filler.Fill(folder.Schema(), folder.Report()), qPrintable(filler.Complaints().join(QLatin1Char('\n'))));
+    QCOMPARE(folder.Content(), QStringLiteral("Survey(Station=S Operator=A Operator=A Operator=A Fixed=yes)"));
+}
+
+void TestReportFillerValues::refusesASecondValueInOneRecord()
+{
+    const SchemaFolder folder(surveyElements());
+    ReportFiller filler;
+    QVERIFY(filler.AddCsv("Station,Fixed,Station\nS,yes,S\n"));
+    QVERIFY(!filler.Fill(folder.Schema(), folder.Report()));
+    QCOMPARE(filler.Complaints(),
+             QStringList(QStringLiteral("Station=S: there is a value already, and it may occur at most once")));
+}
+
 void TestReportFillerValues::writesByTheDefault()
 {
     const SchemaFolder folder("<xs:element name='R'><xs:complexType><xs:sequence>"
@@ -235,6 +287,30 @@ void TestReportFillerValues::readsAText_data()
                           "Emission(Frequency=2 Line(Number=21)) Fixed=yes)");
     QTest::newRow("csv-quotes") << QStringLiteral("csv") << QByteArray("Station,Fixed\n\"a \"\"b\"\"\nc\",yes\n")
                                 << QStringLiteral("Survey(Station=a \"b\"\nc Fixed=yes)");
+    QTest::newRow("csv-with-carriage-returns-alone")
+        << QStringLiteral("csv") << QByteArray("Station,Fixed,Operator\rS,yes,A\rS,yes,B")
+        << QStringLiteral("Survey(Station=S Operator=A Operator=B Fixed=yes)");
+    QTest::newRow("csv-quote-within-a-cell")
+        << QStringLiteral("csv") << QByteArray("Station,Fixed\n5\" mast, a \"b\" c\n")
+        << QStringLiteral("Survey(Station=5\" mast Fixed=a \"b\" c)");
+    QTest::newRow("csv-quoted-cell-keeps-its-blanks")
+        << QStringLiteral("csv") << QByteArray("Station,Fixed\n \" S \" , yes \n")
+        << QStringLiteral("Survey(Station= S  Fixed=yes)");
+    QTest::newRow("csv-column-twice") << QStringLiteral("csv")
+                                      << QByteArray("Station,Fixed,Frequency,Number,Number\nS,yes,1,7,7\n,,2,8,9\n")
+                                      << QStringLiteral(
+                                             "Survey(Station=S Emission(Frequency=1 Line(Number=7) Line(Number=7)) "
+                                             "Emission(Frequency=2 Line(Number=8) Line(Number=9)) Fixed=yes)");
+    QTest::newRow("json-record-without-values")
+        << QStringLiteral("json")
+        << QByteArray("[null, {\"Station\": \"S\", \"Fixed\": \"yes\", \"Operator\": \"A\"}, {}, "
+                      "{\"Operator\": null}, {\"Operator\": \"B\"}]")
+        << QStringLiteral("Survey(Station=S Operator=A Operator=B Fixed=yes)");
+    QTest::newRow("json-texts")
+        << QStringLiteral("json")
+        << QByteArray(
+               "\xEF\xBB\xBF{\"Station\": \"\\\"\\u00e4\\\\\", \"Fixed\" : true ,\"Operator\":[ \"]\", \"}\" ] }")
+        << QString::fromUtf8("Survey(Station=\"\xC3\xA4\\ Operator=] Operator=} Fixed=true)");
     QTest::newRow("lines") << QStringLiteral("txt")
                            << QByteArray("# two\nStation = S\n\nFixed=yes\r\nEmission@Id=1\nEmission@Id=2\n"
                                          "Frequency=1.5\nFrequency@Unit=Hz\nFrequency=2\nEmission[2]/Label=a,b")
@@ -264,6 +340,15 @@ void TestReportFillerValues::saysWhatIsWrongWithAText_data()
     QTest::addColumn<QString>("place");
     QTest::newRow("json") << QStringLiteral("v.json") << QByteArray("{\n\"Station\": }")
                           << QStringLiteral("v.json:2: ");
+    QTest::newRow("json-with-a-key-twice")
+        << QStringLiteral("v.json") << QByteArray("{\"Station\": \"S\",\n\"St\\u0061tion\": \"T\"}")
+        << QStringLiteral("v.json:2: The key Station is there twice");
+    QTest::newRow("json-with-a-null-byte")
+        << QStringLiteral("v.json") << QByteArray("{\"Station\": \"S\0\"}", 17) << QStringLiteral("v.json:1: ");
+    QTest::newRow("csv-that-is-no-utf-8") << QStringLiteral("v.csv") << QByteArray("Station,Fixed\nS,\xE4\n")
+                                          << QStringLiteral("v.csv:2: The text is not in UTF-8");
+    QTest::newRow("lines-that-are-no-utf-8") << QStringLiteral("v.txt") << QByteArray("Station=S\nFixed=\xC3")
+                                             << QStringLiteral("v.txt:2: The text is not in UTF-8");
     QTest::newRow("csv-with-an-open-quote")
         << QStringLiteral("v.csv") << QByteArray("Station,Fixed\nS,\"yes\n") << QStringLiteral("v.csv:2: ");
     QTest::newRow("csv-with-too-many-cells")

@@ -25,8 +25,9 @@ class XmlCreateReport;
 /// A value is given for a path. "/Survey/Emission[2]/Frequency" names an element from the root on,
 /// "Emission[2]/Frequency" one by the end of its path, "Frequency" one by its name, and "Frequency@Unit" an attribute;
 /// "./Station" begins below the root. An end that fits several places is refused, by their names. An index counts equal
-/// names below one parent, from 1. Without one, equal names go to the next place: of the innermost element on the way
-/// that may repeat, or for a record of the outermost.
+/// names below one parent, from 1. Without one, equal names go to the next place that has no such value yet: of the
+/// innermost element on the way that may repeat. A value of a record goes to the record's own of the outermost, and
+/// equal names within one record go on below it.
 ///
 /// Elements and containers repeat as often as values are given and the schema allows. Of a choice, the alternatives
 /// without values go, and so do optional parts without values. What is required and has no value stays, as the builder
@@ -80,15 +81,17 @@ public:
 
     /// Gives the values of an object: names are paths below the object around them, "@name" is an attribute of it and
     /// "#text" its text; an array has the repeated ones, and null gives nothing. Each object of an array at the top is
-    /// a record. Nothing is given by a text that is not understood.
+    /// a record, numbered on from the records that are there; one without values is passed over. Nothing is given by a
+    /// text that is not understood, or in which an object has a key twice.
     /// @param json   in UTF-8
     /// @param fault  becomes what is wrong, behind the number of the line; may be null
     /// @return whether the text was understood
     bool AddJson(const QByteArray& json, QString* fault = nullptr);
 
     /// Gives a record for each row below the first, which holds the paths. Cells are separated by whichever of comma,
-    /// semicolon and tabulator the first row has, and may be quoted; empty ones give nothing. A value that does not
-    /// repeat may stand in each row if it is the same. Nothing is given by a text that is not understood.
+    /// semicolon and tabulator the first row has, and may be quoted; empty ones give nothing. What is not quoted loses
+    /// blanks around it. A value that does not repeat may stand in each row if it is the same. The records are numbered
+    /// on from those that are there. Nothing is given by a text that is not understood.
     /// @param csv    in UTF-8
     /// @param fault  becomes what is wrong, behind the number of the row; may be null
     /// @return whether the text was understood

@@ -39,9 +39,10 @@ ValuePath::Step parsedStep(const QString& text, bool& isValid)
         isValid = isValid && !text.isEmpty();
         return {text, 0};
     }
-    bool isNumber = false;
     const QString number = text.mid(bracket + 1, text.size() - bracket - 2);
-    const int index = number.toInt(&isNumber);
+    const bool isNumber = std::all_of(number.begin(), number.end(),
+                                      [](QChar one) { return one >= QLatin1Char('0') && one <= QLatin1Char('9'); });
+    const int index = number.toInt();
     isValid = isValid && bracket > 0 && text.endsWith(QLatin1Char(']')) && isNumber && index > 0;
     return {text.left(bracket), index};
 }
@@ -148,7 +149,8 @@ void SkeletonPlaces::addChildren(Place& place)
 std::vector<const Place*> SkeletonPlaces::Find(const ValuePath& path) const
 {
     if (path.steps.empty()) {
-        return {m_root.get()};
+        const bool isThere = path.attribute.isEmpty() || m_root->attributes.contains(path.attribute);
+        return isThere ? std::vector<const Place*> {m_root.get()} : std::vector<const Place*>();
     }
     std::vector<const Place*> anywhere;
     std::vector<const Place*> anchored;

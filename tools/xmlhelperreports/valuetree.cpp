@@ -64,24 +64,53 @@ void ValueTree::assign(int value)
     put(value, way, indicesOf(path, way, value), path.attribute);
 }
 
-/// The index at each place of the way: as given, or the next one of what may repeat.
+/// The index at each place of the way: as given, or the next one of what may repeat. A record has that of the
+/// outermost.
 std::vector<int> ValueTree::indicesOf(const ValuePath& path, const Way& way, int value)
 {
     std::vector<int> indices(way.size(), 0);
     for (std::size_t i = 0; i < path.steps.size(); ++i) {
         indices[way.size() - path.steps.size() + i] = path.steps[i].index;
     }
-    const int record = m_values[std::size_t(value)].record;
-    int counting = ValueBranch::None;
+    std::vector<std::size_t> open;
     for (std::size_t i = 0; i < way.size(); ++i) {
-        const bool isOpen = indices[i] == 0 && way[i]->MayRepeat();
-        counting = isOpen && (record == 0 || counting == ValueBranch::None) ? int(i) : counting;
+        if (indices[i] == 0 && way[i]->MayRepeat()) {
+            open.push_back(i);
+        }
     }
-    const int next = record > 0 ? record : ++m_lastIndices[{way.back(), path.attribute, indices}];
-    for (std::size_t i = 0; i < way.size(); ++i) {
-        indices[i] = int(i) == counting ? next : std::max(indices[i], 1);
+    const std::vector<int> given = indices;
+    std::replace(indices.begin(), indices.end(), 0, 1);
+    const int record = m_values[std::size_t(value)].record;
+    const std::size_t ofRecords = record > 0 ? 1 : 0;
+    if (record > 0 && !open.empty()) {
+        indices[open.front()] = record;
+    }
+    if (open.size() > ofRecords) {
+        int& last = m_lastIndices[{way.back(), path.attribute, given, record}];
+        do {
+            indices[open.back()] = ++last;
+        } while (isTaken(way, indices, path.attribute));
     }
     return indices;
+}
+
+/// Whether a value has that place already.
+bool ValueTree::isTaken(const Way& way, const std::vector<int>& indices, const QString& attribute) const
+{
+    const ValueBranch* branch = &m_root;
+    for (std::size_t i = 1; i < way.size(); ++i) {
+        const auto branches = branch->children.find(way[i]);
+        if (branches == branch->children.end()) {
+            return false;
+        }
+        const auto found = branches->second.find(indices[i]);
+        if (found == branches->second.end()) {
+            return false;
+        }
+        branch = &found->second;
+    }
+    return attribute.isEmpty() ? branch->text != ValueBranch::None
+                               : branch->attributes.find(attribute) != branch->attributes.end();
 }
 
 void ValueTree::put(int value, const Way& way, const std::vector<int>& indices, const QString& attribute)
@@ -101,7 +130,8 @@ void ValueTree::put(int value, const Way& way, const std::vector<int>& indices, 
     GivenValue& given = m_values[std::size_t(value)];
     if (there == ValueBranch::None) {
         there = value;
-    } else if (given.record > 0 && given.text == m_values[std::size_t(there)].text) {
+    } else if (given.record != m_values[std::size_t(there)].record && given.record > 0
+               && given.text == m_values[std::size_t(there)].text) {
         given.sameAs = there;
     } else {
         m_refuse(value, false, QStringLiteral("there is a value already, and it may occur at most once"));

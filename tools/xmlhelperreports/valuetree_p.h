@@ -49,6 +49,7 @@ private:
 
     void assign(int value);
     std::vector<int> indicesOf(const ValuePath& path, const Way& way, int value);
+    bool isTaken(const Way& way, const std::vector<int>& indices, const QString& attribute) const;
     void put(int value, const Way& way, const std::vector<int>& indices, const QString& attribute);
     bool ask(const Source& source, const Place& place, ValueBranch& branch, const QString& path);
     void askChildren(const Source& source, const Place& place, ValueBranch& branch, const QString& path);
@@ -59,7 +60,7 @@ private:
     std::vector<GivenValue>& m_values;
     const Refuse m_refuse;
     ValueBranch m_root;
-    std::map<std::tuple<const Place*, QString, std::vector<int>>, int> m_lastIndices;
+    std::map<std::tuple<const Place*, QString, std::vector<int>, int>, int> m_lastIndices; ///< within a record
     qint64 m_elements; ///< of the report
 };
 

@@ -258,6 +258,7 @@ private Q_SLOTS:
     void fillsAReport();
     void tellsOfRefusalsRetriesAndRemovals();
     void refusesALineThatIsNoValue();
+    void tellsWhatAValidatorSaysOfAFilledReport();
     void hasNothingToSayAboutTheMeasurementPanel();
 
 private:
@@ -1026,7 +1027,8 @@ void TestSchemaDoctorExamination::tellsOfRefusalsRetriesAndRemovals()
     QCOMPARE(lines.at(call + 2), QStringLiteral("  retry SetXmlValue(QString 17.5)"));
     QVERIFY(lines.at(call + 3).startsWith(QLatin1String("    refused: ")));
     QVERIFY(lines.contains(QStringLiteral("removed /Report/Site")));
-    QVERIFY(lines.contains(QStringLiteral("complaint: /Report/Cost=17.5: its type, decimal, takes no floating-point number")));
+    QVERIFY(lines.contains(
+        QStringLiteral("complaint: /Report/Cost=17.5: its type, decimal, takes no floating-point number")));
 }
 
 void TestSchemaDoctorExamination::refusesALineThatIsNoValue()
@@ -1035,6 +1037,20 @@ void TestSchemaDoctorExamination::refusesALineThatIsNoValue()
         = dryRunOf("<xs:element name='Report' type='xs:string'/>", "Level 17.5\n", DryRunEnd::NoValues);
     QCOMPARE(lines.size(), 1);
     QVERIFY(lines.first().contains(QLatin1String("values.txt:1:")));
+}
+
+void TestSchemaDoctorExamination::tellsWhatAValidatorSaysOfAFilledReport()
+{
+    const QStringList lines = dryRunOf("<xs:element name='Report'><xs:complexType><xs:sequence>"
+                                       "<xs:choice><xs:element name='A' type='xs:string'/>"
+                                       "<xs:element name='B' type='xs:string'/></xs:choice>"
+                                       "<xs:choice><xs:element name='C' type='xs:string'/>"
+                                       "<xs:element name='D' type='xs:string'/></xs:choice>"
+                                       "</xs:sequence></xs:complexType></xs:element>",
+                                       "A=1\n", DryRunEnd::Incomplete);
+    QVERIFY2(lines.contains(QStringLiteral("complaint: /Report: Element 'Report': Missing child element(s). Expected "
+                                           "is one of ( C, D )")),
+             qPrintable(lines.join(QLatin1Char('\n'))));
 }
 
 void TestSchemaDoctorExamination::hasNothingToSayAboutTheMeasurementPanel()
