@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>%1 more of this kind are left out.</source>
-        <translation>%1 weitere dieser Art fehlen.</translation>
+        <translation>%1 weitere dieser Art sind weggelassen.</translation>
     </message>
     <message>
         <source>line %1: %2</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>Either an empty text was set, or it is mandatory and lost all that it held, or nothing of its type is laid out. Elements that may be missing are removed when they are not filled.</source>
-        <translation>Entweder wurde ein leerer Text gesetzt, oder es ist Pflicht und hat alles verloren, was es enthielt, oder von seinem Typ wird nichts angelegt. Elemente, die fehlen dürfen, werden entfernt, wenn sie nicht gefüllt sind.</translation>
+        <translation>Entweder wurde ein leerer Text gesetzt, oder es ist vorgeschrieben und hat alles verloren, was es enthielt, oder von seinem Typ wird nichts angelegt. Elemente, die fehlen dürfen, werden entfernt, wenn sie nicht gefüllt sind.</translation>
     </message>
     <message>
         <source>The schema gives a simple type to an element that holds others. Give simple types to elements without children only.</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Offer a value of that type within its range or enumeration, or let the element be missing: minOccurs=&quot;0&quot; in the schema. Where that is there already it does not help, in any copy of a container but the first and in a type that is called otherwise than the element that is of it: there the value has to be offered.</source>
-        <translation>Einen Wert dieses Typs innerhalb von Bereich oder Aufzählung anbieten, oder das Element fehlen lassen: minOccurs=&quot;0&quot; im Schema. Wo das schon steht, hilft es nicht, und zwar in jeder Kopie eines Containers außer der ersten und in einem Typ, der anders heißt als das Element, das von ihm ist: Dort ist der Wert anzubieten.</translation>
+        <translation>Einen Wert dieses Typs innerhalb von Bereich oder Aufzählung anbieten, oder das Element fehlen lassen: minOccurs=&quot;0&quot; im Schema. Wo das schon steht, hilft es nicht, und zwar in jeder Kopie eines Containers außer der ersten und in einem Typ, der anders heißt als das Element, das ihn hat: Dort ist der Wert anzubieten.</translation>
     </message>
     <message>
         <source>The element has no value: an integer was offered and refused, because it is out of range (%1).</source>
@@ -209,7 +209,7 @@
     </message>
     <message>
         <source>%1 more messages are left out.</source>
-        <translation>%1 weitere Meldungen fehlen.</translation>
+        <translation>%1 weitere Meldungen sind weggelassen.</translation>
     </message>
     <message>
         <source>The validation was stopped after %1 seconds of work.</source>

@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>its attributes</source>
-        <translation>seine Attribute</translation>
+        <translation>ihre Attribute</translation>
     </message>
     <message>
         <source>nothing</source>
@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>Written out, the groups and types hold each other more often than is followed.</source>
-        <translation>Ausgeschrieben enthalten sich die Gruppen und Typen öfter, als verfolgt wird.</translation>
+        <translation>Ausgeschrieben enthalten die Gruppen und Typen einander häufiger, als verfolgt wird.</translation>
     </message>
     <message>
         <source>Written out, the schema has more than %1 elements.</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Definitions contain each other more than %1 levels deep.</source>
-        <translation>Definitionen enthalten sich mehr als %1 Ebenen tief.</translation>
+        <translation>Definitionen enthalten einander mehr als %1 Ebenen tief.</translation>
     </message>
     <message>
         <source>an element that never occurs</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>its elements</source>
-        <translation>ihre Elemente</translation>
+        <translation>die Elemente darin</translation>
     </message>
     <message>
         <source>an xs:any that is required</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>written inside of the elements that are of it</source>
-        <translation>in die Elemente geschrieben, die von ihm sind</translation>
+        <translation>in die Elemente geschrieben, die diesen Typ haben</translation>
     </message>
     <message>
         <source>an abstract type</source>
@@ -217,7 +217,7 @@
     </message>
     <message>
         <source>%1, whose name another has</source>
-        <translation>%1, dessen Namen auch anderes trägt</translation>
+        <translation>%1, dessen Name schon vergeben ist</translation>
     </message>
     <message>
         <source>an attribute of the type xs:%1</source>
@@ -257,7 +257,7 @@
     </message>
     <message>
         <source>xs:%1 &apos;%2&apos;, to which nothing refers</source>
-        <translation>xs:%1 &apos;%2&apos;, worauf nichts verweist</translation>
+        <translation>xs:%1 &apos;%2&apos;, auf das nichts verweist</translation>
     </message>
     <message>
         <source>nothing: reports begin with &apos;%1&apos;</source>
@@ -687,7 +687,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>Files that are too long for the page are left out.</source>
-        <translation>Dateien, die für die Seite zu lang sind, fehlen.</translation>
+        <translation>Dateien, die für die Seite zu lang sind, sind weggelassen.</translation>
     </message>
     <message>
         <source>Reports filled on trial: %1, of which valid: %2.</source>
@@ -795,7 +795,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>A report filled with nothing but what is required is not valid: %1</source>
-        <translation>Ein Bericht, in dem nur das Nötige ausgefüllt ist, ist ungültig: %1</translation>
+        <translation>Ein Bericht, in dem nur das Vorgeschriebene ausgefüllt ist, ist ungültig: %1</translation>
     </message>
     <message>
         <source>A report filled with everything is not valid: %1</source>
@@ -803,15 +803,15 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>A report filled with everything, and twice what may repeat is not valid: %1</source>
-        <translation>Ein Bericht, in dem alles ausgefüllt ist, und Wiederholbares doppelt, ist ungültig: %1</translation>
+        <translation>Ein Bericht, in dem alles ausgefüllt ist und Wiederholbares doppelt vorkommt, ist ungültig: %1</translation>
     </message>
     <message>
         <source>A report filled with nothing but what is required, and twice what may repeat is not valid: %1</source>
-        <translation>Ein Bericht, in dem nur das Nötige ausgefüllt ist, und Wiederholbares doppelt, ist ungültig: %1</translation>
+        <translation>Ein Bericht, in dem nur das Vorgeschriebene ausgefüllt ist und Wiederholbares doppelt vorkommt, ist ungültig: %1</translation>
     </message>
     <message>
         <source>A report filled with what is required and the optional &apos;%1&apos; is not valid: %2</source>
-        <translation>Ein Bericht, in dem das Nötige und das optionale &apos;%1&apos; ausgefüllt sind, ist ungültig: %2</translation>
+        <translation>Ein Bericht, in dem das Vorgeschriebene und das optionale &apos;%1&apos; ausgefüllt sind, ist ungültig: %2</translation>
     </message>
     <message>
         <source>The library writes the report all the same and says nothing of it.</source>
@@ -823,11 +823,11 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>Of %1 reports to be filled on trial, %2 were left out: they would take too long.</source>
-        <translation>Von %1 Berichten, die zur Probe auszufüllen wären, entfielen %2: Sie hätten zu lange gedauert.</translation>
+        <translation>Von %1 Berichten, die zur Probe auszufüllen wären, sind %2 weggelassen: Sie auszufüllen würde zu lange dauern.</translation>
     </message>
     <message>
         <source>No report was filled on trial: it would take too long.</source>
-        <translation>Kein Bericht wurde zur Probe ausgefüllt: Es hätte zu lange gedauert.</translation>
+        <translation>Kein Bericht wurde zur Probe ausgefüllt: Es würde zu lange dauern.</translation>
     </message>
     <message>
         <source>No report was validated: libxml2 does not take the schema.</source>
@@ -955,7 +955,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>That is how simple types are kept: as first element of a type it is not laid out, and what is of the type gets its annotations and no child.</source>
-        <translation>So werden einfache Typen aufbewahrt: Als erstes Element eines Typs wird es nicht angelegt, und was von dem Typ ist, erhält seine Annotationen und kein Kind.</translation>
+        <translation>So werden einfache Typen aufbewahrt: Als erstes Element eines Typs wird es nicht angelegt, und was diesen Typ hat, erhält seine Annotationen und kein Kind.</translation>
     </message>
     <message>
         <source>Give the element another name.</source>
@@ -967,7 +967,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>It is passed over: nothing is laid out there, though an element is required.</source>
-        <translation>Es wird übergangen: Dort wird nichts angelegt, obwohl ein Element verlangt ist.</translation>
+        <translation>Es wird übergangen: Dort wird nichts angelegt, obwohl ein Element vorgeschrieben ist.</translation>
     </message>
     <message>
         <source>It is passed over: no report has an element there.</source>
@@ -991,7 +991,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>Every setter takes it: any text, truth or time that is offered is written, whether it is a number or not.</source>
-        <translation>Jeder Setter nimmt es: Jeder angebotene Text, Wahrheitswert oder Zeitpunkt wird geschrieben, ob Zahl oder nicht.</translation>
+        <translation>Jeder Setter nimmt es an: Jeder angebotene Text, Wahrheitswert oder Zeitpunkt wird geschrieben, ob Zahl oder nicht.</translation>
     </message>
     <message>
         <source>Write xs:integer, restricted to the range, or offer it integers only.</source>
@@ -999,7 +999,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>%1 asks for attributes.</source>
-        <translation>%1 verlangt Attribute.</translation>
+        <translation>%1 verweist auf Attribute.</translation>
     </message>
     <message>
         <source>It is passed over: the element has none of them.</source>
@@ -1039,7 +1039,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>It goes to the element that was declared last in the type, and not to the element that is of the type.</source>
-        <translation>Es geht an das Element, das im Typ zuletzt deklariert wurde, und nicht an das Element, das von diesem Typ ist.</translation>
+        <translation>Es geht an das Element, das im Typ zuletzt deklariert wurde, und nicht an das Element, das diesen Typ hat.</translation>
     </message>
     <message>
         <source>The type has no element in front of it to go to: it is lost.</source>
@@ -1047,7 +1047,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>Write &apos;%1&apos;, and each named type that it is used in, inside of the element that is of it, up to the global element: only there attributes are understood, at any depth.</source>
-        <translation>&apos;%1&apos; und jeden benannten Typ, in dem es gebraucht wird, in das Element schreiben, das von ihm ist, bis hinauf zum globalen Element: Nur dort werden Attribute verstanden, in jeder Tiefe.</translation>
+        <translation>&apos;%1&apos; und jeden benannten Typ, in dem er gebraucht wird, in das Element schreiben, das diesen Typ hat, bis hinauf zum globalen Element: Nur dort werden Attribute verstanden, in jeder Tiefe.</translation>
     </message>
     <message>
         <source>maxInclusive of an attribute is &apos;%1&apos;, beside a lower bound.</source>
@@ -1247,7 +1247,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>%1 asks for the elements of a group.</source>
-        <translation>%1 verlangt die Elemente einer Gruppe.</translation>
+        <translation>%1 verweist auf die Elemente einer Gruppe.</translation>
     </message>
     <message>
         <source>It is passed over: none of them is laid out here.</source>
@@ -1299,7 +1299,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>The attribute gets no type, so that no setter takes it; the type and its facets go to an element instead.</source>
-        <translation>Das Attribut erhält keinen Typ, sodass kein Setter es nimmt; der Typ und seine Facetten gehen stattdessen an ein Element.</translation>
+        <translation>Das Attribut erhält keinen Typ, sodass kein Setter es annimmt; der Typ und seine Facetten gehen stattdessen an ein Element.</translation>
     </message>
     <message>
         <source>Declare the attribute globally with this type, and refer to it here with &lt;xs:attribute ref=&quot;%1&quot;/&gt;.</source>
@@ -1335,7 +1335,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>It is passed over: what is of this type has no type and cannot be filled.</source>
-        <translation>Es wird übergangen: Was von diesem Typ ist, hat keinen Typ und lässt sich nicht füllen.</translation>
+        <translation>Es wird übergangen: Was diesen Typ haben soll, hat keinen Typ und lässt sich nicht füllen.</translation>
     </message>
     <message>
         <source>Use xs:string and write the list as a text, or repeat the element.</source>
@@ -1347,7 +1347,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>What stands behind the fault is not read, without a word.</source>
-        <translation>Was hinter dem Fehler steht, wird stillschweigend nicht gelesen.</translation>
+        <translation>Was hinter dem Fehler steht, wird stillschweigend übergangen.</translation>
     </message>
     <message>
         <source>Mend the file.</source>
@@ -1391,7 +1391,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>Its end ends the outer one too: the alternatives behind it are mandatory, unless their own minOccurs is 0.</source>
-        <translation>Sein Ende beendet auch das äußere: Die Alternativen dahinter sind Pflicht, außer ihr eigenes minOccurs ist 0.</translation>
+        <translation>Sein Ende beendet auch das äußere: Die Alternativen dahinter sind vorgeschrieben, außer wenn ihr eigenes minOccurs 0 ist.</translation>
     </message>
     <message>
         <source>Write the alternatives of both as one choice, or put the inner choice last.</source>
@@ -1407,7 +1407,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>Write &apos;%1&apos;, and each named type that it is used in, inside of the element that is of it, up to the global element: a type with attributes can have no name.</source>
-        <translation>&apos;%1&apos; und jeden benannten Typ, in dem es gebraucht wird, in das Element schreiben, das von ihm ist, bis hinauf zum globalen Element: Ein Typ mit Attributen kann keinen Namen haben.</translation>
+        <translation>&apos;%1&apos; und jeden benannten Typ, in dem er gebraucht wird, in das Element schreiben, das diesen Typ hat, bis hinauf zum globalen Element: Ein Typ mit Attributen kann keinen Namen haben.</translation>
     </message>
     <message>
         <source>Give the inner type a name, at the top of the schema, and refer to it with type.</source>
@@ -1499,7 +1499,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>Write the type inside of the element that is of it, or call that element like the type, or fill &apos;%1&apos; in every report.</source>
-        <translation>Den Typ in das Element schreiben, das von ihm ist, oder dieses Element wie den Typ nennen oder &apos;%1&apos; in jedem Bericht füllen.</translation>
+        <translation>Den Typ in das Element schreiben, das ihn hat, oder dieses Element wie den Typ nennen oder &apos;%1&apos; in jedem Bericht füllen.</translation>
     </message>
     <message>
         <source>The element &apos;%1&apos; is optional inside of one that may be repeated.</source>
@@ -1511,7 +1511,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>Fill &apos;%1&apos; in every copy but the first, or make it required.</source>
-        <translation>&apos;%1&apos; in jeder Kopie außer der ersten füllen oder zur Pflicht machen.</translation>
+        <translation>&apos;%1&apos; in jeder Kopie außer der ersten füllen oder als vorgeschrieben deklarieren.</translation>
     </message>
     <message>
         <source>The element &apos;%1&apos; is optional, and stands behind &apos;%2&apos;, which is optional and empty.</source>
@@ -1527,7 +1527,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>The element &apos;%1&apos; is optional, and nothing inside of it takes a value.</source>
-        <translation>Das Element &apos;%1&apos; ist optional, und nichts darin nimmt einen Wert.</translation>
+        <translation>Das Element &apos;%1&apos; ist optional, und nichts darin nimmt einen Wert an.</translation>
     </message>
     <message>
         <source>Attributes alone do not fill it and do not remove it: it stays, with its annotations, unless a value behind it is unfilled. That one removes it.</source>
@@ -1535,7 +1535,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>Put an element with a value into &apos;%1&apos;, or make it required and set its attributes in every report.</source>
-        <translation>Ein Element mit einem Wert in &apos;%1&apos; setzen, oder es zur Pflicht machen und seine Attribute in jedem Bericht setzen.</translation>
+        <translation>Ein Element mit einem Wert in &apos;%1&apos; setzen oder es als vorgeschrieben deklarieren und seine Attribute in jedem Bericht setzen.</translation>
     </message>
     <message>
         <source>%1 is optional with maxOccurs=&quot;%2&quot;.</source>
@@ -1551,11 +1551,11 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>Write maxOccurs=&quot;unbounded&quot;, or make the element required inside of an optional one.</source>
-        <translation>maxOccurs=&quot;unbounded&quot; schreiben oder das Element zur Pflicht in einem optionalen machen.</translation>
+        <translation>maxOccurs=&quot;unbounded&quot; schreiben oder das Element in einem optionalen als vorgeschrieben deklarieren.</translation>
     </message>
     <message>
         <source>%1 is optional without maxOccurs, in a group that may occur repeatedly.</source>
-        <translation>%1 ist optional ohne maxOccurs, in einer Gruppe, die sich wiederholen darf.</translation>
+        <translation>%1 ist ohne maxOccurs optional, in einer Gruppe, die sich wiederholen darf.</translation>
     </message>
     <message>
         <source>No count above 0 is accepted for it: a second one is refused.</source>
@@ -1659,7 +1659,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>%1 is required %2 times, inside of the named type &apos;%3&apos;, and its type &apos;%4&apos; is defined later.</source>
-        <translation>%1 ist %2-mal verlangt, im benannten Typ &apos;%3&apos;, und sein Typ &apos;%4&apos; wird erst später definiert.</translation>
+        <translation>%1 ist %2-mal vorgeschrieben, im benannten Typ &apos;%3&apos;, und sein Typ &apos;%4&apos; wird erst später definiert.</translation>
     </message>
     <message>
         <source>Its copies are lost, and with them all elements of the type that follow it.</source>
@@ -1683,7 +1683,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>%1 is required %2 times and has its type written inside of it.</source>
-        <translation>%1 ist %2-mal verlangt, und sein Typ ist darin geschrieben.</translation>
+        <translation>%1 ist %2-mal vorgeschrieben, und sein Typ ist darin geschrieben.</translation>
     </message>
     <message>
         <source>Only the last of its copies gets what the type says.</source>
@@ -1695,11 +1695,11 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>%1 is required %2 times, without maxOccurs.</source>
-        <translation>%1 ist %2-mal verlangt, ohne maxOccurs.</translation>
+        <translation>%1 ist %2-mal vorgeschrieben, ohne maxOccurs.</translation>
     </message>
     <message>
         <source>%1 is required without maxOccurs, in a group that may occur repeatedly.</source>
-        <translation>%1 ist verlangt ohne maxOccurs, in einer Gruppe, die sich wiederholen darf.</translation>
+        <translation>%1 ist ohne maxOccurs vorgeschrieben, in einer Gruppe, die sich wiederholen darf.</translation>
     </message>
     <message>
         <source>It has no limits at all: every count is refused, also that of one.</source>
@@ -1715,7 +1715,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>&apos;%1&apos; itself becomes the type: its own type and facets are not looked at, and no setter takes a type of that name.</source>
-        <translation>&apos;%1&apos; selbst wird zum Typ: Sein eigener Typ und seine Facetten werden nicht beachtet, und kein Setter nimmt einen Typ dieses Namens.</translation>
+        <translation>&apos;%1&apos; selbst wird zum Typ: Sein eigener Typ und seine Facetten werden nicht beachtet, und kein Setter nimmt einen Typ dieses Namens an.</translation>
     </message>
     <message>
         <source>Restrict the type of XML Schema that &apos;%1&apos; stands on, and repeat its facets here.</source>
@@ -1763,7 +1763,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>%1 more of this kind are left out, the last of them here.</source>
-        <translation>%1 weitere dieser Art fehlen, das letzte davon hier.</translation>
+        <translation>%1 weitere dieser Art sind weggelassen, das letzte davon hier.</translation>
     </message>
     <message>
         <source>%1 elements are laid out as roots, of which &apos;%2&apos; is the first.</source>
@@ -1783,7 +1783,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>The name of the base becomes the type, so that no setter takes it, and whatever else is inside becomes an attribute of the report.</source>
-        <translation>Der Name der Basis wird zum Typ, sodass kein Setter es nimmt, und was sonst noch darin steht, wird ein Attribut des Berichts.</translation>
+        <translation>Der Name der Basis wird zum Typ, sodass kein Setter es annimmt, und was sonst noch darin steht, wird ein Attribut des Berichts.</translation>
     </message>
     <message>
         <source>Restrict a type of XML Schema in a named xs:simpleType, and extend that by the attributes in xs:simpleContent.</source>
@@ -1911,23 +1911,23 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>No setter takes it: the attribute can be removed, and otherwise stays and holds &apos;%1&apos;.</source>
-        <translation>Kein Setter nimmt es: Das Attribut lässt sich entfernen, sonst bleibt es und enthält &apos;%1&apos;.</translation>
+        <translation>Kein Setter nimmt es an: Das Attribut lässt sich entfernen, sonst bleibt es und enthält &apos;%1&apos;.</translation>
     </message>
     <message>
         <source>No setter takes it: the element stays empty in every report, with its annotations.</source>
-        <translation>Kein Setter nimmt es: Das Element bleibt in jedem Bericht leer, mit seinen Annotationen.</translation>
+        <translation>Kein Setter nimmt es an: Das Element bleibt in jedem Bericht leer, mit seinen Annotationen.</translation>
     </message>
     <message>
         <source>No setter takes it.</source>
-        <translation>Kein Setter nimmt es.</translation>
+        <translation>Kein Setter nimmt es an.</translation>
     </message>
     <message>
         <source>No setter takes it: the element is removed from every report, with the container around it.</source>
-        <translation>Kein Setter nimmt es: Das Element wird aus jedem Bericht entfernt, mit dem Container darum.</translation>
+        <translation>Kein Setter nimmt es an: Das Element wird aus jedem Bericht entfernt, mit dem Container darum.</translation>
     </message>
     <message>
         <source>No setter takes it: the element is removed from every report.</source>
-        <translation>Kein Setter nimmt es: Das Element wird aus jedem Bericht entfernt.</translation>
+        <translation>Kein Setter nimmt es an: Das Element wird aus jedem Bericht entfernt.</translation>
     </message>
     <message>
         <source>The element &apos;%1&apos; has no type that is understood.</source>
@@ -1935,7 +1935,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>It is passed over: what is of this type has none, or that of the last restriction inside, and cannot be filled as the author means it.</source>
-        <translation>Es wird übergangen: Was von diesem Typ ist, hat keinen oder den der letzten Einschränkung darin und lässt sich nicht so füllen, wie es gemeint ist.</translation>
+        <translation>Es wird übergangen: Was diesen Typ haben soll, hat keinen oder den der letzten Einschränkung darin und lässt sich nicht so füllen, wie es gemeint ist.</translation>
     </message>
     <message>
         <source>Use xs:restriction of one type, such as xs:string.</source>
@@ -1959,7 +1959,7 @@ Das überarbeitete Schema:
     </message>
     <message>
         <source>Write the type inside of the element that is of it, or call that element like the type.</source>
-        <translation>Den Typ in das Element schreiben, das von ihm ist, oder dieses Element wie den Typ nennen.</translation>
+        <translation>Den Typ in das Element schreiben, das ihn hat, oder dieses Element wie den Typ nennen.</translation>
     </message>
     <message>
         <source>Repeat only one of the two in a report.</source>

@@ -69,15 +69,15 @@
     </message>
     <message>
         <source>Written out, the groups and types hold each other more often than is followed.</source>
-        <translation>Écrits en entier, les groupes et les types se contiennent plus souvent qu&apos;on ne le suit.</translation>
+        <translation>Une fois développés, les groupes et les types s&apos;imbriquent plus souvent que la limite ne le permet.</translation>
     </message>
     <message>
         <source>Written out, the schema has more than %1 elements.</source>
-        <translation>Écrit en entier, le schéma a plus de %1 éléments.</translation>
+        <translation>Une fois développé, le schéma a plus de %1 éléments.</translation>
     </message>
     <message>
         <source>Definitions contain each other more than %1 levels deep.</source>
-        <translation>Des définitions se contiennent sur plus de %1 niveaux.</translation>
+        <translation>Des définitions s&apos;imbriquent sur plus de %1 niveaux.</translation>
     </message>
     <message>
         <source>an element that never occurs</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>an alternative that leads deeper</source>
-        <translation>une alternative qui mène plus profond</translation>
+        <translation>une branche qui mène plus en profondeur</translation>
     </message>
     <message>
         <source>xs:choice inside of xs:choice</source>
@@ -97,19 +97,19 @@
     </message>
     <message>
         <source>one choice of all alternatives</source>
-        <translation>un seul choix entre toutes les alternatives</translation>
+        <translation>un seul choix entre toutes les branches</translation>
     </message>
     <message>
         <source>xs:choice inside of an alternative</source>
-        <translation>xs:choice dans une alternative</translation>
+        <translation>xs:choice dans une branche</translation>
     </message>
     <message>
         <source>its first alternative</source>
-        <translation>sa première alternative</translation>
+        <translation>sa première branche</translation>
     </message>
     <message>
         <source>its alternatives, each optional</source>
-        <translation>ses alternatives, chacune facultative</translation>
+        <translation>ses branches, chacune facultative</translation>
     </message>
     <message>
         <source>the group &apos;%1&apos;, which is defined nowhere</source>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>its alternatives in their order, each optional</source>
-        <translation>ses alternatives dans leur ordre, chacune facultative</translation>
+        <translation>ses branches dans leur ordre, chacune facultative</translation>
     </message>
     <message>
         <source>minOccurs and maxOccurs of each element inside</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>the content written out</source>
-        <translation>le contenu écrit en entier</translation>
+        <translation>le contenu développé</translation>
     </message>
     <message>
         <source>an abstract element</source>
@@ -217,7 +217,7 @@
     </message>
     <message>
         <source>%1, whose name another has</source>
-        <translation>%1, dont un autre porte le nom</translation>
+        <translation>%1, dont le nom est déjà pris</translation>
     </message>
     <message>
         <source>an attribute of the type xs:%1</source>
@@ -237,7 +237,7 @@
     </message>
     <message>
         <source>in front of it</source>
-        <translation>avant celui-ci</translation>
+        <translation>placé avant celui-ci</translation>
     </message>
     <message>
         <source>what stands in that file</source>
@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>the alternative &apos;%1&apos;, which holds no value</source>
-        <translation>l&apos;alternative &apos;%1&apos;, qui ne contient aucune valeur</translation>
+        <translation>la branche &apos;%1&apos;, qui ne contient aucune valeur</translation>
     </message>
     <message>
         <source>&apos;%1&apos;, which may be missing</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>No report is finite with &apos;%1&apos; inside of itself %2 times.</source>
-        <translation>Aucun rapport n&apos;est fini avec &apos;%1&apos; %2 fois dans lui-même.</translation>
+        <translation>Avec &apos;%1&apos; imbriqué %2 fois dans lui-même, aucun rapport n&apos;est fini.</translation>
     </message>
     <message>
         <source>The schema declares no global element.</source>
@@ -363,7 +363,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>a global element in front of a reference to it</source>
-        <translation>un élément global avant une référence à lui</translation>
+        <translation>un élément global placé avant la référence qui y renvoie</translation>
     </message>
     <message>
         <source>the target namespace &apos;%1&apos;</source>
@@ -506,7 +506,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>Too much to be shown: %1</source>
-        <translation>Trop à afficher : %1</translation>
+        <translation>Trop d&apos;éléments à afficher : %1</translation>
     </message>
     <message>
         <source>The library lays nothing out.</source>
@@ -518,7 +518,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>complaint: %1</source>
-        <translation>objection : %1</translation>
+        <translation>réclamation : %1</translation>
     </message>
     <message>
         <source>errors</source>
@@ -727,11 +727,11 @@ Le schéma corrigé :
     </message>
     <message>
         <source>cyclic, skipped</source>
-        <translation>cyclique, sauté</translation>
+        <translation>cyclique, ignoré</translation>
     </message>
     <message>
         <source>too deep, skipped</source>
-        <translation>trop profond, sauté</translation>
+        <translation>trop profond, ignoré</translation>
     </message>
     <message>
         <source>%1, outside of the folder</source>
@@ -935,7 +935,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>Put the annotation in front of the restriction, or write a comment.</source>
-        <translation>Mettre l&apos;annotation devant la restriction, ou écrire un commentaire.</translation>
+        <translation>Mettre l&apos;annotation avant la restriction, ou écrire un commentaire.</translation>
     </message>
     <message>
         <source>An attribute is called &apos;%1&apos;.</source>
@@ -991,7 +991,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>Every setter takes it: any text, truth or time that is offered is written, whether it is a number or not.</source>
-        <translation>Tous les setters l&apos;acceptent : tout texte, booléen ou temps proposé est écrit, que ce soit un nombre ou non.</translation>
+        <translation>Tous les setters l&apos;acceptent : tout texte, tout booléen et toute date ou heure proposés sont écrits, qu&apos;il s&apos;agisse d&apos;un nombre ou non.</translation>
     </message>
     <message>
         <source>Write xs:integer, restricted to the range, or offer it integers only.</source>
@@ -1119,7 +1119,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>It is skipped.</source>
-        <translation>Il est sauté.</translation>
+        <translation>Le fichier est ignoré.</translation>
     </message>
     <message>
         <source>Include all files in the top file, and none in the others.</source>
@@ -1127,7 +1127,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>%1 is declared in front of an xs:include, in line %2.</source>
-        <translation>%1 est déclaré devant un xs:include, ligne %2.</translation>
+        <translation>%1 est déclaré avant un xs:include, ligne %2.</translation>
     </message>
     <message>
         <source>%1 is declared in an included file.</source>
@@ -1139,7 +1139,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>Write every xs:include in front of all declarations.</source>
-        <translation>Écrire chaque xs:include devant toutes les déclarations.</translation>
+        <translation>Écrire chaque xs:include avant toutes les déclarations.</translation>
     </message>
     <message>
         <source>Declare the root in the file that includes the others, or refer to this element there.</source>
@@ -1215,7 +1215,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>Write %1 in front of all other attributes.</source>
-        <translation>Écrire %1 devant tous les autres attributs.</translation>
+        <translation>Écrire %1 avant tous les autres attributs.</translation>
     </message>
     <message>
         <source>Leave the attribute out, or give the type a name, written first.</source>
@@ -1347,7 +1347,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>What stands behind the fault is not read, without a word.</source>
-        <translation>Ce qui suit la faute n&apos;est pas lu, sans un mot.</translation>
+        <translation>Ce qui suit l&apos;erreur est ignoré sans avertissement.</translation>
     </message>
     <message>
         <source>Mend the file.</source>
@@ -1371,7 +1371,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>It is looked for as &apos;%1&apos;, and passed over without a word.</source>
-        <translation>Il est recherché comme &apos;%1&apos;, et ignoré sans un mot.</translation>
+        <translation>Il est recherché comme &apos;%1&apos;, et ignoré sans avertissement.</translation>
     </message>
     <message>
         <source>%1 refers to &apos;%2&apos;, which is defined nowhere.</source>
@@ -1491,11 +1491,11 @@ Le schéma corrigé :
     </message>
     <message>
         <source>The element &apos;%1&apos; is optional, but not known to be.</source>
-        <translation>L&apos;élément &apos;%1&apos; est facultatif, mais n&apos;est pas connu comme tel.</translation>
+        <translation>L&apos;élément &apos;%1&apos; est facultatif, mais n&apos;est pas reconnu comme tel.</translation>
     </message>
     <message>
         <source>When nothing fills it, it stays, with its annotations: what is optional is looked for below the first element that is called like its owner, and in a named type the owner is the type.</source>
-        <translation>Si rien ne le remplit, il reste, avec ses annotations : le facultatif est recherché sous le premier élément qui porte le nom de son propriétaire, et dans un type nommé, le propriétaire est le type.</translation>
+        <translation>Si rien ne le remplit, il reste, avec ses annotations : ce qui est facultatif est recherché sous le premier élément qui porte le nom de son propriétaire, et dans un type nommé, le propriétaire est le type.</translation>
     </message>
     <message>
         <source>Write the type inside of the element that is of it, or call that element like the type, or fill &apos;%1&apos; in every report.</source>
@@ -1507,7 +1507,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>When nothing fills it, it is removed from the first copy only, and stays in the others, with its annotations: what is optional is looked for below the first element that is called like its owner.</source>
-        <translation>Si rien ne le remplit, il n&apos;est supprimé que de la première copie et reste dans les autres, avec ses annotations : le facultatif est recherché sous le premier élément qui porte le nom de son propriétaire.</translation>
+        <translation>Si rien ne le remplit, il n&apos;est supprimé que de la première copie et reste dans les autres, avec ses annotations : ce qui est facultatif est recherché sous le premier élément qui porte le nom de son propriétaire.</translation>
     </message>
     <message>
         <source>Fill &apos;%1&apos; in every copy but the first, or make it required.</source>
@@ -1523,7 +1523,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>Put an element with a value into &apos;%1&apos;, or &apos;%1&apos; in front of one of its siblings.</source>
-        <translation>Mettre dans &apos;%1&apos; un élément qui a une valeur, ou &apos;%1&apos; devant l&apos;un de ses frères.</translation>
+        <translation>Mettre dans &apos;%1&apos; un élément qui a une valeur, ou &apos;%1&apos; avant l&apos;un de ses frères.</translation>
     </message>
     <message>
         <source>The element &apos;%1&apos; is optional, and nothing inside of it takes a value.</source>
@@ -1567,15 +1567,15 @@ Le schéma corrigé :
     </message>
     <message>
         <source>%1 stands in front of %2.</source>
-        <translation>%1 se trouve devant %2.</translation>
+        <translation>%1 se trouve avant %2.</translation>
     </message>
     <message>
         <source>It is laid out behind it: what is read behind the reference to it comes in at the end, in the order of names.</source>
-        <translation>Il est créé derrière : ce qui est lu après la référence vient s&apos;ajouter à la fin, dans l&apos;ordre des noms.</translation>
+        <translation>Il est créé après celui-ci : ce qui est lu après la référence vient s&apos;ajouter à la fin, dans l&apos;ordre des noms.</translation>
     </message>
     <message>
         <source>Declare &apos;%1&apos; and &apos;%2&apos; in front of the element that refers to them.</source>
-        <translation>Déclarer &apos;%1&apos; et &apos;%2&apos; devant l&apos;élément qui s&apos;y réfère.</translation>
+        <translation>Déclarer &apos;%1&apos; et &apos;%2&apos; avant l&apos;élément qui s&apos;y réfère.</translation>
     </message>
     <message>
         <source>The tags of XML Schema are written without the prefix &apos;xs:&apos;: &lt;%1&gt;.</source>
@@ -1583,7 +1583,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>They are passed over without a word: nothing of them is laid out.</source>
-        <translation>Elles sont ignorées sans un mot : rien n&apos;en est créé.</translation>
+        <translation>Elles sont ignorées sans avertissement : rien n&apos;en est créé.</translation>
     </message>
     <message>
         <source>Declare xmlns:xs=&quot;http://www.w3.org/2001/XMLSchema&quot; and write xs: in front of every tag and every type of XML Schema.</source>
@@ -1667,7 +1667,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>Define &apos;%1&apos; in front of &apos;%2&apos;.</source>
-        <translation>Définir &apos;%1&apos; devant &apos;%2&apos;.</translation>
+        <translation>Définir &apos;%1&apos; avant &apos;%2&apos;.</translation>
     </message>
     <message>
         <source>The file &apos;%1&apos; is included once more.</source>
@@ -1691,7 +1691,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>Give the type a name, in front of this one, and refer to it with type.</source>
-        <translation>Donner un nom au type, devant celui-ci, et s&apos;y référer par type.</translation>
+        <translation>Donner un nom au type, avant celui-ci, et s&apos;y référer par type.</translation>
     </message>
     <message>
         <source>%1 is required %2 times, without maxOccurs.</source>
@@ -1731,7 +1731,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>Declare the element that reports begin with globally, behind all includes, and refer to it nowhere.</source>
-        <translation>Déclarer globalement l&apos;élément par lequel commencent les rapports, derrière tous les includes, et ne s&apos;y référer nulle part.</translation>
+        <translation>Déclarer globalement l&apos;élément par lequel commencent les rapports, après tous les includes, et ne s&apos;y référer nulle part.</translation>
     </message>
     <message>
         <source>%1 global declarations compete for the root of the report: %2.</source>
@@ -1771,11 +1771,11 @@ Le schéma corrigé :
     </message>
     <message>
         <source>The report gets all of them, one behind the other: it is no XML document, and no program reads it.</source>
-        <translation>Le rapport les reçoit tous, l&apos;un derrière l&apos;autre : ce n&apos;est pas un document XML, et aucun programme ne le lit.</translation>
+        <translation>Le rapport les reçoit tous, l&apos;un après l&apos;autre : ce n&apos;est pas un document XML, et aucun programme ne le lit.</translation>
     </message>
     <message>
         <source>Declare one global element around them, behind all includes, and refer to it nowhere.</source>
-        <translation>Déclarer un élément global qui les entoure, derrière tous les includes, et ne s&apos;y référer nulle part.</translation>
+        <translation>Déclarer un élément global qui les entoure, après tous les includes, et ne s&apos;y référer nulle part.</translation>
     </message>
     <message>
         <source>xs:simpleContent restricts &apos;%1&apos;.</source>
@@ -1943,7 +1943,7 @@ Le schéma corrigé :
     </message>
     <message>
         <source>The element &apos;%1&apos; may be repeated, but is not known to.</source>
-        <translation>L&apos;élément &apos;%1&apos; peut se répéter, mais n&apos;est pas connu comme tel.</translation>
+        <translation>L&apos;élément &apos;%1&apos; peut se répéter, mais n&apos;est pas reconnu comme répétable.</translation>
     </message>
     <message>
         <source>The element &apos;%1&apos; may be repeated inside of one that may be, too.</source>

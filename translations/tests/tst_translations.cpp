@@ -21,6 +21,8 @@ private Q_SLOTS:
     void aTextThatLacksATranslationIsNoticed();
     void translationsKeepWhatIsNoLanguage_data();
     void translationsKeepWhatIsNoLanguage();
+    void oneWordIsUsedThroughout_data();
+    void oneWordIsUsedThroughout();
     void theRegistryLoadsEveryLanguage_data();
     void theRegistryLoadsEveryLanguage();
     void englishMendsTheQuestion();
@@ -187,6 +189,50 @@ void TestTranslations::translationsKeepWhatIsNoLanguage()
     for (const Message& message : messages) {
         QCOMPARE(fixedPartsOf(message.translation), fixedPartsOf(message.source));
     }
+}
+
+void TestTranslations::oneWordIsUsedThroughout_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("source"); // where this is said, a pattern
+    QTest::addColumn<QString>("word"); // this is the word
+    QTest::addColumn<QString>("other"); // and not this, wherever
+    const auto row = [](const char* name, const char* source, const char* word, const char* other) {
+        QTest::newRow(name) << QString::fromLatin1(name).left(2) << QString::fromUtf8(source) << QString::fromUtf8(word)
+                            << QString::fromUtf8(other);
+    };
+    row("de-required", "\\brequired\\b", "orgeschrieben", "\\bPflicht\\b|\\bverlangt\\b");
+    row("de-left-out", "(?:are|were) left out", "weggelassen", "weitere.*fehlen|entfielen");
+    row("de-each-other", "(?:hold|contain) each other", "einander", "enthalten sich");
+    row("de-of-a-type", "that (?:is|are) of it\\b", "hat|haben", "von ihm (?:ist|sind)");
+    row("fr-alternative", "\\balternatives?\\b", "branche", "alternative");
+    row("fr-skipped", "\\bskipped\\b", "ignoré", "\\bsauté");
+    row("fr-without-a-word", "without a word", "sans avertissement", "sans un mot");
+    row("fr-written-out", "[Ww]ritten out", "développé", "en entier\\b");
+    row("fr-complaint", "^complaint:", "réclamation", "objection");
+    row("fr-semicolon", "[^;];[^;]", " ;", "[^ ;];(?!;)");
+}
+
+/// Of the programs for the authors of schemas and reports, whose sentences are read beside each other.
+void TestTranslations::oneWordIsUsedThroughout()
+{
+    QFETCH(const QString, language);
+    QFETCH(const QString, source);
+    QFETCH(const QString, word);
+    QFETCH(const QString, other);
+    int count = 0;
+    for (const char* const catalogue : {"SchemaDoctor", "ReportCheck"}) {
+        const QList<Message> messages
+            = messagesIn(QStringLiteral("%1/%2_%3.ts").arg(sources, QLatin1String(catalogue), language));
+        for (const Message& message : messages) {
+            QVERIFY2(!message.translation.contains(QRegularExpression(other)), qPrintable(message.translation));
+            if (message.source.contains(QRegularExpression(source))) {
+                QVERIFY2(message.translation.contains(QRegularExpression(word)), qPrintable(message.translation));
+                ++count;
+            }
+        }
+    }
+    QVERIFY(count > 0);
 }
 
 void TestTranslations::theRegistryLoadsEveryLanguage_data()
