@@ -21,6 +21,14 @@ const TextNode* inlineTypeOf(const TextNode& declaration)
     return found == declaration.children.end() ? nullptr : found->get();
 }
 
+/// What an attribute is of that names no type.
+SimpleValue anyText()
+{
+    SimpleValue value;
+    value.base = QStringLiteral("anySimpleType");
+    return value;
+}
+
 bool isAnnotation(const QString& name)
 {
     return name == TypeAttribute() || name == DefaultAttribute() || isFacetOfType(name);
@@ -83,18 +91,15 @@ MendedAttribute Attributes::declared(const TextNode& tag, const TextNode& declar
     attribute.reference = &tag;
     attribute.name = declaration.Value("name");
     attribute.isRequired = tag.Value("use") == QLatin1String("required");
-    attribute.defaultValue = tag.Has("default") ? tag.Value("default") : declaration.Value("default");
     const TextNode* const type = inlineTypeOf(declaration);
-    SimpleValue value = type ? m_types.OfDefinition(*type)
-                             : m_types.Of(declaration, declaration.Has("type") ? declaration.Value("type") : QString());
-    const QString fixed = tag.Has("fixed") ? tag.Value("fixed") : declaration.Value("fixed");
-    if (!fixed.isEmpty()) {
-        m_log.Narrow(tag, Mend::tr("the fixed value '%1'").arg(fixed), Mend::tr("an enumeration of this value"));
-        value.enumeration = QStringList {fixed};
-        value.base = QStringLiteral("string");
-        value.facets.clear();
-    }
-    attribute.value = m_mending.OfAttribute(value, declaration);
+    const SimpleValue value = type ? m_types.OfDefinition(*type)
+        : declaration.Has("type")  ? m_types.Of(declaration, declaration.Value("type"))
+                                   : anyText();
+    const TextNode& fixing = tag.Has("fixed") ? tag : declaration;
+    const bool isFixed = fixing.Has("fixed");
+    attribute.value
+        = m_mending.OfAttribute(isFixed ? m_mending.OfFixed(tag, fixing.Value("fixed")) : value, declaration);
+    attribute.defaultValue = m_mending.DefaultOf(value, attribute.value, tag.Has("default") ? tag : declaration);
     return attribute;
 }
 

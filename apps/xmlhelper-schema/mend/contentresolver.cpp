@@ -673,16 +673,11 @@ void ContentResolver::finishValue(MendedElement& element, const TextNode& declar
     if (!element.hasValue) {
         return;
     }
-    const QString fixed = declaration.Value("fixed");
-    if (!fixed.isEmpty()) {
-        m_log.Narrow(declaration, Mend::tr("the fixed value '%1'").arg(fixed),
-                     Mend::tr("an enumeration of this value"));
-        element.value = SimpleValue();
-        element.value.base = QStringLiteral("string");
-        element.value.enumeration = QStringList {fixed};
-    }
-    element.value = m_mending.OfElement(element.value, declaration);
-    element.defaultValue = declaration.Value("default");
+    const SimpleValue value = element.value;
+    const bool isFixed = declaration.Has("fixed");
+    element.value = m_mending.OfElement(isFixed ? m_mending.OfFixed(declaration, declaration.Value("fixed")) : value,
+                                        declaration);
+    element.defaultValue = m_mending.DefaultOf(value, element.value, declaration);
 }
 
 void ContentResolver::tellPassedOver(const TextNode& declaration)

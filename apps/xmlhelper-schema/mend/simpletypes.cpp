@@ -17,22 +17,36 @@ const TextNode* childOf(const TextNode& tag, const char* name)
     return found == tag.children.end() ? nullptr : found->get();
 }
 
-/// The facet that the same side of a range has otherwise; empty for others.
-QString otherFacetOfSide(const QString& facet)
+/// What a facet takes the place of besides itself: what would contradict it, or say what it says.
+QStringList othersReplacedBy(const QString& facet)
 {
-    static const std::map<QString, QString> others {
-        {QStringLiteral("minInclusive"), QStringLiteral("minExclusive")},
-        {QStringLiteral("minExclusive"), QStringLiteral("minInclusive")},
-        {QStringLiteral("maxInclusive"), QStringLiteral("maxExclusive")},
-        {QStringLiteral("maxExclusive"), QStringLiteral("maxInclusive")},
+    static const std::map<QString, QStringList> others {
+        {QStringLiteral("minInclusive"), {QStringLiteral("minExclusive")}},
+        {QStringLiteral("minExclusive"), {QStringLiteral("minInclusive")}},
+        {QStringLiteral("maxInclusive"), {QStringLiteral("maxExclusive")}},
+        {QStringLiteral("maxExclusive"), {QStringLiteral("maxInclusive")}},
+        {QStringLiteral("length"), {QStringLiteral("minLength"), QStringLiteral("maxLength")}},
     };
     const auto found = others.find(facet);
-    return found == others.end() ? QString() : found->second;
+    return found == others.end() ? QStringList() : found->second;
 }
 
 bool isFacet(const TextNode& tag)
 {
     return tag.isOfSchemaNamespace && tag.Has("value");
+}
+
+/// Of all facets of one kind, each once.
+QStringList valuesOf(const TextNode& restriction, const char* facet)
+{
+    QStringList values;
+    for (const auto& tag : restriction.children) {
+        if (isFacet(*tag) && tag->Is(facet)) {
+            values.append(tag->Value("value"));
+        }
+    }
+    values.removeDuplicates();
+    return values;
 }
 
 } // namespace
@@ -51,6 +65,7 @@ SimpleValue SimpleTypes::Of(const TextNode& tag, const QString& qName)
     const bool mayChange = m_log.Change(tag, Mend::tr("the type '%1', which is defined nowhere").arg(qName),
                                         QStringLiteral("xs:string"));
     value.base = mayChange ? QStringLiteral("string") : QStringLiteral("anySimpleType");
+    value.isUnknown = !mayChange;
     return value;
 }
 
@@ -95,40 +110,35 @@ SimpleValue SimpleTypes::ofRestriction(const TextNode& restriction)
 
 void SimpleTypes::Restrict(SimpleValue& value, const TextNode& restriction) const
 {
-    QStringList enumeration;
+    const QStringList enumeration = valuesOf(restriction, "enumeration");
+    if (!enumeration.isEmpty()) { // Each text is one of the base: only what stands here or comes later says more.
+        value.enumeration = enumeration;
+        value.facets.clear();
+        value.earlierPatterns.clear();
+    }
     for (const auto& tag : restriction.children) {
-        const QString text = tag->Value("value");
-        if (!isFacet(*tag)) {
+        if (!isFacet(*tag) || tag->IsAnyOf({"enumeration", "pattern"})) {
             continue;
         }
-        if (tag->Is("enumeration")) {
-            enumeration.append(text);
-            continue;
+        const bool isOfLength = tag->IsAnyOf({"minLength", "maxLength"});
+        if (isOfLength && !value.Facet("length").isEmpty()) {
+            continue; // That says more.
         }
-        const QString other = otherFacetOfSide(tag->localName);
-        if (!other.isEmpty()) {
+        for (const QString& other : othersReplacedBy(tag->localName)) {
             value.RemoveFacet(other.toLatin1().constData());
         }
-        value.SetFacet(tag->localName, text);
+        value.SetFacet(tag->localName, tag->Value("value"));
     }
-    if (!enumeration.isEmpty()) {
-        enumeration.removeDuplicates();
-        value.enumeration = enumeration;
-    }
+    value.AddPatterns(valuesOf(restriction, "pattern"));
 }
 
-/// One item is a list as well.
 SimpleValue SimpleTypes::ofList(const TextNode& list)
 {
     const TextNode* const inner = childOf(list, "simpleType");
-    if (m_log.IsFormatKept()) {
-        m_log.Narrow(list, QStringLiteral("xs:list"), Mend::tr("a single item"));
-        return inner ? OfDefinition(*inner) : Of(list, list.Value("itemType"));
-    }
-    m_log.Change(list, QStringLiteral("xs:list"), Mend::tr("xs:string, which holds the items as a text"));
     SimpleValue value;
     value.base = QStringLiteral("string");
-    value.isList = true;
+    value.item = std::make_shared<SimpleValue>(inner ? OfDefinition(*inner) : Of(list, list.Value("itemType")));
+    value.list = &list;
     return value;
 }
 
@@ -152,22 +162,35 @@ SimpleValue SimpleTypes::ofMembers(const TextNode& unionTag, const std::vector<S
 {
     SimpleValue value;
     value.base = QStringLiteral("string");
-    const auto isText = [](const SimpleValue& one) { return one.base == QLatin1String("string") && one.IsPlain(); };
+    const auto isText
+        = [](const SimpleValue& one) { return one.base == QLatin1String("string") && one.IsPlain() && !one.item; };
     if (members.empty() || std::any_of(members.begin(), members.end(), isText)) {
         m_log.Narrow(unionTag, QStringLiteral("xs:union"), QStringLiteral("xs:string"));
         return value;
     }
-    if (std::all_of(members.begin(), members.end(), [](const auto& one) { return !one.enumeration.isEmpty(); })) {
+    value.enumeration = textsOf(members);
+    if (!value.enumeration.isEmpty()) {
         m_log.Narrow(unionTag, QStringLiteral("xs:union"), Mend::tr("one enumeration of all texts"));
-        for (const SimpleValue& member : members) {
-            value.enumeration += member.enumeration;
-        }
-        value.enumeration.removeDuplicates();
         return value;
     }
     m_log.Narrow(unionTag, QStringLiteral("xs:union"),
                  Mend::tr("its first member, a type on xs:%1").arg(members.front().base));
     return members.front();
+}
+
+/// What all of them enumerate and allow; empty where one enumerates nothing, or it cannot be decided.
+QStringList SimpleTypes::textsOf(const std::vector<SimpleValue>& members)
+{
+    QStringList texts;
+    for (const SimpleValue& member : members) {
+        const std::optional<QStringList> allowed = m_check.AllowedOf(member);
+        if (member.enumeration.isEmpty() || !allowed) {
+            return QStringList();
+        }
+        texts += *allowed;
+    }
+    texts.removeDuplicates();
+    return texts;
 }
 
 } // namespace schemadoctor

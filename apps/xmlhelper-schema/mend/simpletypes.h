@@ -5,11 +5,12 @@
 #include "rewritelog.h"
 #include "schemaset.h"
 #include "simplevalue.h"
+#include "textcheck.h"
 
 namespace schemadoctor {
 
-/// Reads simple types down to the type of XML Schema that each stands on: restrictions of restrictions, unions and
-/// lists become one value with the facets of all.
+/// Reads simple types down to the type of XML Schema that each stands on: restrictions of restrictions, and
+/// unions, become one value with the facets of all.
 class SimpleTypes
 {
 public:
@@ -37,9 +38,11 @@ private:
     SimpleValue ofList(const TextNode& list);
     SimpleValue ofUnion(const TextNode& unionTag);
     SimpleValue ofMembers(const TextNode& unionTag, const std::vector<SimpleValue>& members);
+    QStringList textsOf(const std::vector<SimpleValue>& members);
 
     const SchemaSet& m_set;
     RewriteLog& m_log;
+    TextCheck m_check;
     int m_typesLeft = MaxFollowed; ///< to be followed
     int m_depth = 0; ///< of types inside of each other: a circle has no end
 };

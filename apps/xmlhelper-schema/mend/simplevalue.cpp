@@ -29,4 +29,30 @@ void SimpleValue::RemoveFacet(const char* facet)
                  facets.end());
 }
 
+QStringList SimpleValue::Patterns() const
+{
+    QStringList patterns;
+    for (const auto& facet : facets) {
+        if (facet.first == QLatin1String("pattern")) {
+            patterns.append(facet.second);
+        }
+    }
+    return patterns;
+}
+
+void SimpleValue::AddPatterns(const QStringList& alternatives)
+{
+    const QStringList last = Patterns();
+    if (alternatives.isEmpty() || last == alternatives) {
+        return;
+    }
+    if (!last.isEmpty()) {
+        earlierPatterns.push_back(last);
+        RemoveFacet("pattern");
+    }
+    for (const QString& pattern : alternatives) {
+        facets.emplace_back(QStringLiteral("pattern"), pattern);
+    }
+}
+
 } // namespace schemadoctor

@@ -72,6 +72,11 @@ private Q_SLOTS:
     void tells_data();
     void tells();
     void keepsTheFormatOnRequest();
+    void allowsNoMoreThanTheOriginal_data();
+    void allowsNoMoreThanTheOriginal();
+    void keepsDefaultsThatFit_data();
+    void keepsDefaultsThatFit();
+    void tellsOfNoTypeThatNobodyWrote();
     void keepsReportsValidByTheOriginal();
     void saysRightlyThatReportsStayValid_data();
     void saysRightlyThatReportsStayValid();
@@ -192,6 +197,8 @@ void TestSchemaDoctorMend::tells_data()
     add("pattern", ofType("<xs:pattern value='a+'/>", "xs:string"), false);
     add("white-space", ofType("<xs:whiteSpace value='collapse'/>", "xs:string"), true);
     add("pattern-of-enumeration", ofType("<xs:pattern value='a+'/><xs:enumeration value='aa'/>", "xs:string"), true);
+    add("pattern-that-is-none-of-enumeration",
+        ofType("<xs:pattern value='(a'/><xs:enumeration value='aa'/>", "xs:string"), false);
     add("numbers-enumerated", ofType("<xs:enumeration value='1'/>", "xs:double"), true);
     add("bound-of-65535", ofType("<xs:maxInclusive value='65535'/>", "xs:integer"), true);
     add("fixed", report("<xs:element name='Value' type='xs:int' fixed='7'/>"), true);
@@ -234,6 +241,196 @@ void TestSchemaDoctorMend::keepsTheFormatOnRequest()
     QVERIFY(mending.text.contains("name=\"Day\" type=\"xs:date\""));
     QVERIFY(mending.text.contains("name=\"Level\" type=\"xs:double\""));
     QVERIFY(mending.text.contains("name=\"Items\" type=\"xs:double\""));
+}
+
+void TestSchemaDoctorMend::allowsNoMoreThanTheOriginal_data()
+{
+    QTest::addColumn<QByteArray>("declarations");
+    QTest::addColumn<bool>("isFormatKept");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("isAllowed");
+    const auto type = [](const QByteArray& name, const QByteArray& base, const QByteArray& facets) {
+        return "<xs:simpleType name='" + name + "'><xs:restriction base='" + base + "'>" + facets
+            + "</xs:restriction></xs:simpleType>";
+    };
+    const auto facet
+        = [](const QByteArray& name, const QByteArray& value) { return "<xs:" + name + " value='" + value + "'/>"; };
+    const auto enumeration = [&facet](const QList<QByteArray>& texts) {
+        QByteArray facets;
+        for (const QByteArray& text : texts) {
+            facets += facet("enumeration", text);
+        }
+        return facets;
+    };
+    const QByteArray value = report("<xs:element name='V' type='T'/>");
+    const auto attribute = [](const QByteArray& declaration) {
+        return report("<xs:element name='V'><xs:complexType><xs:attribute name='size' " + declaration
+                      + "/></xs:complexType></xs:element>");
+    };
+    const auto add = [](const char* name, const QByteArray& declarations, const QByteArray& content, bool isAllowed,
+                        bool isFormatKept = false) {
+        QTest::newRow(name) << declarations << isFormatKept << content << isAllowed;
+    };
+    const auto addKept = [&add](const char* name, const QByteArray& declarations, const QByteArray& content,
+                                bool isAllowed) { add(name, declarations, content, isAllowed, true); };
+
+    const QByteArray letters = type("E", "xs:string", enumeration({"A", "B", "C"})) + value;
+    const QByteArray byPattern = letters + type("T", "E", facet("pattern", "A|B"));
+    add("enumerated-within-a-pattern", byPattern, "<V>B</V>", true);
+    add("enumerated-outside-of-a-pattern", byPattern, "<V>C</V>", false);
+    const QByteArray numbers = type("E", "xs:int", enumeration({"1", "5", "10"})) + value;
+    const QByteArray byBound = numbers + type("T", "E", facet("maxInclusive", "5"));
+    add("enumerated-at-a-bound", byBound, "<V>5</V>", true);
+    add("enumerated-beyond-a-bound", byBound, "<V>10</V>", false);
+    const QByteArray byLength
+        = type("E", "xs:string", enumeration({"a", "bb"})) + value + type("T", "E", facet("maxLength", "1"));
+    add("enumerated-too-long", byLength, "<V>bb</V>", false);
+    const QByteArray days = type("E", "xs:date", enumeration({"2024-01-01", "2025-01-01"})) + value
+        + type("T", "E", facet("maxExclusive", "2025-01-01"));
+    add("enumerated-day-before", days, "<V>2024-01-01</V>", true);
+    add("enumerated-day-at-the-bound", days, "<V>2025-01-01</V>", false);
+    const QByteArray lists = "<xs:simpleType name='L'><xs:list itemType='xs:int'/></xs:simpleType>" + value;
+    const QByteArray someLists
+        = lists + type("E", "L", enumeration({"1", "1 2", "1 2 3"})) + type("T", "E", facet("minLength", "2"));
+    add("enumerated-list", someLists, "<V>1 2</V>", true);
+    add("enumerated-list-too-short", someLists, "<V>1</V>", false);
+    const QByteArray members = letters + type("P", "E", facet("pattern", "A|B"))
+        + type("O", "xs:string", enumeration({"x"}))
+        + "<xs:simpleType name='T'><xs:union memberTypes='P O'/></xs:simpleType>";
+    add("member-within-a-pattern", members, "<V>A</V>", true);
+    add("member-outside-of-a-pattern", members, "<V>C</V>", false);
+    addKept("enumerated-within-a-pattern-that-is-too-long-to-try",
+            letters + type("T", "E", facet("pattern", "A|B" + QByteArray("|A").repeated(600))), "<V>C</V>", false);
+
+    const QByteArray capitals = type("P", "xs:string", facet("pattern", "[A-Z]+")) + value;
+    addKept("patterns-of-two-steps", capitals + type("T", "P", facet("pattern", "...")), "<V>xyz</V>", false);
+    const QByteArray listed = capitals + type("T", "P", facet("pattern", "ON|OFF|auto"));
+    addKept("texts-listed-by-a-pattern", listed, "<V>ON</V>", true);
+    addKept("texts-listed-outside-of-a-pattern", listed, "<V>auto</V>", false);
+    const QByteArray alternatives = value + type("T", "xs:string", facet("pattern", "a+") + facet("pattern", "b+"));
+    addKept("first-alternative", alternatives, "<V>aa</V>", true);
+    addKept("second-alternative", alternatives, "<V>bb</V>", true);
+    addKept("no-alternative", alternatives, "<V>cc</V>", false);
+    addKept("pattern-of-a-type-that-is-unknown", value + type("T", "Nowhere", facet("pattern", "a")), "<V>b</V>",
+            false);
+    addKept("text-of-a-type-that-is-unknown", value + type("T", "Nowhere", enumeration({"a"})), "<V>a</V>", true);
+    addKept("length-within-lengths",
+            value + type("S", "xs:string", facet("minLength", "1") + facet("maxLength", "9"))
+                + type("T", "S", facet("length", "2")),
+            "<V>ab</V>", true);
+
+    const QByteArray severalItems = lists + type("T", "L", facet("minLength", "2"));
+    addKept("list-of-too-few", severalItems, "<V>1</V>", false);
+    addKept("list-of-several", severalItems, "<V>1 2 3</V>", true);
+    addKept("list-of-something-else", severalItems, "<V>a b</V>", false);
+    addKept("list-of-at-most", lists + type("T", "L", facet("maxLength", "2")), "<V>7</V>", true);
+    addKept("list-of-exactly", lists + type("T", "L", facet("length", "2")), "<V>1 2 3</V>", false);
+    const QByteArray words = value + type("S", "xs:string", facet("minLength", "3"))
+        + "<xs:simpleType name='T'><xs:list itemType='S'/></xs:simpleType>";
+    addKept("list-of-a-word", words, "<V>abc</V>", true);
+    addKept("list-of-words-that-are-too-short", words, "<V>a b</V>", false);
+    const QByteArray phrases = value + type("S", "xs:string", enumeration({"one", "one more"}))
+        + "<xs:simpleType name='T'><xs:list itemType='S'/></xs:simpleType>";
+    addKept("list-of-a-text", phrases, "<V>one</V>", true);
+    addKept("list-of-a-text-with-a-space", phrases, "<V>one more</V>", false);
+
+    add("greatest-of-an-unsigned-short", report("<xs:element name='V' type='xs:unsignedShort' default='65535'/>"),
+        "<V>65535</V>", true);
+    add("beyond-an-unsigned-short", report("<xs:element name='V' type='xs:unsignedShort'/>"), "<V>65536</V>", false);
+    const QByteArray ten = attribute("type='T' default='10'")
+        + type("T", "xs:int", facet("minInclusive", "0") + facet("maxInclusive", "10"));
+    add("greatest-of-an-attribute", ten, "<V size='10'/>", true);
+    add("beyond-an-attribute", ten, "<V size='11'/>", false);
+    const auto only = [&](const QByteArray& base, const QByteArray& number) {
+        return type("T", base, facet("minInclusive", number) + facet("maxInclusive", number));
+    };
+    add("only-value-of-an-attribute", attribute("type='T'") + only("xs:int", "3"), "<V size='3'/>", true);
+    add("beside-the-only-value-of-an-attribute", attribute("type='T'") + only("xs:int", "3"), "<V size='4'/>", false);
+    add("only-value-65534", attribute("type='T'") + only("xs:int", "65534"), "<V size='65534'/>", true);
+    add("only-value-65535", value + only("xs:int", "65535"), "<V>65535</V>", true);
+    add("only-double-65535", value + only("xs:double", "65535"), "<V>65535</V>", true);
+    add("only-double-of-an-attribute", attribute("type='T'") + only("xs:double", "3"), "<V size='3'/>", true);
+    add("fixed-and-empty", report("<xs:element name='V' type='xs:string' fixed=''/>"), "<V/>", true);
+    add("not-fixed-and-empty", report("<xs:element name='V' type='xs:string' fixed=''/>"), "<V>x</V>", false);
+    add("member-that-is-not-the-default",
+        "<xs:simpleType name='O'><xs:union memberTypes='xs:int xs:time'/></xs:simpleType>"
+            + report("<xs:element name='V' type='O' default='10:00:00'/>"),
+        "<V>1</V>", true);
+}
+
+/// Reports held against both schemas: what the mended one allows, the original allows too, or it is told.
+void TestSchemaDoctorMend::allowsNoMoreThanTheOriginal()
+{
+    QFETCH(QByteArray, declarations);
+    QFETCH(bool, isFormatKept);
+    QFETCH(QByteArray, content);
+    QFETCH(bool, isAllowed);
+    MendOptions options;
+    options.isFormatKept = isFormatKept;
+    options.root = QStringLiteral("Report");
+    const Mending mending = mended(schema(declarations), options);
+    QCOMPARE(mending.refusal, QString());
+    const QString out = written(m_folder.filePath(QStringLiteral("mended.xsd")), mending.text);
+    const QVector<QByteArray> reports {"<Report>" + content + "</Report>"};
+    QVector<ValidityError> errors;
+    QVERIFY2(validate(out, reports, errors), mending.text.constData());
+    QVERIFY2(errors.isEmpty() == isAllowed, mending.text.constData());
+    for (const Rewrite& rewrite : mending.rewrites) {
+        QVERIFY2(rewrite.effect == RewriteEffect::StaysValid, qPrintable(rewrite.before));
+    }
+}
+
+void TestSchemaDoctorMend::keepsDefaultsThatFit_data()
+{
+    QTest::addColumn<QByteArray>("declarations");
+    QTest::addColumn<QByteArray>("text");
+    const auto attribute = [](const QByteArray& declaration) {
+        return "<xs:element name='Report'><xs:complexType><xs:sequence><xs:element name='A' type='xs:date'/>"
+               "</xs:sequence>\n<xs:attribute name='size' "
+            + declaration + "</xs:complexType></xs:element>";
+    };
+    QTest::newRow("truth") << attribute("type='xs:boolean' default='1'/>") << QByteArray(" default=\"true\"");
+    QTest::newRow("truth-as-a-word") << attribute("type='xs:boolean' default='false'/>")
+                                     << QByteArray(" default=\"false\"");
+    QTest::newRow("number-enumerated") << attribute(
+        "default='05'><xs:simpleType><xs:restriction base='xs:int'><xs:enumeration value='5'/>"
+        "</xs:restriction></xs:simpleType></xs:attribute>")
+                                       << QByteArray(" default=\"5\"");
+    QTest::newRow("greatest-that-is-never-reached")
+        << attribute("default='2.5'><xs:simpleType><xs:restriction base='xs:double'><xs:minInclusive value='1'/>"
+                     "<xs:maxInclusive value='3'/></xs:restriction></xs:simpleType></xs:attribute>")
+        << QByteArray(" default=\"2.5\"");
+    QTest::newRow("greatest-of-a-double")
+        << attribute("default='3'><xs:simpleType><xs:restriction base='xs:double'><xs:minInclusive value='1'/>"
+                     "<xs:maxInclusive value='3'/></xs:restriction></xs:simpleType></xs:attribute>")
+        << QByteArray();
+}
+
+/// In the words of the mended type, or told as dropped.
+void TestSchemaDoctorMend::keepsDefaultsThatFit()
+{
+    QFETCH(QByteArray, declarations);
+    QFETCH(QByteArray, text);
+    const Mending mending = mended(schema(declarations));
+    const bool isDropped = std::any_of(mending.rewrites.begin(), mending.rewrites.end(), [](const Rewrite& rewrite) {
+        return rewrite.before.startsWith(QLatin1String("the default ")) && rewrite.after == QLatin1String("nothing");
+    });
+    QCOMPARE(isDropped, text.isEmpty());
+    QVERIFY2(mending.text.contains(text.isEmpty() ? QByteArray("<xs:attribute") : text), mending.text.constData());
+    QCOMPARE(mending.text.contains(" default="), !text.isEmpty());
+}
+
+/// Of a type that nothing defines.
+void TestSchemaDoctorMend::tellsOfNoTypeThatNobodyWrote()
+{
+    MendOptions options;
+    options.isFormatKept = true;
+    const Mending mending = mended(schema(report("<xs:element name='Value' type='Nowhere'/>")), options);
+    QCOMPARE(mending.left.size(), 1);
+    QVERIFY(mending.left.first().before.contains(QLatin1String("Nowhere")));
+    for (const Rewrite& rewrite : mending.rewrites) {
+        QVERIFY2(!rewrite.before.contains(QLatin1String("anySimpleType")), qPrintable(rewrite.before));
+    }
 }
 
 /// Reports filled by the mended schema, where no rewrite changes the format.
