@@ -34,6 +34,28 @@ bool isAnnotation(const QString& name)
     return name == TypeAttribute() || name == DefaultAttribute() || isFacetOfType(name);
 }
 
+/// The first number in a name; 1 without any.
+int numberIn(const QString& name)
+{
+    const auto isDigit = [](QChar one) { return one.isDigit(); };
+    const auto begin = std::find_if(name.begin(), name.end(), isDigit);
+    const auto end = std::find_if_not(begin, name.end(), isDigit);
+    return begin == end ? 1 : name.mid(int(begin - name.begin()), int(end - begin)).toInt();
+}
+
+/// Whether a name is a part of what the library calls a facet, but not of the name of the facet's owner. Of the texts
+/// of an enumeration it can only be the one whose number it holds.
+bool isInAnyFacet(const QString& name, const SimpleValue& value, const QString& owner)
+{
+    const auto isIn = [&](const QString& facet) { return (facet + owner).contains(name) && !owner.contains(name); };
+    const int number = numberIn(name);
+    if (number > 0 && number <= value.enumeration.size() && isIn(EnumerationFacet + QString::number(number))) {
+        return true;
+    }
+    return std::any_of(value.facets.begin(), value.facets.end(),
+                       [&isIn](const auto& facet) { return isPossibleFacet(facet.first) && isIn(facet.first); });
+}
+
 } // namespace
 
 void Attributes::Add(const TextNode& owner, std::vector<MendedAttribute>& attributes, int depth)
@@ -120,10 +142,45 @@ QString Attributes::allowedName(const MendedAttribute& attribute)
         : attribute.name;
 }
 
-void Attributes::Rename(std::vector<MendedAttribute>& attributes)
+/// Facets of the element and of its attributes are found by parts of names: an attribute must not be called like one,
+/// nor like the number of a text of the element.
+void Attributes::keepFromFacets(MendedAttribute& attribute, const MendedElement& element)
 {
+    const auto isInTheWay = [&](const QString& name) {
+        const bool isOfOther
+            = std::any_of(element.attributes.begin(), element.attributes.end(), [&](const auto& other) {
+                  return other.name != attribute.name && isInAnyFacet(name, other.value, other.name);
+              });
+        const bool isOfElement = element.hasValue && isInAnyFacet(name, element.value, QString());
+        const bool isForElement = element.hasValue && !attribute.value.enumeration.isEmpty()
+            && isEnumerationOfElement(EnumerationFacet + QLatin1Char('1') + name);
+        return isOfOther || isOfElement || isForElement;
+    };
+    const auto isTaken = [&](const QString& name) {
+        return std::any_of(element.attributes.begin(), element.attributes.end(),
+                           [&name](const auto& other) { return other.name == name; });
+    };
+    if (!isInTheWay(attribute.name)) {
+        return;
+    }
+    QString name = QLatin1String("its") + capitalised(attribute.name);
+    while (isInTheWay(name) || isTaken(name)) {
+        name += QLatin1Char('_');
+    }
+    if (m_log.Change(*attribute.declaration, Mend::tr("the attribute '%1'").arg(attribute.name),
+                     Mend::tr("the attribute '%1'").arg(name))) {
+        attribute.name = name;
+    }
+}
+
+void Attributes::Rename(MendedElement& element)
+{
+    std::vector<MendedAttribute>& attributes = element.attributes;
     for (MendedAttribute& attribute : attributes) {
         attribute.name = allowedName(attribute);
+    }
+    for (MendedAttribute& attribute : attributes) {
+        keepFromFacets(attribute, element);
     }
     // Facets are found by parts of names: those of the longer would count for the shorter, too.
     for (MendedAttribute& longer : attributes) {

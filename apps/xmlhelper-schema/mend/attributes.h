@@ -24,8 +24,8 @@ public:
     /// Adds what stands in a type, an extension, a restriction or a group: it replaces what is called the same.
     void Add(const TextNode& owner, std::vector<MendedAttribute>& attributes, int depth = 0);
 
-    /// Gives names that do not get in each other's way.
-    void Rename(std::vector<MendedAttribute>& attributes);
+    /// Gives names to the attributes of an element that do not get in each other's way.
+    void Rename(MendedElement& element);
 
     /// Whether there were more groups inside of groups than are followed.
     bool IsBeyondLimit() const { return m_groupsLeft <= 0; }
@@ -33,6 +33,7 @@ public:
 private:
     void addOne(const TextNode& tag, std::vector<MendedAttribute>& attributes);
     MendedAttribute declared(const TextNode& tag, const TextNode& declaration);
+    void keepFromFacets(MendedAttribute& attribute, const MendedElement& element);
     QString allowedName(const MendedAttribute& attribute);
 
     const SchemaSet& m_set;

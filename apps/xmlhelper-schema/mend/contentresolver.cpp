@@ -530,7 +530,7 @@ std::optional<MendedElement> ContentResolver::element(const TextNode& tag, const
     }
     tellPassedOver(declaration);
     finishValue(element, declaration);
-    m_attributes.Rename(element.attributes);
+    m_attributes.Rename(element);
     rename(element);
     return element;
 }

@@ -77,6 +77,8 @@ private Q_SLOTS:
     void keepsDefaultsThatFit_data();
     void keepsDefaultsThatFit();
     void tellsOfNoTypeThatNobodyWrote();
+    void renamesWhatIsPartOfAFacet_data();
+    void renamesWhatIsPartOfAFacet();
     void keepsReportsValidByTheOriginal();
     void saysRightlyThatReportsStayValid_data();
     void saysRightlyThatReportsStayValid();
@@ -431,6 +433,46 @@ void TestSchemaDoctorMend::tellsOfNoTypeThatNobodyWrote()
     for (const Rewrite& rewrite : mending.rewrites) {
         QVERIFY2(!rewrite.before.contains(QLatin1String("anySimpleType")), qPrintable(rewrite.before));
     }
+}
+
+void TestSchemaDoctorMend::renamesWhatIsPartOfAFacet_data()
+{
+    QTest::addColumn<QByteArray>("base");
+    QTest::addColumn<QByteArray>("attributes");
+    const QByteArray truth = "<xs:attribute name='b' type='xs:boolean'/>";
+    const auto upTo = [](const QByteArray& name) {
+        return "<xs:attribute name='" + name
+            + "'><xs:simpleType><xs:restriction base='xs:int'><xs:minInclusive value='0'/>"
+              "<xs:maxInclusive value='10'/></xs:restriction></xs:simpleType></xs:attribute>";
+    };
+    QTest::newRow("of-another-enumeration") << QByteArray("xs:string") << truth + upTo("n");
+    QTest::newRow("of-the-number-of-a-text") << QByteArray("xs:string") << truth + upTo("n1");
+    QTest::newRow("of-another-bound") << QByteArray("xs:string")
+                                      << upTo("level") + "<xs:attribute name='x' type='xs:int'/>";
+    QTest::newRow("of-the-enumeration-of-the-element")
+        << QByteArray("E") << QByteArray("<xs:attribute name='n' type='xs:int'/>");
+    QTest::newRow("that-ends-with-a-number-as-of-the-element")
+        << QByteArray("xs:int") << QByteArray("<xs:attribute name='b2' type='xs:boolean'/>");
+    QTest::newRow("that-is-taken-already")
+        << QByteArray("xs:string") << truth + upTo("n") + "<xs:attribute name='itsN' type='xs:int'/>";
+}
+
+void TestSchemaDoctorMend::renamesWhatIsPartOfAFacet()
+{
+    QFETCH(QByteArray, base);
+    QFETCH(QByteArray, attributes);
+    const QByteArray enumeration = "<xs:simpleType name='E'><xs:restriction base='xs:string'>"
+                                   "<xs:enumeration value='on'/></xs:restriction></xs:simpleType>";
+    const QString in = written(
+        m_folder.filePath(QStringLiteral("given.xsd")),
+        schema(enumeration
+               + report("<xs:element name='Value'><xs:complexType><xs:simpleContent><xs:extension base='" + base + "'>"
+                        + attributes + "</xs:extension></xs:simpleContent></xs:complexType></xs:element>")));
+    const MendedFile result = mendInto(m_folder.filePath(QStringLiteral("mended.xsd")), in, MendOptions());
+    QCOMPARE(errorsOf(result.examination), QString());
+    QVERIFY(result.examination.proof.reports >= 1);
+    QVERIFY2(result.examination.proof.validReports == result.examination.proof.reports,
+             result.mending.text.constData());
 }
 
 /// Reports filled by the mended schema, where no rewrite changes the format.
