@@ -469,6 +469,42 @@ Das überarbeitete Schema:
         <translation>Das Format bleibt nicht erhalten: Was es ändert, kann nicht so gelassen werden, wie es ist.
 </translation>
     </message>
+    <message>
+        <source>the default &apos;%1&apos;</source>
+        <translation>der Vorgabewert &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>an xs:list that is never a single item</source>
+        <translation>eine xs:list, die nie ein einzelner Eintrag ist</translation>
+    </message>
+    <message>
+        <source>xs:string with %1</source>
+        <translation>xs:string mit %1</translation>
+    </message>
+    <message>
+        <source>a single item of %1</source>
+        <translation>ein einzelner Eintrag vom Typ %1</translation>
+    </message>
+    <message>
+        <source>an enumeration of its texts</source>
+        <translation>eine Aufzählung seiner Texte</translation>
+    </message>
+    <message>
+        <source>a type without any value</source>
+        <translation>ein Typ ohne jeden Wert</translation>
+    </message>
+    <message>
+        <source>an enumeration of what it allows</source>
+        <translation>eine Aufzählung dessen, was damit erlaubt ist</translation>
+    </message>
+    <message>
+        <source>bounds between which hardly any number is</source>
+        <translation>Grenzen, zwischen denen kaum eine Zahl liegt</translation>
+    </message>
+    <message>
+        <source>an enumeration of &apos;%1&apos;</source>
+        <translation>eine Aufzählung von &apos;%1&apos;</translation>
+    </message>
 </context>
 <context>
     <name>SchemaDoctor</name>

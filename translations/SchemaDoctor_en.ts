@@ -469,6 +469,42 @@ The mended schema:
         <translation>The format is not kept: what changes it cannot be left as it is.
 </translation>
     </message>
+    <message>
+        <source>the default &apos;%1&apos;</source>
+        <translation>the default &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>an xs:list that is never a single item</source>
+        <translation>an xs:list that is never a single item</translation>
+    </message>
+    <message>
+        <source>xs:string with %1</source>
+        <translation>xs:string with %1</translation>
+    </message>
+    <message>
+        <source>a single item of %1</source>
+        <translation>a single item of %1</translation>
+    </message>
+    <message>
+        <source>an enumeration of its texts</source>
+        <translation>an enumeration of its texts</translation>
+    </message>
+    <message>
+        <source>a type without any value</source>
+        <translation>a type without any value</translation>
+    </message>
+    <message>
+        <source>an enumeration of what it allows</source>
+        <translation>an enumeration of what it allows</translation>
+    </message>
+    <message>
+        <source>bounds between which hardly any number is</source>
+        <translation>bounds between which hardly any number is</translation>
+    </message>
+    <message>
+        <source>an enumeration of &apos;%1&apos;</source>
+        <translation>an enumeration of &apos;%1&apos;</translation>
+    </message>
 </context>
 <context>
     <name>SchemaDoctor</name>

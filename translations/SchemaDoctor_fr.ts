@@ -469,6 +469,42 @@ Le schéma corrigé :
         <translation>Le format n&apos;est pas conservé : ce qui le change ne peut pas être laissé tel quel.
 </translation>
     </message>
+    <message>
+        <source>the default &apos;%1&apos;</source>
+        <translation>la valeur par défaut &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>an xs:list that is never a single item</source>
+        <translation>une xs:list qui n&apos;est jamais un seul élément de liste</translation>
+    </message>
+    <message>
+        <source>xs:string with %1</source>
+        <translation>xs:string avec %1</translation>
+    </message>
+    <message>
+        <source>a single item of %1</source>
+        <translation>un seul élément de liste du type %1</translation>
+    </message>
+    <message>
+        <source>an enumeration of its texts</source>
+        <translation>une énumération de ses textes</translation>
+    </message>
+    <message>
+        <source>a type without any value</source>
+        <translation>un type sans aucune valeur</translation>
+    </message>
+    <message>
+        <source>an enumeration of what it allows</source>
+        <translation>une énumération de ce qui reste permis</translation>
+    </message>
+    <message>
+        <source>bounds between which hardly any number is</source>
+        <translation>des bornes entre lesquelles il n&apos;y a presque aucun nombre</translation>
+    </message>
+    <message>
+        <source>an enumeration of &apos;%1&apos;</source>
+        <translation>une énumération de &apos;%1&apos;</translation>
+    </message>
 </context>
 <context>
     <name>SchemaDoctor</name>
