@@ -27,6 +27,8 @@ class TestReportFillerValues : public QObject
 private Q_SLOTS:
     void takesOrRefusesAValue_data();
     void takesOrRefusesAValue();
+    void doubtsWhatItCannotDecide_data();
+    void doubtsWhatItCannotDecide();
     void takesTypedValues_data();
     void takesTypedValues();
     void readsNumbersWithoutLoss_data();
@@ -36,6 +38,9 @@ private Q_SLOTS:
     void writesByTheDefault();
     void removesADefaultBesideAValue();
     void takesFacetsOfAnAttribute();
+    void keepsFacetsOfAttributesApart();
+    void takesAttributesCalledLikeFacets();
+    void saysAsWhatAnAttributeIsWritten();
     void readsAText_data();
     void readsAText();
     void saysWhatIsWrongWithAText_data();
@@ -52,8 +57,8 @@ void TestReportFillerValues::takesOrRefusesAValue_data()
     QTest::addColumn<QString>("reason");
     const auto row = [](const char* name, const char* base, const char* facets, const char* value, const char* written,
                         const char* reason = "") {
-        QTest::newRow(name) << QByteArray(base) << QByteArray(facets) << QString::fromLatin1(value)
-                            << QString::fromLatin1(written) << QString::fromLatin1(reason);
+        QTest::newRow(name) << QByteArray(base) << QByteArray(facets) << QString::fromUtf8(value)
+                            << QString::fromUtf8(written) << QString::fromLatin1(reason);
     };
     const char* const range = "<xs:minInclusive value='1'/><xs:maxExclusive value='9'/>";
     const char* const colours = "<xs:enumeration value='red'/><xs:enumeration value='blue'/>";
@@ -96,6 +101,31 @@ void TestReportFillerValues::takesOrRefusesAValue_data()
     row("of-another-length", "string", "<xs:length value='2'/>", "abc", "", "it is outside of its length, 2");
     row("too-many-digits", "integer", "<xs:totalDigits value='2'/>", "-123", "", "it is outside of its totalDigits, 2");
     row("digits-kept", "integer", "<xs:totalDigits value='3'/>", "-123", "-123");
+    row("leading-zeros-are-no-digits", "long", "<xs:totalDigits value='10'/>", "005000000000", "005000000000");
+    row("integer-of-more-than-32-bits", "integer", "", "3000000000", "",
+        "integers of more than 32 bits are not written");
+    row("long-behind-its-bound", "long", "<xs:maxInclusive value='9007199254740992'/>", "9007199254740993", "",
+        "it is outside of its maxInclusive, 9007199254740992");
+    row("long-at-its-bound", "long", "<xs:maxInclusive value='9007199254740993'/>", "9007199254740993",
+        "9007199254740993");
+    row("date-and-time-before-its-bound", "dateTime", "<xs:minInclusive value='2026-01-01T00:00:00'/>",
+        "2025-12-31T23:59:59", "", "it is outside of its minInclusive, 2026-01-01T00:00:00");
+    row("date-and-time-in-another-zone", "dateTime", "<xs:minInclusive value='2026-01-01T00:00:00Z'/>",
+        "2026-01-01T00:30:00+01:00", "", "it is outside of its minInclusive, 2026-01-01T00:00:00Z");
+    row("date-and-time-at-its-bound", "dateTime", "<xs:minInclusive value='2026-01-01T00:00:00'/>",
+        "2026-01-01T00:00:00", "2026-01-01T00:00:00");
+    row("time-behind-its-bound", "time", "<xs:maxInclusive value='12:00:00'/>", "12:00:01", "",
+        "it is outside of its maxInclusive, 12:00:00");
+    row("characters-of-two-code-units", "string", "<xs:length value='2'/>", "\xF0\x9F\x98\x80\xF0\x9F\x98\x81",
+        "\xF0\x9F\x98\x80\xF0\x9F\x98\x81");
+    row("length-without-collapsed-blanks", "string", "<xs:whiteSpace value='collapse'/><xs:maxLength value='3'/>",
+        " a  b ", " a  b ");
+    row("length-with-preserved-blanks", "string", "<xs:maxLength value='3'/>", " a  b ", "",
+        "it is outside of its maxLength, 3");
+    row("pattern-broken-as-written", "double", "<xs:pattern value='[0-9]\\.[0-9]{2}'/>", "1.50", "",
+        "written as 1.5, it is outside of its pattern, [0-9]\\.[0-9]{2}");
+    row("pattern-kept-as-written", "double", "<xs:pattern value='[0-9]+'/>", "98.5e6", "98500000");
+    row("enumerated-in-another-form", "double", "<xs:enumeration value='1.50'/>", "1.5", "1.5");
 }
 
 void TestReportFillerValues::takesOrRefusesAValue()
@@ -120,6 +150,42 @@ void TestReportFillerValues::takesOrRefusesAValue()
         QVERIFY(verdict.state == ReportFiller::State::Refused);
         QCOMPARE(verdict.reason, reason);
     }
+}
+
+void TestReportFillerValues::doubtsWhatItCannotDecide_data()
+{
+    QTest::addColumn<QByteArray>("base");
+    QTest::addColumn<QByteArray>("facets");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("facet");
+    const auto row = [](const char* name, const char* base, const char* facets, const char* value, const char* facet) {
+        QTest::newRow(name) << QByteArray(base) << QByteArray(facets) << QString::fromLatin1(value)
+                            << QString::fromLatin1(facet);
+    };
+    row("names", "string", "<xs:pattern value='\\i\\c*'/>", "a1", "pattern, \\i\\c*");
+    row("words", "string", "<xs:pattern value='\\w+'/>", "a_b", "pattern, \\w+");
+    row("block", "string", "<xs:pattern value='\\p{IsBasicLatin}+'/>", "ab", "pattern, \\p{IsBasicLatin}+");
+    row("subtraction", "string", "<xs:pattern value='[a-z-[aeiou]]'/>", "b", "pattern, [a-z-[aeiou]]");
+    row("anchor", "string", "<xs:pattern value='[0-9]+$'/>", "5", "pattern, [0-9]+$");
+    row("first-of-two-patterns", "string", "<xs:pattern value='a+'/><xs:pattern value='b+'/>", "aa", "pattern, b+");
+    row("date-and-time-without-the-zone-of-its-bound", "dateTime", "<xs:minInclusive value='2026-01-01T00:00:00Z'/>",
+        "2026-01-01T00:30:00", "minInclusive, 2026-01-01T00:00:00Z");
+}
+
+void TestReportFillerValues::doubtsWhatItCannotDecide()
+{
+    QFETCH(QByteArray, base);
+    QFETCH(QByteArray, facets);
+    QFETCH(QString, value);
+    QFETCH(QString, facet);
+    const SchemaFolder folder(valueElement(base, facets));
+    ReportFiller filler;
+    filler.Add(QStringLiteral("Value"), value);
+    QVERIFY(!filler.Fill(folder.Schema(), folder.Report()));
+    QVERIFY(filler.GetVerdicts().front().state == ReportFiller::State::Doubtful);
+    QCOMPARE(filler.Complaints(),
+             QStringList(QStringLiteral("/R/Value=%1: whether it is within its %2, is not known").arg(value, facet)));
+    QCOMPARE(folder.Content(), QStringLiteral("R(Value=%1)").arg(value));
 }
 
 void TestReportFillerValues::takesTypedValues_data()
@@ -245,6 +311,54 @@ void TestReportFillerValues::takesFacetsOfAnAttribute()
     QVERIFY(filled(9).state == ReportFiller::State::Written);
     QCOMPARE(documentInFile(folder.Report()).documentElement().firstChildElement().attributes().count(), 1);
     QVERIFY(filled(10).state == ReportFiller::State::Refused); // The library excludes it behind a lower bound.
+}
+
+/// The builder takes the facets of each attribute away whose name the other's begins with.
+void TestReportFillerValues::keepsFacetsOfAttributesApart()
+{
+    const SchemaFolder folder("<xs:attribute name='Unit'><xs:simpleType><xs:restriction base='xs:string'>"
+                              "<xs:enumeration value='Hz'/></xs:restriction></xs:simpleType></xs:attribute>"
+                              "<xs:attribute name='UnitBase'><xs:simpleType><xs:restriction base='xs:string'>"
+                              "<xs:enumeration value='m'/></xs:restriction></xs:simpleType></xs:attribute>"
+                              "<xs:element name='R'><xs:complexType><xs:sequence>"
+                              "<xs:element name='A'><xs:complexType><xs:attribute ref='Unit'/>"
+                              "<xs:attribute ref='UnitBase'/></xs:complexType>"
+                              "</xs:element></xs:sequence></xs:complexType></xs:element>");
+    ReportFiller filler;
+    filler.Add(QStringLiteral("A@Unit"), QStringLiteral("Hz"));
+    filler.Add(QStringLiteral("A@UnitBase"), QStringLiteral("km"));
+    filler.Fill(folder.Schema(), folder.Report());
+    QVERIFY(filler.GetVerdicts()[0].state == ReportFiller::State::Written);
+    QVERIFY(filler.GetVerdicts()[1].state == ReportFiller::State::Refused);
+    QCOMPARE(filler.GetVerdicts()[1].reason, QStringLiteral("it is outside of its enumeration, m"));
+}
+
+void TestReportFillerValues::takesAttributesCalledLikeFacets()
+{
+    const SchemaFolder folder("<xs:element name='R'><xs:complexType><xs:sequence>"
+                              "<xs:element name='V'><xs:complexType><xs:simpleContent><xs:extension base='xs:string'>"
+                              "<xs:attribute name='length' type='xs:integer'/>"
+                              "<xs:attribute name='pattern' type='xs:string'/>"
+                              "<xs:attribute name='maxLength' type='stringOfMine'/>"
+                              "</xs:extension></xs:simpleContent></xs:complexType></xs:element>"
+                              "</xs:sequence></xs:complexType></xs:element>");
+    ReportFiller filler;
+    QVERIFY(filler.AddText("V=abcdef\nV@length=3\nV@pattern=x\nV@maxLength=2"));
+    QVERIFY2(filler.Fill(folder.Schema(), folder.Report()), qPrintable(filler.Complaints().join(QLatin1Char('\n'))));
+    QCOMPARE(folder.Content(), QStringLiteral("R(V{length=3 maxLength=2 pattern=x}=abcdef)"));
+}
+
+void TestReportFillerValues::saysAsWhatAnAttributeIsWritten()
+{
+    const SchemaFolder folder("<xs:element name='R'><xs:complexType><xs:sequence>"
+                              "<xs:element name='V'><xs:complexType><xs:simpleContent><xs:extension base='xs:string'>"
+                              "<xs:attribute name='d' type='xs:double'/>"
+                              "</xs:extension></xs:simpleContent></xs:complexType></xs:element>"
+                              "</xs:sequence></xs:complexType></xs:element>");
+    ReportFiller filler;
+    QVERIFY(filler.AddText("V@d=98.5e6\nV=x"));
+    QVERIFY(filler.Fill(folder.Schema(), folder.Report()));
+    QCOMPARE(filler.GetVerdicts().front().reason, QStringLiteral("written as 98500000"));
 }
 
 void TestReportFillerValues::readsAText_data()

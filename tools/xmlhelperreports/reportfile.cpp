@@ -12,13 +12,6 @@
 
 namespace {
 
-/// The name by which the library opens a file: back slashes separate folders everywhere.
-QString openedName(const QString& fileName)
-{
-    QString name = fileName;
-    return QFileInfo::exists(name) ? name : name.replace(QLatin1Char('\\'), QLatin1Char('/'));
-}
-
 bool writeAll(QFile& from, QFileDevice& to)
 {
     const qint64 piece = 1024 * 1024;
@@ -52,6 +45,12 @@ bool isPipeThatNobodyReads(const QString& fileName)
 }
 
 } // namespace
+
+QString openedName(const QString& fileName)
+{
+    QString name = fileName;
+    return QFileInfo::exists(name) ? name : name.replace(QLatin1Char('\\'), QLatin1Char('/'));
+}
 
 bool isSameFile(const QString& schema, const QString& report)
 {

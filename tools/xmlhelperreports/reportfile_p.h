@@ -3,6 +3,9 @@
 
 #include <QString>
 
+/// The name by which the library opens a file: back slashes separate folders everywhere.
+QString openedName(const QString& fileName);
+
 /// Whether a report of that name would take the place of its schema.
 bool isSameFile(const QString& schema, const QString& report);
 

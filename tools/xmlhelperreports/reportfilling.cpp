@@ -12,6 +12,7 @@
 #include <xmlhelper/valuerules_p.h>
 
 #include "reportfile_p.h"
+#include "schemapatterns_p.h"
 
 QT_WARNING_DISABLE_DEPRECATED
 
@@ -41,6 +42,16 @@ QVector<QPair<QString, QString>> attributesOf(const QDomElement& element)
     return all;
 }
 
+void removeTexts(QDomElement element)
+{
+    for (QDomNode child = element.firstChild(), next; !child.isNull(); child = next) {
+        next = child.nextSibling();
+        if (child.isText()) {
+            element.removeChild(child);
+        }
+    }
+}
+
 } // namespace
 
 ReportFilling::ReportFilling(std::vector<GivenValue> values, const ReportFiller::Source& source,
@@ -58,6 +69,7 @@ bool ReportFilling::Fill(const QString& schema, const QString& report)
         m_complaints.append(QStringLiteral("the report would replace its schema"));
         return false;
     }
+    m_schema = openedName(schema);
     m_writtenFile = m_folder.filePath(QStringLiteral("report.xml"));
     const bool isRead = m_builder.CreateXmlFromSchema(schema, m_writtenFile, false);
     m_bSchemaRead = isRead && !m_instances.empty();
@@ -279,9 +291,10 @@ void ReportFilling::answer(const QDomNode& node)
         return; // It is announced again.
     }
     m_next = found;
+    const Facets facets = facetsOf(instance.element); // Attributes that are set take some of them away.
     setAttributes(instance);
     if (isValueType(instance.place->type)) {
-        setText(instance);
+        setText(instance, facets);
     } else {
         judgeElement(State::Written, instance.path, QString());
         tidy(instance);
@@ -290,26 +303,36 @@ void ReportFilling::answer(const QDomNode& node)
 
 void ReportFilling::setAttributes(Instance& instance)
 {
+    std::map<QString, Facets> facets;
+    std::map<QString, QString> types;
     for (const QString& attribute : instance.place->attributes) {
-        const QString path = instance.path + AttributeMark + attribute;
-        const auto found = instance.attributes.find(attribute);
-        if (found == instance.attributes.end()) {
-            judgeElement(State::LeftOut, path, QStringLiteral("without a value; whether it is required is not known"));
-            removeDeclaration(instance.element, attribute);
+        facets[attribute] = facetsOf(instance.element, attribute);
+        types[attribute] = instance.element.attribute(attribute);
+    }
+    for (const QString& attribute : instance.place->attributes) {
+        if (instance.attributes.find(attribute) != instance.attributes.end()) {
+            setAttribute(instance, attribute, types[attribute], facets[attribute]);
             continue;
         }
-        const QString text = m_values[std::size_t(found->second)].text;
-        const QString type = instance.element.attribute(attribute);
-        const QString fault = faultOf(text, type, facetsOf(instance.element, attribute));
-        const QString call = QStringLiteral("SetAttributeValue(%1, ").arg(attribute);
-        const QString reason = !fault.isEmpty()
-            ? fault
-            : offer(text, type, call, [&](const TypedValue& one) { setByAttribute(attribute, text, one); });
-        judge(found->second, reason.isEmpty() ? State::Written : State::Refused, path, reason);
-        if (!reason.isEmpty()) {
-            instance.attributes.erase(found);
-            removeDeclaration(instance.element, attribute);
-        }
+        judgeElement(State::LeftOut, instance.path + AttributeMark + attribute,
+                     QStringLiteral("without a value; whether it is required is not known"));
+        removeDeclaration(instance.element, attribute);
+    }
+}
+
+void ReportFilling::setAttribute(Instance& instance, const QString& attribute, const QString& type,
+                                 const Facets& facets)
+{
+    const int value = instance.attributes.at(attribute);
+    const QString text = m_values[std::size_t(value)].text;
+    const Outcome outcome = offerChecked(
+        text, type, facets, QStringLiteral("SetAttributeValue(%1, ").arg(attribute),
+        [&](const TypedValue& one) { setByAttribute(attribute, text, one); },
+        [&] { return instance.element.attribute(attribute); });
+    judge(value, outcome.state, instance.path + AttributeMark + attribute, outcome.reason);
+    if (outcome.state == State::Refused) {
+        instance.attributes.erase(attribute);
+        removeDeclaration(instance.element, attribute);
     }
 }
 
@@ -339,8 +362,14 @@ void ReportFilling::setByAttribute(const QString& attribute, const QString& text
         value);
 }
 
-void ReportFilling::setText(Instance& instance)
+void ReportFilling::setText(Instance& instance, const Facets& facets)
 {
+    const auto attributes = attributesOf(instance.element);
+    for (const auto& attribute : attributes) {
+        if (instance.attributes.find(attribute.first) == instance.attributes.end()) {
+            instance.heldAttributes.append(attribute);
+        }
+    }
     const QString byDefault = instance.place->defaultValue;
     const bool isGiven = instance.text != ValueBranch::None;
     if (!isGiven && byDefault.isEmpty()) {
@@ -349,36 +378,64 @@ void ReportFilling::setText(Instance& instance)
         return;
     }
     const QString text = isGiven ? m_values[std::size_t(instance.text)].text : byDefault;
-    const QString type = instance.place->type;
-    const QString fault = faultOf(text, type, facetsOf(instance.element));
-    const QString reason
-        = !fault.isEmpty() ? fault : offer(text, type, QStringLiteral("SetXmlValue("), [this](const TypedValue& one) {
-              std::visit([this](const auto& typed) { m_builder.SetXmlValue(typed); }, one);
-          });
-    judgeText(instance, text, reason);
-    if (reason.isEmpty()) {
+    const Outcome outcome = offerChecked(
+        text, instance.place->type, facets, QStringLiteral("SetXmlValue("),
+        [this](const TypedValue& one) { std::visit([this](const auto& typed) { m_builder.SetXmlValue(typed); }, one); },
+        [&] { return instance.element.text(); });
+    judgeText(instance, text, outcome);
+    if (outcome.state != State::Refused) {
         tidy(instance);
     } else {
+        removeTexts(instance.element);
         hold(instance);
     }
 }
 
-/// What became of a text that was offered, given or a default. It is in the report when there is no reason against it.
-void ReportFilling::judgeText(const Instance& instance, const QString& text, const QString& reason)
+/// What became of a text that was offered, given or a default.
+void ReportFilling::judgeText(const Instance& instance, const QString& text, const Outcome& outcome)
 {
-    const bool isWritten = reason.isEmpty();
-    if (instance.text == ValueBranch::None) {
-        judgeElement(isWritten ? State::Written : State::Unfilled, instance.path,
-                     isWritten ? QStringLiteral("by the schema's default, %1").arg(text)
-                               : QStringLiteral("its default is refused: %1").arg(reason));
+    const bool isRefused = outcome.state == State::Refused;
+    if (instance.text != ValueBranch::None) {
+        judge(instance.text, outcome.state, instance.path, outcome.reason);
+        if (isRefused && instance.isRequired) {
+            judgeElement(State::Unfilled, instance.path, QStringLiteral("required, and its value was refused"));
+        }
         return;
     }
-    const QString written = instance.element.text();
-    judge(instance.text, isWritten ? State::Written : State::Refused, instance.path,
-          isWritten && written != text ? QStringLiteral("written as %1").arg(written) : reason);
-    if (!isWritten && instance.isRequired) {
-        judgeElement(State::Unfilled, instance.path, QStringLiteral("required, and its value was refused"));
+    const QString further = outcome.reason.isEmpty() ? QString() : QStringLiteral(": ") + outcome.reason;
+    judgeElement(
+        isRefused ? State::Unfilled : outcome.state, instance.path,
+        (isRefused ? QStringLiteral("its default is refused") : QStringLiteral("by the schema's default, %1").arg(text))
+            + further);
+}
+
+/// Offers a text, and looks at what stands there then: it may be written otherwise than it was given.
+template <typename Setting, typename Reading>
+ReportFilling::Outcome ReportFilling::offerChecked(const QString& text, const QString& type, const Facets& facets,
+                                                   const QString& call, const Setting& set, const Reading& read)
+{
+    const FacetVerdict before = verdictOnValue(text, type, facets);
+    const QString refusal = before.kind == FacetVerdict::Broken ? before.reason : offer(text, type, call, set);
+    if (!refusal.isEmpty()) {
+        return {State::Refused, refusal};
     }
+    const QString written = read();
+    const FacetVerdict verdict
+        = verdictOnText(written, type, facets, [this](const QString& pattern) { return isOneOfSeveral(pattern); });
+    const QString change = written == text ? QString() : QStringLiteral("written as %1").arg(written);
+    return {verdict.kind == FacetVerdict::Kept         ? State::Written
+                : verdict.kind == FacetVerdict::Broken ? State::Refused
+                                                       : State::Doubtful,
+            change + (change.isEmpty() || verdict.reason.isEmpty() ? QString() : QStringLiteral(", "))
+                + verdict.reason};
+}
+
+bool ReportFilling::isOneOfSeveral(const QString& pattern)
+{
+    if (!m_patternsBesideOthers) {
+        m_patternsBesideOthers = patternsBesideOthers(m_schema);
+    }
+    return m_patternsBesideOthers->contains(pattern);
 }
 
 /// Offers the value as one type after the other, until one is not refused for its type. Gives why all were refused, by
@@ -421,12 +478,6 @@ void ReportFilling::tidy(Instance& instance)
 void ReportFilling::hold(Instance& instance)
 {
     instance.isHeld = true;
-    const auto attributes = attributesOf(instance.element);
-    for (const auto& attribute : attributes) {
-        if (instance.attributes.find(attribute.first) == instance.attributes.end()) {
-            instance.heldAttributes.append(attribute);
-        }
-    }
     tidy(instance);
     instance.element.setAttribute(TypeAttribute(), wordOf(Setter::Text));
     m_builder.SetXmlValue(QLatin1String(""));
@@ -445,7 +496,7 @@ void ReportFilling::finish()
 /// Gives back what the element held. A refused integer has cost it its type.
 void ReportFilling::release(Instance& instance)
 {
-    instance.element.removeChild(instance.element.firstChild());
+    removeTexts(instance.element);
     for (const auto& [name, value] : std::as_const(instance.heldAttributes)) {
         instance.element.setAttribute(name, value);
     }

@@ -11,6 +11,7 @@
 #include <QDomDocument>
 #include <QDomElement>
 #include <QPair>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -18,6 +19,7 @@
 
 #include <xmlhelper/xmlhelper.h>
 
+#include "facets_p.h"
 #include "givenvalues_p.h"
 #include "reportfiller.h"
 #include "skeletonplaces_p.h"
@@ -63,6 +65,13 @@ private:
         QVector<QPair<QString, QString>> heldAttributes {};
     };
 
+    /// What became of a text that was offered.
+    struct Outcome
+    {
+        State state = State::Written; ///< Written, Doubtful or Refused
+        QString reason {};
+    };
+
     void shapeReport(const QDomElement& root);
     int addInstance(const Place& place, const QDomElement& element, const ValueBranch& branch, const QString& path,
                     int around);
@@ -76,12 +85,17 @@ private:
     void answer(const QDomNode& node);
     void setAttributes(Instance& instance);
     void removeDeclaration(const QDomElement& element, const QString& attribute);
-    void setText(Instance& instance);
-    void judgeText(const Instance& instance, const QString& text, const QString& reason);
+    void setAttribute(Instance& instance, const QString& attribute, const QString& type, const Facets& facets);
+    void setText(Instance& instance, const Facets& facets);
+    void judgeText(const Instance& instance, const QString& text, const Outcome& outcome);
     void tidy(Instance& instance);
     void hold(Instance& instance);
     template <typename Setting>
     QString offer(const QString& text, const QString& type, const QString& call, const Setting& set);
+    template <typename Setting, typename Reading>
+    Outcome offerChecked(const QString& text, const QString& type, const Facets& facets, const QString& call,
+                         const Setting& set, const Reading& read);
+    bool isOneOfSeveral(const QString& pattern);
     void setByAttribute(const QString& attribute, const QString& text, const TypedValue& value);
 
     void finish();
@@ -101,6 +115,8 @@ private:
     const QTemporaryDir
         m_folder; ///< where the builder writes: it would empty a good report for a schema without a root
     QString m_writtenFile;
+    QString m_schema;
+    std::optional<QSet<QString>> m_patternsBesideOthers; ///< read when a text breaks a pattern
     XmlCreateReport m_builder;
     QDomDocument m_document;
     std::unique_ptr<SkeletonPlaces> m_places;

@@ -7,7 +7,7 @@
 #include <xmlhelper/limits_p.h>
 #include <xmlhelper/skeletonwords_p.h>
 
-#include "typedvalue_p.h"
+#include "facets_p.h"
 
 namespace {
 

@@ -1,15 +1,13 @@
 #ifndef XMLHELPERREPORTS_TYPEDVALUE_P_H
 #define XMLHELPERREPORTS_TYPEDVALUE_P_H
 
-#include <map>
 #include <variant>
 #include <vector>
 
 #include <QDateTime>
 #include <QString>
-#include <QStringList>
 
-class QDomElement;
+#include <xmlhelper/valuerules_p.h>
 
 /// A value as one of the operations of the builder takes it.
 using TypedValue = std::variant<QString, bool, int, double, QDateTime, QTime>;
@@ -23,15 +21,9 @@ QString nameOf(const TypedValue& value);
 /// "floating-point number", for sentences.
 QString wordsFor(const TypedValue& value);
 
-/// The facets of an element, or of an attribute of it, by their names without the attribute's; an enumeration has all
-/// of its texts.
-using Facets = std::map<QString, QStringList>;
-Facets facetsOf(const QDomElement& element, const QString& attribute = QString());
+bool isOf(const QString& type, Setter setter);
 
-/// Whether an attribute of the skeleton tells of its element or of another attribute, and is not declared itself.
-bool isAnnotation(const QString& name, const QString& value);
-
-/// Which facet, or bound of the type itself, the text breaks, in a sentence; empty when it breaks none.
-QString faultOf(const QString& text, const QString& type, const Facets& facets);
+/// Types that take every kind of value hold integers all the same.
+bool isUniversal(const QString& type);
 
 #endif
