@@ -71,6 +71,11 @@ QStringList headingsOf(const QTreeWidget& list)
     return headings;
 }
 
+int indexOf(const QTreeWidget& list, const QString& heading)
+{
+    return int(headingsOf(list).indexOf(heading));
+}
+
 } // namespace
 
 class TestSchemaDoctorMendWindow : public QObject
@@ -119,11 +124,11 @@ void TestSchemaDoctorMendWindow::listsWhatIsLeft()
     QVERIFY(!mended.mending.left.isEmpty());
     const MendWindow window(mended);
     const auto* const list = window.findChild<QTreeWidget*>(QStringLiteral("rewrites"));
-    const int left = headingsOf(*list).indexOf(QStringLiteral("Left as it is, because it would change the format"));
+    const int left = indexOf(*list, QStringLiteral("Left as it is, because it would change the format"));
     QVERIFY(left >= 0);
     QCOMPARE(list->topLevelItem(left)->childCount(), mended.mending.left.size());
     // What is left is what the doctor still finds.
-    const int found = headingsOf(*list).indexOf(QStringLiteral("The doctor finds in the mended schema"));
+    const int found = indexOf(*list, QStringLiteral("The doctor finds in the mended schema"));
     QVERIFY(found > left);
     QCOMPARE(list->topLevelItem(found)->childCount(), mended.examination.findings.size());
 }
