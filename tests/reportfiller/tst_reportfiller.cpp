@@ -33,6 +33,8 @@ private Q_SLOTS:
     void fills_data();
     void fills();
     void judgesEveryValueAndElement();
+    void missesTheContentOfAnElementWithoutAny();
+    void takesWhatIsOptionalAtASecondPlaceForRequired();
     void keepsCopiesApart();
     void repeatsLevelByLevel();
     void asksASource();
@@ -178,6 +180,41 @@ void TestReportFiller::judgesEveryValueAndElement()
     QCOMPARE(verdictOn(filler, QStringLiteral("/Survey/Operator[1]")), QStringLiteral("left out"));
     QCOMPARE(verdictOn(filler, QStringLiteral("Colour")), QStringLiteral("not asked for"));
     QCOMPARE(verdictOn(filler, QStringLiteral("/Survey")), QStringLiteral("unfilled,written"));
+}
+
+void TestReportFiller::missesTheContentOfAnElementWithoutAny()
+{
+    const SchemaFolder folder("<xs:element name='R'><xs:complexType><xs:sequence>"
+                              "<xs:element name='Any'/><xs:element name='Extra' minOccurs='0'/>"
+                              "<xs:element name='Site' type='xs:string'/>"
+                              "</xs:sequence></xs:complexType></xs:element>");
+    ReportFiller filler;
+    filler.Add(QStringLiteral("Site"), QStringLiteral("S"));
+    QVERIFY(!filler.Fill(folder.Schema(), folder.Report()));
+    QCOMPARE(filler.Complaints(),
+             QStringList(QStringLiteral("/R/Any: the schema lays out neither a type nor content for it")));
+    QCOMPARE(verdictOn(filler, QStringLiteral("/R/Any")), QStringLiteral("unfilled"));
+    QCOMPARE(verdictOn(filler, QStringLiteral("/R/Extra")), QStringLiteral("left out"));
+}
+
+/// The library knows what is optional by the first container of a name.
+void TestReportFiller::takesWhatIsOptionalAtASecondPlaceForRequired()
+{
+    const QByteArray box = "<xs:element name='Box'><xs:complexType><xs:sequence>"
+                           "<xs:element name='Name' type='xs:string'/>"
+                           "<xs:element name='Note' type='xs:string' minOccurs='0'/>"
+                           "</xs:sequence></xs:complexType></xs:element>";
+    const SchemaFolder folder(
+        "<xs:element name='R'><xs:complexType><xs:sequence>"
+        "<xs:element name='A'><xs:complexType><xs:sequence>"
+        + box
+        + "</xs:sequence></xs:complexType></xs:element>"
+          "<xs:element name='B'><xs:complexType><xs:sequence>"
+        + box + "</xs:sequence></xs:complexType></xs:element></xs:sequence></xs:complexType></xs:element>");
+    ReportFiller filler;
+    QVERIFY(filler.AddText("A/Box/Name=1\nB/Box/Name=2"));
+    QVERIFY(!filler.Fill(folder.Schema(), folder.Report()));
+    QCOMPARE(filler.Complaints(), QStringList(QStringLiteral("/R/B/Box/Note: required, and without a value")));
 }
 
 /// The first of two elements laid out as often as they are required is not the one that holds anything.

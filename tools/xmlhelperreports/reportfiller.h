@@ -34,8 +34,12 @@ class XmlCreateReport;
 /// leaves it; a default of the schema counts as its value. Attributes without a value go.
 ///
 /// What the builder knows of a schema is all that is known here. Not known is whether an attribute is required, where
-/// one choice ends and the next begins, and whether a choice may be empty; in doubt a verdict says so. Facets that the
-/// builder does not check (lengths, patterns, digits, enumerations of numbers) are checked here.
+/// one choice ends and the next begins, and whether a choice may be empty; in doubt a verdict says so. Where containers
+/// of one name stand at several places, what is optional in them is known so at the first alone; at others it counts as
+/// required. What a validator knows beyond that it may say, see SetValidator().
+///
+/// Facets that the builder does not check (lengths, patterns, digits, enumerations of numbers) are checked here,
+/// against what is written. Those of attributes are known when they are bounds and enumerations of global attributes.
 class XMLHELPERREPORTS_EXPORT ReportFiller final
 {
 public:

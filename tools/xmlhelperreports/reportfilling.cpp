@@ -296,7 +296,10 @@ void ReportFilling::answer(const QDomNode& node)
     if (isValueType(instance.place->type)) {
         setText(instance, facets);
     } else {
-        judgeElement(State::Written, instance.path, QString());
+        // Whether it may be empty is not said: its content may be what the library does not read.
+        const bool isNothing = instance.place->children.empty() && instance.place->attributes.isEmpty();
+        judgeElement(isNothing ? State::Unfilled : State::Written, instance.path,
+                     isNothing ? QStringLiteral("the schema lays out neither a type nor content for it") : QString());
         tidy(instance);
     }
 }
