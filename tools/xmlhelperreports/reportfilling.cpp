@@ -367,17 +367,12 @@ void ReportFilling::setByAttribute(const QString& attribute, const QString& text
 
 void ReportFilling::setText(Instance& instance, const Facets& facets)
 {
-    const auto attributes = attributesOf(instance.element);
-    for (const auto& attribute : attributes) {
-        if (instance.attributes.find(attribute.first) == instance.attributes.end()) {
-            instance.heldAttributes.append(attribute);
-        }
-    }
+    const QDomElement before = instance.element.cloneNode(false).toElement();
     const QString byDefault = instance.place->defaultValue;
     const bool isGiven = instance.text != ValueBranch::None;
     if (!isGiven && byDefault.isEmpty()) {
         judgeElement(State::Unfilled, instance.path, QStringLiteral("required, and without a value"));
-        hold(instance);
+        hold(instance, before);
         return;
     }
     const QString text = isGiven ? m_values[std::size_t(instance.text)].text : byDefault;
@@ -390,7 +385,7 @@ void ReportFilling::setText(Instance& instance, const Facets& facets)
         tidy(instance);
     } else {
         removeTexts(instance.element);
-        hold(instance);
+        hold(instance, before);
     }
 }
 
@@ -477,10 +472,17 @@ void ReportFilling::tidy(Instance& instance)
     }
 }
 
-/// Answers an element that has no value, so that the walk takes away nothing around it.
-void ReportFilling::hold(Instance& instance)
+/// Answers an element that has no value, so that the walk takes away nothing around it. It gets back what it has in
+/// @p before.
+void ReportFilling::hold(Instance& instance, const QDomElement& before)
 {
     instance.isHeld = true;
+    const auto attributes = attributesOf(before);
+    for (const auto& attribute : attributes) {
+        if (instance.attributes.find(attribute.first) == instance.attributes.end()) {
+            instance.heldAttributes.append(attribute);
+        }
+    }
     tidy(instance);
     instance.element.setAttribute(TypeAttribute(), wordOf(Setter::Text));
     m_builder.SetXmlValue(QLatin1String(""));

@@ -89,7 +89,7 @@ private:
     void setText(Instance& instance, const Facets& facets);
     void judgeText(const Instance& instance, const QString& text, const Outcome& outcome);
     void tidy(Instance& instance);
-    void hold(Instance& instance);
+    void hold(Instance& instance, const QDomElement& before);
     template <typename Setting>
     QString offer(const QString& text, const QString& type, const QString& call, const Setting& set);
     template <typename Setting, typename Reading>
