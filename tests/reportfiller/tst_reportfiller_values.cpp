@@ -106,6 +106,7 @@ void TestReportFillerValues::takesOrRefusesAValue_data()
         "integers of more than 32 bits are not written");
     row("long-behind-its-bound", "long", "<xs:maxInclusive value='9007199254740992'/>", "9007199254740993", "",
         "it is outside of its maxInclusive, 9007199254740992");
+    row("long-far-from-a-bound-of-64-bits", "long", "<xs:maxInclusive value='9007199254740992'/>", "1", "1");
     row("long-at-its-bound", "long", "<xs:maxInclusive value='9007199254740993'/>", "9007199254740993",
         "9007199254740993");
     row("date-and-time-before-its-bound", "dateTime", "<xs:minInclusive value='2026-01-01T00:00:00'/>",

@@ -27,6 +27,10 @@ TypedValue typedValue(const QString& text, const QString& type)
     if (isOf(type, Setter::Time) && time.isValid()) {
         return time;
     }
+    // The builder would hold it against bounds of 32 bits.
+    if (isUniversal(type)) {
+        return text;
+    }
     bool isInteger = false;
     const int integer = text.toInt(&isInteger);
     if (isInteger && settersOfElement(type).testFlag(Setter::Integer)) {
@@ -34,7 +38,7 @@ TypedValue typedValue(const QString& text, const QString& type)
     }
     bool isNumber = false;
     const double number = text.toDouble(&isNumber);
-    if (isNumber && !isOf(type, Setter::Text) && !isUniversal(type)) {
+    if (isNumber && !isOf(type, Setter::Text)) {
         return number;
     }
     return text;
