@@ -133,7 +133,8 @@ public:
     /// @param report  the file to write
     /// @return whether the schema was read, the file was written, every value is in it and nothing required is known
     ///         to be missing: whether all verdicts are Written or LeftOut, and the validator said nothing. Else the
-    ///         file is written all the same with what there is, as far as that is possible
+    ///         file is written all the same with what there is. Nothing is written, and an earlier report stays, when
+    ///         the schema gives no element or when the report would replace it
     bool Fill(const QString& schema, const QString& report);
 
     /// @return whether the schema of the last Fill() could be read and lays out an element
