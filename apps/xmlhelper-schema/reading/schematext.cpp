@@ -73,8 +73,8 @@ std::unique_ptr<TextNode> tagOf(const xmlNode* node, const TextFile& file, const
     tag->qName = qualified(node->ns, node->name);
     tag->localName = tag->qName.section(QLatin1Char(':'), -1);
     // The library asks for the prefix alone, so a prefix that was not declared counts too.
-    tag->isOfSchemaNamespace = node->ns ? fromXml(node->ns->href) == SchemaNamespace
-                                        : tag->qName.startsWith(QLatin1String("xs:"));
+    tag->isOfSchemaNamespace
+        = node->ns ? fromXml(node->ns->href) == SchemaNamespace : tag->qName.startsWith(QLatin1String("xs:"));
     for (const xmlAttr* attribute = node->properties; attribute; attribute = attribute->next) {
         tag->attributes.append({qualified(attribute->ns, attribute->name), valueOf(attribute)});
     }
