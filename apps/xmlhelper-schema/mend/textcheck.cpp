@@ -82,6 +82,15 @@ QString normalised(const SimpleValue& value, const QString& text)
         : read;
 }
 
+/// What two rules allow together: what one forbids is forbidden, whatever the other leaves open.
+Decision both(const Decision& left, const Decision& right)
+{
+    if (!left.value_or(true) || !right.value_or(true)) {
+        return false;
+    }
+    return left.has_value() && right.has_value() ? std::make_optional(true) : std::nullopt;
+}
+
 Decision isLength(const SimpleValue& value, const QString& facet, int limit, const QString& text)
 {
     const bool isOfTexts = isOneOf(value.base,
@@ -173,11 +182,7 @@ Decision TextCheck::isInFacets(const SimpleValue& value, const QString& text)
     const QString read = normalised(value, text);
     Decision isAllowed = isInPatterns(value, read);
     for (const auto& facet : value.facets) {
-        const Decision isInside = isInFacet(value, facet.first, facet.second, read);
-        if (isInside == false) {
-            return false;
-        }
-        isAllowed = isInside ? isAllowed : std::nullopt;
+        isAllowed = both(isAllowed, isInFacet(value, facet.first, facet.second, read));
     }
     return isAllowed;
 }
@@ -188,11 +193,7 @@ Decision TextCheck::isInPatterns(const SimpleValue& value, const QString& text)
     steps.push_back(value.Patterns());
     Decision isAllowed = true;
     for (const QStringList& alternatives : steps) {
-        const Decision isMatched = alternatives.isEmpty() ? true : isMatchedByAny(alternatives, text);
-        if (isMatched == false) {
-            return false;
-        }
-        isAllowed = isMatched ? isAllowed : std::nullopt;
+        isAllowed = both(isAllowed, alternatives.isEmpty() ? true : isMatchedByAny(alternatives, text));
     }
     return isAllowed;
 }

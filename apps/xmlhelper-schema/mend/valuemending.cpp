@@ -7,6 +7,7 @@
 #include <optional>
 
 #include <xmlhelper/constants_p.h>
+#include <xmlhelper/valuerules_p.h>
 
 #include "mendwords.h"
 #include "names.h"
@@ -19,14 +20,6 @@ namespace {
 constexpr const char* Bounds[] = {"minInclusive", "minExclusive", "maxInclusive", "maxExclusive"};
 constexpr const char* Unchecked[]
     = {"length", "minLength", "maxLength", "totalDigits", "fractionDigits", "assertion", "explicitTimezone"};
-
-/// The types that a setter fills as they are.
-bool isFillable(const QString& type)
-{
-    static const QStringList types {QStringLiteral("string"),  QStringLiteral("double"),   QStringLiteral("integer"),
-                                    QStringLiteral("boolean"), QStringLiteral("dateTime"), QStringLiteral("time")};
-    return types.contains(type);
-}
 
 /// The types that any text is one of.
 bool isAnyText(const QString& type)
@@ -368,7 +361,7 @@ void ValueMending::keepEnumeration(SimpleValue& value, const TextNode& tag)
 
 void ValueMending::takeFillableType(SimpleValue& value, const TextNode& tag)
 {
-    if (isFillable(value.base)) {
+    if (builtInTypesOfElements().contains(value.base)) {
         return;
     }
     if (rangeOf(value.base)) {
