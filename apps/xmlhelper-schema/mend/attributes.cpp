@@ -40,7 +40,7 @@ int numberIn(const QString& name)
     const auto isDigit = [](QChar one) { return one.isDigit(); };
     const auto begin = std::find_if(name.begin(), name.end(), isDigit);
     const auto end = std::find_if_not(begin, name.end(), isDigit);
-    return begin == end ? 1 : name.mid(int(begin - name.begin()), int(end - begin)).toInt();
+    return begin == end ? 1 : QString(begin, int(end - begin)).toInt();
 }
 
 /// Whether a name is a part of what the library calls a facet, but not of the name of the facet's owner. Of the texts

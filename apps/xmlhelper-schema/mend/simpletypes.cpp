@@ -124,7 +124,8 @@ void SimpleTypes::Restrict(SimpleValue& value, const TextNode& restriction) cons
         if (isOfLength && !value.Facet("length").isEmpty()) {
             continue; // That says more.
         }
-        for (const QString& other : othersReplacedBy(tag->localName)) {
+        const QStringList others = othersReplacedBy(tag->localName);
+        for (const QString& other : others) {
             value.RemoveFacet(other.toLatin1().constData());
         }
         value.SetFacet(tag->localName, tag->Value("value"));

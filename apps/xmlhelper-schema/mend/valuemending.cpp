@@ -336,7 +336,8 @@ void ValueMending::enumerateTexts(SimpleValue& value, const TextNode& tag)
     const QString alone = isDecided && allowed->size() < value.enumeration.size()
         ? Mend::tr("an enumeration of what it allows")
         : Mend::tr("the enumeration alone");
-    for (const QString& before : describedFacets(value)) {
+    const QStringList facets = describedFacets(value);
+    for (const QString& before : facets) {
         if (isDecided) {
             m_log.Narrow(tag, before, alone);
         } else if (!m_log.Change(tag, before, alone)) {
