@@ -20,6 +20,7 @@ else()
     string(REPLACE "\n" ";" symbols "${symbols}")
     list(TRANSFORM symbols REPLACE "^[0-9a-f ]* [A-Za-z] " "")
 endif()
+list(TRANSFORM symbols REPLACE "QList<QString>" "QStringList") # what Qt 6 makes of the name
 if(NOT symbols)
     message(FATAL_ERROR "${LIBRARY}${SYMBOLS} exports nothing at all.")
 endif()
