@@ -466,18 +466,19 @@ void ContentResolver::dropRepeatedNames(const TextNode& tag, MendedContent& cont
             continue;
         }
         kept.push_back(std::move(element));
-        const MendedElement repeated = kept.back();
-        const auto earlier = last.emplace(repeated.name, kept.size() - 1);
-        if (earlier.second) {
+        const MendedElement& repeated = kept.back();
+        const auto [earlier, isFirst] = last.emplace(repeated.name, kept.size() - 1);
+        if (isFirst) {
             continue;
         }
-        if (!isAmbiguous(kept, earlier.first->second, kept.size() - 1) || !mayDrop(tag, repeated, branches)) {
-            earlier.first->second = kept.size() - 1;
+        if (!isAmbiguous(kept, earlier->second, kept.size() - 1) || !mayDrop(tag, repeated, branches)) {
+            earlier->second = kept.size() - 1;
         } else if (repeated.minOccurs == 0 || repeated.choice == MendedElement::None) {
             kept.pop_back();
         } else {
-            dropped.insert(repeated.branch);
-            dropBranches(kept, {repeated.branch});
+            const int branch = repeated.branch;
+            dropped.insert(branch);
+            dropBranches(kept, {branch});
             last.clear();
             for (std::size_t index = 0; index < kept.size(); ++index) {
                 last[kept[index].name] = index;
