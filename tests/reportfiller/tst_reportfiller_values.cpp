@@ -29,6 +29,7 @@ private Q_SLOTS:
     void takesOrRefusesAValue();
     void doubtsWhatItCannotDecide_data();
     void doubtsWhatItCannotDecide();
+    void asksTheValidatorWhatIsInDoubt();
     void takesTypedValues_data();
     void takesTypedValues();
     void readsNumbersWithoutLoss_data();
@@ -187,6 +188,27 @@ void TestReportFillerValues::doubtsWhatItCannotDecide()
     QCOMPARE(filler.Complaints(),
              QStringList(QStringLiteral("/R/Value=%1: whether it is within its %2, is not known").arg(value, facet)));
     QCOMPARE(folder.Content(), QStringLiteral("R(Value=%1)").arg(value));
+}
+
+/// What the builder cannot decide, a validator can; one doubt less changes nothing about what is refused.
+void TestReportFillerValues::asksTheValidatorWhatIsInDoubt()
+{
+    const SchemaFolder folder(valueElement("string", "<xs:pattern value='\\w+'/>"));
+    ReportFiller filler;
+    filler.Add(QStringLiteral("Value"), QStringLiteral("a b"));
+    filler.SetValidator([](const QString&, const QString&) { return QStringList(QStringLiteral("it has a blank")); });
+    QVERIFY(!filler.Fill(folder.Schema(), folder.Report()));
+    QVERIFY(filler.GetVerdicts().front().state == ReportFiller::State::Doubtful);
+    QCOMPARE(filler.Complaints().last(), QStringLiteral("it has a blank"));
+
+    filler.SetValidator([](const QString&, const QString&) { return QStringList(); });
+    QVERIFY(filler.Fill(folder.Schema(), folder.Report()));
+    QVERIFY(filler.GetVerdicts().front().state == ReportFiller::State::Written);
+    QVERIFY(filler.Complaints().isEmpty());
+
+    filler.Add(QStringLiteral("Nowhere"), QStringLiteral("a"));
+    QVERIFY(!filler.Fill(folder.Schema(), folder.Report()));
+    QVERIFY(filler.GetVerdicts().front().state == ReportFiller::State::Doubtful);
 }
 
 void TestReportFillerValues::takesTypedValues_data()

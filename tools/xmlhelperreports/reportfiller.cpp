@@ -18,6 +18,11 @@ bool isGood(const ReportFiller::Verdict& verdict)
     return verdict.state == ReportFiller::State::Written || verdict.state == ReportFiller::State::LeftOut;
 }
 
+bool isGoodOrDoubtful(const ReportFiller::Verdict& verdict)
+{
+    return isGood(verdict) || verdict.state == ReportFiller::State::Doubtful;
+}
+
 template <typename Read>
 bool addBy(const Read& read, const QByteArray& text, std::vector<GivenValue>& values, QString* fault)
 {
@@ -113,13 +118,21 @@ bool ReportFiller::Fill(const QString& schema, const QString& report)
     m_pData->isSchemaRead = filling.IsSchemaRead();
     m_pData->verdicts = filling.TakeVerdicts();
     m_pData->faults = filling.TakeComplaints();
-    const bool isComplete = isMade && std::all_of(m_pData->verdicts.begin(), m_pData->verdicts.end(), isGood);
+    std::vector<Verdict>& verdicts = m_pData->verdicts;
+    const auto isWell = m_pData->validator ? isGoodOrDoubtful : isGood;
+    const bool isComplete = isMade && std::all_of(verdicts.begin(), verdicts.end(), isWell);
     if (!isComplete || !m_pData->validator) {
         return isComplete;
     }
     const QStringList sentences = m_pData->validator(schema, filling.WrittenFile());
     for (const QString& sentence : sentences) {
-        m_pData->verdicts.push_back({State::Invalid, QString(), QString(), sentence});
+        verdicts.push_back({State::Invalid, QString(), QString(), sentence});
+    }
+    for (Verdict& verdict : verdicts) {
+        if (sentences.isEmpty() && verdict.state == State::Doubtful) { // The validator knows what the builder does not.
+            verdict.state = State::Written;
+            verdict.reason.clear();
+        }
     }
     return sentences.isEmpty();
 }

@@ -122,9 +122,10 @@ public:
     /// @param journal  must not call the filler; an empty function for none
     void SetJournal(Journal journal);
 
-    /// Has each report validated that is written and would be complete: the builder knows a part of XML Schema only, so
-    /// without a validator a report may be called complete that the schema does not allow. The library has none of its
-    /// own. A report that goes to a device or a pipe is validated as a file of the same content.
+    /// Has each report validated that is written and would be complete, or is in doubt only: the builder knows a part
+    /// of XML Schema only, so without a validator a report may be called complete that the schema does not allow. What
+    /// is doubtful in a report that the validator accepts counts as written. The library has none of its own. A report
+    /// that goes to a device or a pipe is validated as a file of the same content.
     /// @param validator  must not call the filler; an empty function for none
     void SetValidator(Validator validator);
 
