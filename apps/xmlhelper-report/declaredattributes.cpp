@@ -4,7 +4,7 @@
 #include <QFileInfo>
 #include <QXmlSimpleReader>
 
-#include <xmlhelper/documentfile_p.h>
+#include <xmlhelper/filesaving_p.h>
 #include <xmlhelper/ixmlhelper.h>
 #include <xmlhelper/schemareadinglog_p.h>
 #include <xmlhelper/xmlschemahandler.h>

@@ -7,7 +7,7 @@
 #include <QHash>
 #include <QSet>
 
-#include <xmlhelper/documentfile_p.h>
+#include <xmlhelper/filesaving_p.h>
 
 #include "button/buttontrial.h"
 #include "model/texts.h"

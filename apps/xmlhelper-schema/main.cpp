@@ -6,7 +6,7 @@
 
 #include <QApplication>
 
-#include <xmlhelper/documentfile_p.h>
+#include <xmlhelper/filesaving_p.h>
 
 #include "commandline.h"
 #include "doctorwindow.h"

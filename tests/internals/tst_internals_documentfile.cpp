@@ -12,6 +12,7 @@
 #endif
 
 #include <xmlhelper/documentfile_p.h>
+#include <xmlhelper/filesaving_p.h>
 #include <xmlhelper/limits_p.h>
 
 #include "domtext.h"

@@ -2,7 +2,7 @@
 
 #include <QFileInfo>
 
-#include "documentfile_p.h"
+#include "filesaving_p.h"
 
 ContentFile::ContentFile(const QString& fileName)
     : QFile(openableFileName(fileName))

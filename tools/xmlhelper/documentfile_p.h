@@ -4,25 +4,8 @@
 #include <QDomDocument>
 #include <QString>
 
-/// The name by which the library opens the file called @p fileName, for reading and for writing.
-///
-/// Paths travel through the suite with back slashes. Where the platform does not separate folders by them, a name that
-/// does not exist as given is opened with slashes instead. Nothing of it shows in stored paths.
-QString openableFileName(const QString& fileName);
-
-/// Writes @p document to the file called @p fileName, in the encoding that it declares or else in UTF-8, with four
-/// spaces of indentation. Gives whether everything was written; a file that cannot be opened, and a pipe that nobody
-/// reads, are left alone.
-///
-/// The new file is written beside the old one, under a hidden temporary name, and takes its place when it is complete:
-/// owner, group and permissions stay, a link keeps pointing. So one of the two is there whole, whenever the process
-/// ends and whoever else saves under the same name. What could be written only in part is traced and removed. A
-/// temporary file is left only by a process that is killed; the first save into a folder removes those of more than a
-/// day ago.
-///
-/// A device, a pipe, and a file in a folder that takes no new ones, beside which no temporary name has room or whose
-/// owner cannot be kept, are written in place. A file there of which only a part could be written is removed or, behind
-/// a link, emptied.
+/// Writes @p document to the file called @p fileName, as saveFile() does, in the encoding that it declares or else in
+/// UTF-8, with four spaces of indentation. Gives whether everything was written.
 ///
 /// A document that would take more than limits().savedBytes is not written, which is traced.
 bool saveDocument(const QDomDocument& document, const QString& fileName);

@@ -19,6 +19,7 @@
 #include "domparser.h"
 #include "errorevent.h"
 #include "eventdelivery_p.h"
+#include "filesaving_p.h"
 #include "limits_p.h"
 #include "numberconversion_p.h"
 #include "rangecheck_p.h"

@@ -16,9 +16,9 @@
 
 #include "constants_p.h"
 #include "contentfile_p.h"
-#include "documentfile_p.h"
 #include "domextent_p.h"
 #include "domorder_p.h"
+#include "filesaving_p.h"
 #include "guardedsource_p.h"
 #include "schemaorigin_p.h"
 #include "skeletonwords_p.h"
@@ -1194,7 +1194,8 @@ bool XmlSchemaHandler::makeSkeleton(const QDomNode& root)
         m_pDocument->appendChild(m_eRootUse == RootUse::Moved ? root : root.cloneNode(true));
     }
     if (!m_pDocument->documentElement().nextSiblingElement().isNull()) {
-        trace(QStringLiteral("The schema lays out several roots, the report is no XML document!"), HandlerComponent, __LINE__);
+        trace(QStringLiteral("The schema lays out several roots, the report is no XML document!"), HandlerComponent,
+              __LINE__);
     }
     return true;
 }

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QScopedValueRollback>
 
+#include <xmlhelper/filesaving_p.h>
 #include <xmlhelper/skeletonwords_p.h>
 #include <xmlhelper/valuerules_p.h>
 
@@ -69,7 +70,7 @@ bool ReportFilling::Fill(const QString& schema, const QString& report)
         m_complaints.append(QStringLiteral("the report would replace its schema"));
         return false;
     }
-    m_schema = openedName(schema);
+    m_schema = openableFileName(schema);
     m_writtenFile = m_folder.filePath(QStringLiteral("report.xml"));
     const bool isRead = m_builder.CreateXmlFromSchema(schema, m_writtenFile, false);
     m_bSchemaRead = isRead && !m_instances.empty();

@@ -5,7 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include <xmlhelper/documentfile_p.h>
+#include <xmlhelper/filesaving_p.h>
 
 #include "mendwords.h"
 #include "reading/doctorlimits.h"

@@ -11,7 +11,7 @@
 #include <QSet>
 
 #include <confinedchild.h>
-#include <xmlhelper/documentfile_p.h>
+#include <xmlhelper/filesaving_p.h>
 
 #include "filling.h"
 #include "model/texts.h"

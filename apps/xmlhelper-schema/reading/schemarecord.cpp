@@ -7,7 +7,7 @@
 #include <QFileInfo>
 #include <QXmlSimpleReader>
 
-#include <xmlhelper/documentfile_p.h>
+#include <xmlhelper/filesaving_p.h>
 #include <xmlhelper/ixmlhelper.h>
 #include <xmlhelper/limits_p.h>
 #include <xmlhelper/xmlschemahandler.h>

@@ -30,7 +30,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include <xmlhelper/documentfile_p.h>
+#include <xmlhelper/filesaving_p.h>
 
 #include "laidouttreemodel.h"
 #include "mendwindow.h"
