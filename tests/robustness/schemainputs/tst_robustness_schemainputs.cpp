@@ -472,10 +472,15 @@ void TestRobustnessSchemaInputs::readsTagsInAnyPlaceWithAnyAttributes()
                                   QStringLiteral(" type='later' minOccurs='2' name='n' base='xs:int'"),
                                   QStringLiteral(" base='xs:int' ref='later' type='later'"),
                                   QStringLiteral(" default='1' value='n' name='later'")};
+#ifdef Q_OS_WIN
+    constexpr bool areAllTried = false; // Each takes two files, which are slow there.
+#else
+    const bool areAllTried = !isSanitized(); // Else too many builders stay.
+#endif
     for (int i = 0; i < attributes.size(); ++i) {
         for (int j = 0; j < attributes.size(); ++j) {
-            if (isSanitized() && i != j) {
-                continue; // Too many builders.
+            if (!areAllTried && i != j) {
+                continue;
             }
             const QString schema = QStringLiteral("<xs:%1%2><xs:%3%4/><xs:%3%4><xs:%3%2/></xs:%3></xs:%1>"
                                                   "<xs:element name='n'><xs:%1%4><xs:%3%2/></xs:%1></xs:element>"
