@@ -171,7 +171,7 @@ void Harness::Run(const Row& row)
         measurement.name = row.name;
         measurement.floor = row.floor;
         measurement.size = size;
-        measurement.reach = row.reach;
+        measurement.target = row.target;
         printMeasurement(measurement);
         m_measurements.push_back(measurement);
         if (measurement.trouble.isEmpty()) {
@@ -263,5 +263,5 @@ void Harness::judgeGrowth(const Row& row, const std::vector<Measurement>& measur
     }
     m_growths.push_back({row.name, measured.front().size, measured.back().size,
                          exponentOf(measured, &Measurement::libraryMs), exponentOf(measured, &Measurement::floorMs),
-                         row.reachBeyondFloor, row.reachExponent});
+                         row.targetOverhead, row.targetExponent});
 }

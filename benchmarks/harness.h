@@ -34,12 +34,12 @@ struct Row
 {
     QString name; ///< its parts separated by slashes
     QString floor; ///< what the library is compared with
-    double reach; ///< the ratio of times to reach; 0: the row is judged by its growth alone
+    double target; ///< what the ratio of times should stay below; 0: the row is judged by its growth alone
     std::vector<int> sizes; ///< ascending
     std::function<Contest(int size)> contest;
 
-    double reachBeyondFloor = 0; ///< how much the exponent of growth may exceed the floor's; 0: not judged
-    double reachExponent = 0; ///< what the exponent of growth may be; 0: not judged
+    double targetOverhead = 0; ///< how much the exponent of growth may exceed the floor's; 0: not judged
+    double targetExponent = 0; ///< what the exponent of growth may be; 0: not judged
 };
 
 /// What was measured of a row for one size. Times are CPU milliseconds of one run.
@@ -48,7 +48,7 @@ struct Measurement
     QString name; ///< of the row
     QString floor;
     int size = 0;
-    double reach = 0;
+    double target = 0;
     QString trouble; ///< why there are no numbers; empty when there are
     int pairs = 0;
     double libraryMs = 0; ///< median
@@ -67,8 +67,8 @@ struct Growth
     int largest = 0;
     double libraryExponent = 0;
     double floorExponent = 0;
-    double reachBeyondFloor = 0;
-    double reachExponent = 0;
+    double targetOverhead = 0;
+    double targetExponent = 0;
 };
 
 struct HarnessOptions

@@ -147,7 +147,7 @@ std::vector<Row> jobRows(const Workspace& workspace)
     std::vector<Row> rows;
     rows.reserve(opponents.size());
     for (const Peer& opponent : opponents) {
-        rows.push_back({QStringLiteral("job/") + opponent.name, opponent.description, opponent.reach, opponent.sizes,
+        rows.push_back({QStringLiteral("job/") + opponent.name, opponent.description, opponent.target, opponent.sizes,
                         [=, &workspace](int size) { return job(workspace, size, opponent.write); }});
     }
     return rows;

@@ -113,7 +113,7 @@ struct MemoryRow
 {
     QString name;
     QString floor;
-    double reach;
+    double target;
     int size;
     QString file;
     std::function<QByteArray(int size)> content;
@@ -136,7 +136,7 @@ Measurement measured(const MemoryRow& row, const Workspace& workspace)
     measurement.name = row.name;
     measurement.floor = row.floor;
     measurement.size = row.size;
-    measurement.reach = row.reach;
+    measurement.target = row.target;
     if (peakOfThisProcess() == 0) {
         measurement.trouble = QStringLiteral("not measured: this system does not tell a process its peak");
         return measurement;

@@ -21,7 +21,7 @@ struct Peer
 {
     QString name;
     QString description;
-    double reach; ///< the library's time as a share of the peer's
+    double target; ///< the library's time as a share of the peer's
     std::vector<int> sizes; ///< that it survives
     std::function<bool(const PeerInput&)> write; ///< gives whether the report is valid and written
 };

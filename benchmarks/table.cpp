@@ -11,12 +11,12 @@
 
 namespace {
 
-const char* verdict(double value, double reach)
+const char* verdict(double value, double target)
 {
-    if (reach <= 0) {
+    if (target <= 0) {
         return "";
     }
-    return value <= reach ? "reached" : "MISSED";
+    return value <= target ? "met" : "MISSED";
 }
 
 QJsonObject toJson(const Measurement& measurement)
@@ -24,7 +24,7 @@ QJsonObject toJson(const Measurement& measurement)
     return {{QStringLiteral("name"), measurement.name},
             {QStringLiteral("size"), measurement.size},
             {QStringLiteral("against"), measurement.floor},
-            {QStringLiteral("reach"), measurement.reach},
+            {QStringLiteral("target"), measurement.target},
             {QStringLiteral("trouble"), measurement.trouble},
             {QStringLiteral("pairs"), measurement.pairs},
             {QStringLiteral("library"), measurement.libraryMs},
@@ -36,11 +36,13 @@ QJsonObject toJson(const Measurement& measurement)
 
 QJsonObject toJson(const Growth& growth)
 {
-    return {
-        {QStringLiteral("name"), growth.name},           {QStringLiteral("smallest"), growth.smallest},
-        {QStringLiteral("largest"), growth.largest},     {QStringLiteral("library"), growth.libraryExponent},
-        {QStringLiteral("floor"), growth.floorExponent}, {QStringLiteral("reachBeyondFloor"), growth.reachBeyondFloor},
-        {QStringLiteral("reach"), growth.reachExponent}};
+    return {{QStringLiteral("name"), growth.name},
+            {QStringLiteral("smallest"), growth.smallest},
+            {QStringLiteral("largest"), growth.largest},
+            {QStringLiteral("library"), growth.libraryExponent},
+            {QStringLiteral("floor"), growth.floorExponent},
+            {QStringLiteral("targetOverhead"), growth.targetOverhead},
+            {QStringLiteral("target"), growth.targetExponent}};
 }
 
 template <class Entry> QJsonArray toJson(const std::vector<Entry>& entries)
@@ -61,7 +63,7 @@ QByteArray sized(const Measurement& measurement)
 
 void printHead()
 {
-    std::printf("%-40s %11s %11s %7s %15s %6s  %-8s %s\n", "case", "library", "floor", "ratio", "quartiles", "reach",
+    std::printf("%-40s %11s %11s %7s %15s %6s  %-8s %s\n", "case", "library", "floor", "ratio", "quartiles", "target",
                 "", "against");
 }
 
@@ -72,7 +74,7 @@ void printMeasurement(const Measurement& measurement)
     } else {
         std::printf("%-40s %11.4f %11.4f %7.3f %7.3f-%-7.3f %6.2f  %-8s %s\n", sized(measurement).constData(),
                     measurement.libraryMs, measurement.floorMs, measurement.ratio, measurement.lowerQuartile,
-                    measurement.upperQuartile, measurement.reach, verdict(measurement.ratio, measurement.reach),
+                    measurement.upperQuartile, measurement.target, verdict(measurement.ratio, measurement.target),
                     qPrintable(measurement.floor));
     }
     std::fflush(stdout);
@@ -83,14 +85,14 @@ void printGrowths(const std::vector<Growth>& growths)
     if (growths.empty()) {
         return;
     }
-    std::printf("\n%-40s %16s %11s %11s %9s %7s\n", "growth", "sizes", "library", "floor", "beyond", "reach");
+    std::printf("\n%-40s %16s %11s %11s %9s %7s\n", "growth", "sizes", "library", "floor", "overhead", "target");
     for (const Growth& growth : growths) {
-        const double beyond = growth.libraryExponent - growth.floorExponent;
-        const bool isAbsolute = growth.reachExponent > 0;
-        const double reach = isAbsolute ? growth.reachExponent : growth.reachBeyondFloor;
+        const double overhead = growth.libraryExponent - growth.floorExponent;
+        const bool isAbsolute = growth.targetExponent > 0;
+        const double target = isAbsolute ? growth.targetExponent : growth.targetOverhead;
         std::printf("%-40s %8d-%-7d %11.3f %11.3f %+9.3f %7.2f  %s\n", qPrintable(growth.name), growth.smallest,
-                    growth.largest, growth.libraryExponent, growth.floorExponent, beyond, reach,
-                    verdict(isAbsolute ? growth.libraryExponent : beyond, reach));
+                    growth.largest, growth.libraryExponent, growth.floorExponent, overhead, target,
+                    verdict(isAbsolute ? growth.libraryExponent : overhead, target));
     }
 }
 
