@@ -1,7 +1,9 @@
-# Fails when DOCUMENT does not print SOURCE word for word.
-file(READ "${SOURCE}" source)
+# Fails when DOCUMENT does not print each of SOURCES word for word.
 file(READ "${DOCUMENT}" document)
-string(FIND "${document}" "```cpp\n${source}```" position)
-if(position EQUAL -1)
-    message(FATAL_ERROR "${DOCUMENT} does not print ${SOURCE} as it is.")
-endif()
+foreach(source_file IN LISTS SOURCES)
+    file(READ "${source_file}" source)
+    string(FIND "${document}" "```cpp\n${source}```" position)
+    if(position EQUAL -1)
+        message(SEND_ERROR "${DOCUMENT} does not print ${source_file} as it is.")
+    endif()
+endforeach()
