@@ -24,7 +24,7 @@ QT_WARNING_DISABLE_DEPRECATED
 
 Q_DECLARE_METATYPE(QDomDocument)
 
-/// Whatever a content file holds or is, the reader answers, and reads the next file as if nothing had been.
+/// Whatever a content file holds or is, the reader answers, and reads the next file normally.
 class TestRobustnessXmlInputs : public QObject
 {
     Q_OBJECT
