@@ -1,5 +1,7 @@
 #include "globalnames.h"
 
+#include <xmlhelper/valuerules_p.h>
+
 #include "mendwords.h"
 #include "names.h"
 
@@ -14,15 +16,35 @@ QString wantedName(const MendedElement& element)
     return element.value.name.isEmpty() ? called : element.value.name;
 }
 
-/// Types of one name are the same where this is.
-QString keyOf(const MendedElement& element)
+/// Values allow the same in the same words where this is the same.
+QString keyOf(const SimpleValue& value)
 {
-    QStringList parts {wantedName(element), element.value.base};
-    parts += element.value.enumeration;
-    for (const auto& facet : element.value.facets) {
+    QStringList parts {value.base};
+    for (const QStringList& step : value.earlierPatterns) {
+        parts << step << QString();
+    }
+    parts += value.enumeration;
+    for (const auto& facet : value.facets) {
         parts << facet.first << facet.second;
     }
     return parts.join(QChar(0));
+}
+
+/// Types of one name are the same where this is.
+QString keyOf(const MendedElement& element)
+{
+    return wantedName(element) + QChar(0) + keyOf(element.value);
+}
+
+/// The type that the last restriction of a value restricts.
+SimpleValue withoutLastStep(const SimpleValue& value)
+{
+    SimpleValue step;
+    step.base = value.base;
+    for (const QStringList& patterns : value.earlierPatterns) {
+        step.AddPatterns(patterns);
+    }
+    return step;
 }
 
 } // namespace
@@ -34,6 +56,9 @@ GlobalNames::GlobalNames(const SchemaSet& set, RewriteLog& log, MendedElement& r
     m_reserved.insert(root.name);
     reserve(root);
     claimAttributes(root);
+    for (const MendedAttribute& attribute : m_attributes) {
+        claimSteps(attribute.value);
+    }
     claimTypes(root);
 }
 
@@ -113,10 +138,25 @@ void GlobalNames::claimType(const MendedElement& element)
 {
     QString& name = m_typeNames[keyOf(element)];
     if (name.isEmpty()) {
+        claimSteps(element.value);
         name = nameFor(element);
         m_types.push_back({name, element.value});
     }
     tellName(element, name);
+}
+
+void GlobalNames::claimSteps(const SimpleValue& value)
+{
+    if (value.earlierPatterns.empty()) {
+        return;
+    }
+    const SimpleValue step = withoutLastStep(value);
+    claimSteps(step);
+    QString& name = m_stepNames[keyOf(step)];
+    if (name.isEmpty()) {
+        name = nameForStep(step.base);
+        m_types.push_back({name, step});
+    }
 }
 
 /// A name that nothing has yet.
@@ -127,10 +167,29 @@ QString GlobalNames::nameFor(const MendedElement& element)
     for (;; ++attempt) {
         const QString base = element.value.name.isEmpty() ? wanted : wanted + QLatin1String("Type");
         const QString name = attempt == 0 ? wanted : attempt == 1 ? base : base + QString::number(attempt);
-        if (m_reserved.count(name) == 0 && m_attributeIndex.count(name) == 0 && m_takenNames.insert(name).second) {
+        if (claimName(name)) {
             return name;
         }
     }
+}
+
+/// A setter knows its types by the word that their names hold, and finds no other word here.
+QString GlobalNames::nameForStep(const QString& base)
+{
+    const bool isOfIntegers = settersOfElement(base) == Setters(Setter::Integer);
+    const QString wanted = (isOfIntegers ? wordOf(Setter::Integer) : base) + QLatin1String(".patterns");
+    int& attempt = m_attempts[wanted];
+    for (;;) {
+        const QString name = ++attempt == 1 ? wanted : wanted + QString::number(attempt);
+        if (claimName(name)) {
+            return name;
+        }
+    }
+}
+
+bool GlobalNames::claimName(const QString& name)
+{
+    return m_reserved.count(name) == 0 && m_attributeIndex.count(name) == 0 && m_takenNames.insert(name).second;
 }
 
 void GlobalNames::tellName(const MendedElement& element, const QString& name)
@@ -152,6 +211,12 @@ QString GlobalNames::TypeOf(const MendedElement& element) const
         return QLatin1String("xs:") + element.value.base;
     }
     return m_typeNames.at(keyOf(element));
+}
+
+QString GlobalNames::BaseOf(const SimpleValue& value) const
+{
+    return value.earlierPatterns.empty() ? QLatin1String("xs:") + value.base
+                                         : m_stepNames.at(keyOf(withoutLastStep(value)));
 }
 
 } // namespace schemadoctor

@@ -31,6 +31,10 @@ public:
     /// The name of the type of a value, with prefix where it is one of XML Schema itself.
     QString TypeOf(const MendedElement& element) const;
 
+    /// The name of the type that the last restriction of a value restricts: patterns of several restrictions all have
+    /// to hold, so each but the last is a type of its own.
+    QString BaseOf(const SimpleValue& value) const;
+
     static bool IsGlobal(const MendedAttribute& attribute) { return !attribute.value.IsPlain(); }
 
     /// Those of the elements in one place that can only be references to global ones, if these can be had.
@@ -42,7 +46,10 @@ private:
     void claimAttribute(MendedAttribute& attribute);
     void claimTypes(const MendedElement& element);
     void claimType(const MendedElement& element);
+    void claimSteps(const SimpleValue& value);
     QString nameFor(const MendedElement& element);
+    QString nameForStep(const QString& base);
+    bool claimName(const QString& name);
     void tellName(const MendedElement& element, const QString& name);
 
     const SchemaSet& m_set;
@@ -50,6 +57,7 @@ private:
     std::set<QString> m_reserved; ///< for elements
     std::vector<Type> m_types;
     std::map<QString, QString> m_typeNames; ///< by keyOf() an element
+    std::map<QString, QString> m_stepNames; ///< by keyOf() a value
     std::set<QString> m_takenNames; ///< of types
     std::map<QString, int> m_attempts; ///< that a name for a type has needed
     std::vector<MendedAttribute> m_attributes;

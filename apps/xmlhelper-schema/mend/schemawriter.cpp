@@ -177,7 +177,7 @@ void SchemaWriter::writeType(const GlobalNames::Type& type)
 
 void SchemaWriter::writeRestriction(const SimpleValue& value, int level)
 {
-    write(level, QStringLiteral("<xs:restriction base=\"xs:%1\">").arg(value.base));
+    write(level, QStringLiteral("<xs:restriction") + attribute("base", m_names.BaseOf(value)) + QLatin1Char('>'));
     for (const QString& text : value.enumeration) {
         write(level + 1, QStringLiteral("<xs:enumeration") + attribute("value", text) + QLatin1String("/>"));
     }

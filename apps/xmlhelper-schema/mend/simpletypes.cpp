@@ -100,11 +100,13 @@ SimpleValue SimpleTypes::ofRestriction(const TextNode& restriction)
     const QString base = restriction.Value("base");
     const TextNode* const inner = childOf(restriction, "simpleType");
     SimpleValue value = inner ? OfDefinition(*inner) : Of(restriction, base);
-    if (inner || !m_set.IsBuiltIn(restriction, base)) {
-        m_log.Narrow(restriction, Mend::tr("a restriction of the type '%1'").arg(base),
-                     Mend::tr("a restriction of xs:%1 with the facets of both").arg(value.base));
-    }
     Restrict(value, restriction);
+    if (inner || !m_set.IsBuiltIn(restriction, base)) {
+        const bool isInSteps = m_log.IsFormatKept() && !value.earlierPatterns.empty();
+        const QString after = isInSteps ? Mend::tr("restrictions of xs:%1, one for each pattern that has to hold")
+                                        : Mend::tr("a restriction of xs:%1 with the facets of both");
+        m_log.Narrow(restriction, Mend::tr("a restriction of the type '%1'").arg(base), after.arg(value.base));
+    }
     return value;
 }
 

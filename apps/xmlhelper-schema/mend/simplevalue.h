@@ -40,7 +40,8 @@ struct SimpleValue
     /// Whether both allow the same in the same words.
     bool IsSame(const SimpleValue& other) const
     {
-        return base == other.base && enumeration == other.enumeration && facets == other.facets;
+        return base == other.base && enumeration == other.enumeration && facets == other.facets
+            && earlierPatterns == other.earlierPatterns;
     }
 };
 

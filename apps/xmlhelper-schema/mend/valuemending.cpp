@@ -37,7 +37,7 @@ bool mayHoldSpaces(const QString& type)
 
 struct Range
 {
-    QString least; ///< empty: none but that of the setter
+    QString least; ///< empty: none
     QString greatest;
 };
 
@@ -45,12 +45,12 @@ struct Range
 std::optional<Range> rangeOf(const QString& type)
 {
     static const std::map<QString, Range> ranges {
-        {QStringLiteral("long"), {}},
-        {QStringLiteral("int"), {}},
+        {QStringLiteral("long"), {QStringLiteral("-9223372036854775808"), QStringLiteral("9223372036854775807")}},
+        {QStringLiteral("int"), {QStringLiteral("-2147483648"), QStringLiteral("2147483647")}},
         {QStringLiteral("short"), {QStringLiteral("-32768"), QStringLiteral("32767")}},
         {QStringLiteral("byte"), {QStringLiteral("-128"), QStringLiteral("127")}},
-        {QStringLiteral("unsignedLong"), {QStringLiteral("0"), {}}},
-        {QStringLiteral("unsignedInt"), {QStringLiteral("0"), {}}},
+        {QStringLiteral("unsignedLong"), {QStringLiteral("0"), QStringLiteral("18446744073709551615")}},
+        {QStringLiteral("unsignedInt"), {QStringLiteral("0"), QStringLiteral("4294967295")}},
         {QStringLiteral("unsignedShort"), {QStringLiteral("0"), QStringLiteral("65535")}},
         {QStringLiteral("unsignedByte"), {QStringLiteral("0"), QStringLiteral("255")}},
         {QStringLiteral("nonNegativeInteger"), {QStringLiteral("0"), {}}},
@@ -60,6 +60,18 @@ std::optional<Range> rangeOf(const QString& type)
     };
     const auto found = ranges.find(type);
     return found == ranges.end() ? std::nullopt : std::make_optional(found->second);
+}
+
+/// The types of which the setter of integers fills no other: of one it takes the range, too.
+bool isIntegerType(const QString& type)
+{
+    return settersOfElement(type) == Setters(Setter::Integer);
+}
+
+/// Whether a setter may give a number beyond a bound.
+bool isWithinSetter(const QString& bound)
+{
+    return std::abs(bound.toDouble()) < double(std::numeric_limits<int>::max());
 }
 
 bool isNumberType(const QString& type)
@@ -153,7 +165,7 @@ bool isEmptyRange(const SimpleValue& value)
     const bool isBelow = !value.Facet("maxExclusive").isEmpty();
     double least = value.Facet(isAbove ? "minExclusive" : "minInclusive").toDouble();
     double greatest = value.Facet(isBelow ? "maxExclusive" : "maxInclusive").toDouble();
-    if (value.base == QLatin1String("integer")) {
+    if (isIntegerType(value.base)) {
         least += isAbove ? 1 : 0;
         greatest -= isBelow ? 1 : 0;
         return least > greatest;
@@ -190,7 +202,9 @@ SimpleValue ValueMending::OfAttribute(SimpleValue value, const TextNode& user)
 {
     value = OfElement(value, user);
     const TextNode& tag = value.definition ? *value.definition : user;
-    if (value.base == QLatin1String("boolean")) {
+    if (isIntegerType(value.base) && !isAttributeTakenBy(wordOf(Setter::Integer), value.base)) {
+        takeInteger(value, tag);
+    } else if (value.base == QLatin1String("boolean")) {
         m_log.Narrow(tag, Mend::tr("an attribute of the type xs:boolean"), Mend::tr("the texts true and false"));
         value.base = QStringLiteral("string");
         value.enumeration = QStringList {QStringLiteral("true"), QStringLiteral("false")};
@@ -243,7 +257,7 @@ bool ValueMending::isSettled(SimpleValue& value, const TextNode& tag)
         }
         return true;
     }
-    return takeItems(value, tag) || takeSteps(value, tag);
+    return takeItems(value, tag) || takeListedTexts(value, tag);
 }
 
 /// A list where the format is kept: one item is a list as well, where one is allowed.
@@ -291,12 +305,15 @@ void ValueMending::takeSingleItem(SimpleValue& list, bool isOfAnyCount)
     m_log.Narrow(*list.list, QStringLiteral("xs:list"), after);
     item.name = list.name;
     item.definition = list.definition;
+    for (const QStringList& step : list.earlierPatterns) {
+        item.AddPatterns(step);
+    }
     item.AddPatterns(list.Patterns());
     list = item;
 }
 
-/// Patterns of several restrictions all have to hold, and those of one are alternatives. So one cannot hold them all.
-bool ValueMending::takeSteps(SimpleValue& value, const TextNode& tag)
+/// Of patterns of several restrictions, which all have to hold, one may list texts: a setter fills these.
+bool ValueMending::takeListedTexts(SimpleValue& value, const TextNode& tag)
 {
     if (value.earlierPatterns.empty() || !value.enumeration.isEmpty() || !m_log.IsFormatKept()) {
         return false;
@@ -313,8 +330,7 @@ bool ValueMending::takeSteps(SimpleValue& value, const TextNode& tag)
             return true;
         }
     }
-    allowNothing(value, tag, describedFacets(value).join(QLatin1String(", ")));
-    return true;
+    return false;
 }
 
 /// Of what no single restriction can say, and no text is known.
@@ -355,14 +371,14 @@ void ValueMending::enumerateTexts(SimpleValue& value, const TextNode& tag)
 /// As it is, where one restriction can say it.
 void ValueMending::keepEnumeration(SimpleValue& value, const TextNode& tag)
 {
-    if (value.item || value.isUnknown || !value.earlierPatterns.empty()) {
+    if (value.item || value.isUnknown) {
         allowNothing(value, tag, describedFacets(value).join(QLatin1String(", ")));
     }
 }
 
 void ValueMending::takeFillableType(SimpleValue& value, const TextNode& tag)
 {
-    if (builtInTypesOfElements().contains(value.base)) {
+    if (builtInTypesOfElements().contains(value.base) || isIntegerType(value.base)) {
         return;
     }
     if (rangeOf(value.base)) {
@@ -378,22 +394,29 @@ void ValueMending::takeFillableType(SimpleValue& value, const TextNode& tag)
     }
 }
 
-/// The bounds of the type become facets, where there are none that are narrower.
+/// The bounds of the type become facets, where there are none that are narrower, and a setter could pass them.
 void ValueMending::takeInteger(SimpleValue& value, const TextNode& tag)
 {
     const Range range = *rangeOf(value.base);
     QStringList bounds;
-    if (!range.least.isEmpty() && !hasBound(value, "minInclusive", "minExclusive")) {
-        value.SetFacet(QStringLiteral("minInclusive"), range.least);
-        bounds.append(described("minInclusive", range.least));
-    }
-    if (!range.greatest.isEmpty() && !hasBound(value, "maxInclusive", "maxExclusive")) {
-        value.SetFacet(QStringLiteral("maxInclusive"), range.greatest);
-        bounds.append(described("maxInclusive", range.greatest));
-    }
+    bool isLeftToSetter = false;
+    const auto take = [&](const char* inclusive, const char* exclusive, const QString& bound) {
+        const bool isTaken = !bound.isEmpty() && !hasBound(value, inclusive, exclusive);
+        if (isTaken && isWithinSetter(bound)) {
+            value.SetFacet(QLatin1String(inclusive), bound);
+            bounds.append(described(inclusive, bound));
+        } else if (isTaken) {
+            isLeftToSetter = true;
+        }
+    };
+    take("minInclusive", "minExclusive", range.least);
+    take("maxInclusive", "maxExclusive", range.greatest);
+    const QString after = bounds.isEmpty() ? QStringLiteral("xs:integer")
+                                           : Mend::tr("xs:integer with %1").arg(bounds.join(QLatin1String(", ")));
     m_log.Narrow(tag, named(value.base),
-                 bounds.isEmpty() ? QStringLiteral("xs:integer")
-                                  : Mend::tr("xs:integer with %1").arg(bounds.join(QLatin1String(", "))));
+                 isLeftToSetter
+                     ? Mend::tr("%1; setters give no number beyond the bounds of %2").arg(after, named(value.base))
+                     : after);
     if (!value.definition) {
         value.name = capitalised(value.base);
     }
@@ -432,8 +455,9 @@ void ValueMending::dropBoundsOfTexts(SimpleValue& value, const TextNode& tag)
         const QString text = value.Facet(facet);
         bool isNumber = false;
         const double number = text.toDouble(&isNumber);
-        const bool isInteger = value.base == QLatin1String("integer");
-        const bool isUsed = (isInteger && isNumber && std::abs(number) < 2147483647.0)
+        bool isInteger = false;
+        static_cast<void>(text.toInt(&isInteger));
+        const bool isUsed = (isIntegerType(value.base) && isInteger)
             || (isNumberType(value.base) && isNumber && std::isfinite(number));
         if (!text.isEmpty() && !isUsed && m_log.Change(tag, described(facet, text), Mend::tr("nothing"))) {
             value.RemoveFacet(facet);
@@ -445,7 +469,7 @@ void ValueMending::dropBoundsOfTexts(SimpleValue& value, const TextNode& tag)
 /// same; of other numbers the next one is taken that allows less.
 void ValueMending::keepFromAbsentBound(SimpleValue& value, const TextNode& tag)
 {
-    const bool isInteger = value.base == QLatin1String("integer");
+    const bool isInteger = isIntegerType(value.base);
     for (const char* const facet : Bounds) {
         if (value.Facet(facet).isEmpty() || value.Facet(facet).toDouble() != double(AbsentBound)) {
             continue;
@@ -510,9 +534,10 @@ void ValueMending::excludeUpperBound(SimpleValue& value, const TextNode& tag)
         return;
     }
     bool isInteger = false;
-    const qint64 next = greatest.toLongLong(&isInteger) + 1;
-    const bool isNext = isInteger && value.base == QLatin1String("integer") && next != AbsentBound;
-    const QString bound = isNext ? QString::number(next) : greatest;
+    const int last = greatest.toInt(&isInteger);
+    const bool isNext = isInteger && value.base == QLatin1String("integer") && last + qint64(1) != AbsentBound
+        && last < std::numeric_limits<int>::max();
+    const QString bound = isNext ? QString::number(last + 1) : greatest;
     m_log.Narrow(tag, described("maxInclusive", greatest), described("maxExclusive", bound));
     value.RemoveFacet("maxInclusive");
     value.SetFacet(QStringLiteral("maxExclusive"), bound);

@@ -30,7 +30,7 @@ private:
     bool isSettled(SimpleValue& value, const TextNode& tag);
     void takeSingleItem(SimpleValue& list, bool isOfAnyCount);
     bool takeItems(SimpleValue& value, const TextNode& tag);
-    bool takeSteps(SimpleValue& value, const TextNode& tag);
+    bool takeListedTexts(SimpleValue& value, const TextNode& tag);
     void keepEnumeration(SimpleValue& value, const TextNode& tag);
     void allowNothing(SimpleValue& value, const TextNode& tag, const QString& before);
     void enumerateTexts(SimpleValue& value, const TextNode& tag);

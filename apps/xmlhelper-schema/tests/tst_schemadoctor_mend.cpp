@@ -74,6 +74,9 @@ private Q_SLOTS:
     void keepsTheFormatOnRequest();
     void allowsNoMoreThanTheOriginal_data();
     void allowsNoMoreThanTheOriginal();
+    void writesPatternsOfSeveralSteps();
+    void saysWhichBoundsAreLeftToSetters_data();
+    void saysWhichBoundsAreLeftToSetters();
     void keepsDefaultsThatFit_data();
     void keepsDefaultsThatFit();
     void tellsOfNoTypeThatNobodyWrote();
@@ -305,7 +308,22 @@ void TestSchemaDoctorMend::allowsNoMoreThanTheOriginal_data()
             letters + type("T", "E", facet("pattern", "A|B" + QByteArray("|A").repeated(600))), "<V>C</V>", false);
 
     const QByteArray capitals = type("P", "xs:string", facet("pattern", "[A-Z]+")) + value;
-    addKept("patterns-of-two-steps", capitals + type("T", "P", facet("pattern", "...")), "<V>xyz</V>", false);
+    const QByteArray twoSteps = capitals + type("T", "P", facet("pattern", "..."));
+    addKept("patterns-of-two-steps", twoSteps, "<V>XYZ</V>", true);
+    addKept("only-second-of-two-patterns", twoSteps, "<V>xyz</V>", false);
+    addKept("only-first-of-two-patterns", twoSteps, "<V>XY</V>", false);
+    const QByteArray threeSteps = capitals + type("S", "P", facet("pattern", "X.*") + facet("pattern", "Y.*"))
+        + type("T", "S", facet("pattern", ".*Z"));
+    addKept("patterns-of-three-steps", threeSteps, "<V>YZ</V>", true);
+    addKept("two-of-three-patterns", threeSteps, "<V>AZ</V>", false);
+    const QByteArray attributeSteps = type("P", "xs:string", facet("pattern", "[A-Z]+"))
+        + type("T", "P", facet("pattern", "...")) + attribute("type='T'");
+    addKept("attribute-with-patterns-of-two-steps", attributeSteps, "<V size='XYZ'/>", true);
+    addKept("attribute-with-only-one-pattern", attributeSteps, "<V size='XY'/>", false);
+    const QByteArray listSteps
+        = lists + type("S", "L", facet("pattern", "[12]+")) + type("T", "S", facet("pattern", ".."));
+    addKept("list-with-patterns-of-two-steps", listSteps, "<V>12</V>", true);
+    addKept("list-with-only-one-pattern", listSteps, "<V>34</V>", false);
     const QByteArray listed = capitals + type("T", "P", facet("pattern", "ON|OFF|auto"));
     addKept("texts-listed-by-a-pattern", listed, "<V>ON</V>", true);
     addKept("texts-listed-outside-of-a-pattern", listed, "<V>auto</V>", false);
@@ -339,6 +357,14 @@ void TestSchemaDoctorMend::allowsNoMoreThanTheOriginal_data()
     add("greatest-of-an-unsigned-short", report("<xs:element name='V' type='xs:unsignedShort' default='65535'/>"),
         "<V>65535</V>", true);
     add("beyond-an-unsigned-short", report("<xs:element name='V' type='xs:unsignedShort'/>"), "<V>65536</V>", false);
+    const QByteArray integer = report("<xs:element name='V' type='xs:int'/>");
+    add("greatest-of-an-int", integer, "<V>2147483647</V>", true);
+    add("beyond-an-int", integer, "<V>2147483648</V>", false);
+    const QByteArray upToGreatest
+        = type("T", "xs:integer", facet("minInclusive", "-2147483648") + facet("maxInclusive", "2147483647"));
+    add("greatest-of-a-setter", value + upToGreatest, "<V>2147483647</V>", true);
+    add("beyond-a-setter", value + upToGreatest, "<V>2147483648</V>", false);
+    add("attribute-beyond-a-setter", attribute("type='T'") + upToGreatest, "<V size='2147483648'/>", false);
     const QByteArray ten = attribute("type='T' default='10'")
         + type("T", "xs:int", facet("minInclusive", "0") + facet("maxInclusive", "10"));
     add("greatest-of-an-attribute", ten, "<V size='10'/>", true);
@@ -380,6 +406,68 @@ void TestSchemaDoctorMend::allowsNoMoreThanTheOriginal()
     for (const Rewrite& rewrite : mending.rewrites) {
         QVERIFY2(rewrite.effect == RewriteEffect::StaysValid, qPrintable(rewrite.before));
     }
+}
+
+/// As types that setters fill, and that elements of the same steps share. Mending once more changes nothing.
+void TestSchemaDoctorMend::writesPatternsOfSeveralSteps()
+{
+    const auto type = [](const QByteArray& name, const QByteArray& base, const QByteArray& pattern) {
+        return "<xs:simpleType name='" + name + "'><xs:restriction base='" + base + "'><xs:pattern value='" + pattern
+            + "'/></xs:restriction></xs:simpleType>";
+    };
+    MendOptions options;
+    options.isFormatKept = true;
+    const Mending mending
+        = mended(schema(type("Long", "xs:string", "[A-Z]+") + type("A", "Long", "...") + type("B", "Long", "....")
+                        + type("Few", "xs:int", "[0-9]*") + type("C", "Few", "[1-9].*")
+                        + report("<xs:element name='First' type='A'/><xs:element name='Second' type='B'/>"
+                                 "<xs:element name='Third' type='C'/>")),
+                 options);
+    QCOMPARE(mending.text.count("<xs:simpleType"), 5);
+    const QString out = written(m_folder.filePath(QStringLiteral("steps.xsd")), mending.text);
+    QCOMPARE(QString::fromUtf8(mend(out, options).text), QString::fromUtf8(mending.text));
+    const LaidOutTree tree = examine(out, false).tree;
+    QCOMPARE(tree.elements.size(), std::size_t(4));
+    QCOMPARE(tree.elements[1].setters, Setters(Setter::Text));
+    QCOMPARE(tree.elements[2].setters, Setters(Setter::Text));
+    QCOMPARE(tree.elements[3].setters, Setters(Setter::Integer));
+}
+
+void TestSchemaDoctorMend::saysWhichBoundsAreLeftToSetters_data()
+{
+    QTest::addColumn<QByteArray>("declaration");
+    QTest::addColumn<QString>("after");
+    const auto element = [](const char* type) {
+        return "<xs:element name='V' type='" + QByteArray(type) + "'/><xs:element name='D' type='xs:date'/>";
+    };
+    const auto attribute = [](const char* type) {
+        return "<xs:element name='V'><xs:complexType><xs:attribute name='size' type='" + QByteArray(type)
+            + "'/></xs:complexType></xs:element>";
+    };
+    const QString left = QStringLiteral("; setters give no number beyond the bounds of ");
+    const QString integer = QStringLiteral("xs:integer");
+    const QString natural = QStringLiteral("xs:integer with xs:minInclusive '0'");
+    QTest::newRow("long") << element("xs:long") << integer + left + QLatin1String("xs:long");
+    QTest::newRow("unsigned-int") << element("xs:unsignedInt") << natural + left + QLatin1String("xs:unsignedInt");
+    QTest::newRow("unsigned-long") << element("xs:unsignedLong") << natural + left + QLatin1String("xs:unsignedLong");
+    QTest::newRow("int-of-an-attribute") << attribute("xs:int") << integer + left + QLatin1String("xs:int");
+    QTest::newRow("non-negative") << element("xs:nonNegativeInteger") << natural;
+    QTest::newRow("int") << element("xs:int") << QString();
+}
+
+/// What is told of the type; empty where it stays as it is.
+void TestSchemaDoctorMend::saysWhichBoundsAreLeftToSetters()
+{
+    QFETCH(QByteArray, declaration);
+    QFETCH(QString, after);
+    QStringList told;
+    const QVector<Rewrite> rewrites = mended(schema(report(declaration))).rewrites;
+    for (const Rewrite& rewrite : rewrites) {
+        if (rewrite.effect == RewriteEffect::StaysValid && rewrite.after.startsWith(QLatin1String("xs:integer"))) {
+            told.append(rewrite.after);
+        }
+    }
+    QCOMPARE(told, after.isEmpty() ? QStringList() : QStringList {after});
 }
 
 void TestSchemaDoctorMend::keepsDefaultsThatFit_data()
