@@ -37,7 +37,6 @@ class FillingObserver : public IXMLHelper
 public:
     FillingObserver(const LaidOutTree& tree, const Filling& filling)
         : m_tree(tree)
-        , m_names(tree)
         , m_filling(filling)
         , m_builder(this)
     {
@@ -47,7 +46,7 @@ public:
     void XmlUpdate(XmlEvent* event) override;
 
 private:
-    int indexOf(const QDomElement& element) const;
+    int announced(const QDomElement& element);
     bool multiply(const QDomElement& element, const LaidOutElement& declared);
     void setAttributes(const QDomElement& element, const LaidOutElement& declared);
     void removeAttribute(const QDomElement& element, const QString& name);
@@ -55,9 +54,20 @@ private:
     void setValue(const LaidOutElement& declared);
     QString nextText() { return QStringLiteral("text %1").arg(++m_values); }
 
+    /// An announced element, and what is known of those directly in it.
+    struct Level
+    {
+        QDomElement element;
+        int index = LaidOutElement::None; ///< in the tree
+        std::vector<QDomElement> children; ///< as they were before the first of them was announced
+        std::size_t child = 0; ///< the one announced last, or where to begin
+
+        bool FindChild(const QDomElement& announced);
+    };
+
     const LaidOutTree& m_tree;
-    const NameIndex m_names;
     const Filling& m_filling;
+    std::vector<Level> m_levels; ///< from the root to the element announced last
     QDomDocument m_document;
     int m_values = 0; ///< given so far: keys of XML Schema must differ
     QList<QPair<QDomNode, QString>> m_multiplied; ///< below which parent, and the name
@@ -84,7 +94,7 @@ void FillingObserver::XmlUpdate(XmlEvent* event)
     const QDomNode node = static_cast<ElemBeginEvent*>(event)->GetElementNode();
     m_document = node.ownerDocument();
     const QDomElement element = node.toElement(); // A text below the root is announced, too.
-    const int index = indexOf(element);
+    const int index = element.isNull() ? LaidOutElement::None : announced(element);
     if (index == LaidOutElement::None || !m_filling.isWanted[std::size_t(index)]) {
         return;
     }
@@ -97,13 +107,39 @@ void FillingObserver::XmlUpdate(XmlEvent* event)
     m_builder.RemoveAttribute(DefaultAttribute()); // as whoever gives a value does
 }
 
-/// The first element of the tree under the same names; LaidOutElement::None when there is none.
-int FillingObserver::indexOf(const QDomElement& element) const
+/// Gives which element of the tree it is. Names do not tell: alternatives of a choice may share them.
+int FillingObserver::announced(const QDomElement& element)
 {
-    const QDomElement around = element.parentNode().toElement();
-    const int parent = around.isNull() ? NameIndex::AboveRoot : indexOf(around);
-    const bool isBelowNothing = !around.isNull() && parent == LaidOutElement::None;
-    return isBelowNothing ? LaidOutElement::None : m_names.ChildOf(parent, element.tagName());
+    while (!m_levels.empty() && m_levels.back().element != element.parentNode()) {
+        m_levels.pop_back();
+    }
+    const bool isRoot = m_levels.empty() && element.tagName() == m_tree.elements.front().name;
+    int index = isRoot ? 0 : LaidOutElement::None;
+    if (!m_levels.empty() && m_levels.back().index != LaidOutElement::None) {
+        Level& around = m_levels.back();
+        const std::vector<int>& declared = m_tree.elements[std::size_t(around.index)].children;
+        index = around.FindChild(element) && around.child < declared.size() ? declared[around.child]
+                                                                            : LaidOutElement::None;
+    }
+    m_levels.push_back({element, index, {}, 0});
+    return index;
+}
+
+/// They are announced in their order; one that was made since stands behind the one that it is a copy of.
+bool FillingObserver::Level::FindChild(const QDomElement& announced)
+{
+    if (children.empty()) {
+        for (QDomElement one = element.firstChildElement(); !one.isNull(); one = one.nextSiblingElement()) {
+            children.push_back(one);
+        }
+    }
+    const auto last = children.cbegin() + std::ptrdiff_t(child);
+    const auto found = std::find(last, children.cend(), announced);
+    if (found != children.cend()) {
+        child = std::size_t(found - children.cbegin());
+        return true;
+    }
+    return last->tagName() == announced.tagName();
 }
 
 /// Makes a second one of an element that stands alone and may repeat. Gives whether there is one now.

@@ -126,6 +126,19 @@ void TestSchemaDoctorProof::findsNothingWrong_data()
     row("one-alternative-of-a-choice",
         QStringLiteral("<xs:choice><xs:element name='A' type='xs:string'/><xs:element name='B' type='xs:string'/>"
                        "</xs:choice>"));
+    const QString a = QStringLiteral("<xs:element name='A' type='xs:string'/>");
+    const QString b = QStringLiteral("<xs:element name='B' type='xs:string'/>");
+    const QString c = QStringLiteral("<xs:element name='C' type='xs:string'/>");
+    const QString several = QStringLiteral("<xs:element name='D' type='xs:string' maxOccurs='2'/>");
+    const auto choice = [](const QString& first, const QString& second) {
+        return QStringLiteral("<xs:choice><xs:sequence>%1</xs:sequence><xs:sequence>%2</xs:sequence></xs:choice>")
+            .arg(first, second);
+    };
+    row("alternatives-that-end-equally", choice(a + b, c + b));
+    row("alternatives-with-the-names-of-each-other", choice(a + b, b + a) + c);
+    row("alternatives-that-end-as-others-begin",
+        choice(a + b, b + c) + QStringLiteral("<xs:element name='E' type='xs:string'/>"));
+    row("alternatives-that-repeat-one-name", choice(a + several, c + several));
     row("required-and-optional-attributes",
         QStringLiteral("<xs:element name='A'><xs:complexType><xs:sequence><xs:element name='B' type='xs:string'/>"
                        "</xs:sequence><xs:attribute name='Unit' type='xs:string' use='required'/>"
