@@ -200,15 +200,15 @@ Decision TextCheck::isInPatterns(const SimpleValue& value, const QString& text)
 
 Decision TextCheck::isMatchedByAny(const QStringList& alternatives, const QString& text)
 {
-    Decision isAny = false;
+    bool isDecided = true;
     for (const QString& pattern : alternatives) {
         const Decision isOne = isMatched(pattern, text);
         if (isOne == true) {
             return true;
         }
-        isAny = isOne ? isAny : std::nullopt;
+        isDecided = isDecided && isOne.has_value();
     }
-    return isAny;
+    return isDecided ? std::make_optional(false) : std::nullopt;
 }
 
 Decision TextCheck::isMatched(const QString& pattern, const QString& text)
