@@ -57,6 +57,8 @@ private Q_SLOTS:
     void keepsThePermissions();
     void givesANewFileTheUsualPermissions();
     void leavesAFileThatMustNotBeWritten();
+    void writesOnWhereAFileIsOpen_data();
+    void writesOnWhereAFileIsOpen();
     void keepsLinks_data();
     void keepsLinks();
     void followsNoRingOfLinks();
@@ -362,6 +364,29 @@ void TestDocumentFile::leavesAFileThatMustNotBeWritten()
     QVERIFY(!saveDocument(documentOf(QStringLiteral("<r/>")), path("saved.xml")));
     QCOMPARE(bytesOf(path("saved.xml")), QByteArray("earlier"));
     QVERIFY(QFile::setPermissions(path("saved.xml"), QFile::ReadOwner | QFile::WriteOwner)); // or it stays
+}
+
+void TestDocumentFile::writesOnWhereAFileIsOpen_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("of-the-process") << QStringLiteral("/proc/self/fd/");
+    QTest::newRow("device") << QStringLiteral("/dev/fd/");
+}
+
+/// As behind /dev/stdout: what was written there before and what is written next stays beside the report.
+void TestDocumentFile::writesOnWhereAFileIsOpen()
+{
+    QFETCH(QString, folder);
+    if (!QFileInfo(folder + QLatin1Char('0')).isSymLink()) {
+        QSKIP("Open files have no names here.");
+    }
+    QFile file(path("open.xml"));
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    file.write("earlier\n");
+    QVERIFY(saveDocument(documentOf(QStringLiteral("<r/>")), folder + QString::number(file.handle())));
+    QVERIFY(saveDocument(documentOf(QStringLiteral("<s/>")), folder + QString::number(file.handle())));
+    QCOMPARE(bytesOf(path("open.xml")), QByteArray("earlier\n<r/>\n<s/>\n"));
+    QCOMPARE(entries().filter(QStringLiteral("open")).size(), 1);
 }
 
 void TestDocumentFile::keepsLinks_data()

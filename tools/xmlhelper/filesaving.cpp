@@ -2,6 +2,7 @@
 
 #include <climits>
 #include <mutex>
+#include <optional>
 #include <string>
 
 #include <QDateTime>
@@ -143,15 +144,31 @@ void discard(QFile& file)
     }
 }
 
+/// The open file of this process that a name such as /dev/stdout leads to; none for other names.
+std::optional<int> descriptorOf(const QString& fileName)
+{
+    QFileInfo link(fileName);
+    for (int i = 0; i < MaxLinks && link.isSymbolicLink(); ++i) {
+        if (QFileInfo(link.path()) == QFileInfo(QStringLiteral("/proc/self/fd"))) {
+            return link.fileName().toInt();
+        }
+        link.setFile(link.symLinkTarget());
+    }
+    return std::nullopt;
+}
+
+/// What is open already is written on where it is: what others have written there, or write behind it, stays.
 bool saveInPlace(const WriteContent& write, const QString& fileName)
 {
     Counter counter; // What was there is lost with opening, so content that is too long must be known before.
     QFile file(fileName);
-    if (isPipeWithoutReader(fileName) || !write(counter) || !file.open(QIODevice::WriteOnly)) {
+    const std::optional<int> descriptor = descriptorOf(fileName);
+    if (isPipeWithoutReader(fileName) || !write(counter)
+        || !(descriptor ? file.open(*descriptor, QIODevice::WriteOnly) : file.open(QIODevice::WriteOnly))) {
         return false;
     }
     const bool isWritten = writeAndClose(write, file, fileName);
-    if (!isWritten) {
+    if (!isWritten && !descriptor) {
         discard(file);
     }
     return isWritten;
@@ -255,7 +272,7 @@ bool saveFile(const QString& fileName, const WriteContent& write)
     const QString name = openableFileName(fileName);
     const QFileInfo target = targetOf(name);
     const QString temporaryName = temporaryNameBeside(target);
-    if (!isReplaceable(target) || QFile::encodeName(temporaryName).size() >= MaxPath) {
+    if (!isReplaceable(target) || descriptorOf(name) || QFile::encodeName(temporaryName).size() >= MaxPath) {
         return saveInPlace(write, name);
     }
     removeStrays(target.absolutePath());

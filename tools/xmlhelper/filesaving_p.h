@@ -28,7 +28,7 @@ using WriteContent = std::function<bool(QIODevice& device)>;
 ///
 /// A device, a pipe, and a file in a folder that takes no new ones, beside which no temporary name has room or whose
 /// owner cannot be kept, are written in place. A file there of which only a part could be written is removed or, behind
-/// a link, emptied.
+/// a link, emptied. A file that this process has open, under a name such as /dev/stdout, is written on where it is.
 bool saveFile(const QString& fileName, const WriteContent& write);
 
 #endif
