@@ -56,9 +56,6 @@ GlobalNames::GlobalNames(const SchemaSet& set, RewriteLog& log, MendedElement& r
     m_reserved.insert(root.name);
     reserve(root);
     claimAttributes(root);
-    for (const MendedAttribute& attribute : m_attributes) {
-        claimSteps(attribute.value);
-    }
     claimTypes(root);
 }
 
@@ -121,11 +118,16 @@ void GlobalNames::claimAttribute(MendedAttribute& attribute)
                      Mend::tr("an attribute of the type xs:%1").arg(attribute.value.base))) {
         attribute.value.enumeration.clear();
         attribute.value.facets.clear();
+    } else {
+        attribute.isInPlace = true;
     }
 }
 
 void GlobalNames::claimTypes(const MendedElement& element)
 {
+    for (const MendedAttribute& attribute : element.attributes) {
+        claimSteps(attribute.value);
+    }
     if (element.hasValue && !element.value.IsPlain()) {
         claimType(element);
     }

@@ -35,7 +35,10 @@ public:
     /// to hold, so each but the last is a type of its own.
     QString BaseOf(const SimpleValue& value) const;
 
-    static bool IsGlobal(const MendedAttribute& attribute) { return !attribute.value.IsPlain(); }
+    static bool IsGlobal(const MendedAttribute& attribute)
+    {
+        return !attribute.value.IsPlain() && !attribute.isInPlace;
+    }
 
     /// Those of the elements in one place that can only be references to global ones, if these can be had.
     static std::vector<MendedElement*> NeedingGlobals(MendedContent& content);

@@ -15,6 +15,7 @@ struct MendedAttribute
     QString name;
     SimpleValue value;
     bool isRequired = false;
+    bool isInPlace = false; ///< its type is written where the attribute is: another has its name
     QString defaultValue;
     const TextNode* declaration = nullptr;
     const TextNode* reference = nullptr; ///< where it stands: the declaration, or what refers to it

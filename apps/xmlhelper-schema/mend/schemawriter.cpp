@@ -187,6 +187,13 @@ void SchemaWriter::writeRestriction(const SimpleValue& value, int level)
     write(level, QStringLiteral("</xs:restriction>"));
 }
 
+void SchemaWriter::writeInlineType(const SimpleValue& value, int level)
+{
+    write(level, QStringLiteral("<xs:simpleType>"));
+    writeRestriction(value, level + 1);
+    write(level, QStringLiteral("</xs:simpleType>"));
+}
+
 void SchemaWriter::writeAttribute(const MendedAttribute& one)
 {
     if (isNamespaceKept() && !one.declaration->IsGlobal()) {
@@ -195,9 +202,7 @@ void SchemaWriter::writeAttribute(const MendedAttribute& one)
     writeComments(one.declaration->comments, 1);
     write(1, QStringLiteral("<xs:attribute") + attribute("name", one.name) + QLatin1Char('>'));
     writeDocumentation(documentationOf(*one.declaration), 2);
-    write(2, QStringLiteral("<xs:simpleType>"));
-    writeRestriction(one.value, 3);
-    write(2, QStringLiteral("</xs:simpleType>"));
+    writeInlineType(one.value, 2);
     write(1, QStringLiteral("</xs:attribute>"));
     write(0, QString());
 }
@@ -291,15 +296,19 @@ void SchemaWriter::writeUses(const std::vector<MendedAttribute>& attributes, int
 {
     for (const MendedAttribute& one : attributes) {
         const bool isGlobal = GlobalNames::IsGlobal(one);
+        const QString type = one.isInPlace ? QString() : attribute("type", QLatin1String("xs:") + one.value.base);
         const QString tag = QStringLiteral("<xs:attribute")
-            + (isGlobal ? attribute("ref", one.name)
-                        : attribute("name", one.name) + attribute("type", QLatin1String("xs:") + one.value.base))
+            + (isGlobal ? attribute("ref", one.name) : attribute("name", one.name) + type)
             + (one.isRequired ? attribute("use", QStringLiteral("required")) : defaultOf(one.value, one.defaultValue));
         const QStringList texts = isGlobal ? QStringList() : documentationOf(*one.declaration);
         writeComments(isGlobal ? QStringList() : one.reference->comments, level);
-        write(level, tag + QLatin1String(texts.isEmpty() ? "/>" : ">"));
-        if (!texts.isEmpty()) {
-            writeDocumentation(texts, level + 1);
+        const bool isClosed = texts.isEmpty() && !one.isInPlace;
+        write(level, tag + QLatin1String(isClosed ? "/>" : ">"));
+        writeDocumentation(texts, level + 1);
+        if (one.isInPlace) {
+            writeInlineType(one.value, level + 1);
+        }
+        if (!isClosed) {
             write(level, QStringLiteral("</xs:attribute>"));
         }
     }

@@ -33,6 +33,7 @@ private:
     void writeHead();
     void writeType(const GlobalNames::Type& type);
     void writeRestriction(const SimpleValue& value, int level);
+    void writeInlineType(const SimpleValue& value, int level);
     void writeAttribute(const MendedAttribute& attribute);
     void writeElement(const MendedElement& element, int level, bool isGlobal);
     void writeComplexType(const MendedElement& element, int level);

@@ -200,14 +200,15 @@ SimpleValue ValueMending::OfElement(SimpleValue value, const TextNode& user)
 
 SimpleValue ValueMending::OfAttribute(SimpleValue value, const TextNode& user)
 {
-    value = OfElement(value, user);
     const TextNode& tag = value.definition ? *value.definition : user;
-    if (isIntegerType(value.base) && !isAttributeTakenBy(wordOf(Setter::Integer), value.base)) {
-        takeInteger(value, tag);
-    } else if (value.base == QLatin1String("boolean")) {
+    if (value.base == QLatin1String("boolean") && value.enumeration.isEmpty() && !value.item) {
         m_log.Narrow(tag, Mend::tr("an attribute of the type xs:boolean"), Mend::tr("the texts true and false"));
         value.base = QStringLiteral("string");
         value.enumeration = QStringList {QStringLiteral("true"), QStringLiteral("false")};
+    }
+    value = OfElement(value, user);
+    if (isIntegerType(value.base) && !isAttributeTakenBy(wordOf(Setter::Integer), value.base)) {
+        takeInteger(value, tag);
     } else if (value.base == QLatin1String("time")
                && m_log.Change(tag, Mend::tr("an attribute of the type xs:time"), QStringLiteral("xs:string"))) {
         value.base = QStringLiteral("string");

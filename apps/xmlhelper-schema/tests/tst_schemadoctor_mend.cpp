@@ -75,6 +75,7 @@ private Q_SLOTS:
     void allowsNoMoreThanTheOriginal_data();
     void allowsNoMoreThanTheOriginal();
     void writesPatternsOfSeveralSteps();
+    void writesWhatIsKeptTheSameAgain();
     void saysWhichBoundsAreLeftToSetters_data();
     void saysWhichBoundsAreLeftToSetters();
     void keepsDefaultsThatFit_data();
@@ -320,6 +321,22 @@ void TestSchemaDoctorMend::allowsNoMoreThanTheOriginal_data()
         + type("T", "P", facet("pattern", "...")) + attribute("type='T'");
     addKept("attribute-with-patterns-of-two-steps", attributeSteps, "<V size='XYZ'/>", true);
     addKept("attribute-with-only-one-pattern", attributeSteps, "<V size='XY'/>", false);
+    const auto ofTwoTypes = [](const QByteArray& owner) {
+        return report("<xs:element name='" + owner
+                      + "' minOccurs='2' maxOccurs='2'><xs:complexType><xs:sequence>"
+                        "<xs:element name='A' type='xs:string'/></xs:sequence><xs:attribute name='U' type='F'/>"
+                        "</xs:complexType></xs:element><xs:element name='V'><xs:complexType>"
+                        "<xs:attribute name='U' type='T'/></xs:complexType></xs:element>");
+    };
+    const QByteArray twoTypes = type("F", "xs:string", enumeration({"m"})) + type("T", "xs:string", enumeration({"s"}));
+    const QByteArray sameOwner = "<U><A/></U><U><A/></U>";
+    const QByteArray otherOwner = "<O U='m'><A/></O><O><A/></O>";
+    addKept("attribute-of-another-type", twoTypes + ofTwoTypes("O"), otherOwner + "<V U='s'/>", true);
+    addKept("attribute-of-the-type-of-another", twoTypes + ofTwoTypes("O"), otherOwner + "<V U='m'/>", false);
+    addKept("attribute-called-like-an-element", twoTypes + ofTwoTypes("U"), sameOwner + "<V U='s'/>", true);
+    const QByteArray truth = type("T", "xs:boolean", facet("pattern", "t.*")) + attribute("type='T'");
+    addKept("truth-within-a-pattern", truth, "<V size='true'/>", true);
+    addKept("truth-outside-of-a-pattern", truth, "<V size='false'/>", false);
     const QByteArray listSteps
         = lists + type("S", "L", facet("pattern", "[12]+")) + type("T", "S", facet("pattern", ".."));
     addKept("list-with-patterns-of-two-steps", listSteps, "<V>12</V>", true);
@@ -431,6 +448,19 @@ void TestSchemaDoctorMend::writesPatternsOfSeveralSteps()
     QCOMPARE(tree.elements[1].setters, Setters(Setter::Text));
     QCOMPARE(tree.elements[2].setters, Setters(Setter::Text));
     QCOMPARE(tree.elements[3].setters, Setters(Setter::Integer));
+}
+
+void TestSchemaDoctorMend::writesWhatIsKeptTheSameAgain()
+{
+    MendOptions options;
+    options.isFormatKept = true;
+    const QByteArray type = "<xs:simpleType name='T'><xs:restriction base='xs:boolean'><xs:pattern value='t.*'/>"
+                            "</xs:restriction></xs:simpleType>";
+    const QByteArray attribute = "<xs:element name='V'><xs:complexType><xs:attribute name='size' type='T'/>"
+                                 "</xs:complexType></xs:element>";
+    const Mending mending = mended(schema(type + report(attribute)), options);
+    const QString out = written(m_folder.filePath(QStringLiteral("kept.xsd")), mending.text);
+    QCOMPARE(QString::fromUtf8(mend(out, options).text), QString::fromUtf8(mending.text));
 }
 
 void TestSchemaDoctorMend::saysWhichBoundsAreLeftToSetters_data()
