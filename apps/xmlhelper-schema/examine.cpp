@@ -133,9 +133,8 @@ void dropRepeatedTrees(QVector<Finding>& findings)
     }
 }
 
-} // namespace
-
-Examination examine(const QString& file, bool isToProve, bool isAsButton)
+/// @param isByGrammar  whether libxml2 looks at the schema, too
+Examination examined(const QString& file, bool isByGrammar, bool isToProve, bool isAsButton)
 {
     Examination examination;
     examination.file = file;
@@ -151,7 +150,7 @@ Examination examine(const QString& file, bool isToProve, bool isAsButton)
     }
 
     // First: its process has the memory of this one, and a limit for it.
-    const QVector<GrammarFault> faults = grammarFaultsOf(top.name);
+    const QVector<GrammarFault> faults = isByGrammar ? grammarFaultsOf(top.name) : QVector<GrammarFault>();
     const SchemaRecord record(text, file);
     tellReading(record, examination);
     const Schema schema(record, examination.tree, faults);
@@ -169,6 +168,18 @@ Examination examine(const QString& file, bool isToProve, bool isAsButton)
     sortFindings(examination.findings, record);
     dropRepeatedTrees(examination.findings);
     return examination;
+}
+
+} // namespace
+
+Examination examine(const QString& file, bool isToProve, bool isAsButton)
+{
+    return examined(file, true, isToProve, isAsButton);
+}
+
+Examination examineAlone(const QString& file)
+{
+    return examined(file, false, false, false);
 }
 
 } // namespace schemadoctor

@@ -14,6 +14,9 @@ namespace schemadoctor {
 /// @param isAsButton  whether to try what the report button fills too, see tryButton()
 Examination examine(const QString& file, bool isToProve = true, bool isAsButton = false);
 
+/// Examines a schema file without libxml2, which needs longer than all else, and without reports.
+Examination examineAlone(const QString& file);
+
 } // namespace schemadoctor
 
 #endif

@@ -182,7 +182,7 @@ Staying stayingIn(const SchemaWriter& writer, const QByteArray& text, const QTem
         return staying;
     }
     file.close();
-    const LaidOutTree tree = examine(name, false).tree;
+    const LaidOutTree tree = examineAlone(name).tree;
     asked += int(tree.elements.size());
     for (const LaidOutElement& element : tree.elements) {
         const bool mayStay = element.fate == Fate::Stays || element.fate == Fate::IsRemovedWithAnother;
@@ -261,7 +261,7 @@ Mending mend(const QString& file, const MendOptions& options)
     Mending mending;
     const bool isBareName = !file.contains(QLatin1Char('/')) && !file.contains(QLatin1Char('\\'));
     const QString path = isBareName ? QStringLiteral("./") + file : file; // Seen from no folder no include is found.
-    const Examination examination = examine(path, false);
+    const Examination examination = examineAlone(path);
     if (!examination.IsReadable()) {
         mending.refusal = examination.unreadableReason;
         return mending;

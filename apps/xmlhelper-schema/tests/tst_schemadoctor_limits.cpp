@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "examine.h"
+#include "mend/mend.h"
 #include "reading/doctorlimits.h"
 #include "render/jsonrendering.h"
 #include "render/textrendering.h"
@@ -71,6 +72,8 @@ class TestSchemaDoctorLimits : public QObject
 private Q_SLOTS:
     void answersSoon_data();
     void answersSoon();
+    void mendsSoon_data();
+    void mendsSoon();
 };
 
 void TestSchemaDoctorLimits::answersSoon_data()
@@ -208,6 +211,44 @@ void TestSchemaDoctorLimits::answersSoon()
     getrusage(RUSAGE_SELF, &used);
     QVERIFY2(used.ru_maxrss < 512 * 1024, qPrintable(QString::number(used.ru_maxrss)));
 #endif
+}
+
+void TestSchemaDoctorLimits::mendsSoon_data()
+{
+    QTest::addColumn<Writer>("body");
+    const QByteArray day = element("Day", "type='xs:date'");
+    QTest::newRow("thousands-of-optional-elements") << Writer([day] {
+        return report(repeated(9000, [](int i) { return element(numbered("E", i), "type='xs:string' minOccurs='0'"); })
+                      + day);
+    });
+    QTest::newRow("thousands-of-alternatives") << Writer([day] {
+        return report("<xs:choice>"
+                      + repeated(9000, [](int i) { return element(numbered("E", i), "type='xs:string'"); })
+                      + "</xs:choice>" + day);
+    });
+}
+
+/// Most of the time goes to libxml2, in a process of its own: it looks at the mended schema only, once that is written.
+void TestSchemaDoctorLimits::mendsSoon()
+{
+    QFETCH(Writer, body);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("schema.xsd")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(Head + body() + "</xs:schema>\n");
+    file.close();
+
+    rusage before {};
+    getrusage(RUSAGE_CHILDREN, &before);
+    const std::clock_t start = std::clock();
+    const Mending mending = mend(file.fileName());
+    const long milliseconds = long((std::clock() - start) * 1000 / CLOCKS_PER_SEC);
+    rusage after {};
+    getrusage(RUSAGE_CHILDREN, &after);
+    QCOMPARE(mending.refusal, QString());
+    QVERIFY(!mending.rewrites.isEmpty());
+    QCOMPARE(after.ru_minflt, before.ru_minflt);
+    QVERIFY2(milliseconds < MaxMilliseconds, qPrintable(QString::number(milliseconds)));
 }
 
 QTEST_GUILESS_MAIN(TestSchemaDoctorLimits)
