@@ -11,6 +11,16 @@
 
 #include <QElapsedTimer>
 
+// A limit for the memory would end a program at once that is run with an address sanitizer. GCC and clang name it
+// differently.
+#if defined(__SANITIZE_ADDRESS__)
+#define WITH_ADDRESS_SANITIZER
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define WITH_ADDRESS_SANITIZER
+#endif
+#endif
+
 namespace {
 
 /// Long enough for what it may use, on a machine that has other work.
@@ -85,8 +95,7 @@ ChildResult resultOfChild(const std::function<void(const std::function<void(cons
     const pid_t child = fork();
     if (child == 0) {
         close(ends[0]);
-        // A limit for the address space would end a program that is run with an address sanitizer at once.
-#if !defined(__SANITIZE_ADDRESS__)
+#ifndef WITH_ADDRESS_SANITIZER
         if (limits.bytes > 0) {
             confine(RLIMIT_DATA, rlim_t(limits.bytes));
         }
