@@ -1,10 +1,12 @@
-# A client can include every client header, each on its own, and no other header of the library.
+# A client can include every client header, each on its own and without a warning, and no other header of the library.
 include("${CMAKE_CURRENT_LIST_DIR}/packagetest.cmake")
 
 set(ENV{PKG_CONFIG_PATH} "${PREFIX}/${LIBDIR}/pkgconfig")
 run(OUTPUT cflags COMMAND "${PKG_CONFIG}" --cflags xmlhelper)
+string(REPLACE "-I/usr/" "-isystem/usr/" cflags "${cflags}") # Qt's own headers may give warnings.
 separate_arguments(cflags UNIX_COMMAND "${cflags}")
 separate_arguments(flags UNIX_COMMAND "${FLAGS}")
+list(APPEND flags -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Werror)
 
 function(try_including header result_variable error_variable)
     file(WRITE "${WORK_DIR}/include.cpp" "#include <xmlhelper/${header}>\n")

@@ -44,6 +44,10 @@ public:
     ///
     /// @param event  the event, never null; the sender's
     virtual void XmlUpdate(XmlEvent* event) = 0;
+
+protected:
+    /// Nobody deletes an observer by this class.
+    ~IXMLHelper() = default;
 };
 
 static_assert(sizeof(IXMLHelper::ErrorID) == 4, "Error identifiers are 32-bit numbers to receivers.");
