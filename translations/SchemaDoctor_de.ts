@@ -505,6 +505,14 @@ Das überarbeitete Schema:
         <source>an enumeration of &apos;%1&apos;</source>
         <translation>eine Aufzählung von &apos;%1&apos;</translation>
     </message>
+    <message>
+        <source>restrictions of xs:%1, one for each pattern that has to hold</source>
+        <translation>Einschränkungen von xs:%1, eine für jedes Muster, das gelten muss</translation>
+    </message>
+    <message>
+        <source>%1; setters give no number beyond the bounds of %2</source>
+        <translation>%1; kein Setter liefert eine Zahl jenseits der Grenzen von %2</translation>
+    </message>
 </context>
 <context>
     <name>SchemaDoctor</name>
@@ -2052,6 +2060,10 @@ Das überarbeitete Schema:
     <message>
         <source>Give &apos;%1&apos; a type that takes a value, such as xs:boolean, or make it required.</source>
         <translation>&apos;%1&apos; einen Typ geben, der einen Wert annimmt, etwa xs:boolean, oder es als vorgeschrieben deklarieren.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; itself becomes the type, which setters know by a word in that name: its own type and facets are not looked at.</source>
+        <translation>&apos;%1&apos; selbst wird zum Typ, den Setter an einem Wort in diesem Namen erkennen: Sein eigener Typ und seine Facetten werden nicht beachtet.</translation>
     </message>
 </context>
 <context>

@@ -505,6 +505,14 @@ The mended schema:
         <source>an enumeration of &apos;%1&apos;</source>
         <translation>an enumeration of &apos;%1&apos;</translation>
     </message>
+    <message>
+        <source>restrictions of xs:%1, one for each pattern that has to hold</source>
+        <translation>restrictions of xs:%1, one for each pattern that has to hold</translation>
+    </message>
+    <message>
+        <source>%1; setters give no number beyond the bounds of %2</source>
+        <translation>%1; setters give no number beyond the bounds of %2</translation>
+    </message>
 </context>
 <context>
     <name>SchemaDoctor</name>
@@ -2052,6 +2060,10 @@ The mended schema:
     <message>
         <source>Give &apos;%1&apos; a type that takes a value, such as xs:boolean, or make it required.</source>
         <translation>Give &apos;%1&apos; a type that takes a value, such as xs:boolean, or make it required.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; itself becomes the type, which setters know by a word in that name: its own type and facets are not looked at.</source>
+        <translation>&apos;%1&apos; itself becomes the type, which setters know by a word in that name: its own type and facets are not looked at.</translation>
     </message>
 </context>
 <context>

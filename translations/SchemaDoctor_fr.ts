@@ -505,6 +505,14 @@ Le schéma corrigé :
         <source>an enumeration of &apos;%1&apos;</source>
         <translation>une énumération de &apos;%1&apos;</translation>
     </message>
+    <message>
+        <source>restrictions of xs:%1, one for each pattern that has to hold</source>
+        <translation>des restrictions de xs:%1, une pour chaque motif à respecter</translation>
+    </message>
+    <message>
+        <source>%1; setters give no number beyond the bounds of %2</source>
+        <translation>%1 ; aucun setter ne donne de nombre au-delà des bornes de %2</translation>
+    </message>
 </context>
 <context>
     <name>SchemaDoctor</name>
@@ -2052,6 +2060,10 @@ Le schéma corrigé :
     <message>
         <source>Give &apos;%1&apos; a type that takes a value, such as xs:boolean, or make it required.</source>
         <translation>Donner à &apos;%1&apos; un type qui accepte une valeur, comme xs:boolean, ou le rendre obligatoire.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; itself becomes the type, which setters know by a word in that name: its own type and facets are not looked at.</source>
+        <translation>&apos;%1&apos; devient lui-même le type, que les setters reconnaissent à un mot de ce nom : son propre type et ses facettes ne sont pas regardés.</translation>
     </message>
 </context>
 <context>
