@@ -19,6 +19,9 @@ class TestXmlSerialiser : public QObject
 private Q_SLOTS:
     void savesWhatQtSaves_data();
     void savesWhatQtSaves();
+    void savesDeclarationsAsQtDoes_data();
+    void savesDeclarationsAsQtDoes();
+    void savesDocumentsWithinAnotherAsQtDoes();
     void savesRandomDocumentsAsQtDoes();
     void savesLongTexts_data();
     void savesLongTexts();
@@ -160,6 +163,55 @@ void TestXmlSerialiser::savesWhatQtSaves()
         leaf.setAttribute(QStringLiteral("name%1").arg(i), QStringLiteral("<value> \"%1\"").arg(i));
     }
     QCOMPARE(firstDifferenceIn(document), QString());
+}
+
+void TestXmlSerialiser::savesDeclarationsAsQtDoes_data()
+{
+    QTest::addColumn<QString>("declarations");
+    QTest::addColumn<int>("nodes"); // what Qt makes of them
+    QTest::newRow("notations") << QStringLiteral("<!NOTATION a SYSTEM 's'><!NOTATION b PUBLIC 'p'>"
+                                                 "<!NOTATION c PUBLIC 'p' \"it's\"><!NOTATION d SYSTEM ''>")
+                               << 4;
+    QTest::newRow("entities-of-files") << QStringLiteral("<!ENTITY a SYSTEM \"it's\"><!ENTITY b PUBLIC 'p' 's'>") << 2;
+    QTest::newRow("entities-of-a-notation")
+        << QStringLiteral("<!NOTATION n SYSTEM 's'><!ENTITY a SYSTEM 's' NDATA n><!ENTITY b PUBLIC 'p' 's' NDATA n>")
+        << 3;
+    QTest::newRow("parameter-entities") << QStringLiteral("<!ENTITY % a SYSTEM 's'><!ENTITY % b PUBLIC 'p' 's'>") << 2;
+    QTest::newRow("texts-of-entities-are-not-kept") << QStringLiteral("<!ENTITY a 'text'>") << 0;
+}
+
+/// In their document, each by itself, and moved among the elements.
+void TestXmlSerialiser::savesDeclarationsAsQtDoes()
+{
+    QFETCH(QString, declarations);
+    QFETCH(int, nodes);
+    QDomDocument document = documentOf(QStringLiteral("<!DOCTYPE r [%1]><r><a/>text</r>").arg(declarations));
+    QCOMPARE(firstDifferenceIn(document), QString());
+    const std::vector<QDomNode> parts = partsBesideTheTree(document);
+    QCOMPARE(int(parts.size()), 1 + nodes);
+    for (const QDomNode& part : parts) {
+        QCOMPARE(firstDifferenceIn(part), QString());
+        document.documentElement().insertBefore(part, document.documentElement().lastChild());
+        QCOMPARE(firstDifferenceIn(document), QString());
+    }
+}
+
+void TestXmlSerialiser::savesDocumentsWithinAnotherAsQtDoes()
+{
+    for (const QString& inner : {QStringLiteral("<a/>"), QStringLiteral("<?p d?><a><b/></a><!--c-->"), QString()}) {
+        QDomDocument document = documentOf(QStringLiteral("<r><a/>text<b/>text</r>"));
+        QDomElement root = document.documentElement();
+        for (QDomNode child = root.firstChild(); !child.isNull(); child = child.nextSibling()) {
+            QDomDocument other;
+            other.setContent(inner);
+            root.insertBefore(other, child);
+        }
+        QDomDocument last = documentOf(QStringLiteral("<last/>"));
+        last.appendChild(last.createTextNode(QStringLiteral("text")));
+        root.appendChild(last);
+        QCOMPARE(root.childNodes().count(), 9);
+        QCOMPARE(firstDifferenceIn(document), QString());
+    }
 }
 
 void TestXmlSerialiser::savesRandomDocumentsAsQtDoes()

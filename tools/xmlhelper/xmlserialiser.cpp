@@ -207,6 +207,7 @@ private:
         QString name;
         QDomNode next;
         bool isBeforeText;
+        bool isDocument;
     };
 
     void saveSiblings(QDomNode node, bool isAlone);
@@ -221,7 +222,6 @@ private:
     void putType(const QDomDocumentType& type);
     void putEntity(const QDomEntity& entity);
     void putNotation(const QDomNotation& notation);
-    void putEntityValue(const QString& value);
     void putIndent();
     void putLineEnd(bool isBeforeText);
     void putEscaped(const QString& text, Place place);
@@ -282,6 +282,12 @@ void Serialiser::saveSiblings(QDomNode node, bool isAlone)
 /// Gives the node to go on with, which is @p next or the first child.
 QDomNode Serialiser::saveNode(const QDomNode& node, const QDomNode& next, bool isBeforeText)
 {
+    if (node.isDocument()) { // within another: what it holds is saved in its place
+        --m_topDepth;
+        m_open.push_back({QString(), next, isBeforeText, true});
+        m_isBehindText = false;
+        return node.firstChild();
+    }
     if (!node.isElement()) {
         putLeaf(node, isBeforeText);
         m_isBehindText = node.isText();
@@ -295,7 +301,7 @@ QDomNode Serialiser::saveNode(const QDomNode& node, const QDomNode& next, bool i
     } else {
         put('>');
         putLineEnd(child.isText());
-        m_open.push_back({name, next, isBeforeText});
+        m_open.push_back({name, next, isBeforeText, false});
     }
     m_isBehindText = false;
     return child.isNull() ? next : child;
@@ -306,11 +312,15 @@ QDomNode Serialiser::closeElement()
 {
     const OpenElement element = std::move(m_open.back());
     m_open.pop_back();
-    if (!m_isBehindText) {
-        putIndent();
+    if (element.isDocument) {
+        ++m_topDepth;
+    } else {
+        if (!m_isBehindText) {
+            putIndent();
+        }
+        put(u"</", element.name, '>');
+        putLineEnd(element.isBeforeText);
     }
-    put(u"</", element.name, '>');
-    putLineEnd(element.isBeforeText);
     m_isBehindText = false;
     return element.next;
 }
@@ -336,18 +346,15 @@ void Serialiser::putLeaf(const QDomNode& node, bool isBeforeText)
     case QDomNode::AttributeNode: {
         QSet<QString> declaredPrefixes;
         putAttribute(node, node.parentNode(), declaredPrefixes);
-        break;
-    }
+    } break;
     case QDomNode::DocumentTypeNode:
         putType(node.toDocumentType());
         break;
     case QDomNode::EntityNode:
         putEntity(node.toEntity());
         break;
-    case QDomNode::NotationNode:
+    default: // a notation: there is nothing else
         putNotation(node.toNotation());
-        break;
-    default:
         break;
     }
 }
@@ -456,9 +463,7 @@ void Serialiser::putEntity(const QDomEntity& entity)
     const bool isParameter = name.startsWith(QLatin1Char('%'));
     put(u"<!ENTITY ", isParameter ? QStringView(u"% ") : QStringView(), name.mid(isParameter ? 1 : 0));
     put(' ');
-    if (entity.systemId().isNull() && entity.publicId().isNull()) {
-        putEntityValue(entity.nodeValue());
-    } else if (entity.publicId().isNull()) {
+    if (entity.publicId().isNull()) {
         put(u"SYSTEM ");
         putQuoted(entity.systemId());
     } else {
@@ -488,25 +493,6 @@ void Serialiser::putNotation(const QDomNotation& notation)
         putQuoted(notation.systemId());
     }
     put(u">\n");
-}
-
-/// Qt writes the reference of another character for a percent sign.
-void Serialiser::putEntityValue(const QString& value)
-{
-    put('"');
-    for (int i = 0; i < value.size(); ++i) {
-        const QChar character = value.at(i);
-        if (character == QLatin1Char('%')) {
-            put(u"&#60;");
-        } else if (character == QLatin1Char('"')) {
-            put(u"&#34;");
-        } else if (character == QLatin1Char('&') && i + 1 < value.size() && value.at(i + 1) == QLatin1Char('#')) {
-            put(u"&#38;");
-        } else {
-            m_pieces.Put(&character, 1);
-        }
-    }
-    put('"');
 }
 
 void Serialiser::putIndent()
