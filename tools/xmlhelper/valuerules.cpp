@@ -58,9 +58,9 @@ QString wordOf(Setter setter)
     case Setter::DateTime:
         return QStringLiteral("dateTime");
     case Setter::Time:
-        return QStringLiteral("time");
+        break;
     }
-    return QString();
+    return QStringLiteral("time");
 }
 
 QString typeTakenBy(const QString& word, const QString& type)
