@@ -14,6 +14,8 @@ class TestDomAttributes : public QObject
 private Q_SLOTS:
     void listsInTheOrderOfTheMap_data();
     void listsInTheOrderOfTheMap();
+    void listsManyThatReadBackAsOthers_data();
+    void listsManyThatReadBackAsOthers();
     void listsThoseOfAnElementWithMuchBelowIt();
     void takesATimeThatGrowsWithTheirNumber();
     void takesNoTimeForWhatIsBelow();
@@ -53,7 +55,7 @@ void TestDomAttributes::listsInTheOrderOfTheMap_data()
     QTest::newRow("many-with-a-prefix-among-them") << 600 << QStringLiteral("x:y");
     QTest::newRow("many-with-a-namespace-declaration-among-them") << 600 << QStringLiteral("xmlns");
     QTest::newRow("many-with-a-name-that-cannot-be-read-back") << 600 << QStringLiteral("not a name");
-    QTest::newRow("many-with-a-name-that-reads-back-as-others") << 600 << QStringLiteral("a='b' c");
+    QTest::newRow("many-with-a-name-that-reads-back-as-others") << 600 << QStringLiteral("a=\"b\" c");
 }
 
 void TestDomAttributes::listsInTheOrderOfTheMap()
@@ -73,6 +75,28 @@ void TestDomAttributes::listsInTheOrderOfTheMap()
     QCOMPARE(int(attributes.size()), map.count());
     for (int i = 0; i < map.count(); ++i) {
         QVERIFY(attributes[i] == map.item(i));
+    }
+}
+
+void TestDomAttributes::listsManyThatReadBackAsOthers_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::newRow("last-value-seems-a-name") << QStringLiteral(" b");
+    QTest::newRow("last-value-seems-an-attribute-that-does-not-end") << QStringLiteral(" b=");
+}
+
+void TestDomAttributes::listsManyThatReadBackAsOthers()
+{
+    QFETCH(QString, value);
+    QDomDocument document = documentOf(QStringLiteral("<r/>"));
+    QDomElement element = document.documentElement();
+    for (int i = 0; i < 501; ++i) {
+        element.setAttribute(QStringLiteral("name%1=\"").arg(i), value);
+    }
+    const DomAttributes attributes = attributesOf(element);
+    QCOMPARE(int(attributes.size()), 501);
+    for (int i = 0; i < 501; ++i) {
+        QVERIFY(attributes[i] == element.attributes().item(i));
     }
 }
 

@@ -25,6 +25,9 @@ private Q_SLOTS:
     void noticesLateWhatIsBeyondTheLimit();
     void noticesRenamedStepsAtOnceBeyondTheLimit();
     void noticesRenamedFirstsAtOnceBeyondTheLimit();
+    void seesWhatFollowsElementsTakenAway();
+    void noticesLateWhatFollowsElementsTakenAwayAtTheEnd();
+    void findsNoneFirstOfRenamedElements();
     void knowsPrefixesBeforeThePlaceOnly();
     void knowsNoPrefixInsideOfItsName();
     void forgetsARemovedPrefix();
@@ -151,6 +154,41 @@ void TestInternalsOwnerIndex::noticesRenamedFirstsAtOnceBeyondTheLimit()
     m_group.setTagName(QStringLiteral("Other"));
     rename(m_nextGroup);
     QVERIFY(isGroupFirst(m_nextGroup));
+}
+
+/// The place from which to go on was one of them.
+void TestInternalsOwnerIndex::seesWhatFollowsElementsTakenAway()
+{
+    makeIndex(NothingAtFirst);
+    QVERIFY(m_pIndex->GoTo(m_group));
+    m_document.documentElement().removeChild(m_before);
+    QVERIFY(m_pIndex->GoTo(m_group));
+    QVERIFY(m_pIndex->GoTo(m_nextGroup));
+    QVERIFY(!isGroupFirst(m_nextGroup));
+}
+
+void TestInternalsOwnerIndex::noticesLateWhatFollowsElementsTakenAwayAtTheEnd()
+{
+    const QString name = QStringLiteral("Group");
+    makeIndex(NothingAtFirst);
+    QVERIFY(m_pIndex->GoTo(m_group));
+    m_document.documentElement().removeChild(m_before);
+    for (int question = 2; question <= QuestionsToWait; ++question) {
+        m_pIndex->GoToEnd();
+        QVERIFY(!m_pIndex->IsBelowRoot(name));
+    }
+    m_pIndex->GoToEnd();
+    QVERIFY(m_pIndex->IsBelowRoot(name));
+}
+
+void TestInternalsOwnerIndex::findsNoneFirstOfRenamedElements()
+{
+    makeIndex(1000);
+    QVERIFY(isGroupFirst(m_group));
+    m_group.setTagName(QStringLiteral("Other"));
+    m_nextGroup.setTagName(QStringLiteral("Other"));
+    QVERIFY(!isGroupFirst(m_group));
+    QVERIFY(!m_pIndex->IsBelowRoot(QStringLiteral("Group")));
 }
 
 QDomElement TestInternalsOwnerIndex::prefixedGroup()
