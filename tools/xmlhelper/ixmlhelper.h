@@ -33,6 +33,23 @@ public:
         MAX_OCCURS_EXCEEDED = 16 ///< an element would occur too often, or a mandatory one was left unfilled
     };
 
+    /// Has nothing to make.
+    IXMLHelper() = default;
+    /// Has nothing to copy.
+    /// @param other  left alone
+    IXMLHelper(const IXMLHelper& other) = default;
+    /// Has nothing to move.
+    /// @param other  left alone
+    IXMLHelper(IXMLHelper&& other) = default;
+    /// Has nothing to copy.
+    /// @param other  left alone
+    /// @return this object
+    IXMLHelper& operator=(const IXMLHelper& other) = default;
+    /// Has nothing to move.
+    /// @param other  left alone
+    /// @return this object
+    IXMLHelper& operator=(IXMLHelper&& other) = default;
+
     /// Receives one event.
     ///
     /// The sender owns @p event and deletes it as soon as the call returns: keep neither the pointer nor a reference
