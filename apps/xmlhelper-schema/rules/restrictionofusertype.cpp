@@ -9,7 +9,8 @@ void restrictionOfUserType(const Schema& schema, Findings& findings)
 {
     for (const TextNode* const tag : schema.Tags({"restriction"})) {
         const QString base = tag->Value("base");
-        if (base.isEmpty() || isBuiltIn(base) || tag->parent->IsAnyOf({"simpleContent", "complexContent"})) {
+        const bool isInContent = tag->parent && tag->parent->IsAnyOf({"simpleContent", "complexContent"});
+        if (base.isEmpty() || isBuiltIn(base) || isInContent) {
             continue;
         }
         const QString effect = settersOfElement(base)

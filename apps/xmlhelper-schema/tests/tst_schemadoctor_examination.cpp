@@ -13,6 +13,7 @@
 
 #include "examine.h"
 #include "fill/dryrun.h"
+#include "mend/mend.h"
 #include "reading/doctorlimits.h"
 #include "reading/treebuilder.h"
 #include "render/jsonrendering.h"
@@ -27,6 +28,14 @@ namespace {
 const char Head[] = "<?xml version='1.0' encoding='UTF-8'?>\n<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>\n";
 
 const char Optional[] = "minOccurs='0'";
+
+const char* const AllTags[]
+    = {"all",       "annotation",     "any",          "anyAttribute",  "appinfo",     "attribute",    "attributeGroup",
+       "choice",    "complexContent", "complexType",  "documentation", "element",     "enumeration",  "extension",
+       "field",     "fractionDigits", "group",        "import",        "include",     "key",          "keyref",
+       "length",    "list",           "maxExclusive", "maxInclusive",  "maxLength",   "minExclusive", "minInclusive",
+       "minLength", "notation",       "pattern",      "redefine",      "restriction", "schema",       "selector",
+       "sequence",  "simpleContent",  "simpleType",   "totalDigits",   "union",       "unique",       "whiteSpace"};
 
 QByteArray value(const QByteArray& name, const QByteArray& occurs = QByteArray())
 {
@@ -217,6 +226,8 @@ class TestSchemaDoctorExamination : public QObject
 private Q_SLOTS:
     void namesTheSettersThatTheBuilderTakes_data();
     void namesTheSettersThatTheBuilderTakes();
+    void readsAnyTagAtTheTop_data();
+    void readsAnyTagAtTheTop();
     void tellsOfAnElement();
     void tellsOfAnAttribute();
     void hasNoAttributeThatIsOnlyCalledLikeAnAnnotation();
@@ -311,6 +322,31 @@ void TestSchemaDoctorExamination::namesTheSettersThatTheBuilderTakes()
         SetterProbe probe(setter);
         const bool isTaken = probe.IsTaken(file, m_folder.filePath(QStringLiteral("report.xml")));
         QVERIFY2(settersOfElement(type).testFlag(setter) == isTaken, qPrintable(QString::number(int(setter))));
+    }
+}
+
+void TestSchemaDoctorExamination::readsAnyTagAtTheTop_data()
+{
+    QTest::addColumn<QByteArray>("tag");
+    for (const char* const tag : AllTags) {
+        QTest::newRow(tag) << QByteArray(tag);
+    }
+}
+
+/// A file may begin with any tag: doctor and mender have an answer to it, and to any that stands in it.
+void TestSchemaDoctorExamination::readsAnyTagAtTheTop()
+{
+    QFETCH(QByteArray, tag);
+    const QByteArray attributes = " name='n' type='t' base='b' ref='r' value='v'";
+    for (const char* const inner : AllTags) {
+        const QString name = m_folder.filePath(QStringLiteral("top.xsd"));
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("<xs:" + tag + " xmlns:xs='http://www.w3.org/2001/XMLSchema'" + attributes + "><xs:" + inner
+                   + attributes + "/></xs:" + tag + ">");
+        file.close();
+        const Mending mending = mend(name); // It asks the doctor first.
+        QVERIFY2(mending.refusal.isEmpty() != mending.text.isEmpty(), inner);
     }
 }
 
