@@ -8,7 +8,9 @@
 namespace schemadoctor {
 
 enum class RewriteEffect {
-    StaysValid, ///< what the rewritten place allows, the original allows too
+    /// What is filled by the rewritten place, the original allows too. It may allow numbers that no setter gives: the
+    /// library reads no bound beyond 32 bits.
+    StaysValid,
     ChangesFormat, ///< it allows reports that the original does not
 };
 

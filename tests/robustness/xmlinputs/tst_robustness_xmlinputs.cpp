@@ -266,7 +266,7 @@ void TestRobustnessXmlInputs::takesAnythingButARegularFileForMissing_data()
     QTest::addColumn<QString>("name");
     QTest::newRow("folder") << QStringLiteral(".");
     QTest::newRow("name-too-long-for-any-file") << QString(100000, QLatin1Char('x'));
-    // More than the 32,767 characters that Windows takes, and not much more: it shortens such a path in a time that
+    // More than the 32,767 characters that Windows takes, and not much more: wine shortens such a path in a time that
     // grows with the square of its length.
     QTest::newRow("path-too-long-for-any-file") << QStringLiteral("../").repeated(11000) + QStringLiteral("x");
     QTest::newRow("name-with-a-nul") << QStringLiteral("next.xml") + QChar(0) + QStringLiteral("x");
