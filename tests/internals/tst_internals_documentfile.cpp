@@ -1,10 +1,13 @@
 #include <QtTest>
 
+#include <cerrno>
+#include <cstring>
 #include <memory>
 
 #include <QDir>
 #include <QDomDocument>
 #include <QFile>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTextStream>
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
@@ -49,6 +52,10 @@ private Q_SLOTS:
     void tellsOfAFileThatCannotBeOpened_data();
     void tellsOfAFileThatCannotBeOpened();
     void tellsOfAFullDevice();
+    void tellsWhyNothingWasWritten_data();
+    void tellsWhyNothingWasWritten();
+    void tellsWhatWasWritten_data();
+    void tellsWhatWasWritten();
     void opensAPipeOnlyForAReader();
     void keepsNoHalfOfAFile_data();
     void keepsNoHalfOfAFile();
@@ -259,6 +266,81 @@ void TestDocumentFile::tellsOfAFullDevice()
     QVERIFY(!saveDocument(documentOf(QStringLiteral("<r/>")), path("full.xml")));
 }
 
+void TestDocumentFile::tellsWhyNothingWasWritten_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("limit");
+    QTest::addColumn<QString>("reason");
+    QTest::addColumn<bool>("isTooLong");
+#ifdef Q_OS_UNIX
+    constexpr int noLimit = 1000000;
+    QTest::newRow("name-in-no-folder") << QStringLiteral("none/saved.xml") << noLimit
+                                       << QString::fromLocal8Bit(strerror(ENOENT)) << false;
+    QTest::newRow("name-of-a-folder") << QStringLiteral("inner") << noLimit << QString::fromLocal8Bit(strerror(EISDIR))
+                                      << false;
+    QTest::newRow("name-that-is-too-long")
+        << QString(300, QLatin1Char('n')) << noLimit << QString::fromLocal8Bit(strerror(ENAMETOOLONG)) << false;
+    QTest::newRow("pipe-without-a-reader")
+        << QStringLiteral("pipe") << noLimit << QStringLiteral("Nobody reads the pipe") << false;
+    QTest::newRow("beyond-the-limit-in-a-pipe")
+        << QStringLiteral("read-pipe") << 4 << QStringLiteral("It would be longer than 4 bytes") << true;
+#endif
+    QTest::newRow("beyond-the-limit") << QStringLiteral("saved.xml") << 4
+                                      << QStringLiteral("It would be longer than 4 bytes") << true;
+}
+
+void TestDocumentFile::tellsWhyNothingWasWritten()
+{
+    QFETCH(QString, name);
+    QFETCH(int, limit);
+    QFETCH(bool, isTooLong);
+#ifdef Q_OS_UNIX
+    QCOMPARE(mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
+    QCOMPARE(mkfifo(QFile::encodeName(path("read-pipe")).constData(), 0600), 0);
+    const int reader = ::open(QFile::encodeName(path("read-pipe")).constData(), O_RDONLY | O_NONBLOCK);
+    const auto close = qScopeGuard([reader] { ::close(reader); });
+#endif
+    Limits limits;
+    limits.savedBytes = limit;
+    const LimitsInForce inForce(limits);
+    SavedFile saved;
+    QVERIFY(!saveDocument(documentOf(QStringLiteral("<r/>")), m_folder->filePath(name), &saved));
+    QTEST(saved.reason, "reason");
+    QCOMPARE(saved.isTooLong, isTooLong);
+    QCOMPARE(saved.name, m_folder->filePath(name));
+}
+
+void TestDocumentFile::tellsWhatWasWritten_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("opened");
+    QTest::newRow("new-file") << QStringLiteral("saved.xml") << QStringLiteral("saved.xml");
+    QTest::newRow("old-file") << QStringLiteral("earlier.xml") << QStringLiteral("earlier.xml");
+#ifdef Q_OS_UNIX
+    QTest::newRow("back-slashes") << QStringLiteral("inner\\saved.xml") << QStringLiteral("inner/saved.xml");
+    QTest::newRow("pipe") << QStringLiteral("pipe") << QStringLiteral("pipe");
+#endif
+}
+
+void TestDocumentFile::tellsWhatWasWritten()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, opened);
+    write(path("earlier.xml"), "earlier and longer");
+#ifdef Q_OS_UNIX
+    QCOMPARE(mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
+    const int reader = ::open(QFile::encodeName(path("pipe")).constData(), O_RDONLY | O_NONBLOCK);
+    const auto close = qScopeGuard([reader] { ::close(reader); });
+#endif
+    const QDomDocument document = documentOf(QStringLiteral("<r>\u00e4</r>"));
+    SavedFile saved;
+    QVERIFY(saveDocument(document, m_folder->filePath(name), &saved));
+    QCOMPARE(saved.name, m_folder->filePath(opened));
+    QCOMPARE(saved.size, qint64(sizeof "<r>\xc3\xa4</r>\n" - 1));
+    QCOMPARE(savedBytesOf(document), QByteArray("<r>\xc3\xa4</r>\n"));
+    QVERIFY(!saved.isTooLong);
+}
+
 void TestDocumentFile::opensAPipeOnlyForAReader()
 {
 #ifdef Q_OS_UNIX
@@ -301,7 +383,9 @@ void TestDocumentFile::keepsNoHalfOfAFile()
     const TraceCollector traces;
     {
         const FileSizeLimit limit(4096);
-        QVERIFY(!saveDocument(document, path("saved.xml")));
+        SavedFile saved;
+        QVERIFY(!saveDocument(document, path("saved.xml"), &saved));
+        QCOMPARE(saved.reason, QString::fromLocal8Bit(strerror(EFBIG)));
     }
     QCOMPARE(traces.Messages(),
              QStringLiteral("Only a part could be written of %1, it was discarded!").arg(path("saved.xml")));

@@ -14,6 +14,7 @@
 #include <arbase/vornos.h>
 
 #include "documentfile_p.h"
+#include "filesaving_p.h"
 #include "takeapart_p.h"
 #include "xmltext_p.h"
 
@@ -81,6 +82,11 @@ void CommentDialogImpl::SetFileName(QString fileName)
     m_sFileName = fileName;
 }
 
+void CommentDialogImpl::SetTeller(const ReportTeller& teller)
+{
+    m_teller = teller;
+}
+
 void CommentDialogImpl::ShowReportSummary()
 {
     if (m_bGivenBack) {
@@ -125,8 +131,7 @@ void CommentDialogImpl::SlotSaveWithComment()
     if (!comment.isEmpty()) {
         appendComment(comment);
     }
-    WriteReportFile();
-    hide();
+    writeAndHide();
 }
 
 void CommentDialogImpl::SlotSaveWithoutComment()
@@ -135,8 +140,7 @@ void CommentDialogImpl::SlotSaveWithoutComment()
         return;
     }
     removeComment();
-    WriteReportFile();
-    hide();
+    writeAndHide();
 }
 
 void CommentDialogImpl::closeEvent(QCloseEvent* event)
@@ -246,10 +250,23 @@ void CommentDialogImpl::removeComment()
     m_comment = QDomElement();
 }
 
+/// Who hears what became of the file may delete the dialog.
 void CommentDialogImpl::WriteReportFile()
 {
-    if (m_pDocument && saveDocument(*m_pDocument, m_sFileName)) {
-        m_bSaved = true;
+    if (m_pDocument) {
+        SavedFile file;
+        const bool isWritten = saveDocument(*m_pDocument, m_sFileName, &file);
+        m_bSaved = m_bSaved || isWritten;
+        m_teller.TellFile(isWritten, file, *m_pDocument);
+    }
+}
+
+void CommentDialogImpl::writeAndHide()
+{
+    const QPointer<CommentDialogImpl> self(this);
+    WriteReportFile();
+    if (self) {
+        hide();
     }
 }
 

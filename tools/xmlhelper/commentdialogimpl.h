@@ -8,6 +8,7 @@
 #include <QDomDocument>
 #include <QString>
 
+#include "reportteller_p.h"
 #include "ui_commentdialog.h"
 
 /// Shows the summary of a finished measurement report, takes the operator's comment and writes the report's file.
@@ -19,14 +20,14 @@
 ///
 /// The keyboard does everything: the focus starts in the comment, Tab goes on to "Save" and "No Comment", Ctrl+Enter
 /// saves. A screen reader reads each value with its caption. When the application changes its language, an open dialog
-/// changes with it.
+/// changes with it. It grows where its texts need that, never beyond the screen.
 ///
 /// The dialog belongs to the builder and is hidden, not destroyed, when it has been answered. Once its file is written
 /// too, it gives back its window, all that is in it and its document, if that is its own, as soon as the event loop
 /// runs again: what is left writes and shows nothing any more. Until then another answer replaces the earlier one. A
-/// document that is not its own belongs to whoever made it and must outlive the dialog. A file that cannot be written
-/// is not reported; the next answer tries again. Characters of the comment that W3C XML cannot carry are dropped, which
-/// is traced; when nothing is left, there is no comment.
+/// document that is not its own belongs to whoever made it and must outlive the dialog. Only ReportNews tells of a file
+/// that cannot be written, and whoever hears of a file may delete the dialog; the next answer tries again. Characters
+/// of the comment that W3C XML cannot carry are dropped, which is traced; when nothing is left, there is no comment.
 class CommentDialogImpl : public QDialog, public Ui::CommentDialog
 {
     Q_OBJECT
@@ -41,6 +42,8 @@ public:
     void OwnDocument(std::unique_ptr<QDomDocument> document);
     /// The full path of the file to write.
     void SetFileName(QString fileName);
+    /// Who tells what becomes of the file; without, nobody does.
+    void SetTeller(const ReportTeller& teller);
     /// Fills the labels from the document and the clock and shows the dialog.
     void ShowReportSummary();
 
@@ -69,6 +72,7 @@ private:
     void appendComment(const QString& comment);
     void removeComment();
     void WriteReportFile();
+    void writeAndHide();
     void giveBack();
     QDomElement firstElement(const QString& name) const;
     QDomElement firstElement(const QString& name, const QString& alternativeName) const;
@@ -82,6 +86,7 @@ private:
     QDomElement m_comment; ///< what an answer put into the document; null when there is none
     std::unique_ptr<QDomDocument> m_pOwnDocument; ///< null while the document is somebody else's
     bool m_bGivenBack; ///< the widgets have gone
+    ReportTeller m_teller;
 };
 
 #endif

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDirIterator>
 #include <QFile>
@@ -52,7 +53,7 @@ public:
     Counter() { setOpenMode(WriteOnly | Unbuffered); }
 
 private:
-    qint64 readData(char*, qint64) override { return -1; }
+    qint64 readData(char*, qint64) override { return -1; } // unreached: it is open for writing only
     qint64 writeData(const char*, qint64 size) override { return size; }
 };
 
@@ -99,16 +100,46 @@ private:
     decltype(nativeName(QString())) m_name;
 };
 
-/// Writes to @p file and closes it, since some file systems tell only then that they could not write. Traces that for
-/// the file called @p fileName.
-bool writeAndClose(const WriteContent& write, QFile& file, const QString& fileName)
+/// Whether what was to be written is beyond the limit, which is the reason then. Who refused to write it has traced it.
+bool isTooLong(SavedFile& saved)
+{
+    saved.isTooLong = saved.size > limits().savedBytes;
+    if (saved.isTooLong) {
+        saved.reason
+            = QCoreApplication::translate("FileSaving", "It would be longer than %1 bytes").arg(limits().savedBytes);
+    }
+    return saved.isTooLong;
+}
+
+/// Why @p file has not taken all. Where a part was taken the system tells with the next byte, which nobody reads if the
+/// file is discarded.
+QString faultOf(QFile& file, bool isDiscarded)
+{
+    const QString fault = file.errorString();
+    if (!isDiscarded) {
+        return fault;
+    }
+    file.unsetError();
+    const bool isFlushed = file.putChar(' ') && file.flush();
+    return isFlushed ? fault : file.errorString();
+}
+
+/// Writes to @p file and closes it, since some file systems tell only then that they could not write. Traces that.
+/// @param isDiscarded  whether what was written in part goes away with the file
+bool writeAndClose(const WriteContent& write, QFile& file, SavedFile& saved, bool isDiscarded = true)
 {
     const bool isTaken = write(file);
-    const bool isTooLong = file.pos() > limits().savedBytes; // Who refused to write that has traced it.
+    saved.size = file.pos();
+    if (!isTaken && !isTooLong(saved)) {
+        saved.reason = faultOf(file, isDiscarded);
+    }
     file.close();
     const bool isWritten = isTaken && file.error() == QFile::NoError;
-    if (!isWritten && !isTooLong) {
-        trace(QStringLiteral("Only a part could be written of %1, it was discarded!").arg(fileName), "filesaving",
+    if (isTaken && !isWritten) {
+        saved.reason = file.errorString();
+    }
+    if (!isWritten && !saved.isTooLong) {
+        trace(QStringLiteral("Only a part could be written of %1, it was discarded!").arg(saved.name), "filesaving",
               __LINE__);
     }
     return isWritten;
@@ -157,18 +188,38 @@ std::optional<int> descriptorOf(const QString& fileName)
     return std::nullopt;
 }
 
-/// What is open already is written on where it is: what others have written there, or write behind it, stays.
-bool saveInPlace(const WriteContent& write, const QString& fileName)
+/// Opens @p file when all that it shall hold may be written. Tells how much that is. What is open already is written on
+/// where it is: what others have written there, or write behind it, stays.
+bool openInPlace(const WriteContent& write, QFile& file, std::optional<int> descriptor, SavedFile& saved)
 {
-    Counter counter; // What was there is lost with opening, so content that is too long must be known before.
-    QFile file(fileName);
-    const std::optional<int> descriptor = descriptorOf(fileName);
-    if (isPipeWithoutReader(fileName) || !write(counter)
-        || !(descriptor ? file.open(*descriptor, QIODevice::WriteOnly) : file.open(QIODevice::WriteOnly))) {
+    if (isPipeWithoutReader(saved.name)) {
+        saved.reason = QCoreApplication::translate("FileSaving", "Nobody reads the pipe");
         return false;
     }
-    const bool isWritten = writeAndClose(write, file, fileName);
-    if (!isWritten && !descriptor) {
+    Counter counter; // What was there is lost with opening, so content that is too long must be known before.
+    const bool isTaken = write(counter);
+    saved.size = counter.pos();
+    if (!isTaken) {
+        isTooLong(saved);
+        return false;
+    }
+    const bool isOpen = descriptor ? file.open(*descriptor, QIODevice::WriteOnly) : file.open(QIODevice::WriteOnly);
+    saved.reason = isOpen ? QString() : file.errorString();
+    return isOpen;
+}
+
+bool saveInPlace(const WriteContent& write, SavedFile& saved)
+{
+    QFile file(saved.name);
+    const std::optional<int> descriptor = descriptorOf(saved.name);
+    if (!openInPlace(write, file, descriptor, saved)) {
+        return false;
+    }
+    const qint64 size = saved.size;
+    const bool isWritten = writeAndClose(write, file, saved, !descriptor && !file.isSequential());
+    if (isWritten) {
+        saved.size = size; // A pipe does not tell.
+    } else if (!descriptor) {
         discard(file);
     }
     return isWritten;
@@ -214,13 +265,19 @@ bool takeAccess(const QFile& file, const QFileInfo& target)
 }
 
 /// Renames a file to the name of another, which is there no more then. QFile::rename() would not.
-bool replace(const QString& target, const QString& file)
+bool replace(const QString& target, const QString& file, SavedFile& saved)
 {
+    const auto from = nativeName(file);
+    const auto to = nativeName(target);
 #ifdef Q_OS_UNIX
-    return std::rename(nativeName(file).c_str(), nativeName(target).c_str()) == 0;
+    const bool isReplaced = std::rename(from.c_str(), to.c_str()) == 0;
 #else
-    return MoveFileExW(nativeName(file).c_str(), nativeName(target).c_str(), MOVEFILE_REPLACE_EXISTING);
+    const bool isReplaced = MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING);
 #endif
+    if (!isReplaced) {
+        saved.reason = qt_error_string();
+    }
+    return isReplaced;
 }
 
 /// Removes what processes that ended while they saved have left in @p folder, so that it does not pile up. Looks once
@@ -267,27 +324,30 @@ QString openableFileName(const QString& fileName)
 #endif
 }
 
-bool saveFile(const QString& fileName, const WriteContent& write)
+bool saveFile(const QString& fileName, const WriteContent& write, SavedFile* saved)
 {
-    const QString name = openableFileName(fileName);
-    const QFileInfo target = targetOf(name);
+    SavedFile unasked;
+    SavedFile& told = saved ? *saved : unasked;
+    told.name = openableFileName(fileName);
+    const QFileInfo target = targetOf(told.name);
     const QString temporaryName = temporaryNameBeside(target);
-    if (!isReplaceable(target) || descriptorOf(name) || QFile::encodeName(temporaryName).size() >= MaxPath) {
-        return saveInPlace(write, name);
+    if (!isReplaceable(target) || descriptorOf(told.name) || QFile::encodeName(temporaryName).size() >= MaxPath) {
+        return saveInPlace(write, told);
     }
     removeStrays(target.absolutePath());
     Remover remover(temporaryName); // behind the closing; renamed, the file is there no more
     QFile file(temporaryName);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
         remover.Release();
-        return IsTriedInPlace && saveInPlace(write, name);
+        told.reason = file.errorString();
+        return IsTriedInPlace && saveInPlace(write, told);
     }
     if (!takeAccess(file, target)) {
-        return saveInPlace(write, name);
+        return saveInPlace(write, told);
     }
-    const bool isWritten = writeAndClose(write, file, name);
-    if (isWritten && replace(target.filePath(), temporaryName)) {
+    const bool isWritten = writeAndClose(write, file, told);
+    if (isWritten && replace(target.filePath(), temporaryName, told)) {
         return true;
     }
-    return isWritten && IsTriedInPlace && saveInPlace(write, name);
+    return isWritten && IsTriedInPlace && saveInPlace(write, told);
 }

@@ -17,6 +17,15 @@ QString openableFileName(const QString& fileName);
 /// where what was there is lost with opening. Gives whether everything was taken.
 using WriteContent = std::function<bool(QIODevice& device)>;
 
+/// What became of a file, for who tells it on.
+struct SavedFile
+{
+    QString name; ///< as it was opened
+    qint64 size = 0; ///< of all that was written
+    QString reason; ///< why it could not be written, in the operating system's words where these are, without a stop
+    bool isTooLong = false; ///< that is the reason
+};
+
 /// Writes the file called @p fileName. Gives whether everything was written; a file that cannot be opened, and a pipe
 /// that nobody reads, are left alone.
 ///
@@ -29,6 +38,8 @@ using WriteContent = std::function<bool(QIODevice& device)>;
 /// A device, a pipe, and a file in a folder that takes no new ones, beside which no temporary name has room or whose
 /// owner cannot be kept, are written in place. A file there of which only a part could be written is removed or, behind
 /// a link, emptied. A file that this process has open, under a name such as /dev/stdout, is written on where it is.
-bool saveFile(const QString& fileName, const WriteContent& write);
+///
+/// @param saved  takes what became of the file, if it is given
+bool saveFile(const QString& fileName, const WriteContent& write, SavedFile* saved = nullptr);
 
 #endif

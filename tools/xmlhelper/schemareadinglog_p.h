@@ -4,6 +4,7 @@
 #include <QString>
 
 class QDomElement;
+class QXmlAttributes;
 
 /// A start tag in the files of a schema.
 struct SchemaTag
@@ -16,7 +17,7 @@ struct SchemaTag
 ///
 /// XmlSchemaHandler::SetLog() hands it to the handler of the top file, which shares it with those of included files.
 /// For each file comes FileBegun(), then its tags, then whatever the end of the document brings, then FileEnded(). What
-/// the skeleton holds is told at the very end. Every function does nothing by default.
+/// the skeleton holds is told at the very end, to those who ask for it. Every function does nothing by default.
 class SchemaReadingLog
 {
 public:
@@ -29,6 +30,10 @@ public:
 
     SchemaReadingLog() = default;
     virtual ~SchemaReadingLog() = default;
+
+    /// Whether it hears of elements and attributes that are laid out. To know where they come from, each carries a mark
+    /// until the schema has been read.
+    virtual bool HearsLayout() const { return true; }
 
     /// @param written  the name as the schema, or for the top file the caller, gives it
     /// @param opened   the name by which the file is opened
@@ -53,6 +58,12 @@ public:
     /// Comes before anything that the tag brings about.
     /// @param line  where the parser stands, which is behind the tag's end
     virtual void TagBegun(const SchemaTag& /*tag*/, const QString& /*name*/, int /*line*/) { }
+    /// The attributes of the tag that was told last, apart from declarations of namespaces.
+    virtual void AttributesRead(const QXmlAttributes& /*attributes*/) { }
+    /// A piece of the text that the tag begun last, and not ended yet, holds itself.
+    virtual void TextRead(const QString& /*text*/) { }
+    /// The tag begun last, and not ended yet, ends. Those of a malformed file may never end.
+    virtual void TagEnded() { }
     /// The tag is none of the constructs that the library reads.
     virtual void TagPassedOver(const SchemaTag& /*tag*/) { }
     /// The tag becomes an annotation called @p name.

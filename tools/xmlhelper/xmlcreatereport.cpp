@@ -23,6 +23,8 @@
 #include "limits_p.h"
 #include "numberconversion_p.h"
 #include "rangecheck_p.h"
+#include "reportteller_p.h"
+#include "schemafault_p.h"
 #include "skeletonwords_p.h"
 #include "takeapart_p.h"
 #include "tracing_p.h"
@@ -105,6 +107,11 @@ int stepsToAnnounce(const QDomElement& element)
     return stepsOfCall + stepsOfAttribute * element.attributes().count() + levelOf(element);
 }
 
+QString withSlashes(QString path)
+{
+    return path.replace(QLatin1Char('\\'), QLatin1Char('/'));
+}
+
 } // namespace
 
 XmlCreateReport::XmlCreateReport(IXMLHelper* pCallback)
@@ -141,24 +148,15 @@ XmlCreateReport::~XmlCreateReport()
 
 bool XmlCreateReport::CreateXmlFromSchema(QString schemaPath, QString reportPath, bool showCommentDialog)
 {
-    if (!m_pCallback || m_pSchemaHandler) {
-        return false;
-    }
-    QString normalisedPath = schemaPath;
-    normalisedPath.replace(QLatin1Char('\\'), QLatin1Char('/'));
-
-    // Whatever has been read of a schema is still walked, stamped and written.
-    m_pSchemaHandler = new XmlSchemaHandler(m_pCallback, normalisedPath);
-    const bool isSchemaRead = readSchema(schemaPath);
-    createWalkers();
-    m_pDomParser->Walk();
-    stampSchemaLocation(normalisedPath);
-    if (showCommentDialog) {
-        showComment(reportPath);
-    } else {
-        saveDocument(*m_pDocument, reportPath);
-    }
-    return isSchemaRead;
+    return makeReport(schemaPath, reportPath, [&](const ReportTeller& teller) {
+        if (showCommentDialog) {
+            showComment(reportPath, teller);
+        } else {
+            SavedFile file;
+            const bool isWritten = saveDocument(*m_pDocument, reportPath, &file);
+            teller.TellFile(isWritten, file, *m_pDocument);
+        }
+    });
 }
 
 void XmlCreateReport::SetXmlValue(QString value)
@@ -368,6 +366,52 @@ bool XmlCreateReport::CheckOccursMap(QString name, QString tagName, int count, Q
     return m_pDomParser->IsCountDeclared(name, tagName, count, *element);
 }
 
+/// Makes a report whose document @p end takes in the end. That may destroy the builder, by what it tells.
+template <class End>
+bool XmlCreateReport::makeReport(const QString& schemaPath, const QString& reportPath, const End& end)
+{
+    if (!m_pCallback || m_pSchemaHandler) {
+        return false;
+    }
+    createSchemaHandler(schemaPath); // Whoever is told of the report may ask the builder for a second one.
+    // Whatever has been read of a schema is still walked, stamped and written.
+    const ReportTeller teller(reportPath, schemaPath);
+    SchemaFault fault;
+    const bool isSchemaRead = layOut(schemaPath, teller.IsSchemaAsked() ? &fault : nullptr);
+    teller.TellSchema(isSchemaRead, isSchemaRead ? QString() : fault.GetReason());
+    m_pDomParser->Walk();
+    stampSchemaLocation(withSlashes(schemaPath));
+    end(teller);
+    return isSchemaRead;
+}
+
+/// Makes a report for who writes it first as @p writtenPath and then puts it in its place, which counts.
+bool XmlCreateReport::makeReportAside(const QString& schemaPath, const QString& reportPath, const QString& writtenPath,
+                                      const PutReport& put)
+{
+    return makeReport(schemaPath, reportPath, [&](const ReportTeller& teller) {
+        SavedFile file;
+        const bool isPut = saveDocument(*m_pDocument, writtenPath, &file) && put(file);
+        teller.TellFile(isPut, file, *m_pDocument);
+    });
+}
+
+/// From then on no report is begun.
+void XmlCreateReport::createSchemaHandler(const QString& schemaPath)
+{
+    m_pSchemaHandler = new XmlSchemaHandler(m_pCallback, withSlashes(schemaPath));
+}
+
+/// Makes the skeleton and what answers questions about it, and lets @p log, if there is one, hear of the schema.
+bool XmlCreateReport::layOut(const QString& schemaPath, SchemaReadingLog* log)
+{
+    m_pSchemaHandler->SetLog(log);
+    const bool isRead = readSchema(schemaPath);
+    m_pSchemaHandler->SetLog(nullptr);
+    createWalkers();
+    return isRead;
+}
+
 bool XmlCreateReport::readSchema(const QString& schemaPath)
 {
     m_pSchemaReader = new QXmlSimpleReader;
@@ -401,14 +445,16 @@ void XmlCreateReport::stampSchemaLocation(const QString& schemaPath)
     root.setAttribute(QStringLiteral("xmlns:xsi"), SchemaInstanceNamespace);
 }
 
-void XmlCreateReport::showComment(const QString& reportPath)
+void XmlCreateReport::showComment(const QString& reportPath, const ReportTeller& teller)
 {
     auto* const dialog = new CommentDialogImpl;
     m_dialogDocuments.push_back(new QDomDocument(*m_pDocument));
     dialog->SetDocument(m_dialogDocuments.back());
     dialog->SetFileName(reportPath);
+    dialog->SetTeller(teller);
     dialog->ShowReportSummary();
     m_commentDialogs.push_back(dialog);
+    teller.TellComment(dialog);
 }
 
 /// Takes the element that the walk stands on. Gives false when there is none.
@@ -560,10 +606,12 @@ void XmlCreateReport::releaseReport()
     }
     m_pDocument = nullptr;
     delete std::exchange(m_pSchemaHandler, nullptr);
-    for (CommentDialogImpl* const dialog : m_commentDialogs) {
+    for (const QPointer<CommentDialogImpl>& dialog : m_commentDialogs) {
         std::unique_ptr<QDomDocument> document(m_dialogDocuments.front());
         m_dialogDocuments.pop_front();
-        dialog->OwnDocument(std::move(document));
+        if (dialog) {
+            dialog->OwnDocument(std::move(document));
+        }
     }
     qDeleteAll(std::exchange(m_dialogDocuments, {}));
 }

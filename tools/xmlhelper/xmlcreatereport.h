@@ -1,8 +1,10 @@
 #ifndef XMLHELPER_XMLCREATEREPORT_H
 #define XMLHELPER_XMLCREATEREPORT_H
 
+#include <functional>
 #include <list>
 
+#include <QPointer>
 #include <QString>
 
 #include <xmlhelper/ixmlhelper.h>
@@ -16,6 +18,9 @@ class QDomDocument;
 class QDomElement;
 class QTime;
 class QXmlSimpleReader;
+class ReportTeller;
+class SchemaReadingLog;
+struct SavedFile;
 class XMLReader;
 class XmlContentHandler;
 class XmlSchemaHandler;
@@ -78,8 +83,8 @@ public:
     /// @param showCommentDialog  false: write the file now. true: show the comment dialog, without blocking, which
     ///                           writes the file when the operator answers it
     /// @return whether the schema was read. After a failure the file is written all the same with what there is, and
-    ///         false is returned. Also false, with nothing done, on the second call. A file that cannot be written is
-    ///         not reported.
+    ///         false is returned. Also false, with nothing done, on the second call. Only ReportNews tells of a file
+    ///         that cannot be written.
     bool CreateXmlFromSchema(QString schemaPath, QString reportPath, bool showCommentDialog);
 
     /// Sets the text of the current element, and tells the walk that the element has been dealt with.
@@ -193,7 +198,7 @@ public:
 
 private:
     friend class ReportAnswerer; // gives back what a report that is over holds
-    friend class ReportFiller; // the same, and asks which counts and choices the schema has
+    friend class ReportFiller; // the same, writes or only lays out, and asks which counts and choices the schema has
 
     /// The error events under way. A copy of a builder that is being answered has none itself.
     struct ErrorNesting
@@ -214,10 +219,17 @@ private:
     void Error(int id);
     bool CheckOccursMap(QString name, QString tagName, int count, QDomElement* element);
 
+    using PutReport = std::function<bool(SavedFile& file)>;
+
+    template <class End> bool makeReport(const QString& schemaPath, const QString& reportPath, const End& end);
+    bool makeReportAside(const QString& schemaPath, const QString& reportPath, const QString& writtenPath,
+                         const PutReport& put);
+    void createSchemaHandler(const QString& schemaPath);
+    bool layOut(const QString& schemaPath, SchemaReadingLog* log);
     bool readSchema(const QString& schemaPath);
     void createWalkers();
     void stampSchemaLocation(const QString& schemaPath);
-    void showComment(const QString& reportPath);
+    void showComment(const QString& reportPath, const ReportTeller& teller);
     void releaseReport();
 
     bool isErrorSent();
@@ -246,7 +258,7 @@ private:
     OccursMap m_occurs; ///< the DOM parser's from the walk on
     TypeDefinitionMap m_typeDefinitions;
     ChoiceMap m_choices;
-    std::list<CommentDialogImpl*> m_commentDialogs; ///< owned
+    std::list<QPointer<CommentDialogImpl>> m_commentDialogs; ///< owned; null: who was told of it has deleted it
 
     std::list<QDomDocument*> m_dialogDocuments; ///< owned, one for each dialog
     int m_iElements; ///< laid out by the schema and made by copying

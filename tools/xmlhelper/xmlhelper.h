@@ -10,6 +10,7 @@
 #include <xmlhelper/errorevent.h>
 #include <xmlhelper/ixmlhelper.h>
 #include <xmlhelper/reportdata.h>
+#include <xmlhelper/reportnews.h>
 #include <xmlhelper/schemamodel.h>
 #include <xmlhelper/vcreporting.h>
 #include <xmlhelper/xmlcreatereport.h>

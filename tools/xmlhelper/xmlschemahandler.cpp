@@ -75,6 +75,7 @@ struct SchemaReading
 
     // For the listener.
     SchemaReadingLog* log = nullptr; ///< null: nobody listens, and nothing below is filled; not owned
+    bool isMarked = false; ///< what is laid out, with where it comes from
     int files = 0; ///< that have been begun
     std::set<QString> begunFiles; ///< one name for each
     std::map<const QDomElement*, SchemaTag> referringTags; ///< by the owner elements of the records
@@ -244,6 +245,7 @@ XmlSchemaHandler::~XmlSchemaHandler() = default;
 void XmlSchemaHandler::SetLog(SchemaReadingLog* log)
 {
     m_pLog = m_pReading->log = log;
+    m_pReading->isMarked = log && log->HearsLayout();
     m_pReading->budget.SetLog(log);
 }
 
@@ -284,9 +286,9 @@ bool XmlSchemaHandler::ReadFile(const QString& fileName, QXmlSimpleReader& parse
     const bool isParsed = parse(bytes, parser);
     if (m_pLog) {
         m_pLog->FileEnded(m_tag.file);
-        if (isTop) {
-            takeOffAllOrigins();
-        }
+    }
+    if (isTop && m_pReading->isMarked) {
+        takeOffAllOrigins();
     }
     return isParsed;
 }
@@ -356,6 +358,7 @@ bool XmlSchemaHandler::startElement(const QString&, const QString&, const QStrin
     ++m_tag.number;
     if (m_pLog) {
         m_pLog->TagBegun(m_tag, qName, m_pLocator ? m_pLocator->lineNumber() : 0);
+        m_pLog->AttributesRead(m_attributes);
     }
     if (!m_pReading->budget.CheckTag(++m_iNesting)) {
         return false;
@@ -371,6 +374,9 @@ bool XmlSchemaHandler::startElement(const QString&, const QString&, const QStrin
 bool XmlSchemaHandler::endElement(const QString&, const QString&, const QString& qName)
 {
     --m_iNesting;
+    if (m_pLog && m_pCallback) {
+        m_pLog->TagEnded();
+    }
     if (isTypeTag(qName) && m_iDefinitionDepth > 0) {
         endType();
     } else if (isDeclarationTag(qName) && m_iDefinitionDepth == 0) {
@@ -387,8 +393,11 @@ bool XmlSchemaHandler::endElement(const QString&, const QString&, const QString&
     return true;
 }
 
-bool XmlSchemaHandler::characters(const QString&)
+bool XmlSchemaHandler::characters(const QString& ch)
 {
+    if (m_pLog && m_pCallback) {
+        m_pLog->TextRead(ch);
+    }
     return true;
 }
 
@@ -412,7 +421,7 @@ template <typename Element>
 void XmlSchemaHandler::annotate(Element&& element, const QString& name, const QString& value,
                                 SchemaReadingLog::AttributeKind kind) const
 {
-    if (m_pLog) {
+    if (m_pReading->isMarked) {
         element.setAttribute(name, valueFrom(m_tag, kind, value));
     } else {
         element.setAttribute(name, value);
@@ -832,7 +841,7 @@ QDomElement XmlSchemaHandler::createElement(const QString& name, QDomNode owner)
     if (!m_pReading->budget.TakeElements({1, 1, 0}, 0, 1, levelOf(owner), *m_pShare)) {
         return QDomElement();
     }
-    QDomElement element = m_pDocument->createElement(m_pLog ? nameFrom(m_tag, name) : name);
+    QDomElement element = m_pDocument->createElement(m_pReading->isMarked ? nameFrom(m_tag, name) : name);
     if (!owner.isNull()) {
         owner.appendChild(element);
     }
@@ -852,7 +861,7 @@ void XmlSchemaHandler::beginCarrier()
 /// The name of an element without where it comes from.
 QString XmlSchemaHandler::nameOf(const QDomNode& node) const
 {
-    return m_pLog ? withoutOrigin(node.nodeName()) : node.nodeName();
+    return m_pReading->isMarked ? withoutOrigin(node.nodeName()) : node.nodeName();
 }
 
 bool XmlSchemaHandler::isCarrier(const QDomNode& node) const
@@ -864,7 +873,7 @@ bool XmlSchemaHandler::isCarrier(const QDomNode& node) const
 /// names.
 void XmlSchemaHandler::copyFacets(const DomAttributes& attributes, QDomElement to, const QString& suffix) const
 {
-    const bool isOfDeclared = m_pLog && !suffix.isEmpty();
+    const bool isOfDeclared = m_pReading->isMarked && !suffix.isEmpty();
     for (const QDomAttr& attribute : attributes) {
         if (isFacetOfType(attribute.name())) {
             const QString value = attribute.value();
@@ -940,7 +949,7 @@ void XmlSchemaHandler::layOut(TypeDefinition& definition, QDomElement owner, con
             return;
         }
         const QDomNode content = definition.fragment->cloneNode(true);
-        if (m_pLog && !m_pReading->shares[definition.fragment].isOfNamedType) {
+        if (m_pReading->isMarked && !m_pReading->shares[definition.fragment].isOfNamedType) {
             addReference(content, m_tag);
         }
         if (anchor.isNull()) {

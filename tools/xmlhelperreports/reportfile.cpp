@@ -21,26 +21,34 @@ QString reasonAgainst(const QString& schema)
     if (!QFileInfo(file.fileName()).isFile() || !file.open(QIODevice::ReadOnly)) {
         return QStringLiteral("it cannot be opened");
     }
-    QXmlStreamReader reader(&file);
+    const QString fault = faultOfXml(file);
+    return !fault.isEmpty() ? QStringLiteral("it is not well-formed XML, %1").arg(fault)
+                            : QStringLiteral("a definition or a file that it uses is missing or at fault, or it is "
+                                             "beyond the limits");
+}
+
+QString faultOfXml(QIODevice& device)
+{
+    QXmlStreamReader reader(&device);
     while (!reader.atEnd()) {
         reader.readNext();
     }
-    return reader.hasError() ? QStringLiteral("it is not well-formed XML, line %1: %2")
-                                   .arg(QString::number(reader.lineNumber()), reader.errorString())
-                             : QStringLiteral("a definition or a file that it uses is missing or at fault, or it is "
-                                              "beyond the limits");
+    return reader.hasError()
+        ? QStringLiteral("line %1: %2").arg(QString::number(reader.lineNumber()), reader.errorString())
+        : QString();
 }
 
-bool putFile(const QString& file, const QString& report)
+bool putFile(const QString& file, const QString& report, SavedFile& saved)
 {
     QFile from(file);
-    return from.open(QIODevice::ReadOnly) && saveFile(report, [&from](QIODevice& to) {
-               const qint64 piece = 1024 * 1024;
-               bool isTaken = from.seek(0);
-               while (isTaken && !from.atEnd()) {
-                   const QByteArray bytes = from.read(piece);
-                   isTaken = !bytes.isEmpty() && to.write(bytes) == bytes.size();
-               }
-               return isTaken;
-           });
+    const auto copy = [&from](QIODevice& to) {
+        const qint64 piece = 1024 * 1024;
+        bool isTaken = from.seek(0);
+        while (isTaken && !from.atEnd()) {
+            const QByteArray bytes = from.read(piece);
+            isTaken = !bytes.isEmpty() && to.write(bytes) == bytes.size();
+        }
+        return isTaken;
+    };
+    return from.open(QIODevice::ReadOnly) && saveFile(report, copy, &saved);
 }

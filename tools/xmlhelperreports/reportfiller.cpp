@@ -176,6 +176,20 @@ QMultiHash<QString, int> ReportFiller::alternativesOf(const XmlCreateReport& bui
     return alternatives;
 }
 
+/// Lets @p put bring the written file to where the report goes.
+bool ReportFiller::makeAside(XmlCreateReport& builder, const QString& schema, const QString& report,
+                             const QString& writtenFile, const std::function<bool(SavedFile& file)>& put)
+{
+    return builder.makeReportAside(schema, report, writtenFile, put);
+}
+
+/// Lets a builder lay out a schema without a report. Null when the schema is not understood.
+const QDomDocument* ReportFiller::layOut(XmlCreateReport& builder, const QString& schema, SchemaReadingLog& log)
+{
+    builder.createSchemaHandler(schema);
+    return builder.layOut(schema, &log) ? builder.m_pDocument : nullptr;
+}
+
 /// Gives back what a builder holds for good otherwise.
 void ReportFiller::release(XmlCreateReport& builder)
 {

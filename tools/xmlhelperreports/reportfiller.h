@@ -13,9 +13,12 @@
 
 #include <xmlhelperreports/xmlhelperreportsexport.h>
 
+class QDomDocument;
 class QDomElement;
 struct ReportFillerData;
+class SchemaReadingLog;
 class XmlCreateReport;
+struct SavedFile;
 
 /// Fills a report by a schema from named values, and tells what became of each of them. No widget is needed.
 ///
@@ -154,8 +157,12 @@ private:
     Q_DISABLE_COPY(ReportFiller)
 
     friend class ReportFilling;
+    friend class SchemaOutline;
+    static const QDomDocument* layOut(XmlCreateReport& builder, const QString& schema, SchemaReadingLog& log);
     static bool isCountAllowed(XmlCreateReport& builder, QDomElement element, int count);
     static QMultiHash<QString, int> alternativesOf(const XmlCreateReport& builder);
+    static bool makeAside(XmlCreateReport& builder, const QString& schema, const QString& report,
+                          const QString& writtenFile, const std::function<bool(SavedFile& file)>& put);
     static void release(XmlCreateReport& builder);
 
     std::unique_ptr<ReportFillerData> m_pData;

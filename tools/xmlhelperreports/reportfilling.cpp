@@ -72,7 +72,16 @@ bool ReportFilling::Fill(const QString& schema, const QString& report)
     }
     m_schema = openableFileName(schema);
     m_writtenFile = m_folder.filePath(QStringLiteral("report.xml"));
-    const bool isRead = m_builder.CreateXmlFromSchema(schema, m_writtenFile, false);
+    bool isPut = false;
+    const auto put = [&](SavedFile& file) {
+        if (m_instances.empty()) {
+            file.reason = QStringLiteral("The schema lays out no element");
+            return false;
+        }
+        isPut = putFile(m_writtenFile, report, file);
+        return isPut;
+    };
+    const bool isRead = ReportFiller::makeAside(m_builder, schema, report, m_writtenFile, put);
     m_bSchemaRead = isRead && !m_instances.empty();
     if (!m_bSchemaRead) {
         complainOfSchema(schema, isRead);
@@ -80,8 +89,10 @@ bool ReportFilling::Fill(const QString& schema, const QString& report)
     if (!m_document.documentElement().nextSiblingElement().isNull()) {
         m_complaints.append(QStringLiteral("the schema lays out several roots: the report is no XML document"));
     }
-    if (!m_instances.empty()) {
-        put(report);
+    if (isPut) {
+        m_writtenFile = QFileInfo(report).isFile() ? report : m_writtenFile;
+    } else if (!m_instances.empty()) {
+        m_complaints.append(QStringLiteral("the report could not be written"));
     }
     m_instances.clear();
     m_places.reset();
@@ -95,16 +106,6 @@ void ReportFilling::complainOfSchema(const QString& schema, bool isRead)
     const QString reason = isRead ? QString() : reasonAgainst(schema);
     m_complaints.append(isRead ? QStringLiteral("the schema lays out no element")
                                : QStringLiteral("the schema cannot be read: %1").arg(reason));
-}
-
-/// Puts what the builder has written in its place.
-void ReportFilling::put(const QString& report)
-{
-    if (!putFile(m_writtenFile, report)) {
-        m_complaints.append(QStringLiteral("the report could not be written"));
-    } else if (QFileInfo(report).isFile()) {
-        m_writtenFile = report;
-    }
 }
 
 std::vector<ReportFiller::Verdict> ReportFilling::TakeVerdicts()

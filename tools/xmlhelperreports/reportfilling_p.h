@@ -101,7 +101,6 @@ private:
     void finish();
     void release(Instance& instance);
     void removeEmptied(int instance);
-    void put(const QString& report);
     void complainOfSchema(const QString& schema, bool isRead);
 
     void judge(int value, State state, const QString& path, const QString& reason);

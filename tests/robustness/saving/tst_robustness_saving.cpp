@@ -1,7 +1,9 @@
 #include <QtTest>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
+#include <cstring>
 #include <memory>
 #include <random>
 
@@ -10,11 +12,13 @@
 #include <QTemporaryDir>
 
 #include <poll.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <xmlhelper/documentfile_p.h>
+#include <xmlhelper/filesaving_p.h>
 #include <xmlhelper/limits_p.h>
 #include <xmlhelper/xmlcreatereport.h>
 #include <xmlhelper/xmlreader.h>
@@ -35,6 +39,7 @@ private Q_SLOTS:
     void keepsTheOldFileWhenACallFails();
     void leavesNoFileWhenACallFails_data();
     void leavesNoFileWhenACallFails();
+    void keepsTheOldFileWhenNoFileCanBeOpened();
     void writesInPlaceWhatCannotBeReplaced_data();
     void writesInPlaceWhatCannotBeReplaced();
     void keepsAWholeFileWhenTheProcessIsKilled();
@@ -100,12 +105,13 @@ void addCalls()
 {
     QTest::addColumn<int>("call");
     QTest::addColumn<int>("number");
+    QTest::addColumn<int>("error");
     // A piece of the document is 2 MB.
-    QTest::newRow("first-write") << int(Call::Write) << 1;
-    QTest::newRow("second-write") << int(Call::Write) << 2;
-    QTest::newRow("write-in-the-middle") << int(Call::Write) << 5;
-    QTest::newRow("close") << int(Call::Close) << 1;
-    QTest::newRow("rename") << int(Call::Rename) << 1;
+    QTest::newRow("first-write") << int(Call::Write) << 1 << ENOSPC;
+    QTest::newRow("second-write") << int(Call::Write) << 2 << ENOSPC;
+    QTest::newRow("write-in-the-middle") << int(Call::Write) << 5 << ENOSPC;
+    QTest::newRow("close") << int(Call::Close) << 1 << EIO;
+    QTest::newRow("rename") << int(Call::Rename) << 1 << EIO;
 }
 
 } // namespace
@@ -130,13 +136,16 @@ void TestRobustnessSaving::keepsTheOldFileWhenACallFails()
 {
     QFETCH(int, call);
     QFETCH(int, number);
+    QFETCH(int, error);
     const QString name = pathOf(QStringLiteral("report.xml"));
     const QDomDocument earlier = documentOf(QStringLiteral("<earlier/>"));
     QVERIFY(saveDocument(earlier, name));
     const QDomDocument document = documentFullOf('x', 20000000);
     {
         const FailingCall failing(Call {call}, number);
-        QVERIFY(!saveDocument(document, name));
+        SavedFile saved;
+        QVERIFY(!saveDocument(document, name, &saved));
+        QCOMPARE(saved.reason, QString::fromLocal8Bit(strerror(error)));
     }
     QVERIFY(FailingCall::HasFailed());
     QCOMPARE(bytesOf(name), savedBytes(earlier));
@@ -162,6 +171,26 @@ void TestRobustnessSaving::leavesNoFileWhenACallFails()
     }
     QVERIFY(FailingCall::HasFailed());
     QCOMPARE(entries(), QStringList(QStringLiteral("other.xml")));
+}
+
+void TestRobustnessSaving::keepsTheOldFileWhenNoFileCanBeOpened()
+{
+    const QString name = pathOf(QStringLiteral("report.xml"));
+    const QDomDocument document = documentOf(QStringLiteral("<r/>"));
+    QVERIFY(saveDocument(document, name));
+    const QByteArray before = bytesOf(name);
+    const int next = ::dup(0);
+    rlimit limit = {};
+    QCOMPARE(::close(next) | ::getrlimit(RLIMIT_NOFILE, &limit), 0);
+    const rlimit none {rlim_t(next), limit.rlim_max};
+    SavedFile saved;
+    QCOMPARE(::setrlimit(RLIMIT_NOFILE, &none), 0);
+    const bool isSaved = saveDocument(documentOf(QStringLiteral("<other/>")), name, &saved);
+    QCOMPARE(::setrlimit(RLIMIT_NOFILE, &limit), 0);
+    QVERIFY(!isSaved);
+    QCOMPARE(saved.reason, QString::fromLocal8Bit(std::strerror(EMFILE)));
+    QCOMPARE(bytesOf(name), before);
+    QCOMPARE(entries(), QStringList(QStringLiteral("report.xml")));
 }
 
 void TestRobustnessSaving::writesInPlaceWhatCannotBeReplaced_data()

@@ -1,0 +1,10 @@
+#include "reportnews.h"
+
+ReportNews::ReportNews() = default;
+ReportNews::~ReportNews() = default;
+
+ReportNews& ReportNews::Instance()
+{
+    static ReportNews news;
+    return news;
+}
