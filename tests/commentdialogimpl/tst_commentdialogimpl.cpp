@@ -3,6 +3,7 @@
 #include <memory>
 
 #include <QAccessible>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
 #include <QDomDocument>
@@ -12,6 +13,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTextEdit>
 #include <QTimer>
@@ -123,11 +125,12 @@ private:
     QMessageBox::Icon m_icon = QMessageBox::NoIcon;
 };
 
-/// The language of those who shout, as long as it lives.
+/// The language of those who shout, and say everything that often, as long as it lives.
 class UpperCase : public QTranslator
 {
 public:
-    UpperCase()
+    explicit UpperCase(int times = 1)
+        : m_times(times)
     {
         QCoreApplication::installTranslator(this);
         QCoreApplication::sendPostedEvents(); // windows are told later
@@ -136,13 +139,63 @@ public:
 
     QString translate(const char*, const char* sourceText, const char*, int) const override
     {
-        return QString::fromUtf8(sourceText).toUpper();
+        return QString::fromUtf8(sourceText).toUpper().repeated(m_times);
     }
     bool isEmpty() const override { return false; }
 
 private:
     Q_DISABLE_COPY(UpperCase)
+
+    int m_times;
 };
+
+/// In a font for which the form was made, which gives it 130 with its frame.
+constexpr int UsualTimeWidth = 120;
+
+/// The font of the application, as long as it lives, so large that a time is @p timeWidth pixels wide at most: fonts
+/// differ between systems.
+class ApplicationFont
+{
+public:
+    explicit ApplicationFont(int timeWidth)
+    {
+        QFont font = m_before;
+        int pixels = 100;
+        do {
+            font.setPixelSize(--pixels);
+        } while (QFontMetrics(font).horizontalAdvance(QStringLiteral("2008/07/04 10:39:20")) > timeWidth);
+        QApplication::setFont(font);
+    }
+    ~ApplicationFont() { QApplication::setFont(m_before); }
+
+private:
+    Q_DISABLE_COPY(ApplicationFont)
+
+    const QFont m_before = QApplication::font();
+};
+
+/// The labels and buttons of @p dialog that show less than their whole text.
+QStringList cutTexts(const QDialog& dialog)
+{
+    QStringList cut;
+    for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+        const QRect needed = label->fontMetrics().boundingRect(QRect(), Qt::TextSingleLine, label->text());
+        if (!QRect(QPoint(), label->contentsRect().size()).contains(QRect(QPoint(), needed.size()))) {
+            cut << label->text();
+        }
+    }
+    for (const QPushButton* button : dialog.findChildren<QPushButton*>()) {
+        if (button->fontMetrics().horizontalAdvance(button->text()) > button->width()) {
+            cut << button->text();
+        }
+    }
+    for (const QWidget* widget : dialog.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (!dialog.rect().contains(widget->geometry())) {
+            cut << widget->objectName() + QStringLiteral(" is beyond the window");
+        }
+    }
+    return cut;
+}
 
 /// Answers a question by one of its buttons.
 template <QMessageBox::StandardButton Button> void press(QMessageBox& question)
@@ -229,6 +282,10 @@ private Q_SLOTS:
 
     void textsFollowTheLanguageAndValuesStay();
     void questionIsTranslated();
+    void keepsItsSizeWhereItsTextsFit();
+    void growsUntilNoTextIsCut_data();
+    void growsUntilNoTextIsCut();
+    void growsNoLargerThanTheScreen();
 
 private:
     QString reportFile(const QString& name = QStringLiteral("report.xml")) const { return m_folder->filePath(name); }
@@ -1038,6 +1095,53 @@ void TestCommentDialogImpl::questionIsTranslated()
     report.Dialog().close();
     QCOMPARE(asked.Title(), QStringLiteral("WARNING"));
     QCOMPARE(asked.Text(), QStringLiteral("YOU HAVE ENTERD A COMMENT. WOULD YOU LIKE TO SAVE IT?"));
+}
+
+void TestCommentDialogImpl::keepsItsSizeWhereItsTextsFit()
+{
+    const ApplicationFont usual(UsualTimeWidth);
+    const OpenReport report(reportFile());
+    QCOMPARE(cutTexts(report.Dialog()), QStringList());
+    QCOMPARE(report.Dialog().size(), QSize(392, 300));
+}
+
+void TestCommentDialogImpl::growsUntilNoTextIsCut_data()
+{
+    QTest::addColumn<bool>("isOpen"); // when language and font change
+    QTest::addColumn<bool>("isWordy");
+    QTest::addColumn<int>("timeWidth");
+
+    QTest::newRow("wordy-language") << false << true << UsualTimeWidth;
+    QTest::newRow("large-font") << false << false << 2 * UsualTimeWidth;
+    QTest::newRow("both") << false << true << UsualTimeWidth * 3 / 2;
+    QTest::newRow("wordy-language-while-open") << true << true << UsualTimeWidth;
+    QTest::newRow("large-font-while-open") << true << false << 2 * UsualTimeWidth;
+}
+
+void TestCommentDialogImpl::growsUntilNoTextIsCut()
+{
+    QFETCH(const bool, isOpen);
+    QFETCH(const bool, isWordy);
+    QFETCH(const int, timeWidth);
+
+    const ApplicationFont usual(UsualTimeWidth);
+    const OpenReport report(reportFile());
+    report.Dialog().setVisible(isOpen);
+    const UpperCase language(isWordy ? 2 : 1);
+    const ApplicationFont larger(timeWidth);
+    if (!isOpen) {
+        report.Dialog().ShowReportSummary();
+    }
+    QCoreApplication::processEvents();
+    QCOMPARE(cutTexts(report.Dialog()), QStringList());
+}
+
+void TestCommentDialogImpl::growsNoLargerThanTheScreen()
+{
+    const QString azimuth(100000, QLatin1Char('7'));
+    const OpenReport report(reportFile(), QStringLiteral("<R><Azimuth>%1</Azimuth></R>").arg(azimuth));
+    const QSize screen = report.Dialog().screen()->availableSize();
+    QCOMPARE(report.Dialog().size().boundedTo(screen), report.Dialog().size());
 }
 
 QTEST_MAIN(TestCommentDialogImpl)

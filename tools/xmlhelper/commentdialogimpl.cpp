@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QMessageBox>
 #include <QPointer>
+#include <QScreen>
 #include <QShortcut>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -104,6 +105,7 @@ void CommentDialogImpl::ShowReportSummary()
     const QDomElement azimuth = firstElement(QStringLiteral("Azimuth"), QStringLiteral("DFAzimuth"));
     m_pAzimuthLabel->setText(azimuth.isNull() ? QString(NoValue) : azimuth.text() + QStringLiteral(" °"));
     nameValues();
+    growToTexts();
     show();
 }
 
@@ -187,6 +189,9 @@ void CommentDialogImpl::changeEvent(QEvent* event)
         translate();
     }
     QDialog::changeEvent(event);
+    if ((event->type() == QEvent::LanguageChange || event->type() == QEvent::FontChange) && isVisible()) {
+        growToTexts();
+    }
 }
 
 /// The captions whose buddies are values.
@@ -232,6 +237,16 @@ void CommentDialogImpl::nameValues()
         QLabel& value = valueOf(*caption);
         value.setAccessibleName((caption->text() + QLatin1Char(' ') + value.text()).trimmed());
     }
+}
+
+/// The form's size suits short texts in a small font. It only grows, as the operator may have made it larger, and never
+/// beyond the screen.
+void CommentDialogImpl::growToTexts()
+{
+    layout()->activate();
+    // The minimum width of a value takes the place of what its text needs, which only the hint still has.
+    const QSize needed(layout()->totalSizeHint().width(), layout()->totalMinimumSize().height());
+    resize(size().expandedTo(needed.boundedTo(screen()->availableSize())));
 }
 
 void CommentDialogImpl::appendComment(const QString& comment)

@@ -69,6 +69,7 @@ private:
     void translate();
     void showTitle();
     void nameValues();
+    void growToTexts();
     void appendComment(const QString& comment);
     void removeComment();
     void WriteReportFile();
