@@ -157,6 +157,7 @@ private Q_SLOTS:
     void switchingOnRestoresTheInterval();
 
     void clickAndShortcutMakeAReport();
+    void heldKeyAndDoubleClickAreOnePress();
     void disabledButtonMakesNoReport();
 
 private:
@@ -621,6 +622,40 @@ void TestVCReportingButton::clickAndShortcutMakeAReport()
     QTRY_COMPARE(successful.count(), 2);
     QCOMPARE(scene.ReportFiles(),
              QStringList({QStringLiteral("2017-03-31_12-34-56-7.xml"), QStringLiteral("2017-03-31_12-34-57-7.xml")}));
+    window.takeCentralWidget();
+    scene.DeleteReporting();
+}
+
+void TestVCReportingButton::heldKeyAndDoubleClickAreOnePress()
+{
+    ReportingScene scene(declaredElement(QStringLiteral("Level"), QStringLiteral("double")));
+    RecordingReporting& reporting = scene.Reporting();
+    QMainWindow window;
+    reporting.setParent(&window);
+    window.setCentralWidget(&reporting);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QSignalSpy prepare(&reporting, &VCReporting::PrepareToReport);
+    const auto key = [&window](bool isPress, bool isRepeat) {
+        QTest::simulateEvent(&window, isPress, Qt::Key_F10, Qt::ShiftModifier, QString(), isRepeat);
+    };
+
+    QTest::mouseClick(reporting.GetReportButton(), Qt::LeftButton);
+    QTest::mouseDClick(reporting.GetReportButton(), Qt::LeftButton);
+    QTest::mouseRelease(reporting.GetReportButton(), Qt::LeftButton);
+    QCOMPARE(prepare.count(), 1);
+    for (int reports = 2; reports <= 3; ++reports) {
+        key(true, false);
+        QTRY_COMPARE(prepare.count(), reports);
+        for (int repeat = 0; repeat < 3; ++repeat) {
+            key(true, true);
+            QTRY_VERIFY(!reporting.GetReportButton()->isDown()); // the button stays down while it animates a click
+            QCOMPARE(prepare.count(), reports);
+        }
+        key(false, false);
+    }
+    QTest::mouseClick(reporting.GetReportButton(), Qt::LeftButton);
+    QCOMPARE(prepare.count(), 4);
     window.takeCentralWidget();
     scene.DeleteReporting();
 }

@@ -9,6 +9,7 @@
 #include <QIcon>
 #include <QPointer>
 #include <QScopeGuard>
+#include <QShortcutEvent>
 #include <QTimer>
 #include <QToolBar>
 
@@ -64,6 +65,29 @@ void traceExplicitText(const QString& name, const QString& value, const QString&
                     static_cast<long>(decimalExponent), unit.toUtf8().constData());
     }
 }
+
+/// Sees to it that one press of a button is one click: neither a key that is held nor the second click of a double
+/// click is another. The id of the button's own shortcut is only told when it is pressed, which is before it repeats.
+class OnePress final : public QObject
+{
+public:
+    explicit OnePress(QToolButton* button)
+        : QObject(button)
+        , m_button(button)
+    {
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Shortcut) {
+            m_button->setShortcutAutoRepeat(static_cast<QShortcutEvent*>(event)->shortcutId(), false);
+        }
+        return event->type() == QEvent::MouseButtonDblClick;
+    }
+
+private:
+    QToolButton* m_button;
+};
 
 } // namespace
 
@@ -295,6 +319,7 @@ void VCReporting::createReportButton()
     }
     m_pReportButton->setEnabled(true);
     connect(m_pReportButton, &QAbstractButton::clicked, this, &VCReporting::press);
+    m_pReportButton->installEventFilter(new OnePress(m_pReportButton));
 }
 
 /// Qt still works on a button that it has clicked: when the widget is deleted meanwhile, the button goes a little

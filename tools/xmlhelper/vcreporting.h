@@ -32,7 +32,8 @@ class XmlCreateReport;
 /// of the matching items. A value that the builder refuses for its type is offered as the next one: floating-point
 /// number, integer, text, ISO date and time. Elements and attributes called "DateTime" and "DFDateTime" receive the
 /// current time. The file is named after the time and lies in the report directory; with the comment dialog it is
-/// written when the operator answers.
+/// written when the operator answers. One press of the button is one report: neither a shortcut that is held nor the
+/// second click of a double click is a press.
 ///
 /// The widget owns its items, its button and its timer, not the tool bar. Report builders are never deleted, with the
 /// comment dialogs that an operator may answer long after the screen is gone. A report that is over leaves no more than
@@ -151,7 +152,8 @@ public Q_SLOTS:
     /// Makes one report.
     /// @return whether the schema was read; false, without any signal but PrepareToReport(), when the path of the
     ///         schema does not end in ".xsd" or the widget was deleted by then; false, without any signal and with a
-    ///         trace, while a report of this widget is being filled. A file that cannot be written is not reported.
+    ///         trace, while a report of this widget is being filled. Only ReportNews tells of a file that cannot be
+    ///         written.
     bool SlotToReport();
 
 protected:
