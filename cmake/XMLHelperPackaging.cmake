@@ -46,13 +46,19 @@ set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/XMLHelperDropSearchPath
 set(runtime_package "libxmlhelper${PROJECT_VERSION_MAJOR}")
 if(XMLHELPER_QT_MAJOR EQUAL 6)
     set(qt_packages "qt6-base-dev, qt6-5compat-dev")
+    set(qt_sql_drivers libqt6sql6)
 else()
     set(qt_packages "qtbase5-dev")
+    set(qt_sql_drivers libqt5sql5)
 endif()
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
+if(xmlhelper_qt_sql) # A driver is loaded while it runs.
+    set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "${qt_sql_drivers}-sqlite")
+    set(CPACK_DEBIAN_RUNTIME_PACKAGE_SUGGESTS "${qt_sql_drivers}-psql")
+endif()
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 file(WRITE "${PROJECT_BINARY_DIR}/package/triggers" "activate-noawait ldconfig\n")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${PROJECT_BINARY_DIR}/package/triggers")
@@ -82,8 +88,9 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION}
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION
 "XML and measurement reports on Qt: tools
 The program xmlhelper-fill fills a report from the command line, under the
-rules of an XSD schema. The program measurementpanel is a measurement screen with
-a report button, on simulated values.")
+rules of an XSD schema. The program xmlhelper-journal looks into the journal of
+reports. The program measurementpanel is a measurement screen with a report
+button, on simulated values.")
 
 # Where the libraries of one package lie while another is looked at for what it needs.
 foreach(library IN ITEMS XMLHelper XMLHelperReports ${stand_ins})

@@ -1,6 +1,8 @@
 # Finds Qt and gives its parts names that stay the same on Qt 5 and Qt 6.
 #
+#   xmlhelper_qt_core, xmlhelper_qt_gui, xmlhelper_qt_widgets, xmlhelper_qt_xml, xmlhelper_qt_test
 #   xmlhelper_qt_core, xmlhelper_qt_widgets, xmlhelper_qt_xml, xmlhelper_qt_test
+#   xmlhelper_qt_sql, which is empty where Qt has no SQL module; the journal of reports is left out then
 #
 # The SAX classes live in QtXml on Qt 5 and in Core5Compat on Qt 6.
 
@@ -20,11 +22,19 @@ if(XMLHELPER_BUILD_TESTS)
     list(APPEND _qt_components Test)
 endif()
 find_package(${_qt} ${_qt_minimum} REQUIRED COMPONENTS ${_qt_components})
+find_package(${_qt}Sql ${_qt_minimum} QUIET PATHS "${${_qt}_DIR}/.." NO_DEFAULT_PATH) # optional, of the same Qt
 
 set(xmlhelper_qt_core    ${_qt}::Core)
+set(xmlhelper_qt_gui     ${_qt}::Gui)
 set(xmlhelper_qt_widgets ${_qt}::Widgets)
 set(xmlhelper_qt_xml     ${_qt}::Xml)
 set(xmlhelper_qt_test    ${_qt}::Test)
 if(XMLHELPER_QT_MAJOR EQUAL 6)
     list(APPEND xmlhelper_qt_xml ${_qt}::Core5Compat)
+endif()
+set(xmlhelper_qt_sql "")
+if(TARGET ${_qt}::Sql)
+    set(xmlhelper_qt_sql ${_qt}::Sql)
+else()
+    message(STATUS "The journal of reports is left out: it needs the SQL module of Qt.")
 endif()

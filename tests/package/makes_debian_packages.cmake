@@ -63,6 +63,12 @@ endif()
 expect_package(${runtime} FILES runtime_files DEPENDS "${qt_core} \\(>=" "libc6 \\(>=")
 expect_package(libxmlhelper-dev FILES development_files DEPENDS "${runtime} \\(= ${version}\\)" "${qt_dev}")
 
+if(HAS_JOURNAL)
+    file(GLOB package "${WORK_DIR}/${runtime}_${VERSION}_*.deb")
+    expect_field("${package}" Recommends "^libqt${QT_MAJOR}sql${QT_MAJOR}-sqlite$")
+    expect_field("${package}" Suggests "^libqt${QT_MAJOR}sql${QT_MAJOR}-psql$")
+endif()
+
 set(installed ${runtime_files} ${development_files})
 list(TRANSFORM installed REPLACE "^usr/" "")
 take_apps(installed)

@@ -1,0 +1,189 @@
+#include <QtTest>
+
+#include <xmlhelperreports/reportjournal.h>
+
+#include "station.h"
+
+/// A damaged journal is set aside and made anew.
+class TestReportJournalDamage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void setsADamagedJournalAside_data();
+    void setsADamagedJournalAside();
+    void takesOverWhatCanBeRead();
+    void isMadeAnewFromTheFiles();
+    void goesOnWhenItIsDamagedWhileOpen();
+    void goesOnWhenItIsRemovedWhileOpen();
+    void leavesAnotherDatabaseAlone();
+
+private:
+    /// Makes a journal with entries of reports that are not there.
+    static void fill(const QString& file, int count, int commentSize = 500);
+    static QStringList asideOf(const Station& station);
+};
+
+void TestReportJournalDamage::fill(const QString& file, int count, int commentSize)
+{
+    ReportJournal journal;
+    ReportJournal::Entry entry;
+    bool isFilled = journal.Open(file);
+    for (int i = 0; i < count; ++i) {
+        entry.path = QStringLiteral("/reports/%1.xml").arg(i);
+        entry.comment = QString(commentSize, QLatin1Char('x'));
+        isFilled = !journal.Record(entry).isEmpty() && isFilled;
+    }
+    QVERIFY(isFilled);
+}
+
+QStringList TestReportJournalDamage::asideOf(const Station& station)
+{
+    return QDir(station.PathOf(QString())).entryList({QStringLiteral("*.damaged-*")});
+}
+
+void TestReportJournalDamage::setsADamagedJournalAside_data()
+{
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("until");
+    QTest::newRow("all-of-it") << 0 << -1;
+    QTest::newRow("cut-off-in-its-middle") << -1 << 0;
+    QTest::newRow("its-beginning") << 0 << 100;
+    QTest::newRow("its-first-table") << 100 << 4096;
+    QTest::newRow("a-page-in-its-middle") << 8192 << 12288;
+}
+
+void TestReportJournalDamage::setsADamagedJournalAside()
+{
+    QFETCH(int, from);
+    QFETCH(int, until);
+    const Station station;
+    const QString file = station.PathOf(QStringLiteral("journal.sqlite"));
+    fill(file, 50);
+    QByteArray content = bytesOf(file);
+    const int end = until < 0 ? int(content.size()) : until;
+    QVERIFY(end <= int(content.size()));
+    if (from < 0) {
+        content.truncate(content.size() / 2);
+    } else {
+        content.replace(from, end - from, QByteArray(end - from, '\xA5'));
+    }
+    writeFile(file, content);
+
+    ReportJournal journal;
+    QString message;
+    QVERIFY2(journal.Open(file, &message), qPrintable(message));
+    QVERIFY2(message.contains(QStringLiteral("damaged")), qPrintable(message));
+    const QStringList aside = asideOf(station);
+    QCOMPARE(int(aside.size()), 1);
+    QVERIFY(message.contains(aside.front()));
+    QCOMPARE(bytesOf(station.PathOf(aside.front())), content);
+    QVERIFY(!journal.Record({}).isEmpty());
+    QVERIFY(journal.Open(file, &message));
+    QCOMPARE(message, QString());
+    QCOMPARE(asideOf(station), aside);
+}
+
+/// Of a journal with one damaged page among many.
+void TestReportJournalDamage::takesOverWhatCanBeRead()
+{
+    const Station station;
+    const QString file = station.PathOf(QStringLiteral("journal.sqlite"));
+    fill(file, 400);
+    QByteArray content = bytesOf(file);
+    const int page = int(content.indexOf("/reports/100.xml")) / 4096 * 4096;
+    QVERIFY(page > 4096);
+    content.replace(page, 4096, QByteArray(4096, '\xA5'));
+    writeFile(file, content);
+
+    ReportJournal journal;
+    QString message;
+    QVERIFY(journal.Open(file, &message));
+    QVERIFY(message.contains(QStringLiteral("damaged")));
+    ReportJournal::Query all;
+    all.limit = -1;
+    const std::vector<ReportJournal::Entry> entries = journal.Search(all);
+    QVERIFY(entries.size() >= 250);
+    for (std::size_t i = 0; i < 250; ++i) {
+        QCOMPARE(entries[i].path, QStringLiteral("/reports/%1.xml").arg(399 - int(i)));
+    }
+}
+
+void TestReportJournalDamage::isMadeAnewFromTheFiles()
+{
+    const Station station;
+    const QString file = station.PathOf(QStringLiteral("journal.sqlite"));
+    writeFile(station.PathOf(QStringLiteral("a.xml")), "<Survey><Comment>kept</Comment></Survey>");
+    writeFile(file, "this is no database, and it is long enough to be looked at as one, is it not, with 100 bytes");
+    ReportJournal journal;
+    QVERIFY(journal.Open(file));
+    QSignalSpy spy(&journal, &ReportJournal::TakenIn);
+    journal.TakeIn(station.PathOf(QString()));
+    QTRY_COMPARE(int(spy.size()), 1);
+    QCOMPARE(spy[0][1].toInt(), 1);
+    QCOMPARE(journal.Search({})[0].comment, QStringLiteral("kept"));
+}
+
+/// Large enough that not all of it is in memory.
+void TestReportJournalDamage::goesOnWhenItIsDamagedWhileOpen()
+{
+    const Station station;
+    const QString file = station.PathOf(QStringLiteral("journal.sqlite"));
+    fill(file, 100, 100000);
+    ReportJournal journal;
+    QVERIFY(journal.Open(file));
+    const QSignalSpy spy(&journal, &ReportJournal::Troubled);
+    QFile damaged(file);
+    QVERIFY(damaged.open(QIODevice::ReadWrite)); // In its place, so that the journal sees it.
+    QCOMPARE(damaged.write(QByteArray(int(damaged.size()), '\xA5')), damaged.size());
+    damaged.close();
+
+    journal.Search({});
+    QCOMPARE(int(spy.size()), 1);
+    QVERIFY2(spy[0][0].toString().contains(QStringLiteral("damaged")), qPrintable(spy[0][0].toString()));
+    QCOMPARE(int(asideOf(station).size()), 1);
+    const QString id = journal.Record({});
+    QVERIFY(!id.isEmpty());
+    QCOMPARE(journal.Search({})[0].id, id);
+    QCOMPARE(int(spy.size()), 1);
+}
+
+/// As it is when another process has set it aside.
+void TestReportJournalDamage::goesOnWhenItIsRemovedWhileOpen()
+{
+#ifndef Q_OS_UNIX
+    QSKIP("This system does not remove files in use.");
+#endif
+    Station station;
+    const QString file = station.PathOf(QStringLiteral("journal.sqlite"));
+    ReportJournal journal;
+    QVERIFY(journal.Open(file));
+    QVERIFY(!journal.Record({}).isEmpty());
+    QVERIFY(QFile::rename(file, station.PathOf(QStringLiteral("away"))));
+    QFile::remove(file + QStringLiteral("-wal"));
+    QFile::remove(file + QStringLiteral("-shm"));
+    const QString id = journal.Record({});
+    QVERIFY(!id.isEmpty());
+    ReportJournal other;
+    QVERIFY(other.Open(file));
+    QCOMPARE(int(other.Search({}).size()), 1);
+    QCOMPARE(other.Search({})[0].id, id);
+}
+
+void TestReportJournalDamage::leavesAnotherDatabaseAlone()
+{
+    const Station station;
+    const QString file = station.PathOf(QStringLiteral("other.sqlite"));
+    fill(file, 1);
+    QByteArray content = bytesOf(file);
+    content.replace(68, 4, QByteArray(4, '\0')); // The id of the application, in the header of the file.
+    writeFile(file, content);
+    ReportJournal journal;
+    QString message;
+    QVERIFY(!journal.Open(file, &message));
+    QVERIFY2(message.contains(QStringLiteral("something else")), qPrintable(message));
+    QCOMPARE(asideOf(station), QStringList());
+}
+
+QTEST_GUILESS_MAIN(TestReportJournalDamage)
+#include "tst_reportjournal_damage.moc"

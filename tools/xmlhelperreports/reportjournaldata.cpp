@@ -1,0 +1,449 @@
+#include "reportjournaldata_p.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QMetaEnum>
+#include <QSysInfo>
+
+#include <arbase/vornos.h>
+#include <xmlhelper/filesaving_p.h>
+
+#include "reportsupervision_p.h"
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
+namespace {
+
+/// Watched reports that are written in one go.
+constexpr std::size_t ReportsInOneGo = 50;
+
+/// Milliseconds until what could not be written is tried again.
+constexpr int PauseBetweenTries = 1000;
+
+/// Milliseconds to wait for a process that sets a damaged journal aside.
+constexpr int SetAsideTimeout = 5000;
+
+/// What the ids of found files are made from, so that those who find a file at once make one entry.
+const QUuid FoundFiles(0x3d1f5a52, 0x7c8e, 0x4f0b, 0x9b, 0x1d, 0x52, 0x6a, 0x0e, 0x77, 0xc4, 0x31);
+
+QString idFrom(const QUuid& space, const QString& name)
+{
+    return QUuid::createUuidV5(space, name).toString(QUuid::WithoutBraces);
+}
+
+/// Which file it is that has that name now; empty where the system does not tell, since files in use stay there.
+QByteArray identityOf(const QString& fileName)
+{
+#ifdef Q_OS_UNIX
+    struct stat status = {};
+    if (::stat(QFile::encodeName(fileName).constData(), &status) == 0) {
+        return QByteArray::number(quint64(status.st_dev)) + ':' + QByteArray::number(quint64(status.st_ino));
+    }
+#else
+    Q_UNUSED(fileName)
+#endif
+    return QByteArray();
+}
+
+QString nameOf(ReportSupervisor::State state)
+{
+    return QString::fromLatin1(QMetaEnum::fromType<ReportSupervisor::State>().valueToKey(int(state)));
+}
+
+/// A name for a damaged journal that nothing has.
+QString nameAside(const QString& file)
+{
+    const QDateTime now = timeOf(VornOS::Create()->GetCurrentTime());
+    const QString name = file + QStringLiteral(".damaged-") + now.toString(QStringLiteral("yyyyMMdd'T'HHmmss'Z'"));
+    QString aside = name;
+    for (int i = 2; QFile::exists(aside); ++i) {
+        aside = QStringLiteral("%1-%2").arg(name).arg(i);
+    }
+    return aside;
+}
+
+void takeValues(QMap<QString, QString>& values, const QMap<QString, QString>& others)
+{
+    for (auto value = others.cbegin(); value != others.cend(); ++value) {
+        values.insert(value.key(), value.value());
+    }
+}
+
+StoredEntry entryOfFound(const QString& path, const ReportContent& content)
+{
+    StoredEntry entry;
+    entry.id = idFrom(FoundFiles, QSysInfo::machineHostName() + QLatin1Char(':') + path);
+    entry.station = QSysInfo::machineHostName();
+    entry.begun = content.time;
+    entry.path = path;
+    entry.verdict = QStringLiteral("Found");
+    entry.comment = content.comment;
+    entry.values = content.values;
+    entry.size = content.size;
+    entry.hash = content.hash;
+    entry.version = 1;
+    return entry;
+}
+
+} // namespace
+
+QString journalPathOf(const QString& fileName)
+{
+    return fileName.isEmpty() ? QString() : QDir::cleanPath(QFileInfo(openableFileName(fileName)).absoluteFilePath());
+}
+
+ReportJournalData::ReportJournalData(ReportJournal& owner)
+    : journal(owner)
+    , intake([this](const QStringList& files) { return TakeFound(files); },
+             [this](const QString& folder, int added) { Q_EMIT journal.TakenIn(folder, added); })
+{
+    flushTimer.setSingleShot(true);
+    QObject::connect(&flushTimer, &QTimer::timeout, &flushTimer, [this] { Flush(false); });
+}
+
+ReportJournalData::~ReportJournalData()
+{
+    const std::set<quint64> unreadAtLast = supervisor ? unread : std::set<quint64>();
+    for (const quint64 report : unreadAtLast) {
+        Note(report);
+    }
+    std::size_t left = changed.size() + 1;
+    while (store.IsOpen() && !changed.empty() && changed.size() < left) {
+        left = changed.size();
+        Flush(true);
+    }
+}
+
+bool ReportJournalData::Open(const QString& place, QString& message)
+{
+    sender.reset();
+    store.Close();
+    sharedPlace.clear();
+    file.clear();
+    const QUrl url(place);
+    if (isSharedPlace(url)) {
+        const bool isOpen = store.OpenShared(url);
+        message = isOpen ? QString() : store.Fault();
+        return isOpen;
+    }
+    file = journalPathOf(place);
+    if (OpenFile(message)) {
+        flushTimer.start(0);
+        return true;
+    }
+    file.clear();
+    return false;
+}
+
+bool ReportJournalData::OpenFile(QString& message)
+{
+    const JournalStore::Outcome outcome = store.OpenFile(file);
+    if (outcome == JournalStore::Outcome::Damaged) {
+        return SetAside(message);
+    }
+    if (outcome == JournalStore::Outcome::Refused) {
+        message = ReportJournal::tr("The journal %1 cannot be opened: %2.").arg(file, store.Fault());
+        return false;
+    }
+    identity = identityOf(file);
+    Share();
+    return true;
+}
+
+/// Several processes may find the damage at once: the first renames the file, the others find the new one.
+bool ReportJournalData::SetAside(QString& message)
+{
+    sender.reset();
+    store.Close();
+    QLockFile lock(file + QStringLiteral(".lock"));
+    if (lock.tryLock(SetAsideTimeout) && store.OpenFile(file) == JournalStore::Outcome::Damaged) {
+        message = MakeAnew();
+    }
+    if (!store.IsOpen()) {
+        return false;
+    }
+    identity = identityOf(file);
+    intake.Restart();
+    if (supervisor) {
+        Watch(*supervisor);
+    }
+    Share();
+    return true;
+}
+
+/// Gives what the operator shall know.
+QString ReportJournalData::MakeAnew()
+{
+    const QString aside = nameAside(file);
+    if (!QFile::rename(file, aside)) {
+        return ReportJournal::tr("The journal %1 is damaged and cannot be renamed.").arg(file);
+    }
+    QFile::rename(file + QStringLiteral("-wal"), aside + QStringLiteral("-wal"));
+    QFile::remove(file + QStringLiteral("-shm"));
+    if (store.OpenFile(file) != JournalStore::Outcome::Opened) {
+        return ReportJournal::tr("The journal %1 cannot be opened: %2.").arg(file, store.Fault());
+    }
+    return ReportJournal::tr("The journal was damaged and is now %1; %2 entries of it are in a new one.")
+        .arg(aside, QString::number(TakeOver(aside)));
+}
+
+/// Takes what can still be read of a damaged journal. Gives how many entries that is.
+int ReportJournalData::TakeOver(const QString& damaged)
+{
+    std::vector<StoredEntry> entries;
+    JournalStore old;
+    if (old.OpenDamaged(damaged)) {
+        ReportJournal::Query all;
+        all.limit = -1;
+        old.Select(all, [&entries](const StoredEntry& entry) { entries.push_back(entry); });
+    }
+    std::reverse(entries.begin(), entries.end());
+    const auto put = [this, &entries] {
+        return std::all_of(entries.begin(), entries.end(),
+                           [this](const StoredEntry& entry) { return store.Put(entry); });
+    };
+    return !entries.empty() && store.Change(put) ? int(entries.size()) : 0;
+}
+
+void ReportJournalData::Share()
+{
+    sender.reset();
+    if (sharedPlace.isEmpty()) {
+        return;
+    }
+    sender = std::make_unique<JournalSender>(file, sharedPlace, [this](int unsent, const QString& fault) {
+        const auto tell = [this, unsent, fault] { Q_EMIT journal.Sent(unsent, fault); };
+        QMetaObject::invokeMethod(&flushTimer, tell, Qt::QueuedConnection);
+    });
+}
+
+/// Whether the file must be opened again: another process may have set it aside, and somebody removed it.
+bool ReportJournalData::IsToBeOpened() const
+{
+    return !file.isEmpty() && (!store.IsOpen() || identity != identityOf(file));
+}
+
+/// Works with the database; once more with a new one when it turns out to be damaged.
+bool ReportJournalData::Do(const std::function<bool()>& work)
+{
+    QString message;
+    if (IsToBeOpened()) {
+        OpenFile(message);
+    }
+    bool isDone = store.IsOpen() && work();
+    if (!isDone && store.IsOpen() && store.IsDamaged()) {
+        isDone = SetAside(message) && work();
+    }
+    if (message.isEmpty() && !isDone && store.IsOpen() && !store.Fault().isEmpty()) {
+        message = ReportJournal::tr("The journal cannot be used: %1.").arg(store.Fault());
+    }
+    Trouble(message);
+    return isDone;
+}
+
+bool ReportJournalData::Change(const std::function<bool()>& change)
+{
+    const bool isDone = !file.isEmpty() && Do([this, &change] { return store.Change(change); });
+    if (isDone && sender) {
+        sender->Wake();
+    }
+    return isDone;
+}
+
+void ReportJournalData::Trouble(const QString& message)
+{
+    if (std::exchange(lastTrouble, message) != message && !message.isEmpty()) {
+        Q_EMIT journal.Troubled(message);
+    }
+}
+
+void ReportJournalData::Watch(ReportSupervisor& reports)
+{
+    supervisor = &reports;
+    const std::vector<ReportSupervisor::Verdict> verdicts = reports.GetReports();
+    for (const ReportSupervisor::Verdict& verdict : verdicts) {
+        Note(verdict.report);
+        if (isFile(verdict.state)) {
+            unread.insert(verdict.report);
+        }
+    }
+}
+
+void ReportJournalData::Note(quint64 report)
+{
+    const ReportSupervisor::Verdict verdict = supervisor->GetReport(report);
+    if (verdict.state == ReportSupervisor::State::Unknown) {
+        return; // It was finished so long ago that the supervisor has forgotten it.
+    }
+    changed[report] = verdict;
+    if (verdict.state == ReportSupervisor::State::Written && !verdict.isChecked) {
+        unread.insert(report);
+    }
+    if (!flushTimer.isActive()) {
+        flushTimer.start(0);
+    }
+}
+
+/// Files are read first, so that other processes do not wait for them.
+void ReportJournalData::Flush(bool isLast)
+{
+    if (changed.empty() || file.isEmpty()) {
+        return;
+    }
+    std::vector<Update> updates;
+    for (auto report = changed.begin(); report != changed.end() && updates.size() < ReportsInOneGo; ++report) {
+        updates.push_back(UpdateOf(report->second, isLast));
+    }
+    const auto write = [this, &updates] {
+        return std::all_of(updates.begin(), updates.end(), [this](Update& update) { return Write(update); });
+    };
+    if (!Change(write)) {
+        flushTimer.start(PauseBetweenTries);
+        return;
+    }
+    for (const Update& update : updates) {
+        Forget(update);
+    }
+    if (!changed.empty()) {
+        flushTimer.start(0);
+    }
+    for (const Update& update : updates) {
+        Q_EMIT journal.Changed(update.id);
+    }
+}
+
+/// @param isLast  there is no event loop any more from which the supervisor could check a file
+ReportJournalData::Update ReportJournalData::UpdateOf(const ReportSupervisor::Verdict& verdict, bool isLast) const
+{
+    Update update;
+    update.verdict = verdict;
+    const QString& fileName = update.verdict.fileName;
+    update.path = journalPathOf(fileName.isEmpty() ? update.verdict.reportPath : fileName);
+    if (unread.count(verdict.report) > 0 && isFile(verdict.state) && (verdict.isChecked || isLast)) {
+        update.content = readContent(fileName, valueNames);
+    }
+    return update;
+}
+
+/// A report goes on with the entry that it has: of an earlier process that could not write it, or of somebody who found
+/// its file before the process came to tell.
+QString ReportJournalData::IdOf(const Update& update)
+{
+    const quint64 report = update.verdict.report;
+    const auto known = ids.find(report);
+    if (known != ids.end()) {
+        return known->second;
+    }
+    const QString id = idFrom(process, QString::number(report));
+    if (update.path.isEmpty() || !store.Find(id).id.isEmpty()) {
+        return id;
+    }
+    if (report >= ReportSupervisor::FirstEarlier) {
+        const std::vector<StoredEntry> entries = store.FindUnwritten(update.path);
+        const auto isOther = [this](const StoredEntry& entry) { return !unwritten.contains(entry.id); };
+        const auto earlier = std::find_if(entries.begin(), entries.end(), isOther);
+        return earlier == entries.end() ? id : ids[report] = earlier->id;
+    }
+    const StoredEntry found = store.FindByPath(update.path);
+    const bool isSame
+        = found.verdict == QLatin1String("Found") && isFile(update.verdict.state) && found.hash == hashOf(update.path);
+    return isSame ? ids[report] = found.id : id;
+}
+
+bool ReportJournalData::Write(Update& update)
+{
+    const ReportSupervisor::Verdict& verdict = update.verdict;
+    update.id = IdOf(update);
+    if (!store.Fault().isEmpty()) {
+        return false;
+    }
+    StoredEntry entry = store.Find(update.id);
+    if (!store.Fault().isEmpty()) {
+        return false;
+    }
+    if (entry.id.isEmpty()) {
+        entry.id = update.id;
+        entry.begun = verdict.begun;
+    }
+    entry.station = QSysInfo::machineHostName();
+    entry.path = update.path;
+    entry.schemaPath = verdict.schemaPath;
+    entry.verdict = nameOf(verdict.state);
+    entry.reason = verdict.reason;
+    entry.size = verdict.size;
+    TakeContent(entry, update);
+    ++entry.version;
+    if (isKept(verdict.state)) {
+        unwritten.insert(update.id);
+    } else {
+        unwritten.remove(update.id);
+    }
+    return store.Put(entry);
+}
+
+/// What a report holds stays as it is until the file is read again, or is there no more.
+void ReportJournalData::TakeContent(StoredEntry& entry, const Update& update) const
+{
+    const auto given = valuesOfBegun.find(update.verdict.report);
+    if (given != valuesOfBegun.end()) {
+        takeValues(entry.values, given->second);
+    }
+    if (update.content.isRead) {
+        entry.hash = update.content.hash;
+        entry.comment = update.content.comment;
+        takeValues(entry.values, update.content.values);
+    } else if (!isFile(update.verdict.state) || unread.count(update.verdict.report) > 0) {
+        entry.hash.clear();
+    }
+}
+
+/// What is in the journal need not be remembered.
+void ReportJournalData::Forget(const Update& update)
+{
+    const quint64 report = update.verdict.report;
+    changed.erase(report);
+    valuesOfBegun.erase(report);
+    if (update.content.isRead || !isFile(update.verdict.state) || update.verdict.isChecked) {
+        unread.erase(report);
+    }
+}
+
+/// Gives how many were not known.
+int ReportJournalData::TakeFound(const QStringList& files)
+{
+    Flush(false); // A report of this process is told of rather than found.
+    std::vector<StoredEntry> entries;
+    const auto readUnknown = [this, &entries, &files] {
+        entries.clear();
+        for (const QString& path : files) {
+            const bool isUnknown = store.FindByPath(path).id.isEmpty();
+            if (!store.Fault().isEmpty()) {
+                return false;
+            }
+            const ReportContent content = isUnknown ? readContent(path, valueNames) : ReportContent();
+            if (content.isRead) {
+                entries.push_back(entryOfFound(path, content));
+            }
+        }
+        return true;
+    };
+    const auto put = [this, &entries] {
+        return std::all_of(entries.begin(), entries.end(), [this](const StoredEntry& entry) {
+            return !store.FindByPath(entry.path).id.isEmpty() || store.Put(entry); // Others may have been faster.
+        });
+    };
+    if (!Do(readUnknown) || (!entries.empty() && !Change(put))) {
+        return -1;
+    }
+    for (const StoredEntry& entry : entries) {
+        Q_EMIT journal.Changed(entry.id);
+    }
+    return int(entries.size());
+}

@@ -1,0 +1,82 @@
+#ifndef XMLHELPERREPORTS_REPORTJOURNALDATA_P_H
+#define XMLHELPERREPORTS_REPORTJOURNALDATA_P_H
+
+#include <map>
+#include <memory>
+#include <set>
+
+#include <QMap>
+#include <QPointer>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+#include <QTimer>
+#include <QUuid>
+
+#include "folderintake_p.h"
+#include "journalsender_p.h"
+#include "journalstore_p.h"
+#include "reportcontent_p.h"
+#include "reportsupervisor.h"
+
+/// The absolute name of a file, as entries have it. Links are not followed.
+QString journalPathOf(const QString& fileName);
+
+/// What the journal does. All of it is the journal's thread's.
+struct ReportJournalData
+{
+    /// A watched report that has changed.
+    struct Update
+    {
+        ReportSupervisor::Verdict verdict;
+        QString path;
+        QString id; ///< of its entry, once that is written
+        ReportContent content; ///< read when it has been checked since it was written
+    };
+
+    explicit ReportJournalData(ReportJournal& owner);
+    ~ReportJournalData();
+
+    bool Open(const QString& place, QString& message);
+    bool OpenFile(QString& message);
+    bool SetAside(QString& message);
+    QString MakeAnew();
+    int TakeOver(const QString& damaged);
+    void Share();
+
+    bool IsToBeOpened() const;
+    bool Do(const std::function<bool()>& work);
+    bool Change(const std::function<bool()>& change);
+    void Trouble(const QString& message);
+
+    void Watch(ReportSupervisor& reports);
+    void Note(quint64 report);
+    void Flush(bool isLast);
+    Update UpdateOf(const ReportSupervisor::Verdict& verdict, bool isLast) const;
+    QString IdOf(const Update& update);
+    bool Write(Update& update);
+    void TakeContent(StoredEntry& entry, const Update& update) const;
+    void Forget(const Update& update);
+    int TakeFound(const QStringList& files);
+
+    ReportJournal& journal;
+    JournalStore store;
+    QString file; ///< empty for a shared database
+    QByteArray identity; ///< of the file
+    QUrl sharedPlace; ///< empty for none
+    QPointer<ReportSupervisor> supervisor;
+    QUuid process = QUuid::createUuid(); ///< that the ids of watched reports are made from
+    QStringList valueNames;
+    QMap<QString, QString> givenValues; ///< for the next report
+    std::map<quint64, QMap<QString, QString>> valuesOfBegun; ///< not written yet
+    std::map<quint64, QString> ids; ///< of reports that go on with an entry that was there
+    QSet<QString> unwritten; ///< ids of watched reports that could not be written yet
+    std::map<quint64, ReportSupervisor::Verdict> changed; ///< as it was told last: the supervisor may forget it
+    std::set<quint64> unread; ///< written, and not read since
+    QTimer flushTimer;
+    FolderIntake intake;
+    std::unique_ptr<JournalSender> sender;
+    QString lastTrouble;
+};
+
+#endif
