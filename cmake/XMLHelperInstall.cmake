@@ -103,6 +103,14 @@ foreach(stand_in IN LISTS stand_ins)
 endforeach()
 xmlhelper_install_library(XMLHelper NAMESPACE XMLHelper::)
 xmlhelper_install_library(XMLHelperReports NAMESPACE XMLHelper::)
+xmlhelper_install_library(XMLHelperReportWidgets NAMESPACE XMLHelper::)
+
+# What the libraries say, for applications to take with them.
+if(TARGET xmlhelper_translations)
+    get_target_property(catalogues xmlhelper_translations XMLHELPER_CATALOGUES)
+    list(FILTER catalogues INCLUDE REGEX "/XMLHelper(ReportWidgets)?_[a-z]+\\.qm$")
+    install(FILES ${catalogues} DESTINATION "${CMAKE_INSTALL_DATADIR}/xmlhelper/translations" COMPONENT development)
+endif()
 
 file(RELATIVE_PATH prefix_from_pc_file "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
 string(REGEX REPLACE "/$" "" prefix_from_pc_file "${prefix_from_pc_file}")

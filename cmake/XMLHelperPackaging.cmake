@@ -93,7 +93,7 @@ reports. The program measurementpanel is a measurement screen with a report
 button, on simulated values.")
 
 # Where the libraries of one package lie while another is looked at for what it needs.
-foreach(library IN ITEMS XMLHelper XMLHelperReports ${stand_ins})
+foreach(library IN ITEMS XMLHelper XMLHelperReports XMLHelperReportWidgets ${stand_ins})
     get_target_property(library_dir ${library} BINARY_DIR)
     list(APPEND CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${library_dir}")
 endforeach()

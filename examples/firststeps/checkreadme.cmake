@@ -1,5 +1,8 @@
 # Fails when DOCUMENT does not print each of SOURCES word for word.
 file(READ "${DOCUMENT}" document)
+if(NOT SOURCES)
+    message(FATAL_ERROR "There is no source to look for.")
+endif()
 foreach(source_file IN LISTS SOURCES)
     file(READ "${source_file}" source)
     string(FIND "${document}" "```cpp\n${source}```" position)

@@ -7,7 +7,7 @@
 #include <QEvent>
 #include <QVBoxLayout>
 
-#include "panelcolours.h"
+#include <xmlhelperreportwidgets/panelcolours_p.h>
 
 namespace {
 

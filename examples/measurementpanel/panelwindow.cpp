@@ -25,22 +25,22 @@
 #include <valueframework/valueselection.h>
 #include <valueframework/valuetext.h>
 #include <xmlhelper/vcreporting.h>
+#include <xmlhelperreportwidgets/elidedlabel_p.h>
+#include <xmlhelperreportwidgets/panelcolours_p.h>
+#include <xmlhelperreportwidgets/xmlview_p.h>
 
 #include "buttonexplanation.h"
-#include "elidedlabel.h"
 #include "languages.h"
 #ifdef MEASUREMENTPANEL_HAS_PLOT
 #include "leveltrace.h"
 #endif
 #include "measurementtree.h"
-#include "panelcolours.h"
 #include "panelsettings.h"
 #include "presstext.h"
 #include "reportitems.h"
 #include "reportmessage.h"
 #include "reportpicture.h"
 #include "simulatedreceiver.h"
-#include "xmlview.h"
 
 namespace {
 

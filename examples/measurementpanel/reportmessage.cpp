@@ -12,7 +12,8 @@
 #include <QPushButton>
 #include <QUrl>
 
-#include "panelcolours.h"
+#include <xmlhelperreportwidgets/panelcolours_p.h>
+
 #include "presstext.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
-#include "panelcolours.h"
+#include <xmlhelperreportwidgets/panelcolours_p.h>
 
 namespace {
 

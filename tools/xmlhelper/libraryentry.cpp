@@ -2,14 +2,18 @@
 
 #include <vornappstartup/translationcenter.h>
 
-// The library's entry routine: it registers the translation context when the library is loaded and unregisters it when
-// it is unloaded. It has nothing to do for threads, and it never fails.
+// The entry routine of a library: it registers the translation context when the library is loaded and unregisters it
+// when it is unloaded. It has nothing to do for threads, and it never fails.
+
+#ifndef XMLHELPER_TRANSLATION_CONTEXT
+#define XMLHELPER_TRANSLATION_CONTEXT "XMLHelper"
+#endif
 
 namespace {
 
 QString translationContext()
 {
-    return QStringLiteral("XMLHelper");
+    return QStringLiteral(XMLHELPER_TRANSLATION_CONTEXT);
 }
 
 void libraryLoaded()

@@ -131,6 +131,7 @@ public:
     ScreenScene()
     {
         Window().move(0, 0);
+        QApplication::setDoubleClickInterval(0); // Clicks may follow each other fast, and each counts.
         m_isReady = QTest::qWaitForWindowExposed(&Window()) && pointAt(Window());
     }
     bool IsReady() const { return m_isReady; }

@@ -9,15 +9,15 @@
 #include <QToolButton>
 
 #include <xmlhelper/vcreporting.h>
+#include <xmlhelperreportwidgets/elidedlabel_p.h>
+#include <xmlhelperreportwidgets/panelcolours_p.h>
 
 #include "buttonexplanation.h"
-#include "elidedlabel.h"
 #include "findings.h"
 #include "languages.h"
 #ifdef MEASUREMENTPANEL_HAS_PLOT
 #include "leveltrace.h"
 #endif
-#include "panelcolours.h"
 #include "panelscene.h"
 #include "panelsettings.h"
 #include "reportitems.h"
@@ -35,6 +35,7 @@ private Q_SLOTS:
     void aLongLineKeepsItsEnds();
 
     void settingsAreEmptyAtFirst();
+    void reportsGoToTheDocumentsAtFirst();
     void settingsOutliveTheProgram();
 
     void englishIsAlwaysSpoken();
@@ -87,6 +88,25 @@ double contrast(const QColor& one, const QColor& other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+/// A variable of the environment, as long as it lives.
+class Environment
+{
+public:
+    Environment(const char* name, const QByteArray& value)
+        : m_name(name)
+    {
+        qputenv(m_name, value);
+    }
+    ~Environment() { m_wasSet ? qputenv(m_name, m_before) : qunsetenv(m_name); }
+
+private:
+    Q_DISABLE_COPY(Environment)
+
+    const char* m_name;
+    const bool m_wasSet = qEnvironmentVariableIsSet(m_name);
+    const QByteArray m_before = qgetenv(m_name);
+};
+
 } // namespace
 
 void TestPanelParts::anExplanationStandsBelowTheToolTip()
@@ -108,10 +128,10 @@ void TestPanelParts::anExplanationSurvivesAChangeOfTheToolTip()
     button.setToolTip(QStringLiteral("To Report"));
     ButtonExplanation explanation(button);
     explanation.Explain(QStringLiteral("Es fehlt."));
-    button.setToolTip(QStringLiteral("Zum Bericht"));
-    QCOMPARE(button.toolTip(), QStringLiteral("Zum Bericht\nEs fehlt."));
+    button.setToolTip(QStringLiteral("Bericht erstellen"));
+    QCOMPARE(button.toolTip(), QStringLiteral("Bericht erstellen\nEs fehlt."));
     explanation.Explain(QString());
-    QCOMPARE(button.toolTip(), QStringLiteral("Zum Bericht"));
+    QCOMPARE(button.toolTip(), QStringLiteral("Bericht erstellen"));
 }
 
 void TestPanelParts::aLongLineKeepsItsEnds()
@@ -134,6 +154,19 @@ void TestPanelParts::settingsAreEmptyAtFirst()
     QCOMPARE(settings.GetReportDirectory(), QString());
     QCOMPARE(settings.GetLanguage(), QString());
     QVERIFY(!settings.GetAskForComment());
+}
+
+void TestPanelParts::reportsGoToTheDocumentsAtFirst()
+{
+#ifdef Q_OS_WIN
+    QSKIP("The documents lie where the user's account has them.");
+#endif
+    const QTemporaryDir home;
+    const Environment own("HOME", QFile::encodeName(home.path()));
+    const Environment none("XDG_CONFIG_HOME", QFile::encodeName(home.filePath(QStringLiteral("none"))));
+    const QString directory = PanelSettings::DefaultReportDirectory();
+    QCOMPARE(directory, home.filePath(QStringLiteral("Documents/Measurement Reports")));
+    QVERIFY(QDir(directory).exists());
 }
 
 void TestPanelParts::settingsOutliveTheProgram()

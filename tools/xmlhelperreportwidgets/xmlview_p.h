@@ -1,5 +1,5 @@
-#ifndef MEASUREMENTPANEL_XMLVIEW_H
-#define MEASUREMENTPANEL_XMLVIEW_H
+#ifndef XMLHELPERREPORTWIDGETS_XMLVIEW_P_H
+#define XMLHELPERREPORTWIDGETS_XMLVIEW_P_H
 
 #include <QPlainTextEdit>
 
@@ -14,7 +14,7 @@ public:
     explicit XmlView(QWidget* parent = nullptr);
     ~XmlView() override;
 
-    /// Shows the file as it is now; nothing when it cannot be read.
+    /// Shows the file as it is now, of a large one the beginning; nothing when it cannot be read.
     void ShowFile(const QString& path);
 
 protected:

@@ -1,7 +1,8 @@
-#include "elidedlabel.h"
+#include "elidedlabel_p.h"
 
 #include <QHelpEvent>
 #include <QPainter>
+#include <QTextDocument>
 #include <QToolTip>
 
 ElidedLabel::ElidedLabel(QWidget* parent)
@@ -23,7 +24,9 @@ QString ElidedLabel::GetShownText() const
 bool ElidedLabel::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+        const QString tip = Qt::mightBeRichText(text()) ? QStringLiteral("<span>%1</span>").arg(text().toHtmlEscaped())
+                                                        : text(); // a path may have any name
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
         return true;
     }
     return QLabel::event(event);

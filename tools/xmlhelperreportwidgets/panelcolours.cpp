@@ -1,4 +1,4 @@
-#include "panelcolours.h"
+#include "panelcolours_p.h"
 
 namespace {
 

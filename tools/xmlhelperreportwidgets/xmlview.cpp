@@ -1,14 +1,15 @@
-#include "xmlview.h"
+#include "xmlview_p.h"
 
 #include <array>
 
 #include <QEvent>
 #include <QFile>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QRegularExpression>
 #include <QSyntaxHighlighter>
 
-#include "panelcolours.h"
+#include "panelcolours_p.h"
 
 namespace {
 
@@ -29,6 +30,9 @@ private:
 
     const QPlainTextEdit& m_view;
 };
+
+/// A text of more bytes would keep its window waiting.
+constexpr qint64 MaxText = 1 << 18;
 
 struct Colour
 {
@@ -71,7 +75,13 @@ XmlView::~XmlView() = default;
 void XmlView::ShowFile(const QString& path)
 {
     QFile file(path);
-    setPlainText(file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString());
+    // A pipe or a terminal would wait until somebody writes.
+    const bool isOpen = QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly);
+    QString text = isOpen ? QString::fromUtf8(file.read(MaxText)) : QString();
+    if (!text.isEmpty() && !file.atEnd()) {
+        text += QStringLiteral("\n…");
+    }
+    setPlainText(text);
 }
 
 void XmlView::changeEvent(QEvent* event)

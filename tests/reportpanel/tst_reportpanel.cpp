@@ -1,0 +1,1089 @@
+#include <QtTest>
+
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QDialog>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSettings>
+#include <QSplitter>
+#include <QTabBar>
+#include <QTableView>
+#include <QTabWidget>
+#include <QTextBrowser>
+
+#include <vornappstartup/translationcenter.h>
+#include <xmlhelper/reportnews.h>
+#include <xmlhelperreportwidgets/reportpanel.h>
+#include <xmlhelperreportwidgets/reportwords_p.h>
+
+#include "station.h"
+
+using State = ReportSupervisor::State;
+
+namespace {
+
+constexpr QSize Smallest(800, 560);
+
+/// A window with a panel, on the supervisor of a station.
+class Desk
+{
+public:
+    Desk()
+    {
+        station.Supervisor().SetPauses(3600000, 3600000); // nothing is tried by itself
+        panel = std::make_unique<ReportPanel>(station.Supervisor());
+        panel->resize(Smallest);
+        panel->show();
+        if (!QTest::qWaitForWindowActive(panel.get())) {
+            qFatal("The panel does not become active.");
+        }
+    }
+
+    template <typename Widget> Widget* Find(const char* name) const
+    {
+        return panel->findChild<Widget*>(QLatin1String(name));
+    }
+    QString Text(const char* label) const { return Find<QLabel>(label)->text(); }
+    QTableView* List() const { return Find<QTableView>("reportList"); }
+    QString Cell(int row, int column) const { return List()->model()->index(row, column).data().toString(); }
+    QString Page() const { return Find<QTextBrowser>("reportPage")->toPlainText(); }
+    QString Xml() const { return Find<QPlainTextEdit>("reportXml")->toPlainText(); }
+    QPushButton* Button(const char* name) const { return Find<QPushButton>(name); }
+    bool IsOffered(const char* button) const { return Button(button)->isVisible() && Button(button)->isEnabled(); }
+
+    QString MissingFolder() const { return station.PathOf(QStringLiteral("missing")); }
+    QString PathOf(const char* name) const { return station.PathOf(QLatin1String(name)); }
+
+    quint64 Write(const char* name, const QByteArray& content = "<report/>") const
+    {
+        const quint64 report = station.Begin(PathOf(name));
+        station.Write(report, PathOf(name), content);
+        return report;
+    }
+    quint64 Lose(const char* name) const
+    {
+        return station.Lose(MissingFolder() + QLatin1Char('/') + QLatin1String(name));
+    }
+    bool Becomes(quint64 report, const QString& sign) const
+    {
+        return QTest::qWaitFor([&] { return panel->GetShownReport() == report && Text("reportSign") == sign; });
+    }
+
+    Station station;
+    std::unique_ptr<ReportPanel> panel;
+};
+
+using Make = std::function<quint64(Desk&)>;
+
+/// Answers the next question, which keeps the program inside of what has brought it up.
+template <typename Question, typename Answer> void answerNext(Answer answer)
+{
+    auto* const timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, answer] {
+        if (auto* const question = qobject_cast<Question*>(QApplication::activeModalWidget())) {
+            timer->deleteLater();
+            timer->stop();
+            answer(*question);
+        }
+    });
+    timer->start(10);
+}
+
+void chooseNextFile(const QString& fileName)
+{
+    answerNext<QFileDialog>([fileName](QFileDialog& dialog) {
+        dialog.findChild<QLineEdit*>()->setText(fileName);
+        QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+    });
+}
+
+void press(QMessageBox& question, QMessageBox::ButtonRole role)
+{
+    const QList<QAbstractButton*> buttons = question.buttons();
+    for (QAbstractButton* const button : buttons) {
+        if (question.buttonRole(button) == role) {
+            QTest::mouseClick(button, Qt::LeftButton);
+        }
+    }
+}
+
+QString signOf(State state, const QString& schemaFault = QString())
+{
+    ReportSupervisor::Verdict verdict;
+    verdict.state = state;
+    verdict.schemaFault = schemaFault;
+    return ReportWords::Sign(verdict);
+}
+
+void speak(const QString& language)
+{
+    TranslationCenter::Instance().InstallTranslators(QLocale(language), QStringLiteral(XMLHELPER_TRANSLATIONS));
+}
+
+bool areTranslationsMade()
+{
+    return QFileInfo::exists(QStringLiteral(XMLHELPER_TRANSLATIONS "/XMLHelperReportWidgets_de.qm"));
+}
+
+/// What the desktop is told to open, in place of the desktop.
+class OpenedUrls : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit OpenedUrls(const char* slot = "Open")
+    {
+        QDesktopServices::setUrlHandler(QStringLiteral("file"), this, slot);
+    }
+    ~OpenedUrls() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+
+public Q_SLOTS:
+    void Open(const QUrl& url) { urls.append(url); }
+
+public:
+    QList<QUrl> urls;
+
+private:
+    Q_DISABLE_COPY(OpenedUrls)
+};
+
+QStringList mnemonicsOf(const ReportPanel& panel)
+{
+    QStringList texts;
+    const QList<QPushButton*> buttons = panel.findChildren<QPushButton*>();
+    for (const QPushButton* const button : buttons) {
+        texts.append(button->text());
+    }
+    const QList<QLabel*> labels = panel.findChildren<QLabel*>();
+    for (const QLabel* const label : labels) {
+        if (label->buddy()) {
+            texts.append(label->text());
+        }
+    }
+    const auto* const tabs = panel.findChild<QTabWidget*>();
+    for (int i = 0; i < tabs->count(); ++i) {
+        texts.append(tabs->tabText(i));
+    }
+    QStringList mnemonics;
+    for (const QString& text : qAsConst(texts)) {
+        mnemonics.append(QKeySequence::mnemonic(text).toString());
+    }
+    return mnemonics;
+}
+
+/// The texts that are cut off, with where they are.
+QStringList cutOff(const ReportPanel& panel)
+{
+    QStringList cut;
+    const QList<QLabel*> labels = panel.findChildren<QLabel*>();
+    for (const QLabel* const label : labels) {
+        const bool mayBeElided = !label->wordWrap() && label->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored;
+        const int width = mayBeElided ? 0 : label->wordWrap() ? 0 : label->sizeHint().width();
+        const int height = label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
+        if (label->isVisible() && (label->width() < width || label->height() < height)) {
+            cut.append(label->objectName() + QLatin1String(": ") + label->text());
+        }
+    }
+    const QList<QPushButton*> buttons = panel.findChildren<QPushButton*>();
+    for (const QPushButton* const button : buttons) {
+        const bool isInside = panel.rect().contains(QRect(button->mapTo(&panel, QPoint()), button->size()));
+        const QSize needed = button->sizeHint();
+        if (button->isVisible()
+            && (!isInside || button->width() < needed.width() || button->height() < needed.height())) {
+            cut.append(button->text());
+        }
+    }
+    return cut;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Make)
+
+/// What an operator sees and does.
+class TestReportPanel : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+
+    void wordsAndSignsAreNeverTheSame();
+    void tellsEveryState_data();
+    void tellsEveryState();
+    void theListDrivesAll();
+    void showsThePage();
+    void saysWhyThereIsNoPage();
+    void letsTheProgramAddToThePage();
+    void exports_data();
+    void exports();
+    void saysWhenItCannotExport();
+    void asksForThePrinter();
+    void followsTheNewest();
+    void disturbsNobodyWhoLooksAtAnOlderOne();
+    void takesBackWhatIsNoLongerTrue();
+    void readsAgainWhatHasChanged();
+    void opensTheFile();
+    void opensWhatHasNoFolderInItsPath();
+    void tellsWhereTheFileOfTheButtonWillBe();
+    void saysWhenNothingOpensTheFile();
+    void showsTheFolder();
+    void copiesThePathByItsKey();
+    void triesAgain();
+    void savesElsewhere();
+    void discardsOnlyWhenMeant_data();
+    void discardsOnlyWhenMeant();
+    void tellsHowManyAreKept();
+    void offersWhatEarlierProcessesLeft();
+    void bringsTheCommentDialogBack();
+    void quitsWithoutAQuestionWhenNothingIsLost();
+    void asksBeforeReportsAreLost_data();
+    void asksBeforeReportsAreLost();
+    void namesTenOfManyThatWouldBeLost();
+    void takesNamesForText();
+    void shortensWhatDoesNotFit();
+    void looksAtManyReports();
+    void showsTheBeginningOfALargeFile_data();
+    void showsTheBeginningOfALargeFile();
+    void everyButtonHasAKeyOfItsOwn_data();
+    void everyButtonHasAKeyOfItsOwn();
+    void everyTextFits_data();
+    void everyTextFits();
+    void changesItsLanguageAtOnce();
+    void showsWhereTheKeyboardIs();
+    void tabGoesFromTopToBottom();
+    void remembersOnlyWhenToldTo();
+    void goesBeforeItsSupervisor();
+};
+
+void TestReportPanel::initTestCase()
+{
+    TranslationCenter::Instance().Register(QStringLiteral("XMLHelper"));
+    TranslationCenter::Instance().Register(QStringLiteral("XMLHelperReportWidgets"));
+}
+
+void TestReportPanel::cleanup()
+{
+    speak(QStringLiteral("en"));
+}
+
+void TestReportPanel::wordsAndSignsAreNeverTheSame()
+{
+    const QMetaEnum states = QMetaEnum::fromType<State>();
+    QSet<QString> signs;
+    QSet<QString> words;
+    QSet<QString> sentences;
+    ReportSupervisor::Verdict verdict;
+    for (int i = 0; i < states.keyCount(); ++i) {
+        verdict.state = static_cast<State>(states.value(i));
+        signs.insert(ReportWords::Sign(verdict));
+        words.insert(ReportWords::Word(verdict));
+        sentences.insert(ReportWords::Sentence(verdict));
+    }
+    verdict.state = State::Written;
+    verdict.schemaFault = QStringLiteral("no root");
+    signs.insert(ReportWords::Sign(verdict));
+    words.insert(ReportWords::Word(verdict));
+    sentences.insert(ReportWords::Sentence(verdict));
+    QCOMPARE(int(signs.size()), states.keyCount() + 1);
+    QCOMPARE(int(words.size()), states.keyCount() + 1);
+    QCOMPARE(int(sentences.size()), states.keyCount() + 1);
+    QVERIFY(!signs.contains(QString()) && !words.contains(QString()));
+}
+
+void TestReportPanel::tellsEveryState_data()
+{
+    QTest::addColumn<Make>("make");
+    QTest::addColumn<QString>("sign");
+    QTest::addColumn<QString>("sentence");
+    QTest::addColumn<QString>("advice"); // a part of it
+    QTest::addColumn<QStringList>("buttons"); // besides those for the path
+    const QStringList kept {QStringLiteral("reportTryAgain"), QStringLiteral("reportSaveElsewhere"),
+                            QStringLiteral("reportDiscard")};
+    const QStringList open {QStringLiteral("reportOpen")};
+    const auto row = [](const char* name, const Make& make, const QString& sign, const char* sentence,
+                        const char* advice, const QStringList& buttons) {
+        QTest::newRow(name) << make << sign << QString::fromLatin1(sentence) << QString::fromLatin1(advice) << buttons;
+    };
+    row("making", [](Desk& desk) { return desk.station.Begin(desk.PathOf("a.xml")); }, signOf(State::Making),
+        "Report a.xml is being made.", "", {});
+    row("waiting",
+        [](Desk& desk) {
+            const quint64 report = desk.station.Begin(desk.PathOf("a.xml"));
+            auto* const dialog = new QDialog(desk.panel.get());
+            dialog->show();
+            Q_EMIT ReportNews::Instance().CommentAsked(report, dialog);
+            return report;
+        },
+        signOf(State::Waiting), "Report a.xml waits for its comment.", "not on the disk before",
+        {QStringLiteral("reportComment")});
+    row(
+        "written", [](Desk& desk) { return desk.Write("a.xml"); }, signOf(State::Written), "Report a.xml is written.",
+        "no fault is known", open);
+    row(
+        "not-well-formed", [](Desk& desk) { return desk.Write("a.xml", "<report>"); }, signOf(State::NotWellFormed),
+        "Report a.xml is written, but its file is damaged.", "Reason: ", open);
+    row(
+        "invalid",
+        [](Desk& desk) {
+            desk.station.Supervisor().SetValidator(
+                [](const QString&, const QString&) { return QStringList(QStringLiteral("level is missing")); });
+            return desk.Write("a.xml");
+        },
+        signOf(State::Invalid), "Report a.xml is written, but it breaks a rule of its schema.",
+        "Reason: level is missing.", open);
+    row(
+        "schema-not-understood",
+        [](Desk& desk) {
+            const quint64 report = desk.station.Begin(desk.PathOf("a.xml"));
+            Q_EMIT ReportNews::Instance().SchemaRead(report, false, QStringLiteral("no root is left"));
+            desk.station.Write(report, desk.PathOf("a.xml"));
+            return report;
+        },
+        signOf(State::Written, QStringLiteral("fault")), "Report a.xml is written, but its schema was not understood.",
+        "Reason: no root is left.", open);
+    row("gone",
+        [](Desk& desk) {
+            const quint64 report = desk.Write("a.xml");
+            QFile::remove(desk.PathOf("a.xml"));
+            return report;
+        },
+        signOf(State::Gone), "Report a.xml was written, but its file is gone.", "Bring the file back", {});
+    row(
+        "pending", [](Desk& desk) { return desk.Lose("a.xml"); }, signOf(State::Pending),
+        "Report a.xml is not saved yet. It is tried again by itself.",
+        "Reason: no space left on device. A copy is safe", kept);
+    row(
+        "pending-without-a-copy",
+        [](Desk& desk) {
+            desk.station.Supervisor().SetEmergencyFolder(QString());
+            return desk.Lose("a.xml");
+        },
+        signOf(State::Pending), "Report a.xml is not saved yet. It is tried again by itself.", "There is no copy of it",
+        kept);
+    row(
+        "blocked",
+        [](Desk& desk) {
+            const quint64 report = desk.station.Lose(desk.PathOf("a.xml"));
+            desk.Write("a.xml");
+            desk.panel->ShowReport(report);
+            return report;
+        },
+        signOf(State::Blocked), "Report a.xml is not saved. It is kept until you decide.", "Save it elsewhere", kept);
+    row("failed",
+        [](Desk& desk) {
+            const quint64 report = desk.station.Begin(desk.PathOf("a.xml"));
+            desk.station.Fail(report, QByteArray());
+            return report;
+        },
+        signOf(State::Failed), "Report a.xml could not be saved, and is lost.", "Reason: no space left on device.", {});
+    row("closed",
+        [](Desk& desk) {
+            const quint64 report = desk.station.Begin(desk.PathOf("a.xml"));
+            auto* const dialog = new QDialog(desk.panel.get());
+            dialog->show();
+            Q_EMIT ReportNews::Instance().CommentAsked(report, dialog);
+            dialog->reject();
+            return report;
+        },
+        signOf(State::Closed), "Report a.xml is not saved: its comment dialog was closed.", "can be opened again",
+        {QStringLiteral("reportComment")});
+    row("discarded",
+        [](Desk& desk) {
+            const quint64 report = desk.Lose("a.xml");
+            desk.station.Supervisor().Discard(report);
+            return report;
+        },
+        signOf(State::Discarded), "Report a.xml is not saved: it was discarded.", "", {});
+}
+
+void TestReportPanel::tellsEveryState()
+{
+    QFETCH(const Make, make);
+    QFETCH(const QString, sign);
+    QFETCH(const QString, advice);
+    QFETCH(const QStringList, buttons);
+    Desk desk;
+    const quint64 report = make(desk);
+    QVERIFY(desk.Becomes(report, sign));
+    QTEST(desk.Text("reportSentence"), "sentence");
+    QTRY_VERIFY2(desk.Text("reportAdvice").contains(advice), qPrintable(desk.Text("reportAdvice")));
+    QVERIFY(!desk.Text("reportSentence").contains(QLatin1Char('%')));
+    const int row = desk.List()->currentIndex().row();
+    QVERIFY(desk.Cell(row, 0).startsWith(sign + QLatin1Char(' ')));
+    QCOMPARE(desk.Cell(row, 1), QStringLiteral("a.xml"));
+    for (const char* const name :
+         {"reportComment", "reportTryAgain", "reportSaveElsewhere", "reportDiscard", "reportOpen"}) {
+        QVERIFY2(desk.IsOffered(name) == buttons.contains(QLatin1String(name)), name);
+    }
+    QVERIFY(desk.IsOffered("reportCopyPath"));
+}
+
+void TestReportPanel::theListDrivesAll()
+{
+    Desk desk;
+    const quint64 written = desk.Write("written.xml", "<first/>");
+    const quint64 kept = desk.Lose("kept.xml");
+    QVERIFY(desk.Becomes(kept, signOf(State::Pending)));
+    QCOMPARE(desk.Xml(), QString());
+
+    QTableView& list = *desk.List();
+    const QPoint older = list.visualRect(list.model()->index(1, 1)).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, older);
+    QCOMPARE(desk.panel->GetShownReport(), written);
+    QCOMPARE(desk.Text("reportSign"), signOf(State::Written));
+    QCOMPARE(desk.Text("reportPath"), QDir::toNativeSeparators(desk.PathOf("written.xml")));
+    QCOMPARE(desk.Xml(), QStringLiteral("<first/>"));
+    QVERIFY(desk.Page().contains(QLatin1String("first")));
+    QVERIFY(desk.IsOffered("reportOpen"));
+    QVERIFY(!desk.IsOffered("reportTryAgain"));
+
+    QTest::keyClick(&list, Qt::Key_Up);
+    QCOMPARE(desk.panel->GetShownReport(), kept);
+    QCOMPARE(desk.Text("reportSign"), signOf(State::Pending));
+    QCOMPARE(desk.Xml(), QString());
+    QCOMPARE(desk.Page(), QString());
+    QVERIFY(!desk.IsOffered("reportOpen"));
+    QVERIFY(desk.IsOffered("reportTryAgain"));
+}
+
+void TestReportPanel::showsThePage()
+{
+    Desk desk;
+    desk.station.Supervisor().SetValidator(
+        [](const QString&, const QString&) { return QStringList(QStringLiteral("the level is too high")); });
+    const quint64 report = desk.Write("a.xml", "<report><level>17</level></report>");
+    QVERIFY(desk.Becomes(report, signOf(State::Invalid)));
+    QVERIFY(desk.Page().contains(QLatin1String("level")) && desk.Page().contains(QLatin1String("17")));
+    QVERIFY(desk.Page().contains(QLatin1String("the level is too high")));
+    QVERIFY(!desk.Page().contains(QLatin1Char('<')));
+    QVERIFY(desk.IsOffered("reportExport"));
+
+    QVERIFY(QFile::remove(desk.PathOf("a.xml")));
+    QVERIFY(desk.Becomes(report, signOf(State::Gone)));
+    QCOMPARE(desk.Page(), QString());
+    QVERIFY(!desk.IsOffered("reportExport"));
+}
+
+void TestReportPanel::saysWhyThereIsNoPage()
+{
+    Desk desk;
+    QVERIFY(desk.Becomes(desk.Write("a.xml", "<report>"), signOf(State::NotWellFormed)));
+    ReportPage page;
+    QVERIFY(!page.Read(desk.PathOf("a.xml"), QString()));
+    QVERIFY(!page.GetError().isEmpty());
+    QCOMPARE(desk.Page(), page.GetError());
+    QVERIFY(!desk.IsOffered("reportExport"));
+    QCOMPARE(desk.Xml(), QStringLiteral("<report>"));
+}
+
+void TestReportPanel::letsTheProgramAddToThePage()
+{
+    Desk desk;
+    quint64 dressed = 0;
+    desk.panel->SetPageDresser([&dressed](quint64 report, ReportPage& page) {
+        dressed = report;
+        page.SetTitle(QStringLiteral("Tower on the hill"));
+    });
+    const quint64 report = desk.Write("a.xml");
+    QVERIFY(desk.Becomes(report, signOf(State::Written)));
+    QCOMPARE(dressed, report);
+    QVERIFY(desk.Page().contains(QLatin1String("Tower on the hill")));
+}
+
+void TestReportPanel::exports_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("beginning");
+    QTest::newRow("html") << QStringLiteral("page.html") << QByteArray("<!DOCTYPE html>");
+    QTest::newRow("pdf") << QStringLiteral("page.PDF") << QByteArray("%PDF-");
+}
+
+void TestReportPanel::exports()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QByteArray, beginning);
+    Desk desk;
+    QVERIFY(desk.Becomes(desk.Write("a.xml"), signOf(State::Written)));
+    const QString fileName = desk.station.PathOf(name);
+    chooseNextFile(fileName);
+    QTest::mouseClick(desk.Button("reportExport"), Qt::LeftButton);
+    QVERIFY(bytesOf(fileName).startsWith(beginning));
+    QVERIFY(!desk.Find<QLabel>("reportComplaint")->isVisible());
+}
+
+void TestReportPanel::saysWhenItCannotExport()
+{
+    Desk desk;
+    QVERIFY(desk.Becomes(desk.Write("a.xml"), signOf(State::Written)));
+    const QString fileName = desk.MissingFolder() + QStringLiteral("/page.html");
+    chooseNextFile(fileName);
+    QTest::mouseClick(desk.Button("reportExport"), Qt::LeftButton);
+    QVERIFY(
+        desk.Text("reportComplaint")
+            .startsWith(QStringLiteral("The page could not be saved as %1: ").arg(QDir::toNativeSeparators(fileName))));
+}
+
+void TestReportPanel::asksForThePrinter()
+{
+    Desk desk;
+    if (!desk.Button("reportPrint")) {
+        QSKIP("The library is built without printing.");
+    }
+    QVERIFY(desk.Becomes(desk.Write("a.xml"), signOf(State::Written)));
+    bool isAsked = false;
+    answerNext<QDialog>([&isAsked](QDialog& dialog) {
+        isAsked = dialog.inherits("QPrintDialog");
+        dialog.reject();
+    });
+    QTest::mouseClick(desk.Button("reportPrint"), Qt::LeftButton);
+    QVERIFY(isAsked);
+}
+
+void TestReportPanel::followsTheNewest()
+{
+    Desk desk;
+    QCOMPARE(desk.Text("reportSentence"), QStringLiteral("No report has been made yet."));
+    QCOMPARE(desk.panel->GetShownReport(), quint64(0));
+    for (const char* const name : {"a.xml", "b.xml", "c.xml"}) {
+        QVERIFY(desk.Becomes(desk.Write(name), signOf(State::Written)));
+        QCOMPARE(desk.Cell(0, 1), QLatin1String(name));
+    }
+    QCOMPARE(desk.List()->model()->rowCount(), 3);
+}
+
+void TestReportPanel::disturbsNobodyWhoLooksAtAnOlderOne()
+{
+    Desk desk;
+    const quint64 first = desk.Write("a.xml");
+    QVERIFY(desk.Becomes(desk.Write("b.xml"), signOf(State::Written)));
+    desk.panel->ShowReport(first);
+    QCOMPARE(desk.panel->GetShownReport(), first);
+    const quint64 third = desk.Lose("c.xml");
+    QTRY_COMPARE(desk.List()->model()->rowCount(), 3);
+    QCOMPARE(desk.panel->GetShownReport(), first);
+    QCOMPARE(desk.List()->currentIndex().row(), 2);
+
+    QTest::keyClick(desk.List(), Qt::Key_Home, Qt::ControlModifier);
+    QCOMPARE(desk.panel->GetShownReport(), third);
+    QVERIFY(desk.Becomes(desk.Write("d.xml"), signOf(State::Written)));
+}
+
+void TestReportPanel::takesBackWhatIsNoLongerTrue()
+{
+    Desk desk;
+    const quint64 older = desk.Write("a.xml");
+    const quint64 report = desk.Write("b.xml");
+    QVERIFY(desk.Becomes(report, signOf(State::Written)));
+    QVERIFY(QFile::rename(desk.PathOf("a.xml"), desk.PathOf("elsewhere.xml")));
+    QVERIFY(QFile::rename(desk.PathOf("b.xml"), desk.PathOf("elsewhere-too.xml")));
+    QVERIFY(desk.Becomes(report, signOf(State::Gone)));
+    QTRY_VERIFY(desk.Cell(1, 0).startsWith(signOf(State::Gone)));
+    QCOMPARE(desk.Xml(), QString());
+    QVERIFY(!desk.IsOffered("reportOpen"));
+
+    QVERIFY(QFile::rename(desk.PathOf("elsewhere.xml"), desk.PathOf("a.xml")));
+    QTRY_COMPARE(desk.station.StateOf(older), State::Written);
+    QVERIFY(QFile::rename(desk.PathOf("elsewhere-too.xml"), desk.PathOf("b.xml")));
+    QVERIFY(desk.Becomes(report, signOf(State::Written)));
+    QCOMPARE(desk.Xml(), QStringLiteral("<report/>"));
+}
+
+void TestReportPanel::readsAgainWhatHasChanged()
+{
+    Desk desk;
+    const quint64 report = desk.Write("a.xml");
+    QVERIFY(desk.Becomes(report, signOf(State::Written)));
+    QTRY_VERIFY(desk.station.Supervisor().GetReport(report).isChecked);
+    writeFile(desk.PathOf("a.xml"), "<report>/"); // of the same size
+    QVERIFY(desk.Becomes(report, signOf(State::NotWellFormed)));
+    QTRY_COMPARE(desk.Xml(), QStringLiteral("<report>/"));
+
+    // Also what keeps its verdict.
+    writeFile(desk.PathOf("a.xml"), "<report>!");
+    QTRY_COMPARE(desk.Xml(), QStringLiteral("<report>!"));
+}
+
+void TestReportPanel::opensTheFile()
+{
+    Desk desk;
+    const OpenedUrls desktop;
+    QVERIFY(desk.Becomes(desk.Write("a.xml"), signOf(State::Written)));
+    QTest::mouseClick(desk.Button("reportOpen"), Qt::LeftButton);
+    QCOMPARE(desktop.urls, QList<QUrl> {QUrl::fromLocalFile(desk.PathOf("a.xml"))});
+    QVERIFY(!desk.Find<QLabel>("reportComplaint")->isVisible());
+}
+
+/// The button separates folders by back slashes on every system.
+void TestReportPanel::tellsWhereTheFileOfTheButtonWillBe()
+{
+    Desk desk;
+    const QString path = desk.PathOf("nowhere/a.xml");
+    const quint64 report = desk.station.Lose(QString(path).replace(QLatin1Char('/'), QLatin1Char('\\')));
+    QVERIFY(desk.Becomes(report, signOf(State::Pending)));
+    QCOMPARE(desk.Text("reportPath"), QDir::toNativeSeparators(path));
+}
+
+void TestReportPanel::opensWhatHasNoFolderInItsPath()
+{
+    Desk desk;
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(desk.station.PathOf(QString())));
+    const auto restore = qScopeGuard([&before] { QDir::setCurrent(before); });
+    const OpenedUrls desktop;
+    const quint64 report = desk.station.Begin(QStringLiteral("a.xml"));
+    desk.station.Write(report, QStringLiteral("a.xml"));
+    QVERIFY(desk.Becomes(report, signOf(State::Written)));
+    QTest::mouseClick(desk.Button("reportOpen"), Qt::LeftButton);
+    QCOMPARE(desktop.urls, QList<QUrl> {QUrl::fromLocalFile(QFileInfo(QStringLiteral("a.xml")).absoluteFilePath())});
+    QTest::mouseClick(desk.Button("reportCopyPath"), Qt::LeftButton);
+    QVERIFY(QFileInfo(QGuiApplication::clipboard()->text()).isAbsolute());
+}
+
+void TestReportPanel::saysWhenNothingOpensTheFile()
+{
+    Desk desk;
+    const OpenedUrls desktop("NoSuchSlot");
+    QVERIFY(desk.Becomes(desk.Write("a.xml"), signOf(State::Written)));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("No such method .*NoSuchSlot")));
+    QTest::mouseClick(desk.Button("reportOpen"), Qt::LeftButton);
+    QVERIFY(desk.Find<QLabel>("reportComplaint")->isVisible());
+    QCOMPARE(desk.Text("reportComplaint"),
+             QStringLiteral("There is no program that opens %1.").arg(QDir::toNativeSeparators(desk.PathOf("a.xml"))));
+
+    // What is done next takes it back.
+    QTest::mouseClick(desk.Button("reportCopyPath"), Qt::LeftButton);
+    QVERIFY(!desk.Find<QLabel>("reportComplaint")->isVisible());
+}
+
+void TestReportPanel::showsTheFolder()
+{
+#ifdef Q_OS_WIN
+    QSKIP("The Explorer is asked.");
+#endif
+    Desk desk;
+    const OpenedUrls desktop;
+    QVERIFY(desk.Becomes(desk.Lose("a.xml"), signOf(State::Pending)));
+    QTest::mouseClick(desk.Button("reportShowInFolder"), Qt::LeftButton);
+    QCOMPARE(desk.Text("reportComplaint"),
+             QStringLiteral("There is no folder %1.").arg(QDir::toNativeSeparators(desk.MissingFolder())));
+    QCOMPARE(desktop.urls, QList<QUrl>());
+
+    QVERIFY(desk.Becomes(desk.Write("b.xml"), signOf(State::Written)));
+    QTest::mouseClick(desk.Button("reportShowInFolder"), Qt::LeftButton);
+    QCOMPARE(desktop.urls, QList<QUrl> {QUrl::fromLocalFile(QFileInfo(desk.PathOf("b.xml")).absolutePath())});
+}
+
+void TestReportPanel::copiesThePathByItsKey()
+{
+    Desk desk;
+    QVERIFY(desk.Becomes(desk.Write("a.xml"), signOf(State::Written)));
+    QGuiApplication::clipboard()->clear();
+    QTest::keyClick(desk.panel.get(), Qt::Key_C, Qt::AltModifier);
+    QTRY_COMPARE(QGuiApplication::clipboard()->text(), QDir::toNativeSeparators(desk.PathOf("a.xml")));
+}
+
+void TestReportPanel::triesAgain()
+{
+    Desk desk;
+    const quint64 report = desk.Lose("a.xml");
+    QVERIFY(desk.Becomes(report, signOf(State::Pending)));
+    QTest::mouseClick(desk.Button("reportTryAgain"), Qt::LeftButton);
+    QCOMPARE(desk.Text("reportComplaint"), QStringLiteral("The report could still not be saved."));
+    QVERIFY(QDir().mkpath(desk.MissingFolder()));
+    if (desk.IsOffered("reportTryAgain")) { // the supervisor may have seen the folder first
+        QTest::mouseClick(desk.Button("reportTryAgain"), Qt::LeftButton);
+    }
+    QVERIFY(desk.Becomes(report, signOf(State::Written)));
+    QCOMPARE(bytesOf(desk.MissingFolder() + QStringLiteral("/a.xml")), QByteArray("<report/>"));
+    QCOMPARE(desk.Xml(), QStringLiteral("<report/>"));
+}
+
+void TestReportPanel::savesElsewhere()
+{
+    Desk desk;
+    const quint64 report = desk.Lose("a.xml");
+    QVERIFY(desk.Becomes(report, signOf(State::Pending)));
+    const QString elsewhere = desk.PathOf("elsewhere.xml");
+    chooseNextFile(elsewhere);
+    QTest::mouseClick(desk.Button("reportSaveElsewhere"), Qt::LeftButton);
+    QVERIFY(desk.Becomes(report, signOf(State::Written)));
+    QCOMPARE(desk.Text("reportPath"), QDir::toNativeSeparators(elsewhere));
+    QCOMPARE(bytesOf(elsewhere), QByteArray("<report/>"));
+}
+
+void TestReportPanel::discardsOnlyWhenMeant_data()
+{
+    QTest::addColumn<bool>("isMeant");
+    QTest::newRow("meant") << true;
+    QTest::newRow("escape-keeps") << false;
+}
+
+void TestReportPanel::discardsOnlyWhenMeant()
+{
+    QFETCH(const bool, isMeant);
+    Desk desk;
+    const quint64 report = desk.Lose("a.xml");
+    QVERIFY(desk.Becomes(report, signOf(State::Pending)));
+    answerNext<QMessageBox>([isMeant](QMessageBox& question) {
+        QVERIFY(question.text().contains(QLatin1String("a.xml")));
+        if (isMeant) {
+            press(question, QMessageBox::DestructiveRole);
+        } else {
+            QTest::keyClick(&question, Qt::Key_Escape);
+        }
+    });
+    QTest::mouseClick(desk.Button("reportDiscard"), Qt::LeftButton);
+    QVERIFY(desk.Becomes(report, signOf(isMeant ? State::Discarded : State::Pending)));
+    QCOMPARE(desk.station.Copies().isEmpty(), isMeant);
+}
+
+void TestReportPanel::tellsHowManyAreKept()
+{
+    Desk desk;
+    QVERIFY(!desk.Find<QLabel>("reportsKept")->isVisible());
+    const quint64 first = desk.Lose("a.xml");
+    const quint64 second = desk.Lose("b.xml");
+    QVERIFY(desk.Becomes(second, signOf(State::Pending)));
+    QVERIFY(desk.Find<QLabel>("reportsKept")->isVisible());
+    QVERIFY2(QRegularExpression(QStringLiteral("^Not saved yet: 2\\. Next try in (360\\d|35\\d\\d) s\\.$"))
+                 .match(desk.Text("reportsKept"))
+                 .hasMatch(),
+             qPrintable(desk.Text("reportsKept")));
+    // The seconds go on by themselves.
+    const QString before = desk.Text("reportsKept");
+    QTRY_VERIFY(desk.Text("reportsKept") != before);
+    desk.station.Supervisor().Discard(first);
+    desk.station.Supervisor().Discard(second);
+    QTRY_VERIFY(!desk.Find<QLabel>("reportsKept")->isVisible());
+}
+
+void TestReportPanel::offersWhatEarlierProcessesLeft()
+{
+    Desk desk;
+    desk.Lose("a.xml");
+    desk.panel.reset();
+    desk.station.Restart();
+    desk.panel = std::make_unique<ReportPanel>(desk.station.Supervisor());
+    desk.panel->show();
+    QCOMPARE(desk.station.Supervisor().TakeOverEarlier(), QStringList());
+    QVERIFY(desk.Becomes(ReportSupervisor::FirstEarlier, signOf(State::Offered)));
+    QCOMPARE(desk.Text("reportsKept"), QStringLiteral("Not saved yet: 1."));
+    QVERIFY(desk.IsOffered("reportTryAgain"));
+    QVERIFY(QDir().mkpath(desk.MissingFolder()));
+    QTest::mouseClick(desk.Button("reportTryAgain"), Qt::LeftButton);
+    QVERIFY(desk.Becomes(ReportSupervisor::FirstEarlier, signOf(State::Written)));
+}
+
+void TestReportPanel::bringsTheCommentDialogBack()
+{
+    Desk desk;
+    QDialog dialog;
+    const quint64 report = desk.station.Begin(desk.PathOf("a.xml"));
+    dialog.show();
+    Q_EMIT ReportNews::Instance().CommentAsked(report, &dialog);
+    QVERIFY(desk.Becomes(report, signOf(State::Waiting)));
+    desk.panel->activateWindow();
+    QTest::mouseClick(desk.Button("reportComment"), Qt::LeftButton);
+    QTRY_VERIFY(dialog.isActiveWindow());
+
+    dialog.reject();
+    QVERIFY(desk.Becomes(report, signOf(State::Closed)));
+    QTest::mouseClick(desk.Button("reportComment"), Qt::LeftButton);
+    QTRY_VERIFY(dialog.isVisible());
+    QVERIFY(desk.Becomes(report, signOf(State::Waiting))); // and is lost if nobody is asked before quitting
+    QCOMPARE(desk.station.Supervisor().MayQuit().size(), 1);
+    desk.station.Write(report, desk.PathOf("a.xml"));
+    QVERIFY(desk.Becomes(report, signOf(State::Written)));
+    QVERIFY(!desk.IsOffered("reportComment"));
+}
+
+void TestReportPanel::quitsWithoutAQuestionWhenNothingIsLost()
+{
+    Desk desk;
+    QVERIFY(desk.panel->MayQuit());
+    QVERIFY(desk.Becomes(desk.Lose("a.xml"), signOf(State::Pending))); // and safe
+    QVERIFY(desk.panel->MayQuit());
+}
+
+void TestReportPanel::asksBeforeReportsAreLost_data()
+{
+    QTest::addColumn<int>("role");
+    QTest::addColumn<bool>("mayQuit");
+    QTest::newRow("quits") << int(QMessageBox::DestructiveRole) << true;
+    QTest::newRow("stays") << int(QMessageBox::RejectRole) << false;
+    QTest::newRow("escape-stays") << int(QMessageBox::InvalidRole) << false;
+}
+
+void TestReportPanel::asksBeforeReportsAreLost()
+{
+    QFETCH(const int, role);
+    Desk desk;
+    desk.station.Supervisor().SetEmergencyFolder(QString());
+    desk.station.Begin(desk.PathOf("making.xml"));
+    QVERIFY(desk.Becomes(desk.Lose("lost.xml"), signOf(State::Pending)));
+    QString said;
+    answerNext<QMessageBox>([&said, role](QMessageBox& question) {
+        said = question.text();
+        QCOMPARE(question.textFormat(), Qt::PlainText);
+        if (role == QMessageBox::InvalidRole) {
+            QTest::keyClick(&question, Qt::Key_Escape);
+        } else {
+            press(question, QMessageBox::ButtonRole(role));
+        }
+    });
+    QTEST(desk.panel->MayQuit(), "mayQuit");
+    QVERIFY(said.endsWith(desk.station.Supervisor().MayQuit().join(QLatin1Char('\n'))));
+    QVERIFY(said.contains(QLatin1String("making.xml")) && said.contains(QLatin1String("lost.xml")));
+}
+
+void TestReportPanel::namesTenOfManyThatWouldBeLost()
+{
+    Desk desk;
+    for (int i = 0; i < 12; ++i) {
+        desk.station.Begin(desk.PathOf("a.xml"));
+    }
+    QString said;
+    answerNext<QMessageBox>([&said](QMessageBox& question) {
+        said = question.text();
+        QTest::keyClick(&question, Qt::Key_Escape);
+    });
+    QVERIFY(!desk.panel->MayQuit());
+    QCOMPARE(said.count(QLatin1String("a.xml")), 10);
+    QVERIFY(said.endsWith(QLatin1String("and 2 more")));
+}
+
+void TestReportPanel::takesNamesForText()
+{
+    Desk desk;
+    const quint64 report = desk.Lose("<b>a&amp;b<b>.xml");
+    QVERIFY(desk.Becomes(report, signOf(State::Pending)));
+    QCOMPARE(desk.Find<QLabel>("reportSentence")->textFormat(), Qt::PlainText);
+    QVERIFY(desk.Text("reportSentence").contains(QLatin1String("<b>a&amp;b<b>.xml")));
+    const QString toolTip = desk.List()->model()->index(0, 1).data(Qt::ToolTipRole).toString();
+    QVERIFY(toolTip.contains(QLatin1String("&lt;b&gt;a&amp;amp;b&lt;b&gt;.xml")));
+    answerNext<QMessageBox>([](QMessageBox& question) {
+        QCOMPARE(question.textFormat(), Qt::PlainText);
+        QTest::keyClick(&question, Qt::Key_Escape);
+    });
+    QTest::mouseClick(desk.Button("reportDiscard"), Qt::LeftButton);
+}
+
+void TestReportPanel::shortensWhatDoesNotFit()
+{
+    Desk desk;
+    const QByteArray name = QByteArray(200, 'n') + ".xml";
+    QVERIFY(desk.Becomes(desk.Write(name.constData()), signOf(State::Written)));
+    const auto* const sentence = desk.Find<QLabel>("reportSentence");
+    for (const QString& word : sentence->text().split(QLatin1Char(' '))) {
+        QVERIFY(sentence->fontMetrics().horizontalAdvance(word) < sentence->width());
+    }
+    QVERIFY(sentence->text().contains(QLatin1String("nnn.xml ")));
+    QCOMPARE(desk.panel->size(), Smallest);
+}
+
+void TestReportPanel::looksAtManyReports()
+{
+    Desk desk;
+    std::vector<quint64> reports;
+    for (int i = 0; i < 200; ++i) {
+        reports.push_back(desk.Write(qPrintable(QStringLiteral("%1.xml").arg(i))));
+    }
+    QTRY_VERIFY(desk.station.Supervisor().GetReport(reports.back()).isChecked);
+    QVERIFY(QFile::remove(desk.PathOf("0.xml")));
+    QVERIFY(QFile::remove(desk.PathOf("150.xml")));
+    QTRY_COMPARE(desk.station.StateOf(reports[0]), State::Gone);
+    QTRY_COMPARE(desk.station.StateOf(reports[150]), State::Gone);
+    QCOMPARE(desk.station.StateOf(reports[1]), State::Written);
+}
+
+void TestReportPanel::showsTheBeginningOfALargeFile_data()
+{
+    QTest::addColumn<QByteArray>("element");
+    QTest::newRow("lines") << QByteArray("<level unit='dBm'>17</level>\n");
+    QTest::newRow("one-line") << QByteArray("<level unit='dBm'>17</level>");
+}
+
+void TestReportPanel::showsTheBeginningOfALargeFile()
+{
+    QFETCH(const QByteArray, element);
+    Desk desk;
+    const QByteArray content = "<report>" + element.repeated(20000) + "</report>";
+    QVERIFY(desk.Becomes(desk.Write("a.xml", content), signOf(State::Written)));
+    QVERIFY(desk.Xml().startsWith(QLatin1String("<report>")));
+    QVERIFY(desk.Xml().endsWith(QChar(0x2026)));
+    QVERIFY(desk.Xml().size() < content.size() / 2);
+    QVERIFY(desk.Page().startsWith(QLatin1String("This report is too long to be shown as a page.")));
+
+    const QString fileName = desk.PathOf("page.html");
+    chooseNextFile(fileName);
+    QTest::mouseClick(desk.Button("reportExport"), Qt::LeftButton);
+    QVERIFY(bytesOf(fileName).size() > content.size());
+}
+
+void TestReportPanel::everyButtonHasAKeyOfItsOwn_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const char* const language : {"en", "de", "fr"}) {
+        QTest::newRow(language) << QString::fromLatin1(language);
+    }
+}
+
+void TestReportPanel::everyButtonHasAKeyOfItsOwn()
+{
+    QFETCH(const QString, language);
+    if (!areTranslationsMade()) {
+        QSKIP("The translations are not made.");
+    }
+    speak(language);
+    Desk desk;
+    const QStringList mnemonics = mnemonicsOf(*desk.panel);
+    QVERIFY(mnemonics.size() >= 9);
+    QVERIFY2(!mnemonics.contains(QString()), qPrintable(mnemonics.join(QLatin1Char(' '))));
+    QCOMPARE(int(QSet<QString>(mnemonics.begin(), mnemonics.end()).size()), int(mnemonics.size()));
+}
+
+void TestReportPanel::everyTextFits_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<int>("dpi");
+    for (const char* const language : {"en", "de", "fr"}) {
+        for (const int dpi : {96, 144, 192}) {
+            QTest::addRow("%s-%d-dpi", language, dpi) << QString::fromLatin1(language) << dpi;
+        }
+    }
+}
+
+/// On the smallest window. Letters half as large again must do with the same; only those twice as large get more.
+void TestReportPanel::everyTextFits()
+{
+    QFETCH(const QString, language);
+    QFETCH(const int, dpi);
+    if (!areTranslationsMade()) {
+        QSKIP("The translations are not made.");
+    }
+    const QFont usual = QApplication::font();
+    const QFontMetrics metrics(usual);
+    if (metrics.horizontalAdvance(QLatin1Char('i')) == metrics.horizontalAdvance(QLatin1Char('W'))) {
+        QSKIP("There are boxes in place of letters, which are far wider.");
+    }
+    speak(language);
+    QFont font = usual;
+    font.setPointSizeF(usual.pointSizeF() * dpi / 96);
+    QApplication::setFont(font);
+    const auto restore = qScopeGuard([usual] { QApplication::setFont(usual); });
+
+    Desk desk;
+    const QSize size = dpi > 144 ? Smallest * dpi / 96 : Smallest;
+    desk.panel->resize(size);
+    desk.Write("Report_20261122_231907.xml", "<report>");
+    const quint64 kept = desk.Lose("Report_20261122_231907.xml");
+    QVERIFY(desk.Becomes(kept, signOf(State::Pending)));
+    QTRY_VERIFY2(cutOff(*desk.panel).isEmpty(), qPrintable(cutOff(*desk.panel).join(QLatin1Char('\n'))));
+    QTest::keyClick(desk.List(), Qt::Key_Down);
+    QTRY_COMPARE(desk.Text("reportSign"), signOf(State::NotWellFormed));
+    QTRY_VERIFY2(cutOff(*desk.panel).isEmpty(), qPrintable(cutOff(*desk.panel).join(QLatin1Char('\n'))));
+    QCOMPARE(desk.panel->size(), size);
+    QVERIFY(desk.List()->height() > 3 * desk.List()->fontMetrics().height());
+}
+
+void TestReportPanel::changesItsLanguageAtOnce()
+{
+    if (!areTranslationsMade()) {
+        QSKIP("The translations are not made.");
+    }
+    Desk desk;
+    QVERIFY(desk.Becomes(desk.Write("a.xml"), signOf(State::Written)));
+    QCOMPARE(desk.Button("reportOpen")->text(), QStringLiteral("&Open"));
+    speak(QStringLiteral("de"));
+    QTRY_COMPARE(desk.Button("reportOpen")->text(), QStringLiteral("Ö&ffnen"));
+    QCOMPARE(desk.Text("reportSentence"), QStringLiteral("Bericht a.xml ist geschrieben."));
+    QVERIFY(desk.Cell(0, 0).endsWith(QLatin1String("geschrieben")));
+    speak(QStringLiteral("fr"));
+    QTRY_COMPARE(desk.Button("reportOpen")->text(), QStringLiteral("&Ouvrir"));
+    QCOMPARE(desk.Text("reportSentence"), QStringLiteral("Le rapport a.xml est écrit."));
+}
+
+void TestReportPanel::showsWhereTheKeyboardIs()
+{
+    Desk desk;
+    QVERIFY(desk.Becomes(desk.Write("a.xml"), signOf(State::Written)));
+    QWidget* const list = desk.List();
+    QWidget* const text = desk.Find<QTextBrowser>("reportPage");
+    const auto edgeOf = [](QWidget* widget) {
+        const QPoint corner = widget->mapTo(widget->window(), QPoint()) - QPoint(1, 1);
+        return QColor(widget->window()->grab().toImage().pixel(corner));
+    };
+    const QColor marked = desk.panel->palette().color(QPalette::Highlight);
+    list->setFocus();
+    QCOMPARE(edgeOf(list), marked);
+    QVERIFY(edgeOf(text) != marked);
+    text->setFocus();
+    QVERIFY(edgeOf(list) != marked);
+    QCOMPARE(edgeOf(text), marked);
+}
+
+void TestReportPanel::tabGoesFromTopToBottom()
+{
+    Desk desk;
+    QVERIFY(desk.Becomes(desk.Lose("kept.xml"), signOf(State::Pending)));
+    desk.Button("reportTryAgain")->setFocus();
+    QStringList names;
+    for (int i = 0; i < 12; ++i) {
+        const QWidget* const focus = QApplication::focusWidget();
+        names.append(focus->objectName());
+        QTest::keyClick(desk.panel->window(), Qt::Key_Tab);
+    }
+    const QStringList expected {
+        QStringLiteral("reportTryAgain"),      QStringLiteral("reportSaveElsewhere"), QStringLiteral("reportDiscard"),
+        QStringLiteral("reportShowInFolder"),  QStringLiteral("reportCopyPath"),      QStringLiteral("reportList"),
+        QStringLiteral("qt_tabwidget_tabbar"), QStringLiteral("reportPage"),          QStringLiteral("reportTryAgain")};
+    QVERIFY2(names.mid(0, expected.size()) == expected, qPrintable(names.join(QLatin1Char(' '))));
+}
+
+void TestReportPanel::remembersOnlyWhenToldTo()
+{
+    Desk desk;
+    QSettings settings(desk.PathOf("settings.ini"), QSettings::IniFormat);
+    const auto move = [&desk](int width) {
+        auto* const row = desk.panel->findChild<QSplitter*>();
+        row->setSizes({width, row->width() - width});
+        Q_EMIT row->splitterMoved(width, 1);
+    };
+    const auto listWidth = [&desk] { return desk.panel->findChild<QSplitter*>()->sizes().at(0); };
+    move(500);
+    QVERIFY(settings.allKeys().isEmpty());
+    desk.panel->Remember(settings);
+    move(250);
+    const int width = listWidth();
+    QVERIFY(!settings.allKeys().isEmpty());
+
+    desk.panel = std::make_unique<ReportPanel>(desk.station.Supervisor());
+    desk.panel->resize(Smallest);
+    desk.panel->show();
+    QVERIFY(listWidth() != width);
+    desk.panel->Remember(settings);
+    QCOMPARE(listWidth(), width);
+}
+
+void TestReportPanel::goesBeforeItsSupervisor()
+{
+    Desk desk;
+    QVERIFY(desk.Becomes(desk.Write("a.xml"), signOf(State::Written)));
+    desk.Lose("b.xml");
+    desk.panel.reset();
+    QSignalSpy changes(&desk.station.Supervisor(), &ReportSupervisor::Changed);
+    const quint64 report = desk.Write("c.xml");
+    QTRY_VERIFY(desk.station.Supervisor().GetReport(report).isChecked);
+    QVERIFY(!changes.isEmpty());
+}
+
+QTEST_MAIN(TestReportPanel)
+
+#include "tst_reportpanel.moc"
