@@ -36,6 +36,7 @@ private Q_SLOTS:
     void marksDefinitionsExpandedByAnIncludedFile();
     void revivesExpandedDefinitionsAtTheEndOfIncludingFilesOnly();
     void countsServedReferencesOfTheIncludingFile();
+    void servesNobodyAgainWithAnotherDefinition();
     void tracesTypesThatAnIncludedFileMisses();
     void failsForATypeThatNoFileDefines();
     void keepsFragmentsOfIncludedFilesAsLongAsTheHandler();
@@ -431,6 +432,21 @@ void TestXmlSchemaHandlerIncludes::countsServedReferencesOfTheIncludingFile()
     SchemaFixture schema(folder.Path(QStringLiteral("main.xsd")));
     QVERIFY(schema.Read(declarations + type(QStringLiteral("Last"))));
     QCOMPARE(schema.Definitions(), QStringLiteral("Holder 1 0 [a b]\nLast 1 -1 [leaf]\nLater 1 -1 [leaf]\n"));
+}
+
+void TestXmlSchemaHandlerIncludes::servesNobodyAgainWithAnotherDefinition()
+{
+    const SchemaFolder folder;
+    folder.Write(QStringLiteral("part.xsd"),
+                 QStringLiteral("<xs:complexType name='Holder'><xs:element name='a' type='Later'/></xs:complexType>")
+                     + type(QStringLiteral("Later")));
+    SchemaFixture schema(folder.Path(QStringLiteral("main.xsd")));
+    QVERIFY(schema.Read(include(QStringLiteral("part.xsd"))
+                        + QStringLiteral("<xs:complexType name='Later'><xs:element name='other' type='xs:int'/>"
+                                         "</xs:complexType><xs:element name='root' type='Holder'/>")));
+    QCOMPARE(schema.Definitions(), QStringLiteral("Holder 1 0 [a]\nLater 1 -1 [other]\nroot 1 0 [root]\n"));
+    QCOMPARE(domText(schema.Handler().GetDocument()->documentElement()),
+             QStringLiteral("<root>\n  <a>\n    <leaf type=\"int\"/>\n  </a>\n</root>\n"));
 }
 
 void TestXmlSchemaHandlerIncludes::tracesTypesThatAnIncludedFileMisses()

@@ -24,10 +24,12 @@ private Q_SLOTS:
     void tellsOfFiles();
     void tellsOfSkippedFiles();
     void tellsOfMalformedFiles();
+    void tellsOnlyOfReferencesThatNeverCame();
     void tellsOfRefusals_data();
     void tellsOfRefusals();
     void tellsWhenTheLibraryItselfWouldGoOn();
     void tellsTheLineOfATag();
+    void tellsTextAndAttributesAndEnds();
     void tellsWhereElementsComeFrom_data();
     void tellsWhereElementsComeFrom();
     void isToldOfEveryElementAndAttribute();
@@ -132,39 +134,6 @@ private:
 };
 
 /// A folder with schema files, and what is heard when one is read.
-class SchemaFolder
-{
-public:
-    QString Write(const QString& name, const QByteArray& content) const
-    {
-        QFile file(m_folder.filePath(name));
-        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
-    }
-
-    void Read(const QString& name, LogRecorder& log) const
-    {
-        const QString path = m_folder.filePath(name);
-        SchemaFixture fixture(path);
-        fixture.Handler().SetLog(&log);
-        fixture.ReadFileByHandler(path);
-    }
-
-private:
-    QTemporaryDir m_folder;
-};
-
-void hear(const QString& declarations, LogRecorder& log)
-{
-    const SchemaFolder folder;
-    folder.Write(QStringLiteral("main.xsd"), schemaOf(declarations).toUtf8());
-    folder.Read(QStringLiteral("main.xsd"), log);
-}
-
-QString linesOf(const QStringList& lines)
-{
-    return lines.join(QLatin1Char('\n'));
-}
-
 /// What is left of a schema, in text.
 QString remainsOf(const QString& file, SchemaReadingLog* log)
 {
@@ -175,6 +144,41 @@ QString remainsOf(const QString& file, SchemaReadingLog* log)
     return QStringList({QString::number(isRead), fixture.Skeleton(), fixture.Occurs(), fixture.Choices(),
                         fixture.Definitions(), fixture.References(), traces.Messages()})
         .join(QStringLiteral("\n---\n"));
+}
+
+class SchemaFolder
+{
+public:
+    QString Write(const QString& name, const QByteArray& content) const
+    {
+        QFile file(m_folder.filePath(name));
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
+    }
+
+    void Read(const QString& name, SchemaReadingLog& log) const
+    {
+        const QString path = m_folder.filePath(name);
+        SchemaFixture fixture(path);
+        fixture.Handler().SetLog(&log);
+        fixture.ReadFileByHandler(path);
+        SchemaReadingLog deaf;
+        QCOMPARE(remainsOf(path, &deaf), remainsOf(path, nullptr));
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+void hear(const QString& declarations, SchemaReadingLog& log)
+{
+    const SchemaFolder folder;
+    folder.Write(QStringLiteral("main.xsd"), schemaOf(declarations).toUtf8());
+    folder.Read(QStringLiteral("main.xsd"), log);
+}
+
+QString linesOf(const QStringList& lines)
+{
+    return lines.join(QLatin1Char('\n'));
 }
 
 /// Tags at random, most of which mean something: types, globals and references in any order, facets and attributes of
@@ -373,6 +377,21 @@ void TestXmlSchemaHandlerLog::tellsOfMalformedFiles()
     QVERIFY(!linesOf(log.events).contains(QLatin1String("malformed 0")));
 }
 
+/// The included file has served its references before its type is replaced by one that waits.
+void TestXmlSchemaHandlerLog::tellsOnlyOfReferencesThatNeverCame()
+{
+    const SchemaFolder folder;
+    folder.Write(QStringLiteral("main.xsd"),
+                 "<xs:schema><xs:include schemaLocation='part.xsd'/><xs:complexType name='Later'>"
+                 "<xs:element name='b' type='Never'/></xs:complexType></xs:schema>");
+    folder.Write(QStringLiteral("part.xsd"),
+                 "<xs:schema><xs:complexType name='Holder'><xs:element name='a' type='Later'/></xs:complexType>"
+                 "<xs:complexType name='Later'><xs:element name='leaf' type='xs:int'/></xs:complexType></xs:schema>");
+    LogRecorder log;
+    folder.Read(QStringLiteral("main.xsd"), log);
+    QCOMPARE(linesOf(log.events.filter(QStringLiteral("never got"))), QStringLiteral("0.3 in Later never got Never"));
+}
+
 void TestXmlSchemaHandlerLog::tellsOfRefusals_data()
 {
     QTest::addColumn<QString>("declarations");
@@ -439,6 +458,29 @@ void TestXmlSchemaHandlerLog::tellsTheLineOfATag()
     LogRecorder log;
     hear(QStringLiteral("\n<xs:element\n  name='a'\n/>\n<xs:element name='b'/>"), log);
     QCOMPARE(log.lines, QList<int>({1, 4, 5}));
+}
+
+void TestXmlSchemaHandlerLog::tellsTextAndAttributesAndEnds()
+{
+    class TextRecorder : public SchemaReadingLog
+    {
+    public:
+        QString told;
+
+        void TagBegun(const SchemaTag&, const QString& name, int) override { told += name + QLatin1Char('('); }
+        void AttributesRead(const QXmlAttributes& attributes) override
+        {
+            told += attributes.value(QStringLiteral("xml:lang"));
+        }
+        void TextRead(const QString& text) override { told += text; }
+        void TagEnded() override { told += QLatin1Char(')'); }
+    };
+    TextRecorder log;
+    hear(QStringLiteral("<xs:element name='a'><xs:annotation><xs:documentation xml:lang='de'> eins &amp; <b>zwei</b>"
+                        "</xs:documentation></xs:annotation></xs:element>"),
+         log);
+    QVERIFY2(log.told.contains(QStringLiteral("xs:element(xs:annotation(xs:documentation(de eins & b(zwei))))")),
+             qPrintable(log.told));
 }
 
 void TestXmlSchemaHandlerLog::tellsWhereElementsComeFrom_data()
