@@ -12,8 +12,8 @@
         <translation>Drückt den Berichtsknopf &lt;times&gt; Mal, gibt die Pfade der Berichte aus und endet. Braucht keinen Bildschirm.</translation>
     </message>
     <message>
-        <source>Write the reports into &lt;directory&gt;; by default the one chosen last, or the current one, but with --press it must be given.</source>
-        <translation>Schreibt die Berichte nach &lt;directory&gt;; sonst in das zuletzt gewählte oder das aktuelle Verzeichnis, mit --press muss es angegeben werden.</translation>
+        <source>Write the reports into &lt;directory&gt;; by default the one chosen last, or &quot;Measurement Reports&quot; among your documents, but with --press it must be given.</source>
+        <translation>Schreibt die Berichte nach &lt;directory&gt;; sonst in das zuletzt gewählte Verzeichnis oder nach „Measurement Reports“ bei Ihren Dokumenten, mit --press muss es angegeben werden.</translation>
     </message>
     <message>
         <source>Use the schema &lt;file&gt;; by default the one chosen last, or the one beside the program.</source>

@@ -12,8 +12,8 @@
         <translation>Press the report button &lt;times&gt; times, print the paths of the reports and end. Needs no screen.</translation>
     </message>
     <message>
-        <source>Write the reports into &lt;directory&gt;; by default the one chosen last, or the current one, but with --press it must be given.</source>
-        <translation>Write the reports into &lt;directory&gt;; by default the one chosen last, or the current one, but with --press it must be given.</translation>
+        <source>Write the reports into &lt;directory&gt;; by default the one chosen last, or &quot;Measurement Reports&quot; among your documents, but with --press it must be given.</source>
+        <translation>Write the reports into &lt;directory&gt;; by default the one chosen last, or &quot;Measurement Reports&quot; among your documents, but with --press it must be given.</translation>
     </message>
     <message>
         <source>Use the schema &lt;file&gt;; by default the one chosen last, or the one beside the program.</source>

@@ -12,8 +12,8 @@
         <translation>Appuie &lt;times&gt; fois sur le bouton de rapport, affiche les chemins des rapports et se termine. N&apos;a pas besoin d&apos;écran.</translation>
     </message>
     <message>
-        <source>Write the reports into &lt;directory&gt;; by default the one chosen last, or the current one, but with --press it must be given.</source>
-        <translation>Écrit les rapports dans &lt;directory&gt; ; par défaut le dernier dossier choisi ou le dossier courant, mais avec --press il faut l&apos;indiquer.</translation>
+        <source>Write the reports into &lt;directory&gt;; by default the one chosen last, or &quot;Measurement Reports&quot; among your documents, but with --press it must be given.</source>
+        <translation>Écrit les rapports dans &lt;directory&gt; ; par défaut le dernier dossier choisi ou « Measurement Reports » parmi vos documents, mais avec --press il faut l&apos;indiquer.</translation>
     </message>
     <message>
         <source>Use the schema &lt;file&gt;; by default the one chosen last, or the one beside the program.</source>

@@ -20,8 +20,8 @@ struct Options
                               QStringLiteral("times")};
     QCommandLineOption reports {
         QStringLiteral("reports"),
-        Text::tr("Write the reports into <directory>; by default the one chosen last, or the current "
-                 "one, but with --press it must be given."),
+        Text::tr("Write the reports into <directory>; by default the one chosen last, or \"Measurement "
+                 "Reports\" among your documents, but with --press it must be given."),
         QStringLiteral("directory")};
     QCommandLineOption schema {QStringLiteral("schema"),
                                Text::tr("Use the schema <file>; by default the one chosen last, or the one beside the "

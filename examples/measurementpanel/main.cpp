@@ -70,9 +70,12 @@ int serveOperator(const CommandLine& commandLine, Languages& languages)
 
     const MeasurementTree tree;
     SimulatedReceiver receiver(tree);
-    PanelWindow window(
-        tree, receiver, commandLine.schema.value_or(chosen(settings.GetSchema(), ownSchema())),
-        commandLine.reportDirectory.value_or(chosen(settings.GetReportDirectory(), QDir::currentPath())));
+    QString directory = commandLine.reportDirectory.value_or(settings.GetReportDirectory());
+    if (directory.isEmpty()) {
+        directory = PanelSettings::DefaultReportDirectory();
+    }
+    PanelWindow window(tree, receiver, commandLine.schema.value_or(chosen(settings.GetSchema(), ownSchema())),
+                       directory);
     window.AskForComment(settings.GetAskForComment());
     window.OfferLanguages(languages);
     window.Remember(settings);
@@ -90,6 +93,9 @@ int main(int argc, char* argv[])
     if (isOffscreen) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // else the button's picture is coarse on fine screens
+#endif
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("measurementpanel"));
     QApplication::setStyle(QStringLiteral("Fusion"));

@@ -25,6 +25,14 @@ QString PanelSettings::DefaultFile()
         .filePath(QStringLiteral("settings.ini"));
 }
 
+QString PanelSettings::DefaultReportDirectory()
+{
+    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    const QString directory = documents.filePath(QStringLiteral("Measurement Reports"));
+    QDir().mkpath(directory);
+    return directory;
+}
+
 QString PanelSettings::GetSchema() const
 {
     return m_settings.value(SchemaKey).toString();

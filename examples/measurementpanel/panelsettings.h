@@ -13,6 +13,8 @@ public:
 
     /// The file of the user who runs the program.
     static QString DefaultFile();
+    /// Among the documents of that user. It is made when it is missing, so that the first press finds it.
+    static QString DefaultReportDirectory();
 
     QString GetSchema() const;
     void SetSchema(const QString& schema);

@@ -352,9 +352,10 @@ void TestPanelOperation::theLanguageChangesEverythingAtOnce()
     QVERIFY(scene.LabelText("messageSentence").startsWith(QLatin1String("Bericht geschrieben: ")));
     QVERIFY(scene.LabelText("lastPress").startsWith(QLatin1String("Bericht geschrieben: ")));
     QVERIFY(scene.LabelText("availability").contains(QLatin1String("Das Berichtsverzeichnis fehlt")));
-    QVERIFY2(scene.Button().toolTip().startsWith(QLatin1String("Zum Bericht (Shift+F10)\nDas Berichtsverzeichnis")),
-             qPrintable(scene.Button().toolTip()));
-    QCOMPARE(scene.Button().accessibleName(), QStringLiteral("Zum Bericht"));
+    QVERIFY2(
+        scene.Button().toolTip().startsWith(QLatin1String("Bericht erstellen (Shift+F10)\nDas Berichtsverzeichnis")),
+        qPrintable(scene.Button().toolTip()));
+    QCOMPARE(scene.Button().accessibleName(), QStringLiteral("Bericht erstellen"));
     QCOMPARE(scene.Find<QTableView>("sessionLog")->model()->headerData(2, Qt::Horizontal).toString(),
              QStringLiteral("Befund"));
 
