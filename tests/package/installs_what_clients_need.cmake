@@ -14,7 +14,7 @@ file(REMOVE_RECURSE "${PREFIX}")
 file(RENAME "${WORK_DIR}/tree" "${PREFIX}")
 
 # Wherever the tree is moved to, the companion programs find their translations.
-if(APP_TRANSLATIONS)
+if(APP_TRANSLATIONS AND "xmlhelper-report" IN_LIST APPS)
     file(COPY "${SOURCE_DIR}/apps/xmlhelper-report/tests/right.xml" "${SOURCE_DIR}/apps/xmlhelper-report/tests/level.xsd"
         DESTINATION "${WORK_DIR}")
     run(OUTPUT printed COMMAND "${PREFIX}/bin/xmlhelper-report" --language de right.xml)
