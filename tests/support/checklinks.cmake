@@ -1,5 +1,6 @@
 # Fails when a document of FOLDER links to a file that is not there. Doxygen looks after those below docs/pages.
-file(GLOB documents "${FOLDER}/*.md" "${FOLDER}/docs/*.md" "${FOLDER}/benchmarks/*.md")
+file(GLOB documents "${FOLDER}/*.md" "${FOLDER}/docs/*.md" "${FOLDER}/docs/measured/*.md"
+    "${FOLDER}/benchmarks/*.md")
 set(followed 0)
 foreach(document IN LISTS documents)
     get_filename_component(folder "${document}" DIRECTORY)
