@@ -64,13 +64,13 @@ const QLatin1String ExplainOption("explain");
 
 void describe(QCommandLineParser& parser)
 {
-    parser.setApplicationDescription(QStringLiteral("Fills a report by a schema from named values."));
+    parser.setApplicationDescription(QStringLiteral("Fills a report from named values, by the rules of a schema."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({{ValuesOption, QStringLiteral("Take the values of <file>: JSON, CSV, or lines name=value."),
+    parser.addOptions({{ValuesOption, QStringLiteral("Read values from <file>: JSON, CSV, or lines name=value."),
                         QStringLiteral("file")},
-                       {ExplainOption, QStringLiteral("Print what happens, and what became of everything.")}});
-    parser.addPositionalArgument(QStringLiteral("schema"), QStringLiteral("The schema to fill the report by."));
+                       {ExplainOption, QStringLiteral("Print each step, and what became of each value.")}});
+    parser.addPositionalArgument(QStringLiteral("schema"), QStringLiteral("The schema of the report."));
     parser.addPositionalArgument(QStringLiteral("report"), QStringLiteral("The report to write."));
     parser.addPositionalArgument(QStringLiteral("name=value"),
                                  QStringLiteral("Values by path, such as Emission[2]/Frequency@Unit=Hz."),

@@ -40,13 +40,13 @@ int main(int argc, char** argv)
                                     QStringLiteral("Validate by this schema, not by the one that the report names."),
                                     QStringLiteral("file"));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON, for programs."));
-    const QCommandLineOption language(
-        QStringLiteral("language"), QStringLiteral("Speak this language: de, en or fr; by default that of the system."),
-        QStringLiteral("code"));
+    const QCommandLineOption language(QStringLiteral("language"),
+                                      QStringLiteral("Use this language: de, en or fr; by default that of the system."),
+                                      QStringLiteral("code"));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addOptions({schema, json, language});
-    parser.addPositionalArgument(QStringLiteral("report"), QStringLiteral("XML files, as reports are written."),
+    parser.addPositionalArgument(QStringLiteral("report"), QStringLiteral("The reports to check."),
                                  QStringLiteral("report..."));
     if (!parser.parse(QCoreApplication::arguments())) {
         return refuse(parser.errorText());

@@ -36,21 +36,22 @@ private:
     const QCommandLineOption m_json = option("json", "Print them as JSON, for programs.");
     const QCommandLineOption m_html = option("html", "Write them as a page of HTML into <file>.", "file");
     const QCommandLineOption m_window = option("window", "Show them in a window.");
-    const QCommandLineOption m_noProof = option("no-proof", "Do not fill and validate reports on trial.");
-    const QCommandLineOption m_asButton = option("as-button", "Say too what the report button fills, by which items.");
+    const QCommandLineOption m_noProof = option("no-proof", "Do not try the schema by filling and validating reports.");
+    const QCommandLineOption m_asButton
+        = option("as-button", "Print also what the report button can fill, and with which items.");
     const QCommandLineOption m_fill
         = option("fill", "Fill a report from the values of <file>, and print what happens.", "file");
     const QCommandLineOption m_language
-        = option("language", "Speak this language: de, en or fr; by default that of the system.", "code");
+        = option("language", "Use this language: de, en or fr; by default that of the system.", "code");
     const QCommandLineOption m_mend = option(
-        "mend", "Write the schema in what the library understands into <file>, and show what was written otherwise.",
+        "mend", "Rewrite the schema so that the library understands it, into <file>, and show what was rewritten.",
         "file");
     const QCommandLineOption m_keepFormat
-        = option("keep-format", "With --mend: write otherwise only what keeps reports valid by the original.");
+        = option("keep-format", "With --mend: make only rewrites that keep reports valid by the original.");
     const QCommandLineOption m_levels
-        = option("levels", "With --mend: how many of one element may stand inside of each other, 1 to 10.", "number");
+        = option("levels", "With --mend: how deep an element may contain itself, 1 to 10.", "number");
     const QCommandLineOption m_root
-        = option("root", "With --mend: the global element that reports begin with.", "name");
+        = option("root", "With --mend: the global element that is the root of reports.", "name");
     QCommandLineParser m_parser;
     const QCommandLineOption m_help;
     const QCommandLineOption m_version;
@@ -61,7 +62,7 @@ Options::Options()
     , m_version(m_parser.addVersionOption())
 {
     m_parser.setApplicationDescription(
-        QStringLiteral("Shows how XMLHelper understands an XML schema, and what its author should know.\n\n"
+        QStringLiteral("Shows how XMLHelper understands an XML schema, and what to change.\n\n"
                        "Exit status: 0 nothing to say, 1 warnings, 2 errors, 3 unreadable or wrong usage."));
     m_parser.addOptions({m_tree, m_json, m_html, m_window, m_fill, m_mend, m_keepFormat, m_levels, m_root, m_noProof,
                          m_asButton, m_language});
