@@ -1,5 +1,5 @@
 # Fails when DOCUMENT does not explain a sentence that a source in LIBRARY_FOLDER traces or tells, or an error number, or
-# explains one that is not there.
+# explains one that is neither there nor in COMPANIONS_FOLDER.
 file(READ "${DOCUMENT}" document)
 string(REPLACE "\\|" "|" document "${document}")
 file(READ "${LIBRARY_FOLDER}/ixmlhelper.h" header)
@@ -27,6 +27,12 @@ foreach(sentence IN LISTS told)
     if(position EQUAL -1)
         message(SEND_ERROR "${DOCUMENT} does not explain: ${sentence}")
     endif()
+endforeach()
+
+file(GLOB files "${COMPANIONS_FOLDER}/*.cpp")
+foreach(file IN LISTS files)
+    file(READ "${file}" source)
+    string(APPEND sources "${source}")
 endforeach()
 
 # What the first column of a table explains.
