@@ -1,6 +1,7 @@
 #include <QBuffer>
 #include <QtTest>
 
+#include <xmlhelperreports/journalstore_p.h>
 #include <xmlhelperreports/reportjournal.h>
 
 #include "station.h"
@@ -16,6 +17,7 @@ private Q_SLOTS:
     void quotesAsTheRuleIs_data();
     void quotesAsTheRuleIs();
     void standsInWithWhatItRemembers();
+    void looksAtFilesOfThisStationOnly();
     void saysThatADeviceIsFull();
     void tellsWhatBecameOfFiles_data();
     void tellsWhatBecameOfFiles();
@@ -101,6 +103,28 @@ void TestReportJournalExport::standsInWithWhatItRemembers()
     const QStringList faults = journal.Export(table, {}, {QStringLiteral("F")});
     QCOMPARE(faults, QStringList(path("reports/a.xml") + QStringLiteral(" cannot be read")));
     QVERIFY(table.data().endsWith(",98.5\r\n"));
+}
+
+/// Another station may have had a file of that name, with another content.
+void TestReportJournalExport::looksAtFilesOfThisStationOnly()
+{
+    writeFile(path("reports/a.xml"), "<R><F>98.5</F></R>");
+    ReportJournal journal;
+    takeIn(journal, 1);
+    JournalStore store;
+    QCOMPARE(store.OpenFile(path("journal.sqlite")), JournalStore::Outcome::Opened);
+    StoredEntry entry;
+    entry.id = QStringLiteral("of-another");
+    entry.station = QStringLiteral("another than ") + QSysInfo::machineHostName();
+    entry.path = path("reports/a.xml");
+    entry.hash = "0123";
+    entry.values.insert(QStringLiteral("F"), QStringLiteral("120"));
+    QVERIFY(store.Put(entry));
+    QCOMPARE(int(journal.Verify({}).size()), 0);
+    QBuffer table;
+    QVERIFY(table.open(QIODevice::WriteOnly));
+    QCOMPARE(journal.Export(table, {}, {QStringLiteral("F")}), QStringList());
+    QVERIFY2(table.data().contains(",120\r\n") && table.data().contains(",98.5\r\n"), table.data().constData());
 }
 
 void TestReportJournalExport::saysThatADeviceIsFull()

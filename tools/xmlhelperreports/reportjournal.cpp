@@ -4,7 +4,6 @@
 
 #include <QFileInfo>
 #include <QIODevice>
-#include <QSysInfo>
 #include <QThread>
 #include <QUrl>
 
@@ -45,6 +44,11 @@ QStringList fixedCells(const ReportJournal::Entry& entry)
             entry.verdict,
             entry.comment,
             entry.label};
+}
+
+bool hasFileHere(const ReportJournal::Entry& entry)
+{
+    return !entry.hash.isEmpty() && isHere(entry);
 }
 
 /// What speaks against the file of an entry now; empty when nothing does.
@@ -128,7 +132,7 @@ QString ReportJournal::Record(const Entry& entry)
     StoredEntry stored;
     static_cast<Entry&>(stored) = entry;
     stored.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
-    stored.station = QSysInfo::machineHostName();
+    stored.station = thisStation();
     stored.version = 1;
     if (!stored.begun.isValid()) {
         stored.begun = timeOf(VornOS::Create()->GetCurrentTime());
@@ -191,7 +195,7 @@ QStringList ReportJournal::Export(QIODevice& device, const Query& query, const Q
     write(fixedColumns() + elements);
     const std::vector<Entry> entries = Search(query);
     for (const Entry& entry : entries) {
-        const bool isToRead = !entry.hash.isEmpty() && !elements.isEmpty();
+        const bool isToRead = hasFileHere(entry) && !elements.isEmpty();
         const ReportContent content = isToRead ? readContent(entry.path, elements) : ReportContent();
         if (isToRead && !content.isRead) {
             faults.append(tr("%1 cannot be read").arg(entry.path));
@@ -213,7 +217,7 @@ std::vector<ReportJournal::Finding> ReportJournal::Verify(const Query& query) co
     std::vector<Finding> findings;
     const std::vector<Entry> entries = Search(query);
     for (const Entry& entry : entries) {
-        const QString fault = entry.hash.isEmpty() ? QString() : faultOf(entry);
+        const QString fault = hasFileHere(entry) ? faultOf(entry) : QString();
         if (!fault.isEmpty()) {
             findings.push_back({entry, fault});
         }

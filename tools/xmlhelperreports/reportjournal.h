@@ -146,13 +146,13 @@ public:
     /// query, with Time, Station, Report, Schema, Verdict, Comment, Label and the elements.
     /// @param device    open for writing
     /// @param query     which entries
-    /// @param elements  as in SetValueNames(). Where a report is gone or cannot be read, the values of the entry stand
-    /// in
+    /// @param elements  as in SetValueNames(). Where a report is gone, cannot be read, or was made at another station,
+    ///                  the values of the entry stand in
     /// @return a sentence for each report that could not be read, and for a device that took not all
     QStringList Export(QIODevice& device, const Query& query, const QStringList& elements) const;
 
-    /// Looks at the files of entries: which are gone, and which have changed since. Those that were never written are
-    /// passed over.
+    /// Looks at the files of entries: which are gone, and which have changed since. Those that were never written, or
+    /// at another station, are passed over: what lies here by their path is another file.
     /// @param query  which entries
     /// @return the entries with faults
     std::vector<Finding> Verify(const Query& query) const;

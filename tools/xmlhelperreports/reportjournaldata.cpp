@@ -79,8 +79,8 @@ void takeValues(QMap<QString, QString>& values, const QMap<QString, QString>& ot
 StoredEntry entryOfFound(const QString& path, const ReportContent& content)
 {
     StoredEntry entry;
-    entry.id = idFrom(FoundFiles, QSysInfo::machineHostName() + QLatin1Char(':') + path);
-    entry.station = QSysInfo::machineHostName();
+    entry.id = idFrom(FoundFiles, thisStation() + QLatin1Char(':') + path);
+    entry.station = thisStation();
     entry.begun = content.time;
     entry.path = path;
     entry.verdict = QStringLiteral("Found");
@@ -97,6 +97,16 @@ StoredEntry entryOfFound(const QString& path, const ReportContent& content)
 QString journalPathOf(const QString& fileName)
 {
     return fileName.isEmpty() ? QString() : QDir::cleanPath(QFileInfo(openableFileName(fileName)).absoluteFilePath());
+}
+
+QString thisStation()
+{
+    return QSysInfo::machineHostName();
+}
+
+bool isHere(const ReportJournal::Entry& entry)
+{
+    return entry.station == thisStation();
 }
 
 ReportJournalData::ReportJournalData(ReportJournal& owner)
@@ -372,7 +382,7 @@ bool ReportJournalData::Write(Update& update)
         entry.id = update.id;
         entry.begun = verdict.begun;
     }
-    entry.station = QSysInfo::machineHostName();
+    entry.station = thisStation();
     entry.path = update.path;
     entry.schemaPath = verdict.schemaPath;
     entry.verdict = nameOf(verdict.state);

@@ -22,6 +22,12 @@
 /// The absolute name of a file, as entries have it. Links are not followed.
 QString journalPathOf(const QString& fileName);
 
+/// The name that entries have as their station when they are made here.
+QString thisStation();
+
+/// Whether an entry was made here: the path of another station's may lead to a file of this one, too.
+bool isHere(const ReportJournal::Entry& entry);
+
 /// What the journal does. All of it is the journal's thread's.
 struct ReportJournalData
 {
