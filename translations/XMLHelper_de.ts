@@ -140,6 +140,14 @@
         <source>The journal cannot be used: %1.</source>
         <translation>Das Journal ist nicht benutzbar: %1.</translation>
     </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>es gibt keine solche Datei</translation>
+    </message>
+    <message>
+        <source>the journal cannot be read</source>
+        <translation>das Journal kann nicht gelesen werden</translation>
+    </message>
 </context>
 <context>
     <name>ReportPage</name>

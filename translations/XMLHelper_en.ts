@@ -140,6 +140,14 @@
         <source>The journal cannot be used: %1.</source>
         <translation>The journal cannot be used: %1.</translation>
     </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>there is no such file</translation>
+    </message>
+    <message>
+        <source>the journal cannot be read</source>
+        <translation>the journal cannot be read</translation>
+    </message>
 </context>
 <context>
     <name>ReportPage</name>

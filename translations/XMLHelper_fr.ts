@@ -140,6 +140,14 @@
         <source>The journal cannot be used: %1.</source>
         <translation>Le journal ne peut pas être utilisé : %1.</translation>
     </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>ce fichier n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>the journal cannot be read</source>
+        <translation>le journal ne peut pas être lu</translation>
+    </message>
 </context>
 <context>
     <name>ReportPage</name>

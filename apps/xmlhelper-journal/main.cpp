@@ -184,16 +184,11 @@ QString faultOf(const QStringList& arguments)
                                                            : QString();
 }
 
-/// A journal is made only by those who write into it.
-bool open(ReportJournal& journal, const QString& place, bool isToBeMade)
+/// A journal is made, and made anew, only by those who write into it.
+bool open(ReportJournal& journal, const QString& place, bool isToWrite)
 {
-    if (!isToBeMade && !isShared(place) && !QFileInfo(place).isFile()) {
-        complain(QStringLiteral("%1: there is no such journal").arg(place));
-        return false;
-    }
-    QObject::connect(&journal, &ReportJournal::Troubled, &journal, complain);
     QString message;
-    const bool isOpen = journal.Open(place, &message);
+    const bool isOpen = isToWrite ? journal.Open(place, &message) : journal.OpenToRead(place, &message);
     if (!message.isEmpty()) {
         complain(message);
     }
@@ -211,14 +206,20 @@ int run(const QCommandLineParser& parser)
         return refuse(fault);
     }
     ReportJournal journal;
+    bool isTroubled = false;
+    QObject::connect(&journal, &ReportJournal::Troubled, &journal, [&isTroubled](const QString& message) {
+        isTroubled = true;
+        complain(message);
+    });
     if (!open(journal, arguments.at(1), command == ReadInCommand)) {
         return NoJournal;
     }
     query.text = arguments.value(2);
-    return isShown                 ? list(journal, query)
+    const int status = isShown     ? list(journal, query)
         : command == VerifyCommand ? verify(journal, query)
         : command == ExportCommand ? exportTable(journal, query, parser)
                                    : readIn(journal, arguments.at(2));
+    return isTroubled ? NoJournal : status; // What was found so far may not be all.
 }
 
 } // namespace

@@ -17,6 +17,8 @@ private Q_SLOTS:
     void goesOnWhenItIsDamagedWhileOpen();
     void goesOnWhenItIsRemovedWhileOpen();
     void leavesAnotherDatabaseAlone();
+    void saysWhyItCannotBeSetAside();
+    void readsWithoutAChange();
 
 private:
     /// Makes a journal with entries of reports that are not there.
@@ -182,6 +184,43 @@ void TestReportJournalDamage::leavesAnotherDatabaseAlone()
     QString message;
     QVERIFY(!journal.Open(file, &message));
     QVERIFY2(message.contains(QStringLiteral("something else")), qPrintable(message));
+    QCOMPARE(asideOf(station), QStringList());
+}
+
+/// A name that leaves no room for that of a lock.
+void TestReportJournalDamage::saysWhyItCannotBeSetAside()
+{
+#ifndef Q_OS_UNIX
+    QSKIP("This system has other limits to names.");
+#endif
+    const Station station;
+    const QString file = station.PathOf(QString(253, QLatin1Char('j')));
+    writeFile(file, QByteArray(1000, '\xA5'));
+    ReportJournal journal;
+    QString message;
+    QVERIFY(!journal.Open(file, &message));
+    QVERIFY2(message.contains(QStringLiteral("cannot be renamed")), qPrintable(message));
+    QVERIFY(!journal.Open(QString(), &message));
+    QVERIFY2(message.contains(QStringLiteral("cannot be opened")), qPrintable(message));
+}
+
+void TestReportJournalDamage::readsWithoutAChange()
+{
+    const Station station;
+    const QString file = station.PathOf(QStringLiteral("journal.sqlite"));
+    fill(file, 1);
+    ReportJournal journal;
+    QString message;
+    QVERIFY2(journal.OpenToRead(file, &message), qPrintable(message));
+    QCOMPARE(int(journal.Search({}).size()), 1);
+    QCOMPARE(journal.Record({}), QString());
+    QVERIFY(!journal.SetLabel(journal.Search({})[0].id, QStringLiteral("good")));
+    QVERIFY(!journal.Share(QUrl(QStringLiteral("postgresql://host/name"))));
+    const QByteArray content(1000, '\xA5');
+    writeFile(file, content);
+    QVERIFY(!journal.OpenToRead(file, &message));
+    QVERIFY2(message.contains(QStringLiteral("cannot be opened")), qPrintable(message));
+    QCOMPARE(bytesOf(file), content);
     QCOMPARE(asideOf(station), QStringList());
 }
 

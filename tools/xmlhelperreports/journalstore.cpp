@@ -214,23 +214,38 @@ JournalStore::Outcome JournalStore::OpenFile(const QString& file)
     return m_isDamaged ? Outcome::Damaged : Outcome::Refused;
 }
 
+bool JournalStore::OpenToRead(const QString& file)
+{
+    if (!QFileInfo(file).isFile()) { // It would be made.
+        return refuse(ReportJournal::tr("there is no such file"));
+    }
+    const bool isOpen = openFile(file) && checkFile() && (isJournal() || refuseOther());
+    if (!isOpen) {
+        Close();
+    }
+    return isOpen;
+}
+
 bool JournalStore::OpenDamaged(const QString& file)
 {
     return openFile(file);
 }
 
 /// A journal may be cut off from power: what was written last may be missing then, and it is whole all the same.
-bool JournalStore::prepareFile(const QString& file)
+bool JournalStore::checkFile()
 {
     const QString check = ask(QStringLiteral("PRAGMA quick_check(1)")).toString();
     if (!m_fault.isEmpty()) {
         return false;
     }
     m_isDamaged = check != QLatin1String("ok");
-    if (m_isDamaged) {
-        return refuse(check);
-    }
-    return run(isLocal(file) ? QStringLiteral("PRAGMA journal_mode = WAL") : QStringLiteral("PRAGMA journal_mode"))
+    return !m_isDamaged || refuse(check);
+}
+
+bool JournalStore::prepareFile(const QString& file)
+{
+    return checkFile()
+        && run(isLocal(file) ? QStringLiteral("PRAGMA journal_mode = WAL") : QStringLiteral("PRAGMA journal_mode"))
         && run(QStringLiteral("PRAGMA synchronous = NORMAL")) && (isJournal() || Change([this] { return make(); }));
 }
 
@@ -247,7 +262,7 @@ bool JournalStore::make()
         return true;
     }
     if (ask(QStringLiteral("SELECT COUNT(*) FROM sqlite_master")).toInt() > 0) {
-        return refuse(ReportJournal::tr("it is a database of something else, or of a newer version"));
+        return refuseOther();
     }
     return makeTable(QStringLiteral("INTEGER PRIMARY KEY AUTOINCREMENT"))
         && run(QStringLiteral("PRAGMA application_id = %1").arg(JournalMark))
@@ -443,6 +458,11 @@ bool JournalStore::refuse(const QString& fault)
 {
     m_fault = fault;
     return false;
+}
+
+bool JournalStore::refuseOther()
+{
+    return refuse(ReportJournal::tr("it is a database of something else, or of a newer version"));
 }
 
 /// The numbers are those of SQLite for a file that is corrupt, or no database at all.

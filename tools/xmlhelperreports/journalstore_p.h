@@ -32,6 +32,9 @@ public:
     /// Opens a file, or says what is wrong with it.
     Outcome OpenFile(const QString& file);
 
+    /// Opens a journal that is there, to read it; whatever else it is stays as it is.
+    bool OpenToRead(const QString& file);
+
     /// Opens a damaged file, to read what is left.
     bool OpenDamaged(const QString& file);
 
@@ -73,6 +76,7 @@ private:
     bool open(const QString& driver, const std::function<void(QSqlDatabase&)>& set);
     bool openFile(const QString& file);
     bool prepareFile(const QString& file);
+    bool checkFile();
     bool isJournal();
     bool make();
     bool makeTable(const QString& keyType);
@@ -83,6 +87,7 @@ private:
     QVariant ask(const QString& statement);
     StoredEntry findOne(const QString& condition, const QVariantList& values);
     bool refuse(const QString& fault);
+    bool refuseOther();
     bool takeFault(const QSqlError& error);
 
     QSqlDatabase m_database;

@@ -90,6 +90,16 @@ bool ReportJournal::Open(const QString& place, QString* message)
     return isOpen;
 }
 
+bool ReportJournal::OpenToRead(const QString& place, QString* message)
+{
+    QString text;
+    const bool isOpen = m_pData->OpenToRead(place, text);
+    if (message) {
+        *message = text;
+    }
+    return isOpen;
+}
+
 bool ReportJournal::Share(const QUrl& url)
 {
     if (m_pData->file.isEmpty() || (!url.isEmpty() && !isSharedPlace(url))) {
@@ -162,10 +172,7 @@ ReportJournal::Entry ReportJournal::Find(const QString& id) const
 std::vector<ReportJournal::Entry> ReportJournal::Search(const Query& query) const
 {
     std::vector<Entry> entries;
-    m_pData->Do([this, &query, &entries] {
-        entries.clear();
-        return m_pData->store.Select(query, [&entries](const StoredEntry& entry) { entries.push_back(entry); });
-    });
+    m_pData->Select(query, entries);
     return entries;
 }
 
@@ -193,7 +200,10 @@ QStringList ReportJournal::Export(QIODevice& device, const Query& query, const Q
         isTaken = isTaken && device.write(row) == row.size();
     };
     write(fixedColumns() + elements);
-    const std::vector<Entry> entries = Search(query);
+    std::vector<Entry> entries;
+    if (!m_pData->Select(query, entries)) {
+        faults.append(tr("the journal cannot be read"));
+    }
     for (const Entry& entry : entries) {
         const bool isToRead = hasFileHere(entry) && !elements.isEmpty();
         const ReportContent content = isToRead ? readContent(entry.path, elements) : ReportContent();

@@ -33,7 +33,7 @@ struct ReportJournalData;
 /// With Share() the entries of many stations come together in one PostgreSQL database, too. The file on the disk always
 /// comes first: entries wait there while the database cannot be reached, and each arrives once. They are sent from a
 /// thread of the journal, so that nobody waits for the network. A program that shall see all of them calls Open() with
-/// the database's URL; such a journal can be read only.
+/// the database's URL; such a journal can be read only, as can a file that is opened with OpenToRead().
 ///
 /// All operations belong to the journal's own thread, which needs an event loop: what is watched is written from it,
 /// never while a report is made, and tried again every second while that fails.
@@ -88,14 +88,22 @@ public:
     /// Opens a journal, and makes it when it is missing. One that was open before is closed. Watches and folders stay.
     /// @param place    a file, or the URL of a shared database, `postgresql://user@host:port/name?option=value`, where
     ///                 the option host may be the folder of a socket. To reach it takes some seconds at most
-    /// @param message  why it cannot be opened, or that a damaged one was set aside; may be null
+    /// @param message  why it cannot be opened, or that a damaged one was set aside; empty when all is well; may be
+    /// null
     /// @return whether it is open
     bool Open(const QString& place, QString* message = nullptr);
 
+    /// Opens a journal to read it only. One that was open before is closed. A file that is missing, damaged or
+    /// something else is left as it is.
+    /// @param place    as of Open()
+    /// @param message  why it cannot be opened; may be null
+    /// @return whether it is open
+    bool OpenToRead(const QString& place, QString* message = nullptr);
+
     /// Sends all entries to a shared database as well, those that were there before included, from now on.
     /// @param url  as of Open(); an empty one for none any more
-    /// @return false when the journal is not open on a file or that is no URL of PostgreSQL; whether it can be reached
-    /// is told by Sent()
+    /// @return false when the journal is not open on a file by Open(), or that is no URL of PostgreSQL; whether it can
+    /// be reached is told by Sent()
     bool Share(const QUrl& url);
 
     /// @return how many entries have changed since they were sent to the shared database, or were never
@@ -133,7 +141,7 @@ public:
     Entry Find(const QString& id) const;
 
     /// @param query  what to look for
-    /// @return what meets the query, the newest first
+    /// @return what meets the query, the newest first; nothing when the journal cannot be read, which Troubled() tells
     std::vector<Entry> Search(const Query& query) const;
 
     /// Gives an entry a label.
@@ -148,13 +156,14 @@ public:
     /// @param query     which entries
     /// @param elements  as in SetValueNames(). Where a report is gone, cannot be read, or was made at another station,
     ///                  the values of the entry stand in
-    /// @return a sentence for each report that could not be read, and for a device that took not all
+    /// @return a sentence for each report that could not be read, for a journal that could not, and for a device that
+    /// took not all
     QStringList Export(QIODevice& device, const Query& query, const QStringList& elements) const;
 
     /// Looks at the files of entries: which are gone, and which have changed since. Those that were never written, or
     /// at another station, are passed over: what lies here by their path is another file.
     /// @param query  which entries
-    /// @return the entries with faults
+    /// @return the entries with faults; none too when the journal cannot be read, which Troubled() tells
     std::vector<Finding> Verify(const Query& query) const;
 
 Q_SIGNALS:

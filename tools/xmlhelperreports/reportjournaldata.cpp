@@ -69,6 +69,16 @@ QString nameAside(const QString& file)
     return aside;
 }
 
+QString cannotBeOpened(const QString& file, const QString& fault)
+{
+    return ReportJournal::tr("The journal %1 cannot be opened: %2.").arg(file, fault);
+}
+
+QString cannotBeRenamed(const QString& file)
+{
+    return ReportJournal::tr("The journal %1 is damaged and cannot be renamed.").arg(file);
+}
+
 void takeValues(QMap<QString, QString>& values, const QMap<QString, QString>& others)
 {
     for (auto value = others.cbegin(); value != others.cend(); ++value) {
@@ -131,18 +141,35 @@ ReportJournalData::~ReportJournalData()
     }
 }
 
-bool ReportJournalData::Open(const QString& place, QString& message)
+void ReportJournalData::Close()
 {
     sender.reset();
     store.Close();
     sharedPlace.clear();
     file.clear();
+}
+
+bool ReportJournalData::OpenToRead(const QString& place, QString& message)
+{
+    Close();
     const QUrl url(place);
     if (isSharedPlace(url)) {
         const bool isOpen = store.OpenShared(url);
         message = isOpen ? QString() : store.Fault();
         return isOpen;
     }
+    const QString path = journalPathOf(place);
+    const bool isOpen = store.OpenToRead(path);
+    message = isOpen ? QString() : cannotBeOpened(path, store.Fault());
+    return isOpen;
+}
+
+bool ReportJournalData::Open(const QString& place, QString& message)
+{
+    if (place.isEmpty() || isSharedPlace(QUrl(place))) {
+        return OpenToRead(place, message);
+    }
+    Close();
     file = journalPathOf(place);
     if (OpenFile(message)) {
         flushTimer.start(0);
@@ -159,7 +186,7 @@ bool ReportJournalData::OpenFile(QString& message)
         return SetAside(message);
     }
     if (outcome == JournalStore::Outcome::Refused) {
-        message = ReportJournal::tr("The journal %1 cannot be opened: %2.").arg(file, store.Fault());
+        message = cannotBeOpened(file, store.Fault());
         return false;
     }
     identity = identityOf(file);
@@ -173,9 +200,14 @@ bool ReportJournalData::SetAside(QString& message)
     sender.reset();
     store.Close();
     QLockFile lock(file + QStringLiteral(".lock"));
-    if (lock.tryLock(SetAsideTimeout) && store.OpenFile(file) == JournalStore::Outcome::Damaged) {
-        message = MakeAnew();
+    if (!lock.tryLock(SetAsideTimeout)) {
+        message = cannotBeRenamed(file);
+        return false;
     }
+    const JournalStore::Outcome outcome = store.OpenFile(file);
+    message = outcome == JournalStore::Outcome::Damaged ? MakeAnew()
+        : outcome == JournalStore::Outcome::Refused     ? cannotBeOpened(file, store.Fault())
+                                                        : QString();
     if (!store.IsOpen()) {
         return false;
     }
@@ -193,12 +225,12 @@ QString ReportJournalData::MakeAnew()
 {
     const QString aside = nameAside(file);
     if (!QFile::rename(file, aside)) {
-        return ReportJournal::tr("The journal %1 is damaged and cannot be renamed.").arg(file);
+        return cannotBeRenamed(file);
     }
     QFile::rename(file + QStringLiteral("-wal"), aside + QStringLiteral("-wal"));
     QFile::remove(file + QStringLiteral("-shm"));
     if (store.OpenFile(file) != JournalStore::Outcome::Opened) {
-        return ReportJournal::tr("The journal %1 cannot be opened: %2.").arg(file, store.Fault());
+        return cannotBeOpened(file, store.Fault());
     }
     return ReportJournal::tr("The journal was damaged and is now %1; %2 entries of it are in a new one.")
         .arg(aside, QString::number(TakeOver(aside)));
@@ -248,7 +280,7 @@ bool ReportJournalData::Do(const std::function<bool()>& work)
         OpenFile(message);
     }
     bool isDone = store.IsOpen() && work();
-    if (!isDone && store.IsOpen() && store.IsDamaged()) {
+    if (!isDone && !file.isEmpty() && store.IsOpen() && store.IsDamaged()) {
         isDone = SetAside(message) && work();
     }
     if (message.isEmpty() && !isDone && store.IsOpen() && !store.Fault().isEmpty()) {
@@ -265,6 +297,14 @@ bool ReportJournalData::Change(const std::function<bool()>& change)
         sender->Wake();
     }
     return isDone;
+}
+
+bool ReportJournalData::Select(const ReportJournal::Query& query, std::vector<ReportJournal::Entry>& entries)
+{
+    return Do([this, &query, &entries] {
+        entries.clear();
+        return store.Select(query, [&entries](const StoredEntry& entry) { entries.push_back(entry); });
+    });
 }
 
 void ReportJournalData::Trouble(const QString& message)

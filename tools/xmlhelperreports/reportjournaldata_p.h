@@ -43,7 +43,9 @@ struct ReportJournalData
     explicit ReportJournalData(ReportJournal& owner);
     ~ReportJournalData();
 
+    void Close();
     bool Open(const QString& place, QString& message);
+    bool OpenToRead(const QString& place, QString& message);
     bool OpenFile(QString& message);
     bool SetAside(QString& message);
     QString MakeAnew();
@@ -53,6 +55,7 @@ struct ReportJournalData
     bool IsToBeOpened() const;
     bool Do(const std::function<bool()>& work);
     bool Change(const std::function<bool()>& change);
+    bool Select(const ReportJournal::Query& query, std::vector<ReportJournal::Entry>& entries);
     void Trouble(const QString& message);
 
     void Watch(ReportSupervisor& reports);
@@ -67,7 +70,7 @@ struct ReportJournalData
 
     ReportJournal& journal;
     JournalStore store;
-    QString file; ///< empty for a shared database
+    QString file; ///< empty for a journal that can only be read
     QByteArray identity; ///< of the file
     QUrl sharedPlace; ///< empty for none
     QPointer<ReportSupervisor> supervisor;

@@ -16,6 +16,10 @@ private Q_SLOTS:
     void exportsATable();
     void verifies();
     void saysThatAJournalIsDamaged();
+    void leavesAloneWhatIsNoJournal_data();
+    void leavesAloneWhatIsNoJournal();
+    void failsWhenItCannotSearch_data();
+    void failsWhenItCannotSearch();
     void refusesWhatItCannotDo_data();
     void refusesWhatItCannotDo();
     void tellsHowItIsUsed();
@@ -25,6 +29,9 @@ private:
     int run(const std::initializer_list<const char*>& words);
     int run(const QStringList& arguments);
     void write(const QString& name, const QByteArray& content) const;
+    QByteArray read(const QString& name) const;
+    /// A row for each command that only reads.
+    static void addReadingCommands();
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QByteArray m_output;
@@ -64,6 +71,12 @@ void TestXmlHelperJournal::write(const QString& name, const QByteArray& content)
     QFile file(m_folder->filePath(name));
     QVERIFY(file.open(QIODevice::WriteOnly));
     QCOMPARE(file.write(content), qint64(content.size()));
+}
+
+QByteArray TestXmlHelperJournal::read(const QString& name) const
+{
+    QFile file(m_folder->filePath(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 void TestXmlHelperJournal::takesInAFolderOnce()
@@ -127,9 +140,7 @@ void TestXmlHelperJournal::exportsATable()
     QVERIFY(m_output.contains("/reports/b.xml,,Found,,,120,kHz\r\n"));
     const QByteArray table = m_output;
     QCOMPARE(run({"export", "journal.sqlite", "--element", "F", "--element", "F@Unit", "--output", "table.csv"}), 0);
-    QFile file(m_folder->filePath(QStringLiteral("table.csv")));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), table);
+    QCOMPARE(read(QStringLiteral("table.csv")), table);
     QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("reports/a.xml"))));
     QCOMPARE(run({"export", "journal.sqlite", "--element", "F"}), 1);
     QVERIFY(m_errors.contains("reports/a.xml cannot be read"));
@@ -153,6 +164,51 @@ void TestXmlHelperJournal::saysThatAJournalIsDamaged()
     QCOMPARE(run({"read-in", "journal.sqlite", "reports"}), 0);
     QVERIFY2(m_errors.contains("journal.sqlite.damaged-"), m_errors.constData());
     QCOMPARE(m_output, QByteArray("2 reports are new\n"));
+}
+
+void TestXmlHelperJournal::addReadingCommands()
+{
+    QTest::addColumn<QStringList>("arguments");
+    for (const char* const command : {"list", "search", "export", "verify"}) {
+        QStringList arguments {QLatin1String(command), QStringLiteral("journal.sqlite")};
+        if (qstrcmp(command, "search") == 0) {
+            arguments.append(QStringLiteral("text"));
+        }
+        QTest::newRow(command) << arguments;
+    }
+}
+
+void TestXmlHelperJournal::leavesAloneWhatIsNoJournal_data()
+{
+    addReadingCommands();
+}
+
+/// Neither set aside nor made a journal.
+void TestXmlHelperJournal::leavesAloneWhatIsNoJournal()
+{
+    QFETCH(QStringList, arguments);
+    for (const QByteArray& content : {QByteArray(1000, '\xA5'), QByteArray()}) {
+        write(QStringLiteral("journal.sqlite"), content);
+        QCOMPARE(run(arguments), 2);
+        QVERIFY2(m_errors.startsWith("xmlhelper-journal: The journal "), m_errors.constData());
+        QCOMPARE(read(QStringLiteral("journal.sqlite")), content);
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList(QStringLiteral("journal.sqlite")));
+    }
+}
+
+void TestXmlHelperJournal::failsWhenItCannotSearch_data()
+{
+    addReadingCommands();
+}
+
+/// A journal in all but the name of its table.
+void TestXmlHelperJournal::failsWhenItCannotSearch()
+{
+    QFETCH(QStringList, arguments);
+    QVERIFY(ReportJournal().Open(m_folder->filePath(QStringLiteral("journal.sqlite"))));
+    write(QStringLiteral("journal.sqlite"), read(QStringLiteral("journal.sqlite")).replace("reports", "reporty"));
+    QCOMPARE(run(arguments), 2);
+    QVERIFY2(m_errors.contains("no such table"), m_errors.constData());
 }
 
 void TestXmlHelperJournal::refusesWhatItCannotDo_data()
