@@ -1,7 +1,9 @@
 #include <QtTest>
 
+#include <xmlhelperreports/journalstore_p.h>
 #include <xmlhelperreports/reportjournal.h>
 
+#include "fakeclock.h"
 #include "station.h"
 
 /// A damaged journal is set aside and made anew.
@@ -17,6 +19,7 @@ private Q_SLOTS:
     void goesOnWhenItIsDamagedWhileOpen();
     void goesOnWhenItIsRemovedWhileOpen();
     void leavesAnotherDatabaseAlone();
+    void makesEntriesNewerThanThoseThatAreLost();
     void saysWhyItCannotBeSetAside();
     void readsWithoutAChange();
 
@@ -185,6 +188,37 @@ void TestReportJournalDamage::leavesAnotherDatabaseAlone()
     QVERIFY(!journal.Open(file, &message));
     QVERIFY2(message.contains(QStringLiteral("something else")), qPrintable(message));
     QCOMPARE(asideOf(station), QStringList());
+}
+
+/// A shared database may have the entries of a journal that is gone, and keeps the newest of each.
+void TestReportJournalDamage::makesEntriesNewerThanThoseThatAreLost()
+{
+    FakeClock clock(QDateTime(QDate(2026, 3, 1), QTime(12, 0)));
+    const Station station;
+    const QString file = station.PathOf(QStringLiteral("journal.sqlite"));
+    writeFile(station.PathOf(QStringLiteral("a.xml")), "<Survey/>");
+    qint64 lastVersion = 0;
+    for (int i = 0; i < 2; ++i) {
+        clock.Advance(1000);
+        {
+            ReportJournal journal;
+            QVERIFY(journal.Open(file));
+            QSignalSpy spy(&journal, &ReportJournal::TakenIn);
+            journal.TakeIn(station.PathOf(QString()));
+            QTRY_COMPARE(int(spy.size()), 1);
+            for (const char* const label : {"good", "better"}) {
+                QVERIFY(journal.SetLabel(journal.Search({})[0].id, QLatin1String(label)));
+            }
+        }
+        JournalStore store;
+        QCOMPARE(store.OpenFile(file), JournalStore::Outcome::Opened);
+        const StoredEntry entry = store.FindByPath(station.PathOf(QStringLiteral("a.xml")));
+        QCOMPARE(entry.label, QStringLiteral("better"));
+        QVERIFY(entry.version > lastVersion);
+        lastVersion = entry.version;
+        store.Close();
+        QVERIFY(QFile::remove(file));
+    }
 }
 
 /// A name that leaves no room for that of a lock.

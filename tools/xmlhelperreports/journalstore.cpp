@@ -1,6 +1,6 @@
 #include "journalstore_p.h"
 
-#include <iterator>
+#include <algorithm>
 
 #include <QDir>
 #include <QFileInfo>
@@ -10,6 +10,8 @@
 #include <QUrlQuery>
 #include <QUuid>
 #include <QVariant>
+
+#include <arbase/vornos.h>
 
 namespace {
 
@@ -163,6 +165,11 @@ void setPlace(QSqlDatabase& database, const QUrl& url)
 }
 
 } // namespace
+
+void StoredEntry::Renew()
+{
+    version = std::max(version + 1, VornOS::Create()->GetCurrentTime());
+}
 
 bool isSharedPlace(const QUrl& url)
 {

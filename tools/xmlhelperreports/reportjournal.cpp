@@ -143,7 +143,7 @@ QString ReportJournal::Record(const Entry& entry)
     static_cast<Entry&>(stored) = entry;
     stored.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
     stored.station = thisStation();
-    stored.version = 1;
+    stored.Renew();
     if (!stored.begun.isValid()) {
         stored.begun = timeOf(VornOS::Create()->GetCurrentTime());
     }
@@ -181,7 +181,7 @@ bool ReportJournal::SetLabel(const QString& id, const QString& label)
     const auto change = [this, &id, &label] {
         StoredEntry entry = m_pData->store.Find(id);
         entry.label = label;
-        ++entry.version;
+        entry.Renew();
         return !entry.id.isEmpty() && m_pData->store.Put(entry);
     };
     const bool isSet = m_pData->Change(change);

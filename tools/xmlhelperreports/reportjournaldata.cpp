@@ -98,7 +98,7 @@ StoredEntry entryOfFound(const QString& path, const ReportContent& content)
     entry.values = content.values;
     entry.size = content.size;
     entry.hash = content.hash;
-    entry.version = 1;
+    entry.Renew();
     return entry;
 }
 
@@ -429,7 +429,7 @@ bool ReportJournalData::Write(Update& update)
     entry.reason = verdict.reason;
     entry.size = verdict.size;
     TakeContent(entry, update);
-    ++entry.version;
+    entry.Renew();
     if (isKept(verdict.state)) {
         unwritten.insert(update.id);
     } else {
