@@ -37,6 +37,9 @@ private Q_SLOTS:
     void followsAReportInOneEntry();
     void remembersAReportThatIsNotWritten();
     void goesOnWithTheEntryOfAnEarlierProcess();
+    void goesOnWithTheEntriesOfAnotherJournalObject_data();
+    void goesOnWithTheEntriesOfAnotherJournalObject();
+    void keepsEarlierReportsOfTwoSupervisorsApart();
     void remembersWhatWasMadeBeforeItWatched();
     void writesAtTheEndWhatIsLeft();
     void keepsWhatItCannotWrite();
@@ -168,6 +171,51 @@ void TestReportJournal::goesOnWithTheEntryOfAnEarlierProcess()
     QTRY_COMPARE(journal->Find(ids[1]).verdict, QStringLiteral("Written"));
     QCOMPARE(journal->Find(ids[0]).verdict, QStringLiteral("Offered"));
     QCOMPARE(int(journal->Search({}).size()), 2);
+}
+
+void TestReportJournal::goesOnWithTheEntriesOfAnotherJournalObject_data()
+{
+    QTest::addColumn<bool>("isFound");
+    QTest::newRow("told-of") << false;
+    QTest::newRow("found-first-by-another-process") << true;
+}
+
+void TestReportJournal::goesOnWithTheEntriesOfAnotherJournalObject()
+{
+    QFETCH(bool, isFound);
+    const QString path = m_station->PathOf(QStringLiteral("survey.xml"));
+    const quint64 report = m_station->Begin(path);
+    m_station->Write(report, path);
+    QTRY_VERIFY(m_station->Supervisor().GetReport(report).isChecked);
+    if (isFound) {
+        ReportJournal::Entry found;
+        found.path = path;
+        found.verdict = QStringLiteral("Found");
+        found.hash = QCryptographicHash::hash("<report/>", QCryptographicHash::Sha256).toHex();
+        ReportJournal other;
+        QVERIFY(other.Open(file()) && !other.Record(found).isEmpty());
+    }
+    for (int i = 0; i < 2; ++i) {
+        const auto journal = watching();
+        const QSignalSpy spy(journal.get(), &ReportJournal::Changed);
+        QTRY_COMPARE(int(spy.size()), 1);
+        QCOMPARE(int(journal->Search({}).size()), 1);
+        QCOMPARE(journal->Search({})[0].verdict, QStringLiteral("Written"));
+    }
+}
+
+/// Both give them the same numbers.
+void TestReportJournal::keepsEarlierReportsOfTwoSupervisorsApart()
+{
+    for (int i = 1; i <= 2; ++i) {
+        m_station->Lose(m_station->PathOf(QStringLiteral("nowhere/%1.xml").arg(i)));
+        m_station->Restart();
+        QCOMPARE(m_station->Supervisor().TakeOverEarlier(), QStringList());
+        const auto journal = watching();
+        QTRY_COMPARE(int(journal->Search({}).size()), i);
+        QVERIFY(m_station->Supervisor().Discard(ReportSupervisor::FirstEarlier));
+        QTRY_COMPARE(journal->Search({})[0].verdict, QStringLiteral("Discarded"));
+    }
 }
 
 void TestReportJournal::remembersWhatWasMadeBeforeItWatched()

@@ -6,6 +6,7 @@
 #include <QIODevice>
 #include <QThread>
 #include <QUrl>
+#include <QUuid>
 
 #include <arbase/vornos.h>
 #include <xmlhelper/reportnews.h>

@@ -1,6 +1,7 @@
 #include "reportjournaldata_p.h"
 
 #include <algorithm>
+#include <mutex>
 #include <utility>
 
 #include <QDir>
@@ -9,6 +10,7 @@
 #include <QLockFile>
 #include <QMetaEnum>
 #include <QSysInfo>
+#include <QUuid>
 
 #include <arbase/vornos.h>
 #include <xmlhelper/filesaving_p.h>
@@ -32,6 +34,51 @@ constexpr int SetAsideTimeout = 5000;
 
 /// What the ids of found files are made from, so that those who find a file at once make one entry.
 const QUuid FoundFiles(0x3d1f5a52, 0x7c8e, 0x4f0b, 0x9b, 0x1d, 0x52, 0x6a, 0x0e, 0x77, 0xc4, 0x31);
+
+/// Gives reports of the process their entries, the same in all of its journals, so that none doubles what another
+/// wrote.
+class ReportIds
+{
+public:
+    static ReportIds& Instance()
+    {
+        static ReportIds ids;
+        return ids;
+    }
+
+    const QUuid Process = QUuid::createUuid(); ///< that the ids of new entries are made from
+
+    /// A report goes on with an entry that was there.
+    void Set(const QString& report, const QString& id)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_ids[report] = id;
+    }
+
+    /// The entry that a report goes on with; empty when it does not.
+    QString Find(const QString& report)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        const auto found = m_ids.find(report);
+        return found == m_ids.end() ? QString() : found->second;
+    }
+
+private:
+    ReportIds() = default;
+    Q_DISABLE_COPY(ReportIds)
+
+    std::mutex m_mutex;
+    std::map<QString, QString> m_ids;
+};
+
+/// What tells a report from all others of the process. Each supervisor numbers those of earlier processes by itself.
+QString nameOf(const ReportSupervisor::Verdict& report)
+{
+    const QString number = QString::number(report.report);
+    return report.report < ReportSupervisor::FirstEarlier
+        ? number
+        : QStringLiteral("%1 %2 %3").arg(number, report.begun.toString(Qt::ISODateWithMs), report.reportPath);
+}
 
 QString idFrom(const QUuid& space, const QString& name)
 {
@@ -382,29 +429,39 @@ ReportJournalData::Update ReportJournalData::UpdateOf(const ReportSupervisor::Ve
     return update;
 }
 
-/// A report goes on with the entry that it has: of an earlier process that could not write it, or of somebody who found
-/// its file before the process came to tell.
 QString ReportJournalData::IdOf(const Update& update)
 {
-    const quint64 report = update.verdict.report;
-    const auto known = ids.find(report);
-    if (known != ids.end()) {
-        return known->second;
+    const QString report = nameOf(update.verdict);
+    const QString known = ReportIds::Instance().Find(report);
+    if (!known.isEmpty()) {
+        return known;
     }
-    const QString id = idFrom(process, QString::number(report));
+    const QString id = idFrom(ReportIds::Instance().Process, report);
     if (update.path.isEmpty() || !store.Find(id).id.isEmpty()) {
         return id;
     }
-    if (report >= ReportSupervisor::FirstEarlier) {
+    const QString earlier = FindOneToGoOnWith(update);
+    if (earlier.isEmpty()) {
+        return id;
+    }
+    ReportIds::Instance().Set(report, earlier);
+    return earlier;
+}
+
+/// The entry of an earlier process that could not write a report, or of somebody who found its file before the process
+/// came to tell.
+QString ReportJournalData::FindOneToGoOnWith(const Update& update)
+{
+    if (update.verdict.report >= ReportSupervisor::FirstEarlier) {
         const std::vector<StoredEntry> entries = store.FindUnwritten(update.path);
         const auto isOther = [this](const StoredEntry& entry) { return !unwritten.contains(entry.id); };
         const auto earlier = std::find_if(entries.begin(), entries.end(), isOther);
-        return earlier == entries.end() ? id : ids[report] = earlier->id;
+        return earlier == entries.end() ? QString() : earlier->id;
     }
     const StoredEntry found = store.FindByPath(update.path);
     const bool isSame
         = found.verdict == QLatin1String("Found") && isFile(update.verdict.state) && found.hash == hashOf(update.path);
-    return isSame ? ids[report] = found.id : id;
+    return isSame ? found.id : QString();
 }
 
 bool ReportJournalData::Write(Update& update)

@@ -11,7 +11,6 @@
 #include <QString>
 #include <QStringList>
 #include <QTimer>
-#include <QUuid>
 
 #include "folderintake_p.h"
 #include "journalsender_p.h"
@@ -63,6 +62,7 @@ struct ReportJournalData
     void Flush(bool isLast);
     Update UpdateOf(const ReportSupervisor::Verdict& verdict, bool isLast) const;
     QString IdOf(const Update& update);
+    QString FindOneToGoOnWith(const Update& update);
     bool Write(Update& update);
     void TakeContent(StoredEntry& entry, const Update& update) const;
     void Forget(const Update& update);
@@ -74,11 +74,9 @@ struct ReportJournalData
     QByteArray identity; ///< of the file
     QUrl sharedPlace; ///< empty for none
     QPointer<ReportSupervisor> supervisor;
-    QUuid process = QUuid::createUuid(); ///< that the ids of watched reports are made from
     QStringList valueNames;
     QMap<QString, QString> givenValues; ///< for the next report
     std::map<quint64, QMap<QString, QString>> valuesOfBegun; ///< not written yet
-    std::map<quint64, QString> ids; ///< of reports that go on with an entry that was there
     QSet<QString> unwritten; ///< ids of watched reports that could not be written yet
     std::map<quint64, ReportSupervisor::Verdict> changed; ///< as it was told last: the supervisor may forget it
     std::set<quint64> unread; ///< written, and not read since
