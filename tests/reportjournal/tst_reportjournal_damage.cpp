@@ -19,6 +19,7 @@ private Q_SLOTS:
     void goesOnWhenItIsDamagedWhileOpen();
     void goesOnWhenItIsRemovedWhileOpen();
     void leavesAnotherDatabaseAlone();
+    void mendsAnIndexThatLeadsNowhere();
     void makesEntriesNewerThanThoseThatAreLost();
     void saysWhyItCannotBeSetAside();
     void readsWithoutAChange();
@@ -188,6 +189,39 @@ void TestReportJournalDamage::leavesAnotherDatabaseAlone()
     QVERIFY(!journal.Open(file, &message));
     QVERIFY2(message.contains(QStringLiteral("something else")), qPrintable(message));
     QCOMPARE(asideOf(station), QStringList());
+}
+
+/// An index that is whole in itself, and wrong, comes out when it is used.
+void TestReportJournalDamage::mendsAnIndexThatLeadsNowhere()
+{
+    const Station station;
+    const QString file = station.PathOf(QStringLiteral("journal.sqlite"));
+    fill(file, 100);
+    QString id;
+    {
+        ReportJournal journal;
+        QVERIFY(journal.Open(file));
+        id = journal.Search({})[50].id;
+    }
+    QByteArray content = bytesOf(file);
+    int number = -1; // Where the index has the number of the row, behind the id.
+    for (int at = int(content.indexOf(id.toLatin1())); at >= 0; at = int(content.indexOf(id.toLatin1(), at + 1))) {
+        const bool isIndexLeaf = content[at / 4096 * 4096] == '\x0A';
+        number = isIndexLeaf ? at + int(id.size()) : number;
+    }
+    QVERIFY(number > 0);
+    content[number] = '\x7F';
+    writeFile(file, content);
+
+    ReportJournal journal;
+    QString message;
+    QVERIFY(journal.Open(file, &message));
+    const QSignalSpy spy(&journal, &ReportJournal::Troubled);
+    QCOMPARE(journal.Find(id).id, id);
+    QCOMPARE(message, QString());
+    QCOMPARE(int(spy.size()), 1);
+    QVERIFY2(spy[0][0].toString().contains(QStringLiteral("100 entries")), qPrintable(spy[0][0].toString()));
+    QCOMPARE(int(journal.Search({}).size()), 100);
 }
 
 /// A shared database may have the entries of a journal that is gone, and keeps the newest of each.

@@ -212,9 +212,9 @@ bool JournalStore::openFile(const QString& file)
     });
 }
 
-JournalStore::Outcome JournalStore::OpenFile(const QString& file)
+JournalStore::Outcome JournalStore::OpenFile(const QString& file, Check check)
 {
-    if (openFile(file) && prepareFile(file)) {
+    if (openFile(file) && checkFile(check) && prepareFile(file)) {
         return Outcome::Opened;
     }
     Close();
@@ -226,7 +226,7 @@ bool JournalStore::OpenToRead(const QString& file)
     if (!QFileInfo(file).isFile()) { // It would be made.
         return refuse(ReportJournal::tr("there is no such file"));
     }
-    const bool isOpen = openFile(file) && checkFile() && (isJournal() || refuseOther());
+    const bool isOpen = openFile(file) && checkFile(Check::Quick) && (isJournal() || refuseOther());
     if (!isOpen) {
         Close();
     }
@@ -238,21 +238,22 @@ bool JournalStore::OpenDamaged(const QString& file)
     return openFile(file);
 }
 
-/// A journal may be cut off from power: what was written last may be missing then, and it is whole all the same.
-bool JournalStore::checkFile()
+bool JournalStore::checkFile(Check check)
 {
-    const QString check = ask(QStringLiteral("PRAGMA quick_check(1)")).toString();
+    const QString finding = ask(check == Check::Quick ? QStringLiteral("PRAGMA quick_check(1)")
+                                                      : QStringLiteral("PRAGMA integrity_check(1)"))
+                                .toString();
     if (!m_fault.isEmpty()) {
         return false;
     }
-    m_isDamaged = check != QLatin1String("ok");
-    return !m_isDamaged || refuse(check);
+    m_isDamaged = finding != QLatin1String("ok");
+    return !m_isDamaged || refuse(finding);
 }
 
+/// A journal may be cut off from power: what was written last may be missing then, and it is whole all the same.
 bool JournalStore::prepareFile(const QString& file)
 {
-    return checkFile()
-        && run(isLocal(file) ? QStringLiteral("PRAGMA journal_mode = WAL") : QStringLiteral("PRAGMA journal_mode"))
+    return run(isLocal(file) ? QStringLiteral("PRAGMA journal_mode = WAL") : QStringLiteral("PRAGMA journal_mode"))
         && run(QStringLiteral("PRAGMA synchronous = NORMAL")) && (isJournal() || Change([this] { return make(); }));
 }
 

@@ -33,8 +33,14 @@ public:
     JournalStore() = default;
     ~JournalStore();
 
+    /// How much of a file is held to be whole before it is used.
+    enum class Check {
+        Quick, ///< all but whether its indexes lead to its entries
+        Whole, ///< of one that is suspect
+    };
+
     /// Opens a file, or says what is wrong with it.
-    Outcome OpenFile(const QString& file);
+    Outcome OpenFile(const QString& file, Check check = Check::Quick);
 
     /// Opens a journal that is there, to read it; whatever else it is stays as it is.
     bool OpenToRead(const QString& file);
@@ -80,7 +86,7 @@ private:
     bool open(const QString& driver, const std::function<void(QSqlDatabase&)>& set);
     bool openFile(const QString& file);
     bool prepareFile(const QString& file);
-    bool checkFile();
+    bool checkFile(Check check);
     bool isJournal();
     bool make();
     bool makeTable(const QString& keyType);

@@ -251,7 +251,7 @@ bool ReportJournalData::SetAside(QString& message)
         message = cannotBeRenamed(file);
         return false;
     }
-    const JournalStore::Outcome outcome = store.OpenFile(file);
+    const JournalStore::Outcome outcome = store.OpenFile(file, JournalStore::Check::Whole);
     message = outcome == JournalStore::Outcome::Damaged ? MakeAnew()
         : outcome == JournalStore::Outcome::Refused     ? cannotBeOpened(file, store.Fault())
                                                         : QString();
