@@ -1,6 +1,7 @@
 #include "journalstore_p.h"
 
 #include <algorithm>
+#include <limits>
 
 #include <QDir>
 #include <QFileInfo>
@@ -380,6 +381,27 @@ bool JournalStore::Select(const ReportJournal::Query& query, const std::function
         take(entryOf(rows));
     }
     return !rows.lastError().isValid() || takeFault(rows.lastError());
+}
+
+/// All that lies on a damaged page fails. The next number that does not is looked for: one by one, then in steps that
+/// grow with the gap, since nothing says how far it goes.
+void JournalStore::Rescue(const std::function<void(const StoredEntry&)>& take)
+{
+    const QString statement = QStringLiteral("SELECT %1 FROM reports WHERE number >= ? ORDER BY number");
+    QSqlQuery rows(m_database);
+    qint64 last = 0;
+    for (qint64 from = 1; from < std::numeric_limits<qint64>::max() / 2; from += 1 + (from - last) / 64) {
+        const bool isRead = run(rows, statement.arg(QLatin1String(Columns)), {from});
+        while (isRead && rows.next()) {
+            const StoredEntry entry = entryOf(rows);
+            last = entry.number;
+            take(entry);
+        }
+        if (isRead && !rows.lastError().isValid()) {
+            return;
+        }
+        from = std::max(from, last);
+    }
 }
 
 std::vector<StoredEntry> JournalStore::Unsent(int limit)

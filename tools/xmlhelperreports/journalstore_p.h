@@ -75,6 +75,9 @@ public:
     /// Calls @p take for each that meets the query, the newest first.
     bool Select(const ReportJournal::Query& query, const std::function<void(const StoredEntry&)>& take);
 
+    /// Calls @p take for each that can still be read of a damaged journal, the oldest first.
+    void Rescue(const std::function<void(const StoredEntry&)>& take);
+
     /// Those that are not sent, the oldest first.
     std::vector<StoredEntry> Unsent(int limit);
     int CountUnsent();

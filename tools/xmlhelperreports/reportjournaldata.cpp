@@ -289,11 +289,12 @@ int ReportJournalData::TakeOver(const QString& damaged)
     std::vector<StoredEntry> entries;
     JournalStore old;
     if (old.OpenDamaged(damaged)) {
-        ReportJournal::Query all;
-        all.limit = -1;
-        old.Select(all, [&entries](const StoredEntry& entry) { entries.push_back(entry); });
+        old.Rescue([&entries](const StoredEntry& entry) {
+            if (!entry.id.isEmpty()) { // Of a damaged row, anything may be left.
+                entries.push_back(entry);
+            }
+        });
     }
-    std::reverse(entries.begin(), entries.end());
     const auto put = [this, &entries] {
         return std::all_of(entries.begin(), entries.end(),
                            [this](const StoredEntry& entry) { return store.Put(entry); });
