@@ -15,6 +15,13 @@ constexpr int ManyReports = 4000;
 constexpr int ManyReports = 20000;
 #endif
 
+int takeAll(QStringList& files)
+{
+    const int count = int(files.size());
+    files.clear();
+    return count;
+}
+
 } // namespace
 
 /// Reports that lie in a folder, and those that come there.
@@ -30,6 +37,8 @@ private Q_SLOTS:
     void takesInAFolderThatComes();
     void makesOneEntryOfAReportThatIsFoundFirst();
     void handsOverAFewAtOnce();
+    void handsOverAgainWhatCouldNotBeRead();
+    void takesInAFileThatCouldNotBeRead();
     void readsNamesOnceForManyChanges();
     void pressIsAsFastWhateverLiesThere();
 
@@ -140,9 +149,9 @@ void TestReportJournalFolders::handsOverAFewAtOnce()
     QList<int> portions;
     bool isEnd = false;
     FolderIntake intake(
-        [&portions](const QStringList& files) {
+        [&portions](QStringList& files) {
             portions.append(int(files.size()));
-            return int(files.size());
+            return takeAll(files);
         },
         [&isEnd](const QString&, int) { isEnd = true; });
     intake.Add(folder());
@@ -151,15 +160,55 @@ void TestReportJournalFolders::handsOverAFewAtOnce()
     QCOMPARE(portions, (QList<int> {few, few, few, 1}));
 }
 
+/// Nothing in the folder has changed meanwhile. The others are not handed over again.
+void TestReportJournalFolders::handsOverAgainWhatCouldNotBeRead()
+{
+    write(3);
+    const QString locked = folder() + QStringLiteral("/1.xml");
+    QStringList portions;
+    int ends = 0;
+    FolderIntake intake(
+        [&portions, &locked](QStringList& files) {
+            files.sort();
+            portions.append(files);
+            const bool isFirst = files.size() > 1;
+            files = isFirst ? QStringList(locked) : QStringList();
+            return isFirst ? 2 : 1;
+        },
+        [&ends](const QString&, int) { ++ends; });
+    intake.Add(folder());
+    QTRY_COMPARE(ends, 2);
+    QCOMPARE(portions,
+             QStringList({folder() + QStringLiteral("/0.xml"), locked, folder() + QStringLiteral("/2.xml"), locked}));
+}
+
+/// A link to what can be opened and not read, whoever tries.
+void TestReportJournalFolders::takesInAFileThatCouldNotBeRead()
+{
+    const QString report = folder() + QStringLiteral("/a.xml");
+    if (!QFile::link(QStringLiteral("/proc/self/mem"), report) || !QFileInfo(report).isFile()) {
+        QSKIP("This system has no such file.");
+    }
+    ReportJournal journal;
+    QVERIFY(journal.Open(path(QStringLiteral("journal.sqlite"))));
+    const QSignalSpy spy(&journal, &ReportJournal::TakenIn);
+    journal.TakeIn(folder());
+    QTRY_COMPARE(int(spy.size()), 1);
+    QCOMPARE(spy[0][1].toInt(), 0);
+    QVERIFY(QFile::remove(report));
+    writeFile(report, "<r/>");
+    QTRY_COMPARE_WITH_TIMEOUT(int(journal.Search({}).size()), 1, 20000);
+}
+
 /// A hundred reports of this process in a folder cost one more reading of its names.
 void TestReportJournalFolders::readsNamesOnceForManyChanges()
 {
     write(1000);
     int files = 0;
     FolderIntake intake(
-        [&files](const QStringList& some) {
+        [&files](QStringList& some) {
             files += int(some.size());
-            return int(some.size());
+            return takeAll(some);
         },
         [](const QString&, int) {});
     intake.Add(folder());

@@ -5,7 +5,7 @@
 
 #include <QFileInfo>
 
-FolderIntake::FolderIntake(std::function<int(const QStringList& files)> take,
+FolderIntake::FolderIntake(std::function<int(QStringList& files)> take,
                            std::function<void(const QString& folder, int added)> end)
     : m_take(std::move(take))
     , m_end(std::move(end))
@@ -14,8 +14,10 @@ FolderIntake::FolderIntake(std::function<int(const QStringList& files)> take,
     m_readTimer.setSingleShot(true);
     m_pauseTimer.setSingleShot(true);
     m_pauseTimer.setInterval(Pause);
+    m_unreadTimer.setSingleShot(true);
     QObject::connect(&m_readTimer, &QTimer::timeout, &m_readTimer, [this] { readSome(); });
     QObject::connect(&m_pauseTimer, &QTimer::timeout, &m_readTimer, [this] { m_readTimer.start(0); });
+    QObject::connect(&m_unreadTimer, &QTimer::timeout, &m_readTimer, [this] { readUnread(); });
     QObject::connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_readTimer, [this](const QString& folder) {
         m_folders[folder].isChanged = true;
         if (!m_pauseTimer.isActive()) {
@@ -47,6 +49,7 @@ void FolderIntake::begin()
     for (auto& [name, folder] : m_folders) {
         if (folder.isChanged && QFileInfo(name).isDir()) {
             folder.isChanged = false;
+            folder.hasUnread = false;
             m_watcher.addPath(name); // First, so that nothing is missed in between.
             m_folder = name;
             m_names = std::make_unique<QDirIterator>(name, QStringList(QStringLiteral("*.xml")), QDir::Files);
@@ -86,17 +89,42 @@ void FolderIntake::readSome()
 
 void FolderIntake::handOver()
 {
-    const QStringList files = m_found.mid(0, FilesInOneGo);
+    QStringList files = m_found.mid(0, FilesInOneGo);
+    const auto count = files.size();
     const int added = files.isEmpty() ? 0 : m_take(files);
     if (added < 0) {
         m_readTimer.start(Pause);
         return;
     }
-    m_found = m_found.mid(files.size());
+    for (const QString& unread : std::as_const(files)) {
+        m_folders[m_folder].known.remove(QFileInfo(unread).fileName());
+        m_folders[m_folder].hasUnread = true;
+    }
+    m_found = m_found.mid(count);
     m_added += added;
     m_readTimer.start(0);
     if (!m_names && m_found.isEmpty()) {
         const QString folder = std::exchange(m_folder, QString());
+        awaitUnread();
         m_end(folder, m_added);
     }
+}
+
+/// Has the names of folders read again where some could not be taken: they are new then.
+void FolderIntake::awaitUnread()
+{
+    const auto hasUnread = [](const auto& folder) { return folder.second.hasUnread; };
+    if (std::none_of(m_folders.begin(), m_folders.end(), hasUnread)) {
+        m_unreadPace.Restart();
+    } else if (!m_unreadTimer.isActive()) {
+        m_unreadTimer.start(m_unreadPace.Next());
+    }
+}
+
+void FolderIntake::readUnread()
+{
+    for (auto& [name, folder] : m_folders) {
+        folder.isChanged = folder.isChanged || folder.hasUnread;
+    }
+    m_readTimer.start(0);
 }

@@ -13,6 +13,7 @@
 #include <QTimer>
 
 #include "folderwatch_p.h"
+#include "retrypace_p.h"
 
 /// Finds the reports of folders by their names, each once, a few names in one go of the event loop.
 ///
@@ -28,10 +29,10 @@ public:
     /// Milliseconds from a change to the next reading.
     static constexpr int Pause = 2000;
 
-    /// @param take  gets paths that it has not got before; gives how many were new to it, or less than 0 when it shall
-    ///              be asked again later
+    /// @param take  gets paths that it has not got before, and leaves those that it cannot read yet: it gets them again
+    ///              after a while. Gives how many were new to it, or less than 0 when it shall be asked again later
     /// @param end   hears that all of a folder has been read and taken
-    FolderIntake(std::function<int(const QStringList& files)> take,
+    FolderIntake(std::function<int(QStringList& files)> take,
                  std::function<void(const QString& folder, int added)> end);
 
     /// Reads a folder, which need not be there yet.
@@ -50,13 +51,16 @@ private:
     {
         QSet<QString> known; ///< names
         bool isChanged = true;
+        bool hasUnread = false;
     };
 
     void readSome();
     void begin();
     void handOver();
+    void awaitUnread();
+    void readUnread();
 
-    std::function<int(const QStringList&)> m_take;
+    std::function<int(QStringList&)> m_take;
     std::function<void(const QString&, int)> m_end;
     std::map<QString, Folder> m_folders;
     QString m_folder; ///< the one that is read
@@ -66,6 +70,8 @@ private:
     int m_readings = 0;
     QTimer m_readTimer;
     QTimer m_pauseTimer;
+    QTimer m_unreadTimer;
+    RetryPace m_unreadPace;
     QFileSystemWatcher m_watcher;
     FolderWatch m_missing;
 };

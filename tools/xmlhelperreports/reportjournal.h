@@ -132,7 +132,8 @@ public:
 
     /// Takes in the reports of a folder, files that end in .xml, and those that come later. Their names are read once,
     /// and again, some time after something has changed there; their contents only if no entry has their path. All
-    /// from the event loop, a few at once: the folder may hold any number. TakenIn() follows when all are known.
+    /// from the event loop, a few at once: the folder may hold any number. TakenIn() follows when all are known; what
+    /// cannot be read is tried again later.
     /// @param folder  may be missing, and come later
     void TakeIn(const QString& folder);
 
@@ -175,7 +176,7 @@ Q_SIGNALS:
     /// @param message  a sentence
     void Troubled(const QString& message);
 
-    /// The names of a folder have been read, and all of its reports have entries.
+    /// The names of a folder have been read, and all of its reports that can be read have entries.
     /// @param folder  as entries have it, absolute
     /// @param added   how many had none before
     void TakenIn(const QString& folder, int added);

@@ -168,7 +168,7 @@ bool isHere(const ReportJournal::Entry& entry)
 
 ReportJournalData::ReportJournalData(ReportJournal& owner)
     : journal(owner)
-    , intake([this](const QStringList& files) { return TakeFound(files); },
+    , intake([this](QStringList& files) { return TakeFound(files); },
              [this](const QString& folder, int added) { Q_EMIT journal.TakenIn(folder, added); })
 {
     flushTimer.setSingleShot(true);
@@ -523,25 +523,33 @@ void ReportJournalData::Forget(const Update& update)
     }
 }
 
-/// Gives how many were not known.
-int ReportJournalData::TakeFound(const QStringList& files)
+bool ReportJournalData::ReadUnknown(const QStringList& files, std::vector<StoredEntry>& entries,
+                                    QStringList& unreadable)
+{
+    entries.clear();
+    unreadable.clear();
+    for (const QString& path : files) {
+        const bool isUnknown = store.FindByPath(path).id.isEmpty();
+        if (!store.Fault().isEmpty()) {
+            return false;
+        }
+        const ReportContent content = isUnknown ? readContent(path, valueNames) : ReportContent();
+        if (content.isRead) {
+            entries.push_back(entryOfFound(path, content));
+        } else if (isUnknown) {
+            unreadable.append(path);
+        }
+    }
+    return true;
+}
+
+/// Gives how many were not known, and leaves those that cannot be read yet.
+int ReportJournalData::TakeFound(QStringList& files)
 {
     Flush(false); // A report of this process is told of rather than found.
     std::vector<StoredEntry> entries;
-    const auto readUnknown = [this, &entries, &files] {
-        entries.clear();
-        for (const QString& path : files) {
-            const bool isUnknown = store.FindByPath(path).id.isEmpty();
-            if (!store.Fault().isEmpty()) {
-                return false;
-            }
-            const ReportContent content = isUnknown ? readContent(path, valueNames) : ReportContent();
-            if (content.isRead) {
-                entries.push_back(entryOfFound(path, content));
-            }
-        }
-        return true;
-    };
+    QStringList unreadable;
+    const auto readUnknown = [this, &files, &entries, &unreadable] { return ReadUnknown(files, entries, unreadable); };
     const auto put = [this, &entries] {
         return std::all_of(entries.begin(), entries.end(), [this](const StoredEntry& entry) {
             return !store.FindByPath(entry.path).id.isEmpty() || store.Put(entry); // Others may have been faster.
@@ -553,5 +561,6 @@ int ReportJournalData::TakeFound(const QStringList& files)
     for (const StoredEntry& entry : entries) {
         Q_EMIT journal.Changed(entry.id);
     }
+    files = unreadable;
     return int(entries.size());
 }

@@ -66,7 +66,8 @@ struct ReportJournalData
     bool Write(Update& update);
     void TakeContent(StoredEntry& entry, const Update& update) const;
     void Forget(const Update& update);
-    int TakeFound(const QStringList& files);
+    int TakeFound(QStringList& files);
+    bool ReadUnknown(const QStringList& files, std::vector<StoredEntry>& entries, QStringList& unreadable);
 
     ReportJournal& journal;
     JournalStore store;
