@@ -39,6 +39,7 @@ private Q_SLOTS:
     void handsOverAFewAtOnce();
     void handsOverAgainWhatCouldNotBeRead();
     void takesInAFileThatCouldNotBeRead();
+    void beginsAnewWithinAPortion();
     void readsNamesOnceForManyChanges();
     void pressIsAsFastWhateverLiesThere();
 
@@ -198,6 +199,26 @@ void TestReportJournalFolders::takesInAFileThatCouldNotBeRead()
     QVERIFY(QFile::remove(report));
     writeFile(report, "<r/>");
     QTRY_COMPARE_WITH_TIMEOUT(int(journal.Search({}).size()), 1, 20000);
+}
+
+/// A journal that is made anew while it takes in has all folders read from the beginning.
+void TestReportJournalFolders::beginsAnewWithinAPortion()
+{
+    write(3);
+    FolderIntake* restarted = nullptr;
+    QStringList ends;
+    FolderIntake intake(
+        [&restarted](QStringList& files) {
+            if (FolderIntake* const self = std::exchange(restarted, nullptr)) {
+                self->Restart();
+            }
+            return takeAll(files);
+        },
+        [&ends](const QString& end, int added) { ends.append(QStringLiteral("%1 %2").arg(end).arg(added)); });
+    restarted = &intake;
+    intake.Add(folder());
+    QTRY_VERIFY(ends.contains(folder() + QStringLiteral(" 3")));
+    QCOMPARE(int(ends.size()), 1);
 }
 
 /// A hundred reports of this process in a folder cost one more reading of its names.

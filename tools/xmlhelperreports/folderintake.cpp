@@ -92,6 +92,9 @@ void FolderIntake::handOver()
     QStringList files = m_found.mid(0, FilesInOneGo);
     const auto count = files.size();
     const int added = files.isEmpty() ? 0 : m_take(files);
+    if (m_folder.isEmpty()) {
+        return; // All begins anew.
+    }
     if (added < 0) {
         m_readTimer.start(Pause);
         return;
