@@ -2,6 +2,7 @@
 
 #include <xmlhelperreports/journalstore_p.h>
 #include <xmlhelperreports/reportjournal.h>
+#include <xmlhelperreports/reportjournaldata_p.h>
 
 #include "fakeclock.h"
 #include "station.h"
@@ -38,6 +39,7 @@ private Q_SLOTS:
     void isMadeAnewFromTheFiles();
     void goesOnWhenItIsDamagedWhileOpen();
     void goesOnWhenItIsRemovedWhileOpen();
+    void writesAgainWhenItIsSetAsideMeanwhile();
     void leavesAnotherDatabaseAlone();
     void mendsAnIndexThatLeadsNowhere();
     void makesEntriesNewerThanThoseThatAreLost();
@@ -218,6 +220,36 @@ void TestReportJournalDamage::goesOnWhenItIsRemovedWhileOpen()
     QVERIFY(other.Open(file));
     QCOMPARE(int(other.Search({}).size()), 1);
     QCOMPARE(other.Search({})[0].id, id);
+}
+
+/// Another process, which has found damage, need not see what is written just then.
+void TestReportJournalDamage::writesAgainWhenItIsSetAsideMeanwhile()
+{
+#ifndef Q_OS_UNIX
+    QSKIP("This system does not rename files in use.");
+#endif
+    const Station station;
+    const QString file = station.PathOf(QStringLiteral("journal.sqlite"));
+    ReportJournal owner;
+    ReportJournalData journal(owner);
+    QString message;
+    QVERIFY(journal.Open(file, message));
+    StoredEntry entry;
+    entry.id = QStringLiteral("of-that-moment");
+    int times = 0;
+    const auto put = [&journal, &entry, &times, &file] {
+        const bool isPut = journal.store.Put(entry);
+        if (++times == 1) {
+            for (const QString& end : {QStringLiteral("-shm"), QStringLiteral("-wal"), QString()}) {
+                QFile::rename(file + end, file + QStringLiteral(".aside") + end);
+            }
+        }
+        return isPut;
+    };
+    QVERIFY(journal.Change(put));
+    JournalStore store;
+    QCOMPARE(store.OpenFile(file), JournalStore::Outcome::Opened);
+    QCOMPARE(store.Find(entry.id).id, entry.id);
 }
 
 void TestReportJournalDamage::leavesAnotherDatabaseAlone()

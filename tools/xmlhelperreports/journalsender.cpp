@@ -62,7 +62,7 @@ void JournalSender::work()
 /// What went wrong; empty when all is sent.
 QString JournalSender::sendAll(JournalStore& journal, JournalStore& shared)
 {
-    if (!journal.IsOpen() && journal.OpenFile(m_file) != JournalStore::Outcome::Opened) {
+    if (!journal.IsCurrent() && journal.OpenFile(m_file) != JournalStore::Outcome::Opened) {
         return journal.Fault();
     }
     std::vector<StoredEntry> entries = journal.Unsent(EntriesInOneGo);

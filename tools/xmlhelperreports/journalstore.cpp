@@ -4,6 +4,7 @@
 #include <limits>
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -13,6 +14,10 @@
 #include <QVariant>
 
 #include <arbase/vornos.h>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 namespace {
 
@@ -29,6 +34,20 @@ constexpr int AnswerTimeout = 10;
 
 const char* const Columns = "number, id, station, begun, path, schema_path, verdict, reason, comment, label, "
                             "named_values, size, hash, version";
+
+/// Which file it is that has that name now; empty where the system does not tell, since files in use stay there.
+QByteArray identityOf(const QString& fileName)
+{
+#ifdef Q_OS_UNIX
+    struct stat status = {};
+    if (::stat(QFile::encodeName(fileName).constData(), &status) == 0) {
+        return QByteArray::number(quint64(status.st_dev)) + ':' + QByteArray::number(quint64(status.st_ino));
+    }
+#else
+    Q_UNUSED(fileName)
+#endif
+    return QByteArray();
+}
 
 QString nonNull(const QString& text)
 {
@@ -213,9 +232,16 @@ bool JournalStore::openFile(const QString& file)
     });
 }
 
+bool JournalStore::IsCurrent() const
+{
+    return IsOpen() && m_identity == identityOf(m_file);
+}
+
 JournalStore::Outcome JournalStore::OpenFile(const QString& file, Check check)
 {
     if (openFile(file) && checkFile(check) && prepareFile(file)) {
+        m_file = file;
+        m_identity = identityOf(file);
         return Outcome::Opened;
     }
     Close();

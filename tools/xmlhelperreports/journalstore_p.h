@@ -53,6 +53,8 @@ public:
 
     void Close();
     bool IsOpen() const { return m_database.isOpen(); }
+    /// Whether the file that is open still has its name.
+    bool IsCurrent() const;
 
     /// What went wrong last; empty when nothing did.
     const QString& Fault() const { return m_fault; }
@@ -104,6 +106,8 @@ private:
     bool takeFault(const QSqlError& error);
 
     QSqlDatabase m_database;
+    QString m_file;
+    QByteArray m_identity; ///< of the file
     std::map<QString, QSqlQuery> m_prepared; ///< by their statements
     QString m_fault;
     bool m_isDamaged = false;

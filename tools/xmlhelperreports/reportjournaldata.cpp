@@ -17,10 +17,6 @@
 
 #include "reportsupervision_p.h"
 
-#ifdef Q_OS_UNIX
-#include <sys/stat.h>
-#endif
-
 namespace {
 
 /// Watched reports that are written in one go.
@@ -83,20 +79,6 @@ QString nameOf(const ReportSupervisor::Verdict& report)
 QString idFrom(const QUuid& space, const QString& name)
 {
     return QUuid::createUuidV5(space, name).toString(QUuid::WithoutBraces);
-}
-
-/// Which file it is that has that name now; empty where the system does not tell, since files in use stay there.
-QByteArray identityOf(const QString& fileName)
-{
-#ifdef Q_OS_UNIX
-    struct stat status = {};
-    if (::stat(QFile::encodeName(fileName).constData(), &status) == 0) {
-        return QByteArray::number(quint64(status.st_dev)) + ':' + QByteArray::number(quint64(status.st_ino));
-    }
-#else
-    Q_UNUSED(fileName)
-#endif
-    return QByteArray();
 }
 
 QString nameOf(ReportSupervisor::State state)
@@ -236,7 +218,6 @@ bool ReportJournalData::OpenFile(QString& message)
         message = cannotBeOpened(file, store.Fault());
         return false;
     }
-    identity = identityOf(file);
     Share();
     return true;
 }
@@ -258,24 +239,31 @@ bool ReportJournalData::SetAside(QString& message)
     if (!store.IsOpen()) {
         return false;
     }
-    identity = identityOf(file);
-    intake.Restart();
-    if (supervisor) {
-        Watch(*supervisor);
-    }
+    Refill();
     Share();
     return true;
 }
 
-/// Gives what the operator shall know.
+/// Brings back what a new file may lack.
+void ReportJournalData::Refill()
+{
+    intake.Restart();
+    if (supervisor) {
+        Watch(*supervisor);
+    }
+}
+
+/// Gives what the operator shall know. The file itself goes last: from then on others may make a new one.
 QString ReportJournalData::MakeAnew()
 {
     const QString aside = nameAside(file);
+    const QString log = QStringLiteral("-wal");
+    QFile::remove(file + QStringLiteral("-shm"));
+    QFile::rename(file + log, aside + log);
     if (!QFile::rename(file, aside)) {
+        QFile::rename(aside + log, file + log);
         return cannotBeRenamed(file);
     }
-    QFile::rename(file + QStringLiteral("-wal"), aside + QStringLiteral("-wal"));
-    QFile::remove(file + QStringLiteral("-shm"));
     if (store.OpenFile(file) != JournalStore::Outcome::Opened) {
         return cannotBeOpened(file, store.Fault());
     }
@@ -314,20 +302,27 @@ void ReportJournalData::Share()
     });
 }
 
-/// Whether the file must be opened again: another process may have set it aside, and somebody removed it.
-bool ReportJournalData::IsToBeOpened() const
+/// Opens the file again if that must be: another process may have set it aside, and somebody removed it. Gives whether
+/// another is open now.
+bool ReportJournalData::OpenAgain(QString& message)
 {
-    return !file.isEmpty() && (!store.IsOpen() || identity != identityOf(file));
+    if (file.isEmpty() || store.IsCurrent() || !OpenFile(message)) {
+        return false;
+    }
+    Refill();
+    return true;
 }
 
-/// Works with the database; once more with a new one when it turns out to be damaged.
+/// Works with the database; once more with a new one when it turns out to be damaged, or was set aside by another
+/// process meanwhile, which may not have seen what was written.
 bool ReportJournalData::Do(const std::function<bool()>& work)
 {
     QString message;
-    if (IsToBeOpened()) {
-        OpenFile(message);
-    }
+    OpenAgain(message);
     bool isDone = store.IsOpen() && work();
+    if (isDone && !file.isEmpty() && !store.IsCurrent()) {
+        isDone = OpenAgain(message) && work();
+    }
     if (!isDone && !file.isEmpty() && store.IsOpen() && store.IsDamaged()) {
         isDone = SetAside(message) && work();
     }

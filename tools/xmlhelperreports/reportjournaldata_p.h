@@ -47,11 +47,12 @@ struct ReportJournalData
     bool OpenToRead(const QString& place, QString& message);
     bool OpenFile(QString& message);
     bool SetAside(QString& message);
+    void Refill();
     QString MakeAnew();
     int TakeOver(const QString& damaged);
     void Share();
 
-    bool IsToBeOpened() const;
+    bool OpenAgain(QString& message);
     bool Do(const std::function<bool()>& work);
     bool Change(const std::function<bool()>& change);
     bool Select(const ReportJournal::Query& query, std::vector<ReportJournal::Entry>& entries);
@@ -72,7 +73,6 @@ struct ReportJournalData
     ReportJournal& journal;
     JournalStore store;
     QString file; ///< empty for a journal that can only be read
-    QByteArray identity; ///< of the file
     QUrl sharedPlace; ///< empty for none
     QPointer<ReportSupervisor> supervisor;
     QStringList valueNames;
