@@ -229,14 +229,13 @@ void TestReportJournal::remembersWhatWasMadeBeforeItWatched()
     QVERIFY(!journal->Search({})[0].hash.isEmpty());
 }
 
-/// A report at the moment before a program ends.
+/// A report at the moment before a program ends, of which the supervisor has not told yet.
 void TestReportJournal::writesAtTheEndWhatIsLeft()
 {
     const QString path = m_station->PathOf(QStringLiteral("survey.xml"));
     {
         const auto journal = watching();
         m_station->Write(m_station->Begin(path), path);
-        m_station->Supervisor().MayQuit();
     }
     ReportJournal later;
     QVERIFY(later.Open(file()));

@@ -79,7 +79,10 @@ ReportJournal::ReportJournal(QObject* parent)
 {
 }
 
-ReportJournal::~ReportJournal() = default;
+ReportJournal::~ReportJournal()
+{
+    m_pData->Finish();
+}
 
 bool ReportJournal::Open(const QString& place, QString* message)
 {

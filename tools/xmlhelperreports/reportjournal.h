@@ -82,7 +82,8 @@ public:
     /// @param parent  owns it; may be null
     explicit ReportJournal(QObject* parent = nullptr);
 
-    /// Writes what is not written yet. What could not be sent waits in the journal for the next process.
+    /// Writes what is not written yet, and has the supervisor tell what it knows, see ReportSupervisor::MayQuit(). What
+    /// could not be sent waits in the journal for the next process.
     ~ReportJournal() override;
 
     /// Opens a journal, and makes it when it is missing. One that was open before is closed. Watches and folders stay.

@@ -157,19 +157,6 @@ ReportJournalData::ReportJournalData(ReportJournal& owner)
     QObject::connect(&flushTimer, &QTimer::timeout, &flushTimer, [this] { Flush(false); });
 }
 
-ReportJournalData::~ReportJournalData()
-{
-    const std::set<quint64> unreadAtLast = supervisor ? unread : std::set<quint64>();
-    for (const quint64 report : unreadAtLast) {
-        Note(report);
-    }
-    std::size_t left = changed.size() + 1;
-    while (store.IsOpen() && !changed.empty() && changed.size() < left) {
-        left = changed.size();
-        Flush(true);
-    }
-}
-
 void ReportJournalData::Close()
 {
     sender.reset();
@@ -384,11 +371,11 @@ void ReportJournalData::Note(quint64 report)
     }
 }
 
-/// Files are read first, so that other processes do not wait for them.
-void ReportJournalData::Flush(bool isLast)
+/// Gives whether some reports were written. Files are read first, so that other processes do not wait for them.
+bool ReportJournalData::Flush(bool isLast)
 {
     if (changed.empty() || file.isEmpty()) {
-        return;
+        return false;
     }
     std::vector<Update> updates;
     for (auto report = changed.begin(); report != changed.end() && updates.size() < ReportsInOneGo; ++report) {
@@ -399,7 +386,7 @@ void ReportJournalData::Flush(bool isLast)
     };
     if (!Change(write)) {
         flushTimer.start(PauseBetweenTries);
-        return;
+        return false;
     }
     for (const Update& update : updates) {
         Forget(update);
@@ -410,6 +397,20 @@ void ReportJournalData::Flush(bool isLast)
     for (const Update& update : updates) {
         Q_EMIT journal.Changed(update.id);
     }
+    return true;
+}
+
+/// Writes what is left. The supervisor may have heard something that it would tell from the event loop only.
+void ReportJournalData::Finish()
+{
+    if (supervisor) {
+        supervisor->MayQuit(); // It tells of all that it has heard.
+        const std::set<quint64> unreadAtLast = unread;
+        for (const quint64 report : unreadAtLast) {
+            Note(report);
+        }
+    }
+    while (Flush(true)) { }
 }
 
 /// @param isLast  there is no event loop any more from which the supervisor could check a file

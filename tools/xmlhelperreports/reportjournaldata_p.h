@@ -40,8 +40,6 @@ struct ReportJournalData
     };
 
     explicit ReportJournalData(ReportJournal& owner);
-    ~ReportJournalData();
-
     void Close();
     bool Open(const QString& place, QString& message);
     bool OpenToRead(const QString& place, QString& message);
@@ -60,7 +58,8 @@ struct ReportJournalData
 
     void Watch(ReportSupervisor& reports);
     void Note(quint64 report);
-    void Flush(bool isLast);
+    bool Flush(bool isLast);
+    void Finish();
     Update UpdateOf(const ReportSupervisor::Verdict& verdict, bool isLast) const;
     QString IdOf(const Update& update);
     QString FindOneToGoOnWith(const Update& update);
