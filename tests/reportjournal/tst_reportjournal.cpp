@@ -1,6 +1,9 @@
+#include <atomic>
+
 #include <QtTest>
 
 #include <xmlhelper/reportnews.h>
+#include <xmlhelperreports/journalsender_p.h>
 #include <xmlhelperreports/reportjournal.h>
 
 #include "station.h"
@@ -51,6 +54,7 @@ private Q_SLOTS:
     void givesPages();
     void keepsItsOrderWhenTheClockGoesBack();
     void keepsLabels();
+    void looksForWhatOthersWriteToSendIt();
     void refusesWhatIsNoJournal_data();
     void refusesWhatIsNoJournal();
 
@@ -462,6 +466,25 @@ void TestReportJournal::keepsLabels()
     QTRY_COMPARE(journal->Find(id).verdict, QStringLiteral("Written"));
     QCOMPARE(journal->Find(id).label, QStringLiteral("good"));
     QVERIFY(!journal->SetLabel(QStringLiteral("nowhere"), QStringLiteral("good")));
+}
+
+/// A process that shares the journal and writes nothing itself. The database cannot be reached.
+void TestReportJournal::looksForWhatOthersWriteToSendIt()
+{
+    ReportJournal other;
+    QVERIFY(other.Open(file()));
+    std::atomic<int> tellsOfNone {0};
+    std::atomic<int> unsent {-1};
+    const QUrl nowhere(QStringLiteral("postgresql:///nowhere?host=/nowhere"));
+    const auto tell = [&tellsOfNone, &unsent](int count, const QString&) {
+        tellsOfNone += count == 0 ? 1 : 0;
+        unsent = count;
+    };
+    const JournalSender sender(file(), nowhere, tell, 10);
+    QTRY_COMPARE(unsent.load(), 0);
+    QVERIFY(!other.Record({}).isEmpty());
+    QTRY_COMPARE(unsent.load(), 1);
+    QCOMPARE(tellsOfNone.load(), 1); // However often it looked.
 }
 
 void TestReportJournal::refusesWhatIsNoJournal_data()

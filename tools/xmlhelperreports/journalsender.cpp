@@ -1,7 +1,6 @@
 #include "journalsender_p.h"
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 #include <vector>
 
@@ -18,10 +17,11 @@ bool changeAll(JournalStore& store, const std::vector<StoredEntry>& entries,
 } // namespace
 
 JournalSender::JournalSender(const QString& file, const QUrl& url,
-                             std::function<void(int unsent, const QString& fault)> tell)
+                             std::function<void(int unsent, const QString& fault)> tell, int pause)
     : m_file(file)
     , m_url(url)
     , m_tell(std::move(tell))
+    , m_pause(pause)
     , m_thread([this] { work(); })
 {
 }
@@ -55,7 +55,7 @@ void JournalSender::work()
             shared.Close(); // A connection that was cut off does not come back.
         }
         m_tell(journal.IsOpen() ? journal.CountUnsent() : -1, fault);
-        wait(fault.isEmpty());
+        while (!wait(fault.isEmpty()) && fault.isEmpty() && journal.IsCurrent() && journal.CountUnsent() == 0) { }
     }
 }
 
@@ -89,15 +89,17 @@ bool JournalSender::isEnding()
     return m_isEnding;
 }
 
-/// After a fault, news do not shorten the pause.
-void JournalSender::wait(bool isWell)
+/// Gives whether it was woken. After a fault, news do not shorten the pause.
+bool JournalSender::wait(bool isWell)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
+    bool isWoken = false;
     if (isWell) {
         m_pace.Restart();
-        m_woken.wait(lock, [this] { return m_isWoken || m_isEnding; });
+        isWoken = m_woken.wait_for(lock, m_pause, [this] { return m_isWoken || m_isEnding; });
     } else {
-        m_woken.wait_for(lock, std::chrono::milliseconds(m_pace.Next()), [this] { return m_isEnding; });
+        isWoken = m_woken.wait_for(lock, std::chrono::milliseconds(m_pace.Next()), [this] { return m_isEnding; });
     }
     m_isWoken = false;
+    return isWoken;
 }

@@ -101,7 +101,8 @@ public:
     /// @return whether it is open
     bool OpenToRead(const QString& place, QString* message = nullptr);
 
-    /// Sends all entries to a shared database as well, those that were there before included, from now on.
+    /// Sends all entries to a shared database as well, those that were there before included, from now on. Those that
+    /// other processes write into the file follow within a minute.
     /// @param url  as of Open(); an empty one for none any more
     /// @return false when the journal is not open on a file by Open(), or that is no URL of PostgreSQL; whether it can
     /// be reached is told by Sent()
