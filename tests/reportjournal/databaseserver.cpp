@@ -62,13 +62,15 @@ QString DatabaseServer::Missing()
         : QStringLiteral("There is no user whom the server may run as.");
 }
 
-bool DatabaseServer::runAsUser(const QStringList& command)
+bool DatabaseServer::runAsUser(const QStringList& command, const QByteArray& input)
 {
     const QStringList all = asUser(command);
     QProcess process;
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(all.front(), all.mid(1));
+    process.write(input);
+    process.closeWriteChannel();
     return process.waitForFinished(120000) && process.exitCode() == 0;
 }
 
@@ -86,18 +88,22 @@ bool DatabaseServer::Make()
                       QStringLiteral("--pgdata=") + m_folder + QStringLiteral("/data")});
 }
 
-bool DatabaseServer::Copy(const DatabaseServer& other)
+bool DatabaseServer::Empty()
 {
-    return giveFolder()
-        && runAsUser({QStringLiteral("cp"), QStringLiteral("-a"), other.m_folder + QStringLiteral("/data"), m_folder});
+    Stop();
+    return runAsUser({programPath(QStringLiteral("postgres")), QStringLiteral("--single"), QStringLiteral("-F"),
+                      QStringLiteral("-D"), m_folder + QStringLiteral("/data"), QStringLiteral("postgres")},
+                     "DROP TABLE IF EXISTS reports\n");
 }
 
-/// What was left of one that was killed may stand in the way for a moment.
+/// What was left of one that was killed may stand in the way for a moment. Nothing is cut off from power here: what a
+/// killed server has written is there without waiting for the disk.
 bool DatabaseServer::Start()
 {
     const QStringList command
         = asUser({programPath(QStringLiteral("postgres")), QStringLiteral("-D"), m_folder + QStringLiteral("/data"),
-                  QStringLiteral("-k"), m_folder, QStringLiteral("-c"), QStringLiteral("listen_addresses=")});
+                  QStringLiteral("-k"), m_folder, QStringLiteral("-c"), QStringLiteral("listen_addresses="),
+                  QStringLiteral("-F")});
     QElapsedTimer timer;
     for (timer.start(); !timer.hasExpired(60000);) {
         if (m_process.state() == QProcess::NotRunning) {

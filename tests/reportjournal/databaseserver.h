@@ -18,8 +18,8 @@ public:
 
     /// Makes an empty database in the folder.
     bool Make();
-    /// Has the one of another server, which does not run, in the folder.
-    bool Copy(const DatabaseServer& other);
+    /// Stops the server, and takes out what journals have put into the database.
+    bool Empty();
     /// Starts the server, and waits until it takes connections.
     bool Start();
     /// Ends it, and with it what programs are doing, as an administrator does.
@@ -36,7 +36,7 @@ public:
 private:
     static QString programPath(const QString& name);
     static QStringList asUser(const QStringList& command);
-    static bool runAsUser(const QStringList& command);
+    static bool runAsUser(const QStringList& command, const QByteArray& input = {});
     bool giveFolder() const;
 
     const QString m_folder;

@@ -47,17 +47,15 @@ private Q_SLOTS:
     void missesNothingWhenTheDatabaseIsStoppedAndKilled();
 
 private:
-    static std::unique_ptr<DatabaseServer> makeServer(const QTemporaryDir& folder);
     QString file(int station = 0) const;
     int waitForStation(QProcess& process) const;
     std::unique_ptr<QProcess> startStation(int station, int count) const;
     /// How many entries the stations have, each of which is in the shared journal as it is here.
     int countSame(const ReportJournal& shared) const;
 
-    QTemporaryDir m_firstFolder;
-    std::unique_ptr<DatabaseServer> m_first; ///< never runs, its database is copied
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<DatabaseServer> m_server;
+    QTemporaryDir m_serverFolder;
+    std::unique_ptr<DatabaseServer> m_server; ///< does not run when a test begins
+    std::unique_ptr<QTemporaryDir> m_folder; ///< of the stations
 };
 
 void TestReportJournalShared::initTestCase()
@@ -66,25 +64,18 @@ void TestReportJournalShared::initTestCase()
     if (!missing.isEmpty()) {
         QSKIP(qPrintable(missing));
     }
-    m_first = makeServer(m_firstFolder);
-    QVERIFY(m_first && m_first->Make());
-}
-
-/// One that has a folder for itself, through which its user may pass.
-std::unique_ptr<DatabaseServer> TestReportJournalShared::makeServer(const QTemporaryDir& folder)
-{
-    const QString path = folder.path();
-    const bool isFree = QDir(path).mkdir(QStringLiteral("server"))
-        && QFile::setPermissions(path, QFile::permissions(path) | QFile::ExeGroup | QFile::ExeOther);
-    return isFree ? std::make_unique<DatabaseServer>(folder.filePath(QStringLiteral("server"))) : nullptr;
+    // The server has a folder for itself, to which its user may pass.
+    const QString path = m_serverFolder.path();
+    QVERIFY(QDir(path).mkdir(QStringLiteral("server")));
+    QVERIFY(QFile::setPermissions(path, QFile::permissions(path) | QFile::ExeGroup | QFile::ExeOther));
+    m_server = std::make_unique<DatabaseServer>(m_serverFolder.filePath(QStringLiteral("server")));
+    QVERIFY(m_server->Make());
 }
 
 void TestReportJournalShared::init()
 {
-    m_server.reset();
+    QVERIFY(m_server->Empty());
     m_folder = std::make_unique<QTemporaryDir>();
-    m_server = makeServer(*m_folder);
-    QVERIFY(m_server && m_server->Copy(*m_first));
 }
 
 QString TestReportJournalShared::file(int station) const
