@@ -6,14 +6,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QStorageInfo>
 #include <QUrlQuery>
 #include <QUuid>
 #include <QVariant>
-
-#include <arbase/vornos.h>
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
@@ -32,9 +28,6 @@ constexpr int BusyTimeout = 2000;
 constexpr int ConnectTimeout = 3;
 constexpr int AnswerTimeout = 10;
 
-const char* const Columns = "number, id, station, begun, path, schema_path, verdict, reason, comment, label, "
-                            "named_values, size, hash, version";
-
 /// Which file it is that has that name now; empty where the system does not tell, since files in use stay there.
 QByteArray identityOf(const QString& fileName)
 {
@@ -49,115 +42,12 @@ QByteArray identityOf(const QString& fileName)
     return QByteArray();
 }
 
-QString nonNull(const QString& text)
-{
-    return text.isNull() ? QString(QLatin1String("")) : text;
-}
-
-QString valuesToText(const QMap<QString, QString>& values)
-{
-    QJsonObject object;
-    for (auto value = values.cbegin(); value != values.cend(); ++value) {
-        object.insert(value.key(), value.value());
-    }
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
-}
-
-QMap<QString, QString> valuesFromText(const QString& text)
-{
-    QMap<QString, QString> values;
-    const QJsonObject object = QJsonDocument::fromJson(text.toUtf8()).object();
-    for (auto value = object.begin(); value != object.end(); ++value) {
-        values.insert(value.key(), value.value().toString());
-    }
-    return values;
-}
-
-/// Where a text is searched for, in a form that does not depend on upper and lower case in any alphabet.
-QString wordsOf(const ReportJournal::Entry& entry)
-{
-    QStringList words {entry.path, entry.schemaPath, entry.reason, entry.comment, entry.label};
-    words += entry.values.values();
-    return words.join(QLatin1Char('\n')).toCaseFolded();
-}
-
-/// A text as a pattern of LIKE, with the sign ! before what has a meaning there.
-QString patternFor(const QString& text)
-{
-    QString pattern = text.toCaseFolded();
-    for (const QLatin1Char sign : {QLatin1Char('!'), QLatin1Char('%'), QLatin1Char('_')}) {
-        pattern.replace(sign, QString(QLatin1Char('!')) + sign);
-    }
-    return QLatin1Char('%') + pattern + QLatin1Char('%');
-}
-
-QVariant timeToNumber(const QDateTime& time)
-{
-    return time.isValid() ? QVariant(time.toMSecsSinceEpoch()) : QVariant();
-}
-
-StoredEntry entryOf(const QSqlQuery& row)
-{
-    StoredEntry entry;
-    int column = 0;
-    const auto next = [&row, &column] { return row.value(column++); };
-    entry.number = next().toLongLong();
-    entry.id = next().toString();
-    entry.station = next().toString();
-    const QVariant begun = next();
-    entry.begun = begun.isNull() ? QDateTime() : QDateTime::fromMSecsSinceEpoch(begun.toLongLong(), Qt::UTC);
-    entry.path = next().toString();
-    entry.schemaPath = next().toString();
-    entry.verdict = next().toString();
-    entry.reason = next().toString();
-    entry.comment = next().toString();
-    entry.label = next().toString();
-    entry.values = valuesFromText(next().toString());
-    entry.size = next().toLongLong();
-    entry.hash = next().toString().toLatin1();
-    entry.version = next().toLongLong();
-    return entry;
-}
-
 /// The ways in which processes of one computer share memory do not reach over a network.
 bool isLocal(const QString& file)
 {
     const QByteArray system = QStorageInfo(QFileInfo(file).absolutePath()).fileSystemType().toLower();
     return !system.startsWith("nfs") && !system.startsWith("smb") && !system.startsWith("cifs")
         && !system.startsWith("fuse.sshfs") && !system.startsWith("9p");
-}
-
-QString statementToPut()
-{
-    const QStringList columns = QString::fromLatin1(Columns).split(QLatin1String(", ")).mid(1)
-        << QStringLiteral("words");
-    QStringList marks;
-    QStringList updates;
-    for (const QString& column : columns) {
-        marks.append(QStringLiteral("?"));
-        updates.append(QStringLiteral("%1 = excluded.%1").arg(column));
-    }
-    return QStringLiteral("INSERT INTO reports (%1) VALUES (%2) ON CONFLICT (id) DO UPDATE SET %3 "
-                          "WHERE reports.version < excluded.version")
-        .arg(columns.join(QLatin1String(", ")), marks.join(QLatin1String(", ")), updates.join(QLatin1String(", ")));
-}
-
-QString conditionsOf(const ReportJournal::Query& query, QVariantList& values)
-{
-    QStringList conditions {QStringLiteral("1 = 1")};
-    const auto add = [&conditions, &values](bool isAsked, const char* condition, const QVariant& value) {
-        if (isAsked) {
-            conditions.append(QLatin1String(condition));
-            values.append(value);
-        }
-    };
-    add(!query.text.isEmpty(), "words LIKE ? ESCAPE '!'", patternFor(query.text));
-    add(!query.verdict.isEmpty(), "verdict = ?", query.verdict);
-    add(!query.label.isEmpty(), "label = ?", query.label);
-    add(query.from.isValid(), "begun >= ?", timeToNumber(query.from));
-    add(query.to.isValid(), "begun < ?", timeToNumber(query.to));
-    add(query.before > 0, "number < ?", query.before);
-    return conditions.join(QLatin1String(" AND "));
 }
 
 /// Options are those of PostgreSQL's own library, such as sslmode.
@@ -185,11 +75,6 @@ void setPlace(QSqlDatabase& database, const QUrl& url)
 }
 
 } // namespace
-
-void StoredEntry::Renew()
-{
-    version = std::max(version + 1, VornOS::Create()->GetCurrentTime());
-}
 
 bool isSharedPlace(const QUrl& url)
 {
@@ -352,7 +237,7 @@ StoredEntry JournalStore::findOne(const QString& condition, const QVariantList& 
 {
     StoredEntry entry;
     const QString statement = QStringLiteral("SELECT %1 FROM reports WHERE %2 LIMIT 1");
-    runOften(statement.arg(QLatin1String(Columns), condition), values,
+    runOften(statement.arg(QLatin1String(JournalColumns), condition), values,
              [&entry](const QSqlQuery& row) { entry = entryOf(row); });
     return entry;
 }
@@ -373,7 +258,7 @@ std::vector<StoredEntry> JournalStore::FindUnwritten(const QString& path)
     QSqlQuery rows(m_database);
     const QString statement = QStringLiteral("SELECT %1 FROM reports WHERE path = ? AND verdict IN ('Pending', "
                                              "'Blocked', 'Offered') ORDER BY number");
-    if (run(rows, statement.arg(QLatin1String(Columns)), {path})) {
+    if (run(rows, statement.arg(QLatin1String(JournalColumns)), {path})) {
         while (rows.next()) {
             entries.push_back(entryOf(rows));
         }
@@ -384,18 +269,14 @@ std::vector<StoredEntry> JournalStore::FindUnwritten(const QString& path)
 bool JournalStore::Put(const StoredEntry& entry)
 {
     static const QString statement = statementToPut();
-    return runOften(statement,
-                    {entry.id, nonNull(entry.station), timeToNumber(entry.begun), nonNull(entry.path),
-                     nonNull(entry.schemaPath), nonNull(entry.verdict), nonNull(entry.reason), nonNull(entry.comment),
-                     nonNull(entry.label), valuesToText(entry.values), entry.size,
-                     nonNull(QString::fromLatin1(entry.hash)), entry.version, wordsOf(entry)});
+    return runOften(statement, columnsOf(entry));
 }
 
 bool JournalStore::Select(const ReportJournal::Query& query, const std::function<void(const StoredEntry&)>& take)
 {
     QVariantList values;
     QString statement = QStringLiteral("SELECT %1 FROM reports WHERE %2 ORDER BY number DESC")
-                            .arg(QLatin1String(Columns), conditionsOf(query, values));
+                            .arg(QLatin1String(JournalColumns), conditionsOf(query, values));
     if (query.limit >= 0) {
         statement += QStringLiteral(" LIMIT %1").arg(query.limit);
     }
@@ -417,7 +298,7 @@ void JournalStore::Rescue(const std::function<void(const StoredEntry&)>& take)
     QSqlQuery rows(m_database);
     qint64 last = 0;
     for (qint64 from = 1; from < std::numeric_limits<qint64>::max() / 2; from += 1 + (from - last) / 64) {
-        const bool isRead = run(rows, statement.arg(QLatin1String(Columns)), {from});
+        const bool isRead = run(rows, statement.arg(QLatin1String(JournalColumns)), {from});
         while (isRead && rows.next()) {
             const StoredEntry entry = entryOf(rows);
             last = entry.number;
@@ -435,7 +316,7 @@ std::vector<StoredEntry> JournalStore::Unsent(int limit)
     std::vector<StoredEntry> entries;
     QSqlQuery rows(m_database);
     const QString statement = QStringLiteral("SELECT %1 FROM reports WHERE sent < version ORDER BY number LIMIT %2");
-    if (run(rows, statement.arg(QLatin1String(Columns)).arg(limit))) {
+    if (run(rows, statement.arg(QLatin1String(JournalColumns)).arg(limit))) {
         while (rows.next()) {
             entries.push_back(entryOf(rows));
         }

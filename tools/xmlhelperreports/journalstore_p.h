@@ -12,17 +12,7 @@
 #include <QStringList>
 #include <QUrl>
 
-#include "reportjournal.h"
-
-/// An entry with its version. The newest counts in every journal that the entry comes to.
-struct StoredEntry : ReportJournal::Entry
-{
-    qint64 version = 0;
-
-    /// Makes it newer than it was, and than what a journal that is lost may have sent: a version is no count, but the
-    /// time in milliseconds, or more.
-    void Renew();
-};
+#include "journalrows_p.h"
 
 /// The database of a journal: an SQLite file, or a shared one of PostgreSQL. It belongs to the thread that opens it.
 class JournalStore
