@@ -227,9 +227,7 @@ bool JournalStore::Change(const std::function<bool()>& change)
     if (change() && run(QStringLiteral("COMMIT"))) {
         return true;
     }
-    if (IsOpen()) {
-        QSqlQuery(m_database).exec(QStringLiteral("ROLLBACK")); // The fault is that of the change.
-    }
+    static_cast<void>(m_database.rollback()); // The fault is that of the change.
     return false;
 }
 
