@@ -114,6 +114,10 @@
         <source>Time</source>
         <translation>Zeit</translation>
     </message>
+    <message>
+        <source>Earlier sessions</source>
+        <translation>Frühere Sitzungen</translation>
+    </message>
 </context>
 <context>
     <name>ReportMessage</name>

@@ -114,6 +114,10 @@
         <source>Time</source>
         <translation>Time</translation>
     </message>
+    <message>
+        <source>Earlier sessions</source>
+        <translation>Earlier sessions</translation>
+    </message>
 </context>
 <context>
     <name>ReportMessage</name>

@@ -114,6 +114,10 @@
         <source>Time</source>
         <translation>Heure</translation>
     </message>
+    <message>
+        <source>Earlier sessions</source>
+        <translation>Sessions précédentes</translation>
+    </message>
 </context>
 <context>
     <name>ReportMessage</name>

@@ -30,9 +30,8 @@ bool isStillTrue(const ReportSupervisor::Verdict& verdict)
 
 } // namespace
 
-FileLook::FileLook(ReportSupervisor& supervisor, QObject* parent)
+FileLook::FileLook(QObject* parent)
     : QObject(parent)
-    , m_supervisor(supervisor)
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &FileLook::lookAtSome);
@@ -64,13 +63,13 @@ void FileLook::Look()
 void FileLook::lookAtSome()
 {
     if (std::exchange(m_bChosenChanged, false)) {
-        m_supervisor.Recheck(m_chosen);
+        Q_EMIT Doubted(m_chosen);
         Q_EMIT ChosenChanged();
     }
     const std::size_t end = std::min(m_next + LooksInOneGo, m_written.size());
     for (; m_next < end; ++m_next) {
         if (!isStillTrue(m_written[m_next])) {
-            m_supervisor.Recheck(m_written[m_next].report);
+            Q_EMIT Doubted(m_written[m_next].report);
         }
     }
     if (m_next < m_written.size()) {

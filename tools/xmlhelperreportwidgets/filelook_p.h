@@ -17,8 +17,7 @@ class FileLook : public QObject
     Q_OBJECT
 
 public:
-    /// @param supervisor  outlives this
-    explicit FileLook(ReportSupervisor& supervisor, QObject* parent = nullptr);
+    explicit FileLook(QObject* parent = nullptr);
     ~FileLook() override;
 
     /// @param reports  those whose folders are watched
@@ -28,6 +27,8 @@ public:
     void Look();
 
 Q_SIGNALS:
+    /// The verdict of a report may be no longer true.
+    void Doubted(quint64 report);
     /// The file of the chosen report has changed.
     void ChosenChanged();
 
@@ -37,7 +38,6 @@ private:
     void lookAtSome();
     void watch();
 
-    ReportSupervisor& m_supervisor;
     QFileSystemWatcher m_watcher;
     QTimer m_timer;
     std::vector<ReportSupervisor::Verdict> m_written;

@@ -1,10 +1,12 @@
 #include "reportlist_p.h"
 
-#include <algorithm>
+#include <cstddef>
 #include <set>
 
 #include <QDir>
+#include <QFont>
 #include <QGuiApplication>
+#include <QSize>
 
 #include "reportwords_p.h"
 
@@ -34,45 +36,58 @@ ReportList::~ReportList() = default;
 
 void ReportList::Put(const std::vector<ReportSupervisor::Verdict>& reports)
 {
-    dropOthersThan(reports);
-    for (std::size_t i = 0; i < reports.size(); ++i) {
-        const ReportSupervisor::Verdict& verdict = reports[reports.size() - 1 - i];
-        if (i == m_reports.size() || m_reports[i].report != verdict.report) {
-            beginInsertRows({}, static_cast<int>(i), static_cast<int>(i));
-            m_reports.insert(m_reports.begin() + static_cast<std::ptrdiff_t>(i), verdict);
-            endInsertRows();
-        } else {
-            m_reports[i] = verdict;
-        }
+    put(m_reports, 0, {reports.rbegin(), reports.rend()});
+    sayAllAgain();
+}
+
+/// The heading comes and goes with the rows below it.
+void ReportList::PutEarlier(const std::vector<ReportSupervisor::Verdict>& reports)
+{
+    const int heading = int(m_reports.size());
+    if (m_earlier.empty() && !reports.empty()) {
+        beginInsertRows({}, heading, heading + int(reports.size()));
+        m_earlier = reports;
+        endInsertRows();
+    } else if (!m_earlier.empty() && reports.empty()) {
+        beginRemoveRows({}, heading, rowCount() - 1);
+        m_earlier.clear();
+        endRemoveRows();
+    } else {
+        put(m_earlier, heading + 1, reports);
     }
-    if (!m_reports.empty()) {
-        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
-    }
+    sayAllAgain();
 }
 
 const ReportSupervisor::Verdict& ReportList::At(int row) const
 {
-    return m_reports.at(static_cast<std::size_t>(row));
+    static const ReportSupervisor::Verdict nothing;
+    const int heading = HeadingRow();
+    if (heading < 0 || row < heading) {
+        return m_reports.at(std::size_t(row));
+    }
+    return row == heading ? nothing : m_earlier.at(std::size_t(row - heading - 1));
 }
 
 int ReportList::RowOf(quint64 report) const
 {
-    const auto isIt = [report](const ReportSupervisor::Verdict& verdict) { return verdict.report == report; };
-    const auto found = std::find_if(m_reports.begin(), m_reports.end(), isIt);
-    return found == m_reports.end() ? -1 : static_cast<int>(found - m_reports.begin());
+    for (int row = 0; row < rowCount(); ++row) {
+        if (row != HeadingRow() && At(row).report == report) {
+            return row;
+        }
+    }
+    return -1;
 }
 
 void ReportList::Translate()
 {
     Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
-    if (!m_reports.empty()) {
-        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
-    }
+    sayAllAgain();
 }
 
 int ReportList::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_reports.size());
+    const std::size_t headings = m_earlier.empty() ? 0 : 1;
+    return parent.isValid() ? 0 : int(m_reports.size() + headings + m_earlier.size());
 }
 
 int ReportList::columnCount(const QModelIndex& parent) const
@@ -80,8 +95,16 @@ int ReportList::columnCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : ColumnCount;
 }
 
+Qt::ItemFlags ReportList::flags(const QModelIndex& index) const
+{
+    return index.row() == HeadingRow() ? Qt::NoItemFlags : QAbstractTableModel::flags(index);
+}
+
 QVariant ReportList::data(const QModelIndex& index, int role) const
 {
+    if (index.row() == HeadingRow()) {
+        return headingData(index.column(), role);
+    }
     const ReportSupervisor::Verdict& verdict = At(index.row());
     if (role == Qt::ToolTipRole) {
         return toolTip(index.column() == File ? QDir::toNativeSeparators(ReportWords::Path(verdict))
@@ -121,17 +144,62 @@ QVariant ReportList::headerData(int section, Qt::Orientation orientation, int ro
     }
 }
 
-void ReportList::dropOthersThan(const std::vector<ReportSupervisor::Verdict>& reports)
+/// Rows that stay are the same rows as before.
+void ReportList::put(Reports& rows, int firstRow, const Reports& newestFirst)
+{
+    dropOthers(rows, firstRow, newestFirst);
+    for (std::size_t i = 0; i < newestFirst.size(); ++i) {
+        if (i == rows.size() || rows[i].report != newestFirst[i].report) {
+            beginInsertRows({}, firstRow + int(i), firstRow + int(i));
+            rows.insert(rows.begin() + std::ptrdiff_t(i), newestFirst[i]);
+            endInsertRows();
+        } else {
+            rows[i] = newestFirst[i];
+        }
+    }
+}
+
+void ReportList::dropOthers(Reports& rows, int firstRow, const Reports& reports)
 {
     std::set<quint64> numbers;
     for (const ReportSupervisor::Verdict& verdict : reports) {
         numbers.insert(verdict.report);
     }
-    for (int row = rowCount() - 1; row >= 0; --row) {
-        if (numbers.count(At(row).report) == 0) {
-            beginRemoveRows({}, row, row);
-            m_reports.erase(m_reports.begin() + row);
+    for (int row = int(rows.size()) - 1; row >= 0; --row) {
+        if (numbers.count(rows[std::size_t(row)].report) == 0) {
+            beginRemoveRows({}, firstRow + row, firstRow + row);
+            rows.erase(rows.begin() + row);
             endRemoveRows();
         }
+    }
+}
+
+void ReportList::sayAllAgain()
+{
+    if (rowCount() > 0) {
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+    }
+}
+
+/// It spans the columns, and must not widen the first. It cannot be chosen, but shall be read as well as the rest.
+QVariant ReportList::headingData(int column, int role)
+{
+    if (column != Verdict) {
+        return {};
+    }
+    switch (role) {
+    case Qt::DisplayRole:
+        return tr("Earlier sessions");
+    case Qt::SizeHintRole:
+        return QSize(0, 0);
+    case Qt::ForegroundRole:
+        return QGuiApplication::palette().color(QPalette::Active, QPalette::WindowText);
+    case Qt::FontRole: {
+        QFont font;
+        font.setBold(true);
+        return font;
+    }
+    default:
+        return {};
     }
 }

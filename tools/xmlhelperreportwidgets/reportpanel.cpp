@@ -1,6 +1,7 @@
 #include "reportpanel.h"
 
 #include <map>
+#include <vector>
 
 #include <QEvent>
 #include <QHeaderView>
@@ -16,6 +17,7 @@
 
 #include <xmlhelper/reportnews.h>
 
+#include "earlierreports_p.h"
 #include "filelook_p.h"
 #include "focusring_p.h"
 #include "reportactions_p.h"
@@ -74,14 +76,17 @@ struct ReportPanelData
     void LayOutList(QSplitter& row);
     void Connect();
     void Refresh();
+    void PutEarlier();
     void ShowChosen();
     void ShowKept();
     void Translate();
+    void Recheck(quint64 report);
     quint64 Chosen() const;
     void Choose(int row) const;
 
     ReportPanel& panel;
     ReportSupervisor& supervisor;
+    EarlierReports earlier;
     ReportList list;
     FileLook look;
     QTimer refreshTimer;
@@ -105,7 +110,7 @@ private:
 ReportPanelData::ReportPanelData(ReportPanel& owner, ReportSupervisor& watched)
     : panel(owner)
     , supervisor(watched)
-    , look(watched)
+    , earlier(watched)
     , message(new ReportMessage(&owner))
     , view(new ReportView) // which stands behind the list for the keyboard
     , actions(new ReportActions(watched, *view, &owner))
@@ -171,12 +176,14 @@ void ReportPanelData::LayOutList(QSplitter& splitter)
 void ReportPanelData::Connect()
 {
     QObject::connect(&supervisor, &ReportSupervisor::Changed, &refreshTimer, [this] { refreshTimer.start(0); });
+    QObject::connect(&earlier, &EarlierReports::Changed, &refreshTimer, [this] { refreshTimer.start(0); });
     QObject::connect(&refreshTimer, &QTimer::timeout, &refreshTimer, [this] { Refresh(); });
     QObject::connect(&secondTimer, &QTimer::timeout, &refreshTimer, [this] { ShowKept(); });
     QObject::connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, &refreshTimer, [this] {
-        supervisor.Recheck(Chosen());
+        Recheck(Chosen());
         ShowChosen();
     });
+    QObject::connect(&look, &FileLook::Doubted, &refreshTimer, [this](quint64 report) { Recheck(report); });
     QObject::connect(&look, &FileLook::ChosenChanged, &refreshTimer, [this] { ShowChosen(); });
     QObject::connect(actions, &ReportActions::Complaint, message, &ReportMessage::Complain);
     QObject::connect(&ReportNews::Instance(), &ReportNews::CommentAsked, &refreshTimer,
@@ -193,19 +200,29 @@ void ReportPanelData::Connect()
     });
 }
 
-/// Follows the newest report unless an older one is chosen.
+/// Follows the newest report of this session unless another one is chosen.
 void ReportPanelData::Refresh()
 {
     const quint64 chosen = Chosen();
     const bool isNewestChosen = chosen == 0 || list.RowOf(chosen) == 0;
     list.Put(supervisor.GetReports());
-    if (isNewestChosen) {
+    PutEarlier();
+    if (isNewestChosen && !list.GetReports().empty()) {
         Choose(0);
     }
     for (auto dialog = dialogs.begin(); dialog != dialogs.end();) {
         dialog = dialog->second ? std::next(dialog) : dialogs.erase(dialog);
     }
     ShowChosen();
+}
+
+void ReportPanelData::PutEarlier()
+{
+    list.PutEarlier(earlier.GetReports());
+    table->clearSpans();
+    if (list.HeadingRow() >= 0) {
+        table->setSpan(list.HeadingRow(), 0, 1, ReportList::ColumnCount);
+    }
 }
 
 void ReportPanelData::ShowChosen()
@@ -218,7 +235,9 @@ void ReportPanelData::ShowChosen()
     message->Show(verdict, ReportActions::IsDialogOf(verdict, dialog));
     view->Show(verdict);
     actions->Show(verdict, dialog);
-    look.Follow(list.GetReports(), chosen);
+    std::vector<ReportSupervisor::Verdict> all = list.GetReports();
+    all.insert(all.end(), list.GetEarlier().begin(), list.GetEarlier().end());
+    look.Follow(all, chosen);
     ShowKept();
 }
 
@@ -249,6 +268,15 @@ void ReportPanelData::Translate()
     ShowKept();
 }
 
+void ReportPanelData::Recheck(quint64 report)
+{
+    if (EarlierReports::IsNumber(report)) {
+        earlier.Recheck(report);
+    } else {
+        supervisor.Recheck(report);
+    }
+}
+
 quint64 ReportPanelData::Chosen() const
 {
     const QModelIndex current = table->currentIndex();
@@ -273,12 +301,28 @@ ReportPanel::~ReportPanel() = default;
 void ReportPanel::ShowReport(quint64 report)
 {
     m_pData->Refresh();
-    m_pData->Choose(m_pData->list.RowOf(report));
+    if (!EarlierReports::IsNumber(report)) {
+        m_pData->Choose(m_pData->list.RowOf(report));
+    }
 }
 
 quint64 ReportPanel::GetShownReport() const
 {
-    return m_pData->Chosen();
+    const quint64 chosen = m_pData->Chosen();
+    return EarlierReports::IsNumber(chosen) ? 0 : chosen;
+}
+
+void ReportPanel::SetJournal(ReportJournal* journal)
+{
+    m_pData->list.PutEarlier({}); // Those of another journal may have the same numbers.
+    m_pData->earlier.SetJournal(journal);
+    m_pData->Refresh();
+    m_pData->look.Look();
+}
+
+QString ReportPanel::GetShownEntry() const
+{
+    return m_pData->earlier.IdOf(m_pData->Chosen());
 }
 
 bool ReportPanel::MayQuit()
@@ -289,7 +333,9 @@ bool ReportPanel::MayQuit()
 
 void ReportPanel::SetPageDresser(const PageDresser& dresser)
 {
-    m_pData->view->SetDresser(dresser);
+    const auto dressWithKnownNumber
+        = [dresser](quint64 report, ReportPage& page) { dresser(EarlierReports::IsNumber(report) ? 0 : report, page); };
+    m_pData->view->SetDresser(dresser ? PageDresser(dressWithKnownNumber) : dresser);
 }
 
 void ReportPanel::Remember(QSettings& settings)
