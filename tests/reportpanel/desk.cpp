@@ -66,20 +66,18 @@ bool Desk::Becomes(quint64 report, const QString& sign) const
     return QTest::qWaitFor([&] { return panel->GetShownReport() == report && Text("reportSign") == sign; });
 }
 
-bool isFileChosen(const Desk& desk, const char* button, const QString& fileName, const QString& filter)
+bool isFileChosen(const Desk& desk, const char* button, const QString& fileName, int kind)
 {
-    return isAsked<QFileDialog>([&desk, button] { desk.Press(button); },
-                                [&fileName, &filter](QFileDialog& dialog) {
-                                    if (!filter.isEmpty()) {
-                                        auto* const kinds
-                                            = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
-                                        kinds->setCurrentText(filter);
-                                        Q_EMIT kinds->textActivated(filter);
-                                    }
-                                    auto* const name = dialog.findChild<QLineEdit*>();
-                                    name->setText(fileName);
-                                    QTest::keyClick(name, Qt::Key_Return);
-                                });
+    const auto answer = [&fileName, kind](QFileDialog& dialog) {
+        auto* const kinds = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+        for (int i = 0; i < kind; ++i) {
+            QTest::keyClick(kinds, Qt::Key_Down);
+        }
+        auto* const name = dialog.findChild<QLineEdit*>();
+        name->setText(fileName);
+        QTest::keyClick(name, Qt::Key_Return);
+    };
+    return isAsked<QFileDialog>([&desk, button] { desk.Press(button); }, answer);
 }
 
 void press(QMessageBox& question, QMessageBox::ButtonRole role)

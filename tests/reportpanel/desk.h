@@ -72,8 +72,8 @@ template <typename Question, typename Action, typename Answer> bool isAsked(Acti
 }
 
 /// Presses a button, and gives the dialog that comes up the name of a file.
-/// @param filter  the text of the kind of file that is chosen first; empty to leave it
-bool isFileChosen(const Desk& desk, const char* button, const QString& fileName, const QString& filter = QString());
+/// @param kind  which of the kinds of file that are offered is chosen first
+bool isFileChosen(const Desk& desk, const char* button, const QString& fileName, int kind = 0);
 
 /// Presses the buttons of that role.
 void press(QMessageBox& question, QMessageBox::ButtonRole role);

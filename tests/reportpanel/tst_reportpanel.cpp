@@ -132,6 +132,8 @@ private Q_SLOTS:
     void letsTheProgramAddToThePage();
     void exports_data();
     void exports();
+    void exportsWhatIsChosenWhereTheNameDoesNotSay_data();
+    void exportsWhatIsChosenWhereTheNameDoesNotSay();
     void saysWhenItCannotExport();
     void asksForThePrinter();
     void followsTheNewest();
@@ -169,6 +171,8 @@ private Q_SLOTS:
     void tabGoesFromTopToBottom();
     void remembersOnlyWhenToldTo();
     void goesBeforeItsSupervisor();
+    void goesWhileItAsks_data();
+    void goesWhileItAsks();
 };
 
 void TestReportPanel::initTestCase()
@@ -422,6 +426,36 @@ void TestReportPanel::exports()
     QVERIFY(isFileChosen(desk, "reportExport", fileName));
     QVERIFY(bytesOf(fileName).startsWith(beginning));
     QVERIFY(!desk.Find<QLabel>("reportComplaint")->isVisible());
+}
+
+void TestReportPanel::exportsWhatIsChosenWhereTheNameDoesNotSay_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("written");
+    QTest::addColumn<QByteArray>("beginning");
+    const int webPage = 0;
+    const int pdf = 1;
+    const QByteArray beginningOfPdf("%PDF-");
+    const QByteArray beginningOfPage("<!DOCTYPE html>");
+    QTest::newRow("pdf") << QStringLiteral("page") << pdf << QStringLiteral("page.pdf") << beginningOfPdf;
+    QTest::newRow("web-page") << QStringLiteral("page") << webPage << QStringLiteral("page.html") << beginningOfPage;
+    QTest::newRow("pdf-with-a-dot-in-the-name")
+        << QStringLiteral("level.17") << pdf << QStringLiteral("level.17") << beginningOfPdf;
+    QTest::newRow("the-name-says-otherwise")
+        << QStringLiteral("page.html") << pdf << QStringLiteral("page.html") << beginningOfPage;
+}
+
+void TestReportPanel::exportsWhatIsChosenWhereTheNameDoesNotSay()
+{
+    QFETCH(const QString, typed);
+    QFETCH(const int, kind);
+    QFETCH(const QString, written);
+    QFETCH(const QByteArray, beginning);
+    Desk desk;
+    QVERIFY(desk.Becomes(desk.Write("a.xml"), signOf(State::Written)));
+    QVERIFY(isFileChosen(desk, "reportExport", desk.station.PathOf(typed), kind));
+    QVERIFY(bytesOf(desk.station.PathOf(written)).startsWith(beginning));
 }
 
 void TestReportPanel::saysWhenItCannotExport()
@@ -995,6 +1029,44 @@ void TestReportPanel::goesBeforeItsSupervisor()
     const quint64 report = desk.Write("c.xml");
     QTRY_VERIFY(desk.station.Supervisor().GetReport(report).isChecked);
     QVERIFY(!changes.isEmpty());
+}
+
+void TestReportPanel::goesWhileItAsks_data()
+{
+    QTest::addColumn<QString>("button"); // empty for the question before quitting
+    for (const char* const button : {"reportExport", "reportPrint", "reportSaveElsewhere", "reportDiscard", ""}) {
+        QTest::newRow(*button ? button : "quitting") << QString::fromLatin1(button);
+    }
+}
+
+/// A program may close its windows whatever stands above them.
+void TestReportPanel::goesWhileItAsks()
+{
+    QFETCH(const QString, button);
+    Desk desk;
+    const bool isOfFile = button == QLatin1String("reportExport") || button == QLatin1String("reportPrint");
+    if (isOfFile) {
+        QVERIFY(desk.Becomes(desk.Write("a.xml"), signOf(State::Written)));
+    } else {
+        desk.station.Supervisor().SetEmergencyFolder(QString());
+        QVERIFY(desk.Becomes(desk.Lose("a.xml"), signOf(State::Pending)));
+    }
+    const QByteArray name = button.toLatin1();
+    if (!name.isEmpty() && !desk.Button(name.constData())) {
+        QSKIP("The library is built without printing.");
+    }
+    bool mayQuit = false;
+    const auto ask = [&] {
+        if (name.isEmpty()) {
+            mayQuit = desk.panel->MayQuit();
+        } else {
+            desk.Press(name.constData());
+        }
+    };
+    QVERIFY(isAsked<QDialog>(ask, [&desk](QDialog&) { desk.panel.reset(); }));
+    QVERIFY(!mayQuit);
+    QVERIFY(!QApplication::activeModalWidget());
+    QCOMPARE(int(desk.station.Supervisor().GetKept().size()), isOfFile ? 0 : 1);
 }
 
 QTEST_MAIN(TestReportPanel)

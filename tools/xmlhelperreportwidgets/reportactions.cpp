@@ -6,7 +6,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QMessageBox>
+#include <QPointer>
 #include <QProcess>
 #include <QPushButton>
 #include <QUrl>
@@ -18,6 +18,7 @@
 #endif
 
 #include "flowlayout_p.h"
+#include "question_p.h"
 #include "reportview_p.h"
 #include "reportwords_p.h"
 
@@ -42,21 +43,58 @@ bool showFileInFolder(const QString& fileName)
     return QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(fileName).absolutePath()));
 }
 
+/// The ending of a kind of file; empty of one for any.
+QString endingOf(const QString& kind)
+{
+    const QString pattern = kind.section(QLatin1String("(*"), -1).section(QLatin1Char(')'), 0, 0);
+    return pattern.mid(1);
+}
+
+/// A file without an ending of its own is of the kind that was chosen.
+bool isPdf(const QString& fileName, bool isPdfChosen)
+{
+    const QString ending = QFileInfo(fileName).suffix().toLower();
+    const bool isPage = ending == QLatin1String("html") || ending == QLatin1String("htm");
+    return ending == QLatin1String("pdf") || (isPdfChosen && !isPage);
+}
+
 /// Whether the operator really wants to lose a report.
 bool isLossWanted(QWidget& parent, const ReportSupervisor::Verdict& verdict)
 {
-    QMessageBox question(
-        QMessageBox::Warning, ReportActions::tr("Discard the report"),
-        ReportActions::tr("Discard report %1? What was measured for it is lost then.").arg(ReportWords::Name(verdict)),
-        QMessageBox::NoButton, &parent);
-    question.setObjectName(QStringLiteral("discardQuestion"));
-    question.setTextFormat(Qt::PlainText); // a file may have any name
-    const QPushButton* const discard = question.addButton(ReportActions::tr("&Discard"), QMessageBox::DestructiveRole);
-    QPushButton* const keep = question.addButton(ReportActions::tr("&Keep"), QMessageBox::RejectRole);
-    question.setDefaultButton(keep);
-    question.setEscapeButton(keep);
-    question.exec();
-    return question.clickedButton() == discard;
+    Question question;
+    question.name = "discardQuestion";
+    question.title = ReportActions::tr("Discard the report");
+    question.text = ReportActions::tr("Discard report %1? What was measured for it is lost then.")
+                        .arg(ReportWords::Name(verdict));
+    question.yes = ReportActions::tr("&Discard");
+    question.no = ReportActions::tr("&Keep");
+    return isWanted(parent, question);
+}
+
+/// Asks above @p parent for the name of a file to write; empty when there is none, or when the parent is gone. Each
+/// kind of file has its ending; a name without one gets that of the kind that is chosen.
+/// @param kinds   as they are shown, with the ending in brackets
+/// @param chosen  becomes the kind that was chosen; may be null
+QString askForFile(QWidget& parent, const QString& title, const QString& suggestion, const QStringList& kinds,
+                   QString* chosen = nullptr)
+{
+    const QPointer<QFileDialog> dialog(new QFileDialog(&parent, title, QFileInfo(suggestion).absolutePath()));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilters(kinds);
+    dialog->selectFile(suggestion);
+    dialog->setDefaultSuffix(endingOf(kinds.front()));
+    QObject::connect(dialog, &QFileDialog::filterSelected, dialog,
+                     [&dialog](const QString& kind) { dialog->setDefaultSuffix(endingOf(kind)); });
+    const bool isChosen = dialog->exec() == QDialog::Accepted;
+    if (!dialog) {
+        return QString();
+    }
+    const QString fileName = isChosen ? dialog->selectedFiles().value(0) : QString();
+    if (chosen) {
+        *chosen = dialog->selectedNameFilter();
+    }
+    delete dialog;
+    return fileName;
 }
 
 } // namespace
@@ -162,7 +200,8 @@ void ReportActions::copyPath()
     QGuiApplication::clipboard()->setText(QDir::toNativeSeparators(ReportWords::Path(m_verdict)));
 }
 
-/// As what the name says it is. Another report may be chosen before the answer.
+/// As what the name says it is, or else the kind that was chosen. Another report may be chosen before the answer, and
+/// the panel be gone.
 void ReportActions::exportPage()
 {
     ReportPage page;
@@ -174,16 +213,14 @@ void ReportActions::exportPage()
     const QString suggestion = info.absolutePath() + QLatin1Char('/') + info.completeBaseName();
     const QString webPage = tr("Web page (*.html)");
     const QString pdf = tr("PDF (*.pdf)");
-    QString filter = webPage;
+    QString kind;
     const QString fileName
-        = QFileDialog::getSaveFileName(this, tr("Export the report"), suggestion + QLatin1String(".html"),
-                                       webPage + QLatin1String(";;") + pdf, &filter);
+        = askForFile(*this, tr("Export the report"), suggestion + QLatin1String(".html"), {webPage, pdf}, &kind);
     if (fileName.isEmpty()) {
         return;
     }
     QString reason;
-    const bool isPdf = fileName.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive);
-    if (!(isPdf ? page.SavePdf(fileName, &reason) : page.SaveHtml(fileName, &reason))) {
+    if (!(isPdf(fileName, kind == pdf) ? page.SavePdf(fileName, &reason) : page.SaveHtml(fileName, &reason))) {
         Q_EMIT Complaint(tr("The page could not be saved as %1: %2.").arg(QDir::toNativeSeparators(fileName), reason));
     }
 }
@@ -196,13 +233,14 @@ void ReportActions::printPage()
         Q_EMIT Complaint(page.GetError());
         return;
     }
-    QPrinter printer(QPrinter::HighResolution);
-    QPrintDialog dialog(&printer, this);
-    if (dialog.exec() == QDialog::Accepted) {
+    QPrinter printer(QPrinter::HighResolution); // outlives the dialog
+    const QPointer<QPrintDialog> dialog(new QPrintDialog(&printer, this));
+    if (dialog->exec() == QDialog::Accepted) {
         QTextDocument document;
         document.setHtml(page.ToRichText());
         document.print(&printer);
     }
+    delete dialog;
 #endif
 }
 
@@ -225,8 +263,8 @@ void ReportActions::tryAgain()
 void ReportActions::saveElsewhere()
 {
     const quint64 report = m_verdict.report; // another may be chosen before the answer
-    const QString fileName = QFileDialog::getSaveFileName(
-        this, tr("Save the report elsewhere"), ReportWords::Path(m_verdict), tr("Reports (*.xml);;All files (*)"));
+    const QStringList kinds = tr("Reports (*.xml);;All files (*)").split(QStringLiteral(";;"));
+    const QString fileName = askForFile(*this, tr("Save the report elsewhere"), ReportWords::Path(m_verdict), kinds);
     if (!fileName.isEmpty() && !m_supervisor.SaveElsewhere(report, fileName)) {
         Q_EMIT Complaint(tr("The report could not be saved as %1.").arg(QDir::toNativeSeparators(fileName)));
     }

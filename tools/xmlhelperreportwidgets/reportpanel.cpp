@@ -6,9 +6,7 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPointer>
-#include <QPushButton>
 #include <QSettings>
 #include <QSplitter>
 #include <QTableView>
@@ -20,6 +18,7 @@
 #include "earlierreports_p.h"
 #include "filelook_p.h"
 #include "focusring_p.h"
+#include "question_p.h"
 #include "reportactions_p.h"
 #include "reportlist_p.h"
 #include "reportmessage_p.h"
@@ -48,21 +47,16 @@ QString listed(const QStringList& sentences)
     return lines.join(QLatin1Char('\n'));
 }
 
-bool isQuittingWanted(QWidget& panel, const QStringList& lost)
+bool isQuittingWanted(const QWidget& panel, const QStringList& lost)
 {
-    QMessageBox question(QMessageBox::Warning, ReportPanel::tr("Reports would be lost"),
-                         ReportPanel::tr("If the program ends now, these reports are lost:") + QLatin1Char('\n')
-                             + listed(lost),
-                         QMessageBox::NoButton, panel.window());
-    question.setObjectName(QStringLiteral("quitQuestion"));
-    question.setTextFormat(Qt::PlainText);
-    const QPushButton* const quit
-        = question.addButton(ReportPanel::tr("&Quit all the same"), QMessageBox::DestructiveRole);
-    QPushButton* const stay = question.addButton(ReportPanel::tr("&Stay"), QMessageBox::RejectRole);
-    question.setDefaultButton(stay);
-    question.setEscapeButton(stay);
-    question.exec();
-    return question.clickedButton() == quit;
+    Question question;
+    question.name = "quitQuestion";
+    question.title = ReportPanel::tr("Reports would be lost");
+    question.text
+        = ReportPanel::tr("If the program ends now, these reports are lost:") + QLatin1Char('\n') + listed(lost);
+    question.yes = ReportPanel::tr("&Quit all the same");
+    question.no = ReportPanel::tr("&Stay");
+    return isWanted(*panel.window(), question);
 }
 
 } // namespace
