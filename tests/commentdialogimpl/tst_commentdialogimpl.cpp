@@ -273,6 +273,10 @@ private Q_SLOTS:
     void failedWriteIsTriedAgainByALaterClose();
     void failedWriteLeavesNoCommentBehind_data();
     void failedWriteLeavesNoCommentBehind();
+    void tellsWhatSavingWouldWrite();
+    void tellsNothingAfterAnAnswer();
+    void tellsNothingOfALongReport_data();
+    void tellsNothingOfALongReport();
     void severalDialogsAnswerForThemselves();
     void dialogMayBeDeletedWhileItAsks_data();
     void dialogMayBeDeletedWhileItAsks();
@@ -977,6 +981,62 @@ void TestCommentDialogImpl::failedWriteLeavesNoCommentBehind()
     QVERIFY(asked.WasAsked());
     QVERIFY(report.IsWritten());
     QCOMPARE(report.WrittenComments(), comments);
+}
+
+void TestCommentDialogImpl::tellsWhatSavingWouldWrite()
+{
+    const OpenReport report(reportFile());
+    const auto told = [&report] { return report.Dialog().property("unsavedReport").toByteArray(); };
+    const QByteArray withoutComment("<Report>\n    <Frequency>98.5</Frequency>\n</Report>\n");
+    QCOMPARE(told(), withoutComment);
+    report.Type(QStringLiteral("drifts & fades"));
+    const QByteArray withComment = told();
+    QVERIFY(withComment.contains("<Comment>drifts &amp; fades</Comment>"));
+    QCOMPARE(told(), withComment); // It leaves nothing behind.
+    QVERIFY(!QFile::exists(reportFile()));
+    report.Dialog().SlotSaveWithComment();
+    QCOMPARE(bytesOf(reportFile()), withComment);
+
+    const OpenReport another(reportFile());
+    another.Find<QTextEdit>("m_pTextEdit")->setPlainText(QString(QChar(0xFFFE)));
+    QCOMPARE(another.Dialog().property("unsavedReport").toByteArray(), withoutComment);
+}
+
+void TestCommentDialogImpl::tellsNothingAfterAnAnswer()
+{
+    const OpenReport written(reportFile());
+    written.Dialog().SlotSaveWithoutComment();
+    QCOMPARE(written.Dialog().property("unsavedReport").toByteArray(), QByteArray());
+
+    const OpenReport failed(reportFile() + QStringLiteral("/missing.xml"));
+    failed.Type(QStringLiteral("first"));
+    failed.Dialog().SlotSaveWithComment();
+    QCOMPARE(failed.Dialog().property("unsavedReport").toByteArray(), QByteArray());
+
+    const CommentDialogImpl withoutDocument;
+    QCOMPARE(withoutDocument.property("unsavedReport").toByteArray(), QByteArray());
+}
+
+void TestCommentDialogImpl::tellsNothingOfALongReport_data()
+{
+    QTest::addColumn<int>("bytes");
+    QTest::addColumn<bool>("isTold");
+    constexpr int limit = 131072; // as ReportNews has it
+    QTest::newRow("as-long-as-may-be") << limit << true;
+    QTest::newRow("longer-by-one") << limit + 1 << false;
+    QTest::newRow("far-longer") << 4 * limit << false;
+}
+
+void TestCommentDialogImpl::tellsNothingOfALongReport()
+{
+    QFETCH(const int, bytes);
+    QFETCH(const bool, isTold);
+    const int others = int(QByteArray("<Report></Report>\n").size());
+    const QString text(bytes - others, QLatin1Char('x'));
+    const OpenReport report(reportFile(), QStringLiteral("<Report>%1</Report>").arg(text));
+    QCOMPARE(report.Dialog().property("unsavedReport").toByteArray().size(), isTold ? bytes : 0);
+    report.Find<QTextEdit>("m_pTextEdit")->setPlainText(text);
+    QCOMPARE(report.Dialog().property("unsavedReport").toByteArray(), QByteArray());
 }
 
 void TestCommentDialogImpl::severalDialogsAnswerForThemselves()

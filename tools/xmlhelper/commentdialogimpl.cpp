@@ -26,6 +26,9 @@ const QLatin1String NoValue("---");
 /// The longest line of a comment that is wrapped between words.
 constexpr int MaxWrappedLine = 5000;
 
+/// The bytes of a report that is told before it is saved, at most: it is for people to read.
+constexpr int MaxUnsaved = 1 << 17;
+
 /// Asks above @p window. The question lives on the heap because the window may be deleted while it is open, which
 /// counts as Cancel; QMessageBox::warning() keeps it on the stack, where its parent must not delete it.
 QMessageBox::StandardButton ask(QWidget* window, const QString& title, const QString& text)
@@ -107,6 +110,23 @@ void CommentDialogImpl::ShowReportSummary()
     nameValues();
     growToTexts();
     show();
+}
+
+/// The comment stands in the document only while that is written. One that would be changed first is left out, since
+/// whoever looks often would have that traced each time.
+QByteArray CommentDialogImpl::UnsavedReport() const
+{
+    if (!m_pDocument || m_bSaved || !m_comment.isNull() || m_pTextEdit->document()->characterCount() > MaxUnsaved) {
+        return QByteArray();
+    }
+    const QString comment = m_pTextEdit->toPlainText();
+    if (comment.isEmpty() || !isRepresentableText(comment)) {
+        return savedBytesOf(*m_pDocument, MaxUnsaved);
+    }
+    QDomElement element = appendedComment(comment);
+    const QByteArray bytes = savedBytesOf(*m_pDocument, MaxUnsaved);
+    element.parentNode().removeChild(element);
+    return bytes;
 }
 
 void CommentDialogImpl::reject()
@@ -249,12 +269,18 @@ void CommentDialogImpl::growToTexts()
     resize(size().expandedTo(needed.boundedTo(screen()->availableSize())));
 }
 
+QDomElement CommentDialogImpl::appendedComment(const QString& comment) const
+{
+    QDomElement element = m_pDocument->createElement(QStringLiteral("Comment"));
+    element.appendChild(m_pDocument->createTextNode(comment));
+    m_pDocument->documentElement().appendChild(element);
+    return element;
+}
+
 void CommentDialogImpl::appendComment(const QString& comment)
 {
     if (m_pDocument) {
-        m_comment = m_pDocument->createElement(QStringLiteral("Comment"));
-        m_comment.appendChild(m_pDocument->createTextNode(comment));
-        m_pDocument->documentElement().appendChild(m_comment);
+        m_comment = appendedComment(comment);
     }
 }
 

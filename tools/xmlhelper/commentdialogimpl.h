@@ -4,6 +4,7 @@
 #include <array>
 #include <memory>
 
+#include <QByteArray>
 #include <QDialog>
 #include <QDomDocument>
 #include <QString>
@@ -31,6 +32,8 @@
 class CommentDialogImpl : public QDialog, public Ui::CommentDialog
 {
     Q_OBJECT
+    /// What "Save" would write now, as ReportNews tells it.
+    Q_PROPERTY(QByteArray unsavedReport READ UnsavedReport)
 
 public:
     CommentDialogImpl();
@@ -46,6 +49,8 @@ public:
     void SetTeller(const ReportTeller& teller);
     /// Fills the labels from the document and the clock and shows the dialog.
     void ShowReportSummary();
+    /// Empty without a document, of one that is long, and after the first answer.
+    QByteArray UnsavedReport() const;
 
     void reject() override;
     void setVisible(bool visible) override;
@@ -70,6 +75,7 @@ private:
     void showTitle();
     void nameValues();
     void growToTexts();
+    QDomElement appendedComment(const QString& comment) const;
     void appendComment(const QString& comment);
     void removeComment();
     void WriteReportFile();

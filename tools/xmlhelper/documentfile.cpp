@@ -15,6 +15,27 @@ bool writeDocument(const QDomDocument& document, QIODevice& device)
     return serialise(document, stream, indent);
 }
 
+/// Takes so many bytes and fails then.
+class ShortBuffer : public QBuffer
+{
+public:
+    explicit ShortBuffer(qint64 atMost)
+        : m_iAtMost(atMost)
+    {
+    }
+
+protected:
+    qint64 writeData(const char* bytes, qint64 count) override
+    {
+        return size() + count > m_iAtMost ? -1 : QBuffer::writeData(bytes, count);
+    }
+
+private:
+    Q_DISABLE_COPY(ShortBuffer)
+
+    const qint64 m_iAtMost;
+};
+
 } // namespace
 
 bool saveDocument(const QDomDocument& document, const QString& fileName, SavedFile* saved)
@@ -29,4 +50,11 @@ QByteArray savedBytesOf(const QDomDocument& document)
     buffer.open(QIODevice::WriteOnly);
     writeDocument(document, buffer);
     return buffer.data();
+}
+
+QByteArray savedBytesOf(const QDomDocument& document, qint64 atMost)
+{
+    ShortBuffer buffer(atMost);
+    buffer.open(QIODevice::WriteOnly);
+    return writeDocument(document, buffer) ? buffer.data() : QByteArray();
 }

@@ -16,4 +16,7 @@ bool saveDocument(const QDomDocument& document, const QString& fileName, SavedFi
 /// The bytes that saveDocument() writes.
 QByteArray savedBytesOf(const QDomDocument& document);
 
+/// The same where that are at most so many; else none. A longer document costs little more than these.
+QByteArray savedBytesOf(const QDomDocument& document, qint64 atMost);
+
 #endif

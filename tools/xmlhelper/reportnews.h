@@ -47,7 +47,9 @@ Q_SIGNALS:
 
     /// A dialog that asks for the comment is shown; nothing is written before the answer.
     /// @param report  its number
-    /// @param dialog  the dialog, which belongs to the builder
+    /// @param dialog  the dialog, which belongs to the builder. Before its first answer the property "unsavedReport", a
+    ///                QByteArray, is what it would write now, with the comment that has been typed: for who shows it,
+    ///                so that it is empty when that is longer than 131,072 bytes
     void CommentAsked(quint64 report, QDialog* dialog);
 
     /// The file is there, whole, under its name.
