@@ -45,6 +45,7 @@ private Q_SLOTS:
     void aReportBeyondTheLimitsIsRefused();
     void titleFaultsAndPictureAreShown();
     void readingAgainForgetsTheReport();
+    void aReportNeedsNoFile();
     void nobodyHearsOfAReport();
     void aPageMayMove();
     void filesAreSaved();
@@ -489,6 +490,23 @@ void TestReportPage::readingAgainForgetsTheReport()
     QCOMPARE(page.ToHtml(), QString());
     QVERIFY(page.Read(dataFile(QStringLiteral("nearlyempty.xml")), surveySchema()));
     QCOMPARE(page.GetError(), QString());
+}
+
+void TestReportPage::aReportNeedsNoFile()
+{
+    const QString file = dataFile(QStringLiteral("leftover.xml"));
+    ReportPage page = pageOf(file, surveySchema());
+    const QString source = QStringLiteral("<p class=\"source\">leftover.xml</p>\n");
+    QVERIFY(page.ToHtml().contains(source));
+    const QString expected = page.ToHtml().remove(source);
+    QVERIFY(page.ReadContent(readFile(file), surveySchema()));
+    QCOMPARE(page.GetError(), QString());
+    QCOMPARE(page.ToHtml(), expected);
+
+    QVERIFY(!page.ReadContent("<survey>", surveySchema()));
+    QVERIFY(page.GetError().startsWith(QLatin1String("It is not well-formed XML")));
+    QCOMPARE(page.ToHtml(), QString());
+    QVERIFY(!page.ReadContent(QByteArray(), QString()));
 }
 
 void TestReportPage::nobodyHearsOfAReport()

@@ -111,6 +111,7 @@ struct ReportPageData
 
 public:
     bool Read(const QString& reportPath, const QString& schemaPath);
+    bool ReadContent(const QByteArray& content, const QString& schemaPath);
     QString Page(bool isRich) const;
     QStringList Lacks() const;
 
@@ -118,12 +119,13 @@ public:
     QStringList faults;
     QImage picture;
     QString caption;
-    QString fileName; ///< without its folder
+    QString fileName; ///< without its folder; empty without a file
     QString error;
     std::unique_ptr<ReportTree> tree; ///< null: there is no page
     std::unique_ptr<SchemaOutline> outline; ///< null: no labels and marks
 
 private:
+    bool finish(bool isRead, const QString& schemaPath);
     void readSchema(const QString& schemaPath);
     QString faultList() const;
     QString pictureMarkup(bool isRich) const;
@@ -132,11 +134,23 @@ private:
 
 bool ReportPageData::Read(const QString& reportPath, const QString& schemaPath)
 {
-    error.clear();
-    outline.reset();
     fileName = QFileInfo(openableFileName(reportPath)).fileName();
     tree = std::make_unique<ReportTree>();
-    if (!tree->Read(reportPath)) {
+    return finish(tree->Read(reportPath), schemaPath);
+}
+
+bool ReportPageData::ReadContent(const QByteArray& content, const QString& schemaPath)
+{
+    fileName.clear();
+    tree = std::make_unique<ReportTree>();
+    return finish(tree->ReadContent(content), schemaPath);
+}
+
+bool ReportPageData::finish(bool isRead, const QString& schemaPath)
+{
+    error.clear();
+    outline.reset();
+    if (!isRead) {
         error = tree->GetReason();
         tree.reset();
         return false;
@@ -253,6 +267,11 @@ ReportPage& ReportPage::operator=(ReportPage&& other) noexcept = default;
 bool ReportPage::Read(const QString& reportPath, const QString& schemaPath)
 {
     return m_pData->Read(reportPath, schemaPath);
+}
+
+bool ReportPage::ReadContent(const QByteArray& content, const QString& schemaPath)
+{
+    return m_pData->ReadContent(content, schemaPath);
 }
 
 QString ReportPage::GetError() const

@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -44,7 +45,13 @@ public:
     /// @return whether there is a page; else GetError() says why there is none, and the page is empty
     bool Read(const QString& reportPath, const QString& schemaPath);
 
-    /// @return what was wrong with the last Read(), in a sentence; empty when nothing was
+    /// Reads a report that is in no file, such as one that waits for its comment, and its schema; else as Read().
+    /// @param content     the bytes of the report
+    /// @param schemaPath  as of Read()
+    /// @return whether there is a page
+    bool ReadContent(const QByteArray& content, const QString& schemaPath);
+
+    /// @return what was wrong with the last Read() or ReadContent(), in a sentence; empty when nothing was
     QString GetError() const;
 
     /// Sets the title of the page.

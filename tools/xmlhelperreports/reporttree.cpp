@@ -161,9 +161,16 @@ bool ReportTree::Read(const QString& fileName)
     } else if (file.size() > limits().savedBytes) {
         m_sReason = tr("It holds more than any report: %1 bytes.").arg(file.size());
     } else {
-        const QString text = decoded(file.readAll());
-        m_sReason = isTooCostly(text) ? beyondLimits() : Reader(text, m_root).Read();
+        return ReadContent(file.readAll());
     }
+    return false;
+}
+
+bool ReportTree::ReadContent(const QByteArray& content)
+{
+    m_root = ReportNode();
+    const QString text = decoded(content);
+    m_sReason = isTooCostly(text) ? beyondLimits() : Reader(text, m_root).Read();
     return m_sReason.isEmpty();
 }
 

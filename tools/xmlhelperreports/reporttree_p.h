@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include <QByteArray>
 #include <QCoreApplication>
 #include <QPair>
 #include <QString>
@@ -27,6 +28,7 @@ class ReportTree
 
 public:
     bool Read(const QString& fileName);
+    bool ReadContent(const QByteArray& content); ///< of a file
 
     const ReportNode& GetRoot() const { return m_root; }
     const QString& GetReason() const { return m_sReason; } ///< why it could not be read, in a sentence
