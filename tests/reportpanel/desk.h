@@ -51,6 +51,7 @@ public:
 
     Station station;
     std::unique_ptr<ReportPanel> panel;
+    QObject context; ///< for connections that end with the desk
 };
 
 /// Does what brings up a question, which keeps the program inside of it, and answers that question. Gives whether it

@@ -15,9 +15,11 @@
 #include <QTableView>
 #include <QTabWidget>
 #include <QTextBrowser>
+#include <QTextEdit>
 
 #include <vornappstartup/translationcenter.h>
 #include <xmlhelper/reportnews.h>
+#include <xmlhelper/xmlhelper.h>
 #include <xmlhelperreportwidgets/reportpanel.h>
 #include <xmlhelperreportwidgets/reportwords_p.h>
 
@@ -28,6 +30,36 @@ using State = ReportSupervisor::State;
 namespace {
 
 using Make = std::function<quint64(Desk&)>;
+
+/// What is asked of a station: two values that both are needed.
+const char SurveySchema[] = "<?xml version='1.0' encoding='UTF-8'?>"
+                            "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>"
+                            "<xs:element name='Survey'>"
+                            "<xs:complexType>"
+                            "<xs:sequence>"
+                            "<xs:element name='Station' type='xs:string'>"
+                            "<xs:annotation><xs:documentation>Name of the station</xs:documentation></xs:annotation>"
+                            "</xs:element>"
+                            "<xs:element name='Level' type='xs:double'/>"
+                            "</xs:sequence>"
+                            "</xs:complexType>"
+                            "</xs:element>"
+                            "</xs:schema>";
+
+/// Knows the station, and forgets the level.
+class Surveyor : public IXMLHelper
+{
+public:
+    void XmlUpdate(XmlEvent* event) override
+    {
+        auto* const element = dynamic_cast<ElemBeginEvent*>(event);
+        if (element && element->GetElementName() == QLatin1String("Station")) {
+            builder->SetXmlValue(QStringLiteral("Tower"));
+        }
+    }
+
+    XmlCreateReport* builder = nullptr; ///< not owned
+};
 
 void speak(const QString& language)
 {
@@ -153,6 +185,7 @@ private Q_SLOTS:
     void tellsHowManyAreKept();
     void offersWhatEarlierProcessesLeft();
     void bringsTheCommentDialogBack();
+    void showsAReportBeforeItIsSaved();
     void quitsWithoutAQuestionWhenNothingIsLost();
     void asksBeforeReportsAreLost_data();
     void asksBeforeReportsAreLost();
@@ -742,6 +775,45 @@ void TestReportPanel::bringsTheCommentDialogBack()
     desk.station.Write(report, desk.PathOf("a.xml"));
     QVERIFY(desk.Becomes(report, signOf(State::Written)));
     QVERIFY(!desk.IsOffered("reportComment"));
+}
+
+void TestReportPanel::showsAReportBeforeItIsSaved()
+{
+    Desk desk;
+    writeFile(desk.PathOf("survey.xsd"), SurveySchema);
+    quint64 report = 0;
+    QPointer<QDialog> dialog;
+    connect(&ReportNews::Instance(), &ReportNews::CommentAsked, &desk.context, [&](quint64 number, QDialog* asking) {
+        report = number;
+        dialog = asking;
+    });
+    Surveyor surveyor;
+    XmlCreateReport builder(&surveyor);
+    surveyor.builder = &builder;
+    QVERIFY(builder.CreateXmlFromSchema(desk.PathOf("survey.xsd"), desk.PathOf("a.xml"), true));
+    QVERIFY(dialog);
+    QVERIFY(desk.Becomes(report, signOf(State::Waiting)));
+    QVERIFY2(desk.Page().contains(QLatin1String("Name of the station")), qPrintable(desk.Page())); // as in the schema
+    QVERIFY(desk.Page().contains(QLatin1String("Tower")));
+    QVERIFY(desk.Page().contains(QLatin1String("missing"))); // which is seen in time
+    QVERIFY(desk.Xml().contains(QLatin1String("<Station>Tower</Station>")));
+    QVERIFY(!desk.IsOffered("reportOpen") && !desk.IsOffered("reportExport"));
+    QVERIFY(!QFile::exists(desk.PathOf("a.xml")));
+
+    QTest::keyClicks(dialog->findChild<QTextEdit*>(), QStringLiteral("mast leans"));
+    QTRY_VERIFY(desk.Page().contains(QLatin1String("mast leans")));
+    QVERIFY(desk.Xml().contains(QLatin1String("<Comment>mast leans</Comment>")));
+
+    desk.Write("b.xml");
+    QTRY_COMPARE(desk.Text("reportSentence"), QStringLiteral("Report b.xml is written."));
+    QVERIFY(!desk.Page().contains(QLatin1String("Tower")));
+    desk.panel->ShowReport(report);
+    QVERIFY(desk.Page().contains(QLatin1String("mast leans")));
+
+    QTest::keyClick(dialog->findChild<QTextEdit*>(), Qt::Key_Return, Qt::ControlModifier); // saves
+    QVERIFY(desk.Becomes(report, signOf(State::Written)));
+    QVERIFY(desk.Page().contains(QLatin1String("mast leans")) && desk.Page().contains(QLatin1String("a.xml")));
+    QVERIFY(desk.IsOffered("reportExport"));
 }
 
 void TestReportPanel::quitsWithoutAQuestionWhenNothingIsLost()

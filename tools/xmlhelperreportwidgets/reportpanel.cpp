@@ -22,6 +22,7 @@
 #include "reportactions_p.h"
 #include "reportlist_p.h"
 #include "reportmessage_p.h"
+#include "reportpreview_p.h"
 #include "reportview_p.h"
 #include "reportwords_p.h"
 
@@ -70,6 +71,7 @@ struct ReportPanelData
     void LayOutList(QSplitter& row);
     void Connect();
     void Refresh();
+    void DropDialogs();
     void PutEarlier();
     void ShowChosen();
     void ShowKept();
@@ -83,6 +85,7 @@ struct ReportPanelData
     EarlierReports earlier;
     ReportList list;
     FileLook look;
+    ReportPreview preview;
     QTimer refreshTimer;
     QTimer secondTimer; ///< runs while a report is tried again by itself
     std::map<quint64, QPointer<QDialog>> dialogs; ///< of reports that may still be answered
@@ -179,6 +182,7 @@ void ReportPanelData::Connect()
     });
     QObject::connect(&look, &FileLook::Doubted, &refreshTimer, [this](quint64 report) { Recheck(report); });
     QObject::connect(&look, &FileLook::ChosenChanged, &refreshTimer, [this] { ShowChosen(); });
+    QObject::connect(&preview, &ReportPreview::Changed, &refreshTimer, [this] { ShowChosen(); });
     QObject::connect(actions, &ReportActions::Complaint, message, &ReportMessage::Complain);
     QObject::connect(&ReportNews::Instance(), &ReportNews::CommentAsked, &refreshTimer,
                      [this](quint64 report, QDialog* dialog) { dialogs[report] = dialog; });
@@ -204,10 +208,19 @@ void ReportPanelData::Refresh()
     if (isNewestChosen && !list.GetReports().empty()) {
         Choose(0);
     }
-    for (auto dialog = dialogs.begin(); dialog != dialogs.end();) {
-        dialog = dialog->second ? std::next(dialog) : dialogs.erase(dialog);
-    }
+    DropDialogs();
     ShowChosen();
+}
+
+/// Those that have gone, and those of reports that have ended or are forgotten.
+void ReportPanelData::DropDialogs()
+{
+    for (auto dialog = dialogs.begin(); dialog != dialogs.end();) {
+        const ReportSupervisor::Verdict verdict = supervisor.GetReport(dialog->first);
+        const bool isNeeded = verdict.state == ReportSupervisor::State::Making
+            || ReportActions::IsDialogOf(verdict, dialog->second); // A report is told of before its dialog.
+        dialog = dialog->second && isNeeded ? std::next(dialog) : dialogs.erase(dialog);
+    }
 }
 
 void ReportPanelData::PutEarlier()
@@ -226,8 +239,10 @@ void ReportPanelData::ShowChosen()
         = chosen ? list.At(table->currentIndex().row()) : ReportSupervisor::Verdict();
     const auto found = dialogs.find(chosen);
     QDialog* const dialog = found == dialogs.end() ? nullptr : found->second.data();
-    message->Show(verdict, ReportActions::IsDialogOf(verdict, dialog));
-    view->Show(verdict);
+    const bool isAsked = ReportActions::IsDialogOf(verdict, dialog);
+    preview.Follow(isAsked ? dialog : nullptr);
+    message->Show(verdict, isAsked);
+    view->Show(verdict, preview.GetContent());
     actions->Show(verdict, dialog);
     std::vector<ReportSupervisor::Verdict> all = list.GetReports();
     all.insert(all.end(), list.GetEarlier().begin(), list.GetEarlier().end());

@@ -1,6 +1,7 @@
 #include "reportview_p.h"
 
 #include <QFileInfo>
+#include <QScrollBar>
 #include <QTextBrowser>
 
 #include "focusring_p.h"
@@ -38,19 +39,20 @@ ReportView::ReportView(QWidget* parent)
 
 ReportView::~ReportView() = default;
 
-void ReportView::Show(const ReportSupervisor::Verdict& verdict)
+void ReportView::Show(const ReportSupervisor::Verdict& verdict, const QByteArray& preview)
 {
     const QDateTime fileTime = QFileInfo(verdict.fileName).lastModified();
-    if (isSame(verdict, m_verdict) && fileTime == m_fileTime) {
+    if (isSame(verdict, m_verdict) && fileTime == m_fileTime && preview == m_preview) {
         return;
     }
+    m_preview = preview;
     m_verdict = verdict;
     m_fileTime = fileTime;
     showPage();
     if (ReportWords::HasFile(verdict)) {
         m_pXml->ShowFile(verdict.fileName);
     } else {
-        m_pXml->clear();
+        m_pXml->setPlainText(QString::fromUtf8(m_preview));
     }
 }
 
@@ -83,14 +85,20 @@ bool ReportView::MakePage(ReportPage& page) const
     return true;
 }
 
-/// A file that is no page is told about in its place; the XML is there all the same.
 void ReportView::showPage()
 {
     m_bHasPage = ReportWords::HasFile(m_verdict);
-    m_pPage->clear();
-    if (!m_bHasPage) {
-        return;
+    if (m_bHasPage) {
+        showFile();
+    } else {
+        showPreview();
     }
+}
+
+/// A file that is no page is told about in its place; the XML is there all the same.
+void ReportView::showFile()
+{
+    m_pPage->clear();
     if (qMax(m_verdict.size, QFileInfo(m_verdict.fileName).size()) > MaxShown) { // It may have grown.
         m_pPage->setPlainText(tr("This report is too long to be shown as a page. It can be exported as one."));
         return;
@@ -102,4 +110,20 @@ void ReportView::showPage()
     } else {
         m_pPage->setPlainText(page.GetError());
     }
+}
+
+/// Who reads while somebody types stays where he is. It cannot be exported: nothing of it has been decided yet.
+void ReportView::showPreview()
+{
+    ReportPage page;
+    if (m_preview.isEmpty() || !page.ReadContent(m_preview, m_verdict.schemaPath)) {
+        m_pPage->clear();
+        return;
+    }
+    if (m_dresser) {
+        m_dresser(m_verdict.report, page);
+    }
+    const int place = m_pPage->verticalScrollBar()->value();
+    m_pPage->setHtml(page.ToRichText());
+    m_pPage->verticalScrollBar()->setValue(place);
 }

@@ -11,7 +11,8 @@
 class QTextBrowser;
 class XmlView;
 
-/// Shows the file of a report: as a page for people, and as the XML that it is.
+/// Shows the file of a report: as a page for people, and as the XML that it is. Of one that waits for its comment it
+/// shows what would be saved.
 class ReportView : public QTabWidget
 {
     Q_OBJECT
@@ -23,7 +24,8 @@ public:
     ~ReportView() override;
 
     /// Reads the file, unless it is the same as before. Without a file it says so.
-    void Show(const ReportSupervisor::Verdict& verdict);
+    /// @param preview  the bytes that are shown in place of the file of a report that has none
+    void Show(const ReportSupervisor::Verdict& verdict, const QByteArray& preview);
     /// Says everything again, in the language of now; the page too.
     void Translate();
     /// Sets who adds to each page that is made from now on; an empty function for nobody.
@@ -39,8 +41,11 @@ private:
     Q_DISABLE_COPY(ReportView)
 
     void showPage();
+    void showFile();
+    void showPreview();
 
     ReportSupervisor::Verdict m_verdict; ///< of the report that is shown
+    QByteArray m_preview;
     QDateTime m_fileTime; ///< when its file was changed
     Dresser m_dresser;
     bool m_bHasPage = false;
