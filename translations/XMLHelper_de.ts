@@ -240,6 +240,10 @@
         <source>It holds more than any report: too many elements or attributes, or nested too deeply.</source>
         <translation>Er enthält mehr als jeder Bericht: zu viele Elemente oder Attribute, oder zu tief geschachtelt.</translation>
     </message>
+    <message>
+        <source>Whether anything is missing could not be told for all of the report.</source>
+        <translation>Ob etwas fehlt, ließ sich nicht für den ganzen Bericht feststellen.</translation>
+    </message>
 </context>
 <context>
     <name>ReportSupervisor</name>

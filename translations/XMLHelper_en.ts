@@ -240,6 +240,10 @@
         <source>It holds more than any report: too many elements or attributes, or nested too deeply.</source>
         <translation>It holds more than any report: too many elements or attributes, or nested too deeply.</translation>
     </message>
+    <message>
+        <source>Whether anything is missing could not be told for all of the report.</source>
+        <translation>Whether anything is missing could not be told for all of the report.</translation>
+    </message>
 </context>
 <context>
     <name>ReportSupervisor</name>

@@ -240,6 +240,10 @@
         <source>It holds more than any report: too many elements or attributes, or nested too deeply.</source>
         <translation>Il contient plus que tout rapport : trop d’éléments ou d’attributs, ou trop imbriqués.</translation>
     </message>
+    <message>
+        <source>Whether anything is missing could not be told for all of the report.</source>
+        <translation>Il n&apos;a pas pu être déterminé pour tout le rapport si quelque chose manque.</translation>
+    </message>
 </context>
 <context>
     <name>ReportSupervisor</name>

@@ -234,6 +234,8 @@ QStringList ReportPageData::marksOf(const PageWriter& writer)
     if (writer.GetMissing() > 0) {
         const QString count = tr("Missing: %1.").arg(writer.GetMissing());
         sentences.append(writer.IsEverythingMarked() ? count : tr("Missing: more than %1.").arg(writer.GetMissing()));
+    } else if (!writer.IsEverythingMarked()) {
+        sentences.append(tr("Whether anything is missing could not be told for all of the report."));
     }
     if (writer.GetLeftOver() > 0) {
         sentences.append(tr("Left over: %1.").arg(writer.GetLeftOver()));

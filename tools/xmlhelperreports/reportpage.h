@@ -89,9 +89,8 @@ public:
     /// where there is none that knows all of XML Schema.
     /// @param schemaPath  the schema
     /// @param reportPath  the report
-    /// @return how much is missing, how much is left over, or why there is no page with marks, in sentences without
-    /// their
-    ///         stops; nothing when nothing would be marked
+    /// @return how much is missing or that this could not be told, how much is left over, or why there is no page with
+    ///         marks, in sentences without their stops; nothing when nothing would be marked
     static QStringList LacksOf(const QString& schemaPath, const QString& reportPath);
 
 private:
