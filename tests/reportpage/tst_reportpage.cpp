@@ -55,6 +55,8 @@ private Q_SLOTS:
     void workGrowsWithTheReport();
     void aSchemaCannotAskForMoreThanAPageShows();
     void whatCouldNotBeToldIsSaid();
+    void aUnitThatWasNeverFilledIsMarked_data();
+    void aUnitThatWasNeverFilledIsMarked();
 };
 
 namespace {
@@ -330,7 +332,7 @@ void TestReportPage::lacksAreWhatThePageMarks_data()
     QTest::newRow("missing") << "nearlyempty.xml" << survey << QStringList {QStringLiteral("Missing: 3")};
     QTest::newRow("left-over") << "leftover.xml" << survey << QStringList {QStringLiteral("Left over: 5")};
     QTest::newRow("both") << "neverfilled.xml" << survey
-                          << QStringList {QStringLiteral("Missing: 3"), QStringLiteral("Left over: 4")};
+                          << QStringList {QStringLiteral("Missing: 3"), QStringLiteral("Left over: 5")};
     QTest::newRow("no-schema") << "nearlyempty.xml" << QString() << QStringList();
     QTest::newRow("schema-of-another-root")
         << "measurement.xml" << survey
@@ -649,6 +651,43 @@ void TestReportPage::whatCouldNotBeToldIsSaid()
     const QString report = reportOf(3000);
     QCOMPARE(ReportPage::LacksOf(schemaFile, report), QStringList(sentence));
     QVERIFY(pageOf(report, schemaFile).ToHtml().contains(sentence));
+}
+
+void TestReportPage::aUnitThatWasNeverFilledIsMarked_data()
+{
+    QTest::addColumn<QByteArray>("declaration");
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QStringList>("lacks");
+    const QByteArray optional = "<xs:attribute name='Unit' type='xs:string'/>";
+    const QByteArray required = "<xs:attribute name='Unit' type='xs:string' use='required'/>";
+    const QStringList leftOver {QStringLiteral("Left over: 1")};
+    const QStringList missing {QStringLiteral("Missing: 1")};
+    QTest::newRow("optional") << optional << QByteArray("xs:string") << leftOver;
+    QTest::newRow("required") << required << QByteArray("xs:string") << missing;
+    QTest::newRow("filled") << required << QByteArray("dBm") << QStringList();
+}
+
+void TestReportPage::aUnitThatWasNeverFilledIsMarked()
+{
+    QFETCH(const QByteArray, declaration);
+    QFETCH(const QByteArray, value);
+    QFETCH(const QStringList, lacks);
+    const QTemporaryDir folder;
+    const QString schema = writtenFile(
+        folder,
+        "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'><xs:element name='Report'><xs:complexType>"
+        "<xs:sequence><xs:element name='Level'><xs:complexType><xs:simpleContent><xs:extension base='xs:double'>"
+            + declaration
+            + "</xs:extension></xs:simpleContent></xs:complexType></xs:element></xs:sequence></xs:complexType>"
+              "</xs:element></xs:schema>",
+        QStringLiteral("schema.xsd"));
+    const QString report = writtenFile(folder, "<Report><Level Unit='" + value + "'>17</Level></Report>");
+    QCOMPARE(ReportPage::LacksOf(schema, report), lacks);
+    const QDomDocument document = documentOf(pageOf(report, schema).ToHtml());
+    QCOMPARE(int(textsOfClass(document, QStringLiteral("leftover")).size()),
+             int(lacks.filter(QStringLiteral("Left")).size()));
+    QCOMPARE(int(textsOfClass(document, QStringLiteral("missing")).size()),
+             int(lacks.filter(QStringLiteral("Missing")).size()));
 }
 
 QTEST_MAIN(TestReportPage)

@@ -394,7 +394,7 @@ QString PageWriter::textOf(const ReportNode& node, const Place* place) const
                                                                   : spanOf("attributes", QStringLiteral("–"));
 }
 
-/// @param attribute  becomes the one that holds the unit
+/// @param attribute  becomes the one that holds the unit, or would; none that holds a placeholder, which is marked
 QString PageWriter::unitOf(const ReportNode& node, const Place* place, QString& attribute) const
 {
     for (const auto& [name, value] : node.attributes) {
@@ -406,7 +406,7 @@ QString PageWriter::unitOf(const ReportNode& node, const Place* place, QString& 
     }
     for (const QString& name : place ? place->attributes : QStringList()) {
         if (isUnit(name)) {
-            attribute = name;
+            attribute = node.Attribute(name).isEmpty() ? name : QString();
             return m_pOutline->ValueOfSchema(*place, name);
         }
     }
