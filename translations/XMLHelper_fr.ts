@@ -150,6 +150,13 @@
     </message>
 </context>
 <context>
+    <name>ReportNews</name>
+    <message>
+        <source>Filling the report was broken off by an error</source>
+        <translation>Le remplissage du rapport a été interrompu par une erreur</translation>
+    </message>
+</context>
+<context>
     <name>ReportPage</name>
     <message>
         <source>Attributes</source>

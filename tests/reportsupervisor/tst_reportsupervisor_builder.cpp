@@ -1,3 +1,5 @@
+#include <stdexcept>
+
 #include <QApplication>
 #include <QDialog>
 #include <QMessageBox>
@@ -57,6 +59,7 @@ private Q_SLOTS:
     void keepsTheCommentOfADialog();
     void seesADialogClosedWithCancel();
     void seesADialogThatGoesUnanswered();
+    void seesAnObserverThatThrows();
 };
 
 void TestReportSupervisorBuilder::watchesAFiller()
@@ -136,6 +139,25 @@ void TestReportSupervisorBuilder::seesADialogThatGoesUnanswered()
         QCOMPARE(lastOf(station).state, State::Waiting);
     }
     QCOMPARE(lastOf(station).state, State::Closed);
+}
+
+void TestReportSupervisorBuilder::seesAnObserverThatThrows()
+{
+    /// Has had enough.
+    class Thrower : public IXMLHelper
+    {
+    public:
+        void XmlUpdate(XmlEvent*) override { throw std::runtime_error("no more"); }
+    };
+    Station station;
+    Thrower observer;
+    XmlCreateReport builder(&observer);
+    const QString path = station.PathOf(QStringLiteral("report.xml"));
+    QVERIFY_EXCEPTION_THROWN(builder.CreateXmlFromSchema(schemaOf(station), path, false), std::runtime_error);
+    QCOMPARE(lastOf(station).state, State::Failed);
+    QCOMPARE(lastOf(station).reason, QStringLiteral("Filling the report was broken off by an error"));
+    QCOMPARE(station.Supervisor().MayQuit(), QStringList()); // Nothing of it is being made any more.
+    QVERIFY(!QFile::exists(path));
 }
 
 QTEST_MAIN(TestReportSupervisorBuilder)

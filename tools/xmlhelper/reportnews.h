@@ -13,8 +13,9 @@
 /// Reports are told apart by a number that is given once in a process, since paths repeat. Begun() comes first, then
 /// SchemaRead(). A report with a comment goes on with CommentAsked(); each answer that writes ends in Written() or
 /// NotWritten(), and after either another answer may follow. Nothing more comes when the dialog is closed with Cancel,
-/// or goes unanswered, or when an observer throws. A report without a comment ends in one of the two. Of a report that
-/// is refused at once, because its builder has no observer or has made one already, nothing is told.
+/// or goes unanswered. A report without a comment ends in one of the two, and every report whose observer throws in
+/// NotWritten(), before the exception goes on. Of a report that is refused at once, because its builder has no observer
+/// or has made one already, nothing is told.
 ///
 /// Signals are sent from the thread that makes the report, while it is made, so that the next ones wait for those who
 /// hear them. A receiver may delete the button, and make a report with a builder of its own; a press of the button is
@@ -61,8 +62,8 @@ Q_SIGNALS:
     /// The file could not be written; an earlier one of that name is as it was, unless it had to be written in place.
     /// @param report   its number
     /// @param reason   what the operating system or a limit says, a sentence without its stop
-    /// @param content  what would have been written, the comment included; empty when it is beyond the limits, or when
-    ///                 the schema gave nothing
+    /// @param content  what would have been written, the comment included; empty when it is beyond the limits, when the
+    ///                 schema gave nothing, or when an observer has thrown
     void NotWritten(quint64 report, const QString& reason, const QByteArray& content);
 
 private:

@@ -2,6 +2,7 @@
 
 #include <atomic>
 
+#include <QCoreApplication>
 #include <QMetaMethod>
 
 #include "commentdialogimpl.h"
@@ -38,6 +39,12 @@ void ReportTeller::TellSchema(bool isUnderstood, const QString& reason) const
 void ReportTeller::TellComment(CommentDialogImpl* dialog) const
 {
     Q_EMIT ReportNews::Instance().CommentAsked(m_iReport, dialog);
+}
+
+void ReportTeller::TellBrokenOff() const
+{
+    const QString reason = QCoreApplication::translate("ReportNews", "Filling the report was broken off by an error");
+    Q_EMIT ReportNews::Instance().NotWritten(m_iReport, reason, QByteArray());
 }
 
 void ReportTeller::TellFile(bool isWritten, const SavedFile& file, const QDomDocument& document) const

@@ -22,6 +22,8 @@ public:
     bool IsSchemaAsked() const;
     void TellSchema(bool isUnderstood, const QString& reason) const;
     void TellComment(CommentDialogImpl* dialog) const;
+    /// Tells that nothing becomes of the report, since an observer has thrown.
+    void TellBrokenOff() const;
     /// Tells what became of the file that @p document was saved to.
     void TellFile(bool isWritten, const SavedFile& file, const QDomDocument& document) const;
 

@@ -379,7 +379,12 @@ bool XmlCreateReport::makeReport(const QString& schemaPath, const QString& repor
     SchemaFault fault;
     const bool isSchemaRead = layOut(schemaPath, teller.IsSchemaAsked() ? &fault : nullptr);
     teller.TellSchema(isSchemaRead, isSchemaRead ? QString() : fault.GetReason());
-    m_pDomParser->Walk();
+    try {
+        m_pDomParser->Walk();
+    } catch (...) { // of the observer, or memory runs out
+        teller.TellBrokenOff();
+        throw;
+    }
     stampSchemaLocation(withSlashes(schemaPath));
     end(teller);
     return isSchemaRead;

@@ -48,7 +48,8 @@ public:
         Pending, ///< it could not be written, is kept and tried again
         Blocked, ///< it is kept, and not tried again by itself: the reason says why
         Offered, ///< it is kept from an earlier process, and not tried until somebody says so
-        Failed, ///< it could not be written and is not kept, since it is beyond the limits
+        Failed, ///< it was not written and is not kept: it is beyond the limits, or an observer of its builder has
+                ///< thrown
         Closed, ///< its dialog was closed without an answer, so it was not saved
         Discarded, ///< it was kept and then discarded
     };
