@@ -54,6 +54,7 @@ private Q_SLOTS:
     void offersWhatAnotherProcessLeft_data();
     void offersWhatAnotherProcessLeft();
     void offersWhatItsForerunnerLeft();
+    void offersWhatALockOfItsOwnNumberHolds();
     void leavesAloneWhatARunningProcessKeeps();
     void isTakenOverByOneOfMany();
     void leavesNoEmptyFolders();
@@ -124,6 +125,26 @@ void TestReportSupervisorProcesses::offersWhatItsForerunnerLeft()
     station.Restart();
     QCOMPARE(station.Supervisor().TakeOverEarlier(), QStringList());
     QCOMPARE(int(station.Supervisor().GetKept().size()), 0);
+}
+
+/// In a container, the next process may have the number of the one that was killed.
+void TestReportSupervisorProcesses::offersWhatALockOfItsOwnNumberHolds()
+{
+    Station station;
+    station.Lose(station.PathOf(QStringLiteral("nowhere/report.xml")));
+    const QString lock = QFileInfo(station.Copies().constFirst()).absolutePath() + QStringLiteral("/owner.lock");
+    const QByteArray written = bytesOf(lock);
+    QVERIFY(written.startsWith(QByteArray::number(QCoreApplication::applicationPid())));
+    ReportSupervisor other; // which must not take it from the living
+    other.SetEmergencyFolder(station.EmergencyFolder());
+    other.TakeOverEarlier();
+    QCOMPARE(int(other.GetKept().size()), 0);
+
+    station.Restart();
+    QVERIFY(!QFile::exists(lock));
+    writeFile(lock, written);
+    QCOMPARE(station.Supervisor().TakeOverEarlier(), QStringList());
+    QCOMPARE(int(station.Supervisor().GetKept().size()), 1);
 }
 
 void TestReportSupervisorProcesses::leavesAloneWhatARunningProcessKeeps()

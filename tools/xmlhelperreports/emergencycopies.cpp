@@ -113,6 +113,19 @@ QStringList copiesIn(const QString& folder)
     return names;
 }
 
+/// Removes the lock of a process that has ended although it seems to live: in a container processes get the same
+/// numbers at each start, so the number in a lock may be that of another one by now, or of this one. The system knows
+/// better: as long as a process lives, it holds the file of its lock, which is not removed then. It does so before
+/// anything is written there, so an empty one is left alone.
+bool isLeftByNobody(QLockFile& lock)
+{
+    qint64 process = 0;
+    QString computer;
+    QString program;
+    return lock.error() == QLockFile::LockFailedError && lock.getLockInfo(&process, &computer, &program)
+        && lock.removeStaleLockFile();
+}
+
 } // namespace
 
 FileMark markOf(const QString& path)
@@ -204,17 +217,8 @@ std::vector<KeptReport> EmergencyCopies::TakeOver(QStringList& faults)
     const QStringList names = QDir(m_folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
     for (const QString& name : names) {
         const QString folder = inFolder(m_folder, name);
-        if (isHeld(folder)) {
-            continue;
-        }
-        auto lockFile = std::make_unique<QLockFile>(inFolder(folder, LockName));
-        lockFile->setStaleLockTime(0); // However long ago it was made, it holds as long as its process lives.
-        if (!lockFile->tryLock(0)) {
-            if (lockFile->error() != QLockFile::LockFailedError) {
-                faults.append(
-                    QCoreApplication::translate("ReportSupervisor", "the unsaved reports in %1 cannot be taken over")
-                        .arg(folder));
-            }
+        auto lockFile = isHeld(folder) ? nullptr : lockLeft(folder, faults);
+        if (!lockFile) {
             continue;
         }
         if (takeShelf(folder, faults, reports)) {
@@ -259,6 +263,21 @@ bool EmergencyCopies::isHeld(const QString& folder) const
 {
     return std::any_of(m_shelves.begin(), m_shelves.end(),
                        [&folder](const Shelf& shelf) { return shelf.folder == folder; });
+}
+
+/// Locks the folder of a process that has ended; null while it lives, and with a sentence where that cannot be done.
+std::unique_ptr<QLockFile> EmergencyCopies::lockLeft(const QString& folder, QStringList& faults)
+{
+    auto lockFile = std::make_unique<QLockFile>(inFolder(folder, LockName));
+    lockFile->setStaleLockTime(0); // However long ago it was made, it holds as long as its process lives.
+    if (lockFile->tryLock(0) || (isLeftByNobody(*lockFile) && lockFile->tryLock(0))) {
+        return lockFile;
+    }
+    if (lockFile->error() != QLockFile::LockFailedError) {
+        faults.append(QCoreApplication::translate("ReportSupervisor", "the unsaved reports in %1 cannot be taken over")
+                          .arg(folder));
+    }
+    return nullptr;
 }
 
 /// Gives whether there is a report in a folder that was locked.

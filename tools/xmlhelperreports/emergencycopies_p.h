@@ -85,6 +85,7 @@ private:
 
     bool makeOwnShelf();
     bool isHeld(const QString& folder) const;
+    static std::unique_ptr<QLockFile> lockLeft(const QString& folder, QStringList& faults);
     bool takeShelf(const QString& folder, QStringList& faults, std::vector<KeptReport>& reports);
 
     std::mutex m_mutex;
