@@ -49,6 +49,7 @@ private Q_SLOTS:
     void checksFilesLater();
     void takesAVerdictBack();
     void checksNoDevice();
+    void hasNotCheckedWhatItCannotRead();
     void forgetsTheOldestThatAreFinished();
     void ordersByNumberWhenTheClockIsSetBack();
     void hearsAllThreads();
@@ -226,6 +227,26 @@ void TestReportSupervisor::takesAVerdictBack()
     station.Supervisor().Recheck(report);
     QTRY_COMPARE(station.StateOf(report), State::Written);
     QCOMPARE(changes.size(), 2);
+}
+
+/// A file that even the superuser may only write.
+void TestReportSupervisor::hasNotCheckedWhatItCannotRead()
+{
+    const QString path = QStringLiteral("/proc/sys/vm/compact_memory");
+    if (!QFileInfo(path).isFile() || QFileInfo(path).isReadable()) {
+        QSKIP("There is no such file here.");
+    }
+    Station station;
+    const quint64 report = station.Begin(path);
+    Q_EMIT ReportNews::Instance().Written(report, path, 0);
+    QTRY_COMPARE(station.Supervisor().GetReport(report).reason, QStringLiteral("it cannot be opened to check it"));
+    QVERIFY(!station.Supervisor().GetReport(report).isChecked);
+    QCOMPARE(station.StateOf(report), State::Written);
+    QSignalSpy changes(&station.Supervisor(), &ReportSupervisor::Changed);
+    station.Supervisor().Recheck(report);
+    station.Supervisor().Recheck(station.Begin(station.PathOf(QStringLiteral("next.xml"))));
+    QTRY_VERIFY(!changes.isEmpty());
+    QCOMPARE(changes.count(), 1); // of the next one: nothing is new of the first
 }
 
 /// Reading what went to a device would wait for somebody else.

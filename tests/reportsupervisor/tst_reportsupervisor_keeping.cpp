@@ -33,6 +33,8 @@ private Q_SLOTS:
     void pausesGrow();
     void copiesBeforeTheTellerGoesOn();
     void copiesTheAnswerThatWasGivenLast();
+    void keepsTheCopyOfAnAnswerUntilTheNextOneIsSafe();
+    void tellsWhatStandsInTheWayNow();
     void writesWhenTheFolderComesBack_data();
     void writesWhenTheFolderComesBack();
     void writesWhenThereIsRoom();
@@ -103,6 +105,54 @@ void TestReportSupervisorKeeping::copiesTheAnswerThatWasGivenLast()
     QCOMPARE(station.Copies().size(), 2);
     QCOMPARE(bytesOf(station.Copies()[1]), QByteArray("<report comment='very windy'/>"));
     QCOMPARE(station.Supervisor().GetReport(report).reportPath, station.PathOf(QStringLiteral("nowhere/report.xml")));
+}
+
+void TestReportSupervisorKeeping::keepsTheCopyOfAnAnswerUntilTheNextOneIsSafe()
+{
+    Station station;
+    QDialog dialog;
+    const quint64 report = station.Begin(station.PathOf(QStringLiteral("nowhere/report.xml")));
+    Q_EMIT ReportNews::Instance().CommentAsked(report, &dialog);
+    const QByteArray first("<report comment='windy'/>");
+    const QByteArray second("<report comment='very windy'/>");
+    station.Fail(report, first);
+    station.Supervisor().SetEmergencyFolder(QString()); // as on a full disk
+    station.Fail(report, second);
+    QVERIFY(!station.Supervisor().GetReport(report).isSafe);
+    QCOMPARE(station.Copies().size(), 2);
+    QCOMPARE(bytesOf(station.Copies()[1]), first); // rather than nothing
+
+    station.Supervisor().SetEmergencyFolder(station.EmergencyFolder());
+    QCOMPARE(station.Supervisor().MayQuit(), QStringList());
+    QVERIFY(station.Supervisor().GetReport(report).isSafe);
+    QCOMPARE(station.Copies().size(), 2);
+    QCOMPARE(bytesOf(station.Copies()[1]), second);
+
+    station.Supervisor().SetEmergencyFolder(QString());
+    station.Fail(report, first);
+    QVERIFY(QDir().mkpath(station.PathOf(QStringLiteral("nowhere"))));
+    QVERIFY(station.Supervisor().TryAgain(report));
+    QCOMPARE(bytesOf(station.PathOf(QStringLiteral("nowhere/report.xml"))), first);
+    QCOMPARE(station.Copies(), QStringList());
+}
+
+void TestReportSupervisorKeeping::tellsWhatStandsInTheWayNow()
+{
+    Station station;
+    station.Supervisor().SetPauses(Hour, Hour);
+    const QString path = station.PathOf(QStringLiteral("nowhere/report.xml"));
+    const quint64 report = station.Lose(path);
+    QCOMPARE(station.Supervisor().GetReport(report).reason, QStringLiteral("no space left on device"));
+    QSignalSpy changes(&station.Supervisor(), &ReportSupervisor::Changed);
+    QVERIFY(!station.Supervisor().TryAgain(report));
+    const QString reason = station.Supervisor().GetReport(report).reason; // in the words of the system
+    QVERIFY(!reason.isEmpty() && reason != QStringLiteral("no space left on device"));
+    QVERIFY(!changes.isEmpty());
+    QCOMPARE(station.StateOf(report), State::Pending);
+
+    QVERIFY(QDir().mkpath(path)); // a folder in place of the file
+    QVERIFY(!station.Supervisor().TryAgain(report));
+    QVERIFY(station.Supervisor().GetReport(report).reason != reason);
 }
 
 void TestReportSupervisorKeeping::writesWhenTheFolderComesBack_data()

@@ -60,9 +60,15 @@ QDateTime timeOf(qint64 milliseconds)
     return QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC);
 }
 
-bool writeContent(const QString& fileName, const QByteArray& content)
+bool writeContent(const QString& fileName, const QByteArray& content, QString* reason)
 {
-    return saveFile(fileName, [&content](QIODevice& device) { return device.write(content) == content.size(); });
+    SavedFile saved;
+    const auto write = [&content](QIODevice& device) { return device.write(content) == content.size(); };
+    const bool isWritten = saveFile(fileName, write, &saved);
+    if (reason) {
+        *reason = saved.reason;
+    }
+    return isWritten;
 }
 
 ReportSupervisorData::ReportSupervisorData(ReportSupervisor& owner)
@@ -208,13 +214,30 @@ void ReportSupervisorData::SetPending(const Entry& entry, bool isPending)
 void ReportSupervisorData::SetKept(Entry& entry, const KeptReport& kept)
 {
     SetPending(entry, false);
-    EmergencyCopies::Remove(entry.kept);
+    if (!entry.kept.copy.isEmpty() && !kept.content.isEmpty()) { // which is not copied yet
+        EmergencyCopies::Remove(entry.before);
+        entry.before = entry.kept;
+    } else if (kept.content.isEmpty()) {
+        EmergencyCopies::Remove(entry.before);
+        EmergencyCopies::Remove(entry.kept);
+        entry.before = KeptReport();
+    }
     entry.kept = kept;
     entry.place = kept.reportPath.isEmpty() ? QString() : placeOf(kept.reportPath);
     entry.verdict.isSafe = !kept.copy.isEmpty();
     entry.verdict.fileName.clear();
     entry.verdict.size = -1;
     entry.verdict.isChecked = false;
+}
+
+/// What stands in the way now may be something else than before.
+void ReportSupervisorData::SetReason(Entry& entry, const QString& reason)
+{
+    if (!reason.isEmpty() && reason != entry.kept.reason) {
+        entry.kept.reason = reason;
+        entry.verdict.reason = reason;
+        changed.insert(entry.verdict.report);
+    }
 }
 
 void ReportSupervisorData::SetWritten(Entry& entry, const QString& fileName, qint64 size)
@@ -284,10 +307,12 @@ bool ReportSupervisorData::TryToWrite(Entry& entry)
         entry.verdict.isSafe = false;
         return Block(entry, ReportSupervisor::tr("its copy %1 cannot be read").arg(kept.copy));
     }
-    if (writeContent(kept.reportPath, content)) {
+    QString reason;
+    if (writeContent(kept.reportPath, content, &reason)) {
         SetWritten(entry, QString(kept.reportPath), content.size());
         return true;
     }
+    SetReason(entry, reason);
     KeepSafe(entry);
     watch.Await(folderOf(entry.place));
     return false;
@@ -306,6 +331,10 @@ bool ReportSupervisorData::KeepSafe(Entry& entry)
     const bool isSafe = entry.kept.copy.isEmpty() ? copies->Keep(entry.kept)
         : verdict.isSafe                          ? EmergencyCopies::IsThere(entry.kept)
                                                   : !EmergencyCopies::ContentOf(entry.kept).isEmpty(); // it was damaged
+    if (isSafe) {
+        EmergencyCopies::Remove(entry.before);
+        entry.before = KeptReport();
+    }
     if (isSafe != verdict.isSafe) {
         verdict.isSafe = isSafe;
         changed.insert(verdict.report);
@@ -367,6 +396,7 @@ void ReportSupervisorData::Check(Entry& entry)
     }
     ReportState state = ReportState::Written;
     QString reason;
+    bool isRead = true;
     QFile file(verdict.fileName);
     if (!info.exists()) {
         state = ReportState::Gone;
@@ -376,14 +406,15 @@ void ReportSupervisorData::Check(Entry& entry)
         reason = ReportSupervisor::tr("another file has taken its place");
     } else if (!file.open(QIODevice::ReadOnly)) {
         reason = ReportSupervisor::tr("it cannot be opened to check it");
+        isRead = false;
     } else if (reason = faultOfXml(file); !reason.isEmpty()) {
         state = ReportState::NotWellFormed;
     } else if (validator) {
         reason = validator(verdict.schemaPath, verdict.fileName).join(QLatin1String("; "));
         state = reason.isEmpty() ? ReportState::Written : ReportState::Invalid;
     }
-    if (!verdict.isChecked || verdict.state != state || verdict.reason != reason) {
-        entry.verdict.isChecked = true;
+    if (verdict.isChecked != isRead || verdict.state != state || verdict.reason != reason) {
+        entry.verdict.isChecked = isRead;
         SetState(entry, state, reason);
     }
 }

@@ -21,7 +21,8 @@ bool isKept(ReportSupervisor::State state);
 bool isFile(ReportSupervisor::State state);
 
 /// Writes a file as the library saves. Gives whether all of it is there.
-bool writeContent(const QString& fileName, const QByteArray& content);
+/// @param reason  becomes why not; may be null
+bool writeContent(const QString& fileName, const QByteArray& content, QString* reason = nullptr);
 
 /// The platform's time as it is shown.
 QDateTime timeOf(qint64 milliseconds);
@@ -43,6 +44,7 @@ struct ReportSupervisorData
     {
         ReportSupervisor::Verdict verdict;
         KeptReport kept;
+        KeptReport before; ///< an earlier answer, whose copy stays until that of the last one is safe
         QString place; ///< where it shall be written while it is kept
     };
 
@@ -62,6 +64,7 @@ struct ReportSupervisorData
     void SetState(Entry& entry, ReportSupervisor::State state, const QString& reason);
     void SetPending(const Entry& entry, bool isPending);
     void SetKept(Entry& entry, const KeptReport& kept);
+    void SetReason(Entry& entry, const QString& reason);
     void SetWritten(Entry& entry, const QString& fileName, qint64 size);
     Entry* FindKept(quint64 report);
     void Tell();
