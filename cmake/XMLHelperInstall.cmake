@@ -1,5 +1,6 @@
 # The install rules: the libraries with their client headers, and what find_package() and pkg-config find them by.
-# Three components: runtime; development, with the companion programs; and the tools, which are installed only by name:
+# The components: runtime; development, with the companion programs; platform and platform_development, the stand-ins for
+# the suite's base libraries; and the tools, which are installed only by name:
 #
 #   cmake --install <build> --prefix <folder>
 #   cmake --install <build> --prefix <folder> --component tools
@@ -7,12 +8,12 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-# Installs a shared library, its PUBLIC_HEADERs (absolute paths) below the name of its folder, and a CMake package of
+# Installs a library, its PUBLIC_HEADERs (absolute paths) below the name of its folder, and a CMake package of
 # its name, which finds everything that the library links: a client's linker follows its shared libraries.
 #
-#   xmlhelper_install_library(<target> [NAMESPACE <namespace::>])
+#   xmlhelper_install_library(<target> [NAMESPACE <namespace::>] RUNTIME <component> DEVELOPMENT <component>)
 function(xmlhelper_install_library target)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "NAMESPACE" "")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "NAMESPACE;RUNTIME;DEVELOPMENT" "")
     get_target_property(source_dir ${target} SOURCE_DIR)
     get_filename_component(folder "${source_dir}" NAME)
     set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/${target}")
@@ -22,14 +23,18 @@ function(xmlhelper_install_library target)
         set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
     endif()
     install(TARGETS ${target} EXPORT ${target}Targets
-        RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime
-        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development
-        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development
-        PUBLIC_HEADER DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${folder}" COMPONENT development)
+        RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT ${arg_RUNTIME}
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+            COMPONENT ${arg_RUNTIME} NAMELINK_COMPONENT ${arg_DEVELOPMENT}
+        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT ${arg_DEVELOPMENT}
+        PUBLIC_HEADER DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${folder}" COMPONENT ${arg_DEVELOPMENT})
     install(EXPORT ${target}Targets NAMESPACE "${arg_NAMESPACE}"
-        DESTINATION "${package_dir}" COMPONENT development)
+        DESTINATION "${package_dir}" COMPONENT ${arg_DEVELOPMENT})
 
     get_target_property(dependencies ${target} LINK_LIBRARIES)
+    if(NOT dependencies)
+        get_target_property(dependencies ${target} INTERFACE_LINK_LIBRARIES)
+    endif()
     set(required_qt "Qt${XMLHELPER_QT_MAJOR}")
     set(required_qt_components ${dependencies})
     list(FILTER required_qt_components INCLUDE REGEX "^${required_qt}::")
@@ -47,7 +52,31 @@ function(xmlhelper_install_library target)
     write_basic_package_version_file("${config_dir}/${target}ConfigVersion.cmake"
         VERSION ${PROJECT_VERSION} COMPATIBILITY SameMajorVersion)
     install(FILES "${config_dir}/${target}Config.cmake" "${config_dir}/${target}ConfigVersion.cmake"
-        DESTINATION "${package_dir}" COMPONENT development)
+        DESTINATION "${package_dir}" COMPONENT ${arg_DEVELOPMENT})
+endfunction()
+
+# Installs the pkg-config file of a library, called like it in lower case. It requires those of the libraries that a
+# client links as well.
+#
+#   xmlhelper_install_pkg_config_file(<target> DESCRIPTION <text> COMPONENT <component>)
+function(xmlhelper_install_pkg_config_file target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESCRIPTION;COMPONENT" "")
+    get_target_property(requires ${target} INTERFACE_LINK_LIBRARIES)
+    list(TRANSFORM requires TOLOWER REGEX "^[A-Za-z]+$")
+    list(TRANSFORM requires REPLACE "::" "")
+    list(JOIN requires " " requires)
+
+    get_target_property(type ${target} TYPE)
+    set(libraries "")
+    if(NOT type STREQUAL INTERFACE_LIBRARY)
+        set(libraries "-L\${libdir} -l${target}")
+    endif()
+    file(RELATIVE_PATH prefix "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+    string(REGEX REPLACE "/$" "" prefix "${prefix}")
+    string(TOLOWER "${target}" name)
+    set(file "${PROJECT_BINARY_DIR}/package/${name}.pc")
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/library.pc.in" "${file}" @ONLY)
+    install(FILES "${file}" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT ${arg_COMPONENT})
 endfunction()
 
 # Installs a program, with its man page man/<target>.1 if it has one, that looks for its FILES beside itself. Those have no place among the programs of a Unix system:
@@ -96,14 +125,25 @@ function(xmlhelper_install_app target)
     endif()
 endfunction()
 
-# The stand-ins that are in use; the embedding project installs the libraries that it brings itself.
+# The stand-ins that are in use, and one name for all of them; the embedding project installs the libraries that it
+# brings itself.
 get_property(stand_ins GLOBAL PROPERTY XMLHELPER_STAND_INS)
 foreach(stand_in IN LISTS stand_ins)
-    xmlhelper_install_library(${stand_in})
+    xmlhelper_install_library(${stand_in} RUNTIME platform DEVELOPMENT platform_development)
+    xmlhelper_install_pkg_config_file(${stand_in}
+        DESCRIPTION "Stand-in for a base library of the suite" COMPONENT platform_development)
 endforeach()
-xmlhelper_install_library(XMLHelper NAMESPACE XMLHelper::)
-xmlhelper_install_library(XMLHelperReports NAMESPACE XMLHelper::)
-xmlhelper_install_library(XMLHelperReportWidgets NAMESPACE XMLHelper::)
+if(stand_ins)
+    xmlhelper_install_library(XMLHelperPlatform NAMESPACE XMLHelper::
+        RUNTIME platform DEVELOPMENT platform_development)
+    xmlhelper_install_pkg_config_file(XMLHelperPlatform
+        DESCRIPTION "The base libraries of the suite" COMPONENT platform_development)
+endif()
+foreach(library IN ITEMS XMLHelper XMLHelperReports XMLHelperReportWidgets)
+    xmlhelper_install_library(${library} NAMESPACE XMLHelper:: RUNTIME runtime DEVELOPMENT development)
+endforeach()
+xmlhelper_install_pkg_config_file(XMLHelper
+    DESCRIPTION "${PROJECT_DESCRIPTION}" COMPONENT development)
 
 # What the libraries say, for applications to take with them.
 if(TARGET xmlhelper_translations)
@@ -111,15 +151,6 @@ if(TARGET xmlhelper_translations)
     list(FILTER catalogues INCLUDE REGEX "/XMLHelper(ReportWidgets)?_[a-z]+\\.qm$")
     install(FILES ${catalogues} DESTINATION "${CMAKE_INSTALL_DATADIR}/xmlhelper/translations" COMPONENT development)
 endif()
-
-file(RELATIVE_PATH prefix_from_pc_file "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
-string(REGEX REPLACE "/$" "" prefix_from_pc_file "${prefix_from_pc_file}")
-set(pc_requires ${xmlhelper_qt_core} ${xmlhelper_qt_widgets} ${xmlhelper_qt_xml})
-list(TRANSFORM pc_requires REPLACE "::" "")
-list(JOIN pc_requires " " pc_requires)
-configure_file("${PROJECT_SOURCE_DIR}/cmake/xmlhelper.pc.in" "${PROJECT_BINARY_DIR}/package/xmlhelper.pc" @ONLY)
-install(FILES "${PROJECT_BINARY_DIR}/package/xmlhelper.pc"
-    DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
 
 foreach(app IN ITEMS xmlhelper-report xmlhelper-schema)
     if(TARGET ${app})

@@ -1,8 +1,13 @@
 # The packages that cpack makes, on Debian one for each component:
 #
-#   libxmlhelper1    runtime: the library and the stand-ins for the suite's base libraries
-#   libxmlhelper-dev development: headers, CMake packages, pkg-config, and the companion programs
-#   xmlhelper-tools  programs that fill reports: one for the command line, and the example application
+#   libxmlhelper1          runtime: the libraries
+#   libxmlhelper-dev       development: headers, CMake packages, pkg-config, and the companion programs
+#   xmlhelper-platform     platform: the stand-ins for the suite's base libraries
+#   xmlhelper-platform-dev platform_development: their headers, CMake packages and pkg-config files
+#   xmlhelper-tools        programs that fill reports: one for the command line, and the example application
+#
+# The suite's own base libraries take the place of the stand-ins in a package that provides xmlhelper-platform-abi1, and
+# conflicts with it, as one package at a time may have files of these names; see docs/platform.md.
 #
 # Configure with -DCMAKE_INSTALL_PREFIX=/usr to have the libraries where Debian keeps its own, in the folder of the
 # machine's architecture. With another prefix they go into /usr/lib itself, where the loader finds them too.
@@ -20,6 +25,9 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
 set(CPACK_COMPONENTS_ALL runtime development)
+if(stand_ins)
+    list(APPEND CPACK_COMPONENTS_ALL platform platform_development)
+endif()
 if(TARGET xmlhelper-fill OR TARGET measurementpanel)
     list(APPEND CPACK_COMPONENTS_ALL tools)
 endif()
@@ -52,16 +60,37 @@ else()
     set(qt_sql_drivers libqt5sql5)
 endif()
 
+# The stand-ins by default, or what provides the same. The number is that of their sonames.
+set(platform_package "xmlhelper-platform")
+set(platform_abi "xmlhelper-platform-abi${PROJECT_VERSION_MAJOR}")
+set(platform_or_other "${platform_package} | ${platform_abi}")
+
+# What a package of libraries tells those that are linked with them: on what to depend. The loader's cache is dpkg's own
+# affair.
+#   xmlhelper_package_libraries(<component> DEPENDENCY <dependency> LIBRARIES <target>...)
+function(xmlhelper_package_libraries component)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "DEPENDENCY" "LIBRARIES")
+    set(folder "${PROJECT_BINARY_DIR}/package/${component}")
+    set(shlibs "")
+    foreach(library IN LISTS arg_LIBRARIES)
+        string(APPEND shlibs "lib${library} ${PROJECT_VERSION_MAJOR} ${arg_DEPENDENCY}\n")
+    endforeach()
+    file(WRITE "${folder}/shlibs" "${shlibs}")
+    file(WRITE "${folder}/triggers" "activate-noawait ldconfig\n")
+    string(TOUPPER "${component}" component)
+    set(CPACK_DEBIAN_${component}_PACKAGE_CONTROL_EXTRA "${folder}/shlibs" "${folder}/triggers" PARENT_SCOPE)
+endfunction()
+
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "${platform_or_other}")
+xmlhelper_package_libraries(runtime DEPENDENCY "${runtime_package} (>= ${PROJECT_VERSION})"
+    LIBRARIES XMLHelper XMLHelperReports XMLHelperReportWidgets)
 if(xmlhelper_qt_sql) # A driver is loaded while it runs.
     set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "${qt_sql_drivers}-sqlite")
     set(CPACK_DEBIAN_RUNTIME_PACKAGE_SUGGESTS "${qt_sql_drivers}-psql")
 endif()
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-file(WRITE "${PROJECT_BINARY_DIR}/package/triggers" "activate-noawait ldconfig\n")
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${PROJECT_BINARY_DIR}/package/triggers")
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
 "XML and measurement reports on Qt: library
 XMLHelper reads XML as a stream of events, writes XML files, fills documents
@@ -72,7 +101,8 @@ This package contains the shared libraries.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libxmlhelper-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION}), ${qt_packages}")
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
+    "${runtime_package} (= ${PROJECT_VERSION}), ${platform_package}-dev | ${platform_abi}-dev, ${qt_packages}")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
 "XML and measurement reports on Qt: development files
 XMLHelper reads XML as a stream of events, writes XML files, fills documents
@@ -81,10 +111,40 @@ by an XSD schema, and writes measurement reports at the press of a button.
 This package contains the headers, the CMake packages and the pkg-config file,
 and the companion programs for the authors of schemas and reports.")
 
+set(platform_description
+"The library and its programs stand on five base libraries: traces and clock, the
+value tree, the tool button, and the registry of translations. An application
+suite brings its own; these stand in for them, small but real.")
+
+set(CPACK_DEBIAN_PLATFORM_PACKAGE_NAME ${platform_package})
+set(CPACK_DEBIAN_PLATFORM_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_PLATFORM_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PLATFORM_PACKAGE_PROVIDES ${platform_abi})
+set(CPACK_DEBIAN_PLATFORM_PACKAGE_CONFLICTS ${platform_abi})
+set(CPACK_DEBIAN_PLATFORM_PACKAGE_REPLACES ${platform_abi})
+xmlhelper_package_libraries(platform DEPENDENCY "${platform_or_other}" LIBRARIES ${stand_ins})
+set(CPACK_COMPONENT_PLATFORM_DESCRIPTION
+"XML and measurement reports on Qt: base libraries
+${platform_description}")
+
+set(CPACK_DEBIAN_PLATFORM_DEVELOPMENT_PACKAGE_NAME ${platform_package}-dev)
+set(CPACK_DEBIAN_PLATFORM_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_PLATFORM_DEVELOPMENT_PACKAGE_DEPENDS
+    "${platform_package} (= ${PROJECT_VERSION}), ${qt_packages}")
+set(CPACK_DEBIAN_PLATFORM_DEVELOPMENT_PACKAGE_PROVIDES ${platform_abi}-dev)
+set(CPACK_DEBIAN_PLATFORM_DEVELOPMENT_PACKAGE_CONFLICTS ${platform_abi}-dev)
+set(CPACK_DEBIAN_PLATFORM_DEVELOPMENT_PACKAGE_REPLACES ${platform_abi}-dev)
+set(CPACK_COMPONENT_PLATFORM_DEVELOPMENT_DESCRIPTION
+"XML and measurement reports on Qt: development files of the base libraries
+${platform_description}
+
+This package contains the headers, the CMake packages and the pkg-config
+files.")
+
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME xmlhelper-tools)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION}), ${platform_or_other}")
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION
 "XML and measurement reports on Qt: tools
 The program xmlhelper-fill fills a report from the command line, under the

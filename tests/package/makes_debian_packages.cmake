@@ -1,6 +1,6 @@
-# cpack makes one package for each component. Together they hold the files of the checked-in lists; the libraries alone
-# are in the runtime package and have no search paths; each package knows what it depends on, and the tools run from
-# where they are packed.
+# cpack makes one package for each component. Together they hold the files of the checked-in lists; libraries alone are
+# in the runtime packages, those of the suite's base in packages of their own that others may take the place of, and have
+# no search paths; each package knows what it depends on, and the tools run from where they are packed.
 include("${CMAKE_CURRENT_LIST_DIR}/packagetest.cmake")
 
 run(COMMAND "${CPACK}" --config "${BUILD_DIR}/CPackConfig.cmake" -C "${CONFIG}" -B "${WORK_DIR}" -G DEB)
@@ -10,6 +10,16 @@ function(expect_field package field regex)
     string(STRIP "${value}" value)
     if(NOT value MATCHES "${regex}")
         message(SEND_ERROR "${package}: the field ${field} is \"${value}\" and does not match \"${regex}\".")
+    endif()
+endfunction()
+
+# Checks a file among those that tell dpkg about a package.
+function(expect_control name file expected)
+    file(GLOB package "${WORK_DIR}/${name}_${VERSION}_*.deb")
+    run(COMMAND "${DPKG_DEB}" --control "${package}" "${WORK_DIR}/${name}-control")
+    file(READ "${WORK_DIR}/${name}-control/${file}" content)
+    if(NOT content STREQUAL expected)
+        message(SEND_ERROR "${name}: the file ${file} holds:\n${content}\nExpected was:\n${expected}")
     endif()
 endfunction()
 
@@ -60,8 +70,35 @@ else()
     set(qt_core libqt5core5a)
 endif()
 
-expect_package(${runtime} FILES runtime_files DEPENDS "${qt_core} \\(>=" "libc6 \\(>=")
-expect_package(libxmlhelper-dev FILES development_files DEPENDS "${runtime} \\(= ${version}\\)" "${qt_dev}")
+expect_package(${runtime} FILES runtime_files
+    DEPENDS "${qt_core} \\(>=" "libc6 \\(>=" "xmlhelper-platform \\| xmlhelper-platform-abi${VERSION_MAJOR}")
+expect_package(libxmlhelper-dev FILES development_files DEPENDS "${runtime} \\(= ${version}\\)" "${qt_dev}"
+    "xmlhelper-platform-dev \\| xmlhelper-platform-abi${VERSION_MAJOR}-dev")
+expect_package(xmlhelper-platform FILES platform_files DEPENDS "${qt_core} \\(>=" "libc6 \\(>=")
+expect_package(xmlhelper-platform-dev FILES platform_development_files
+    DEPENDS "xmlhelper-platform \\(= ${version}\\)" "${qt_dev}")
+foreach(suffix IN ITEMS "" -dev)
+    file(GLOB package "${WORK_DIR}/xmlhelper-platform${suffix}_${VERSION}_*.deb")
+    foreach(field IN ITEMS Provides Conflicts Replaces)
+        expect_field("${package}" ${field} "^xmlhelper-platform-abi${VERSION_MAJOR}${suffix}$")
+    endforeach()
+endforeach()
+
+# What is linked with these libraries depends on their packages.
+set(shlibs "")
+foreach(library IN ITEMS XMLHelper XMLHelperReports XMLHelperReportWidgets)
+    string(APPEND shlibs "lib${library} ${VERSION_MAJOR} ${runtime} (>= ${VERSION})\n")
+endforeach()
+expect_control(${runtime} shlibs "${shlibs}")
+set(shlibs "")
+foreach(library IN ITEMS ARBase ValueFramework GuiBase BasicValueWidgets VornAppStartUp)
+    string(APPEND shlibs
+        "lib${library} ${VERSION_MAJOR} xmlhelper-platform | xmlhelper-platform-abi${VERSION_MAJOR}\n")
+endforeach()
+expect_control(xmlhelper-platform shlibs "${shlibs}")
+foreach(name IN ITEMS ${runtime} xmlhelper-platform)
+    expect_control(${name} triggers "activate-noawait ldconfig\n")
+endforeach()
 
 if(HAS_JOURNAL)
     file(GLOB package "${WORK_DIR}/${runtime}_${VERSION}_*.deb")
@@ -69,16 +106,28 @@ if(HAS_JOURNAL)
     expect_field("${package}" Suggests "^libqt${QT_MAJOR}sql${QT_MAJOR}-psql$")
 endif()
 
-set(installed ${runtime_files} ${development_files})
+set(installed ${runtime_files} ${development_files} ${platform_files} ${platform_development_files})
 list(TRANSFORM installed REPLACE "^usr/" "")
 take_apps(installed)
-compare_lists("The files of ${runtime} and libxmlhelper-dev" "${CASES_DIR}/installed-files.txt" LINES ${installed})
+compare_lists("The files of the libraries' packages" "${CASES_DIR}/installed-files.txt" LINES ${installed})
 
+# Which of these files are in the wrong package.
 set(library "\\.so\\.<(major|version)>$")
-list(FILTER runtime_files EXCLUDE REGEX "${library}")
+set(of_platform "/lib(ARBase|ValueFramework|GuiBase|BasicValueWidgets|VornAppStartUp)\\.")
+list(APPEND development_files ${platform_development_files})
 list(FILTER development_files INCLUDE REGEX "${library}")
-if(runtime_files OR development_files)
-    message(SEND_ERROR "These files are in the wrong package: ${runtime_files} ${development_files}")
+set(wrong ${development_files})
+set(files ${runtime_files})
+list(FILTER files INCLUDE REGEX "${of_platform}")
+list(APPEND wrong ${files})
+set(files ${platform_files})
+list(FILTER files EXCLUDE REGEX "${of_platform}")
+list(APPEND wrong ${files})
+set(files ${runtime_files} ${platform_files})
+list(FILTER files EXCLUDE REGEX "${library}")
+list(APPEND wrong ${files})
+if(wrong)
+    message(SEND_ERROR "These files are in the wrong package: ${wrong}")
 endif()
 
 if(HAS_TOOLS)
@@ -87,7 +136,7 @@ if(HAS_TOOLS)
 
     # The panel is started by its link and makes a report by the schema that comes with it.
     file(MAKE_DIRECTORY "${WORK_DIR}/reports")
-    set(ENV{LD_LIBRARY_PATH} "${WORK_DIR}/${runtime}/usr/${LIBDIR}")
+    set(ENV{LD_LIBRARY_PATH} "${WORK_DIR}/${runtime}/usr/${LIBDIR}:${WORK_DIR}/xmlhelper-platform/usr/${LIBDIR}")
     run(COMMAND "${WORK_DIR}/xmlhelper-tools/usr/bin/measurementpanel" --press 1 --reports "${WORK_DIR}/reports")
     file(GLOB reports "${WORK_DIR}/reports/*.xml")
     if(NOT reports)
