@@ -6,4 +6,5 @@ configure_client(findpackage -D "XMLHelper_DIR=${PREFIX}/${LIBDIR}/cmake/XMLHelp
 build_and_run_client(
     "read: bands"
     "read: band"
+    "written: Site"
     "reported: Frequency 98.5")

@@ -9,5 +9,6 @@ build_and_run_client(
     "host trace: XMLReader: pCallback is NULL!"
     "read: bands"
     "read: band"
+    "written: Site"
     "host trace: VCReporting::AddReportData(Frequency, , 98.5, , 0, )"
     "reported: Frequency 98.5")

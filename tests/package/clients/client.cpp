@@ -10,6 +10,10 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <valueframework/node.h>
+#include <valueframework/tree.h>
+#include <valueframework/valueitem.h>
+#include <valueframework/valuetext.h>
 #include <xmlhelper/xmlhelper.h>
 
 #ifdef HOST_HAS_ARBASE
@@ -44,6 +48,22 @@ void readDocument()
     reader.SetXmlContent(document);
     if (!reader.ParseXml()) {
         print(QStringLiteral("The document was not parsed."));
+    }
+}
+
+/// The client headers name the value tree, so whoever has them has that.
+void writeTree(const QDir& folder)
+{
+    const Tree tree;
+    new ValueItem(new ValueText(QStringLiteral("Site"), QStringLiteral("Tower")), tree.GetRoot());
+    const QString path = folder.filePath(QStringLiteral("tree.txt"));
+    XMLWriter writer;
+    writer.CreateXmlFile(path, QStringLiteral("Station"));
+    writer.CreateElementsFromNode(tree.GetRoot());
+    writer.SaveXmlFile();
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly)) {
+        print(QStringLiteral("written: ") + (file.readAll().contains("<Site>Tower</Site>") ? "Site" : "nothing"));
     }
 }
 
@@ -96,6 +116,7 @@ int main(int argc, char* argv[])
     const XMLReader unusable(nullptr, nullptr);
 #endif
     readDocument();
+    writeTree(QDir(folder.path()));
     pressReportButton(QDir(folder.path()));
     printReports(QDir(folder.path()));
     return 0;
