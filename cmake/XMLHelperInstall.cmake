@@ -8,6 +8,9 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
+# Where the catalogues of the libraries and the programs lie; clients are told.
+set(xmlhelper_translations_dir "${CMAKE_INSTALL_DATADIR}/xmlhelper/translations")
+
 # Installs a library, its PUBLIC_HEADERs (absolute paths) below the name of its folder, and a CMake package of
 # its name, which finds everything that the library links: a client's linker follows its shared libraries.
 #
@@ -46,6 +49,10 @@ function(xmlhelper_install_library target)
     # Qt promises that what was built with one minor version runs with the later ones.
     string(REGEX MATCH "^[0-9]+\\.[0-9]+" required_qt_version "${${required_qt}_VERSION}")
 
+    set(translations "")
+    if(target STREQUAL "XMLHelper")
+        set(translations "set(XMLHelper_TRANSLATIONS_DIR \"\${PACKAGE_PREFIX_DIR}/${xmlhelper_translations_dir}\")\n")
+    endif()
     set(config_dir "${PROJECT_BINARY_DIR}/package/${target}")
     configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/PackageConfig.cmake.in"
         "${config_dir}/${target}Config.cmake" INSTALL_DESTINATION "${package_dir}")
@@ -77,6 +84,10 @@ function(xmlhelper_install_pkg_config_file target)
     endif()
     file(RELATIVE_PATH prefix "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
     string(REGEX REPLACE "/$" "" prefix "${prefix}")
+    set(variables "")
+    if(target STREQUAL "XMLHelper")
+        set(variables "translationsdir=\${prefix}/${xmlhelper_translations_dir}\n")
+    endif()
     string(TOLOWER "${target}" name)
     set(file "${PROJECT_BINARY_DIR}/package/${name}.pc")
     configure_file("${PROJECT_SOURCE_DIR}/cmake/library.pc.in" "${file}" @ONLY)
@@ -125,7 +136,7 @@ function(xmlhelper_install_app target)
     get_target_property(catalogues ${target} XMLHELPER_CATALOGUES)
     if(catalogues)
         install(FILES ${catalogues}
-            DESTINATION "${CMAKE_INSTALL_DATADIR}/xmlhelper/translations" COMPONENT development)
+            DESTINATION "${xmlhelper_translations_dir}" COMPONENT development)
     endif()
 endfunction()
 
@@ -148,12 +159,16 @@ foreach(library IN ITEMS XMLHelper XMLHelperReports XMLHelperReportWidgets)
 endforeach()
 xmlhelper_install_pkg_config_file(XMLHelper
     DESCRIPTION "${PROJECT_DESCRIPTION}" COMPONENT development)
+xmlhelper_install_pkg_config_file(XMLHelperReports
+    DESCRIPTION "Fills measurement reports, watches over them, remembers and shows them" COMPONENT development)
+xmlhelper_install_pkg_config_file(XMLHelperReportWidgets
+    DESCRIPTION "Shows operators what became of their measurement reports" COMPONENT development)
 
 # What the libraries say, for applications to take with them.
 if(TARGET xmlhelper_translations)
     get_target_property(catalogues xmlhelper_translations XMLHELPER_CATALOGUES)
     list(FILTER catalogues INCLUDE REGEX "/XMLHelper(ReportWidgets)?_[a-z]+\\.qm$")
-    install(FILES ${catalogues} DESTINATION "${CMAKE_INSTALL_DATADIR}/xmlhelper/translations" COMPONENT development)
+    install(FILES ${catalogues} DESTINATION "${xmlhelper_translations_dir}" COMPONENT development)
 endif()
 
 foreach(app IN ITEMS xmlhelper-report xmlhelper-schema)

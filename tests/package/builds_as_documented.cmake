@@ -30,7 +30,8 @@ set(ENV{PKG_CONFIG_PATH} "${PREFIX}/${LIBDIR}/pkgconfig")
 run(OUTPUT version COMMAND "${PKG_CONFIG}" --modversion xmlhelper)
 expect_output("${version}" "${VERSION}")
 
-file(COPY "${SOURCE_DIR}/examples/firststeps/main.cpp" DESTINATION "${WORK_DIR}")
+file(COPY "${SOURCE_DIR}/examples/firststeps/main.cpp" "${SOURCE_DIR}/examples/firststeps/fill.cpp"
+    DESTINATION "${WORK_DIR}")
 file(WRITE "${WORK_DIR}/some.xml" "<bands><band/><band/></bands>\n")
 file(CREATE_LINK "${PREFIX}" "${WORK_DIR}/xmlhelper" SYMBOLIC)
 set(ENV{HOME} "${WORK_DIR}")
@@ -43,8 +44,13 @@ follow("${lines}" "bands" "band" "band")
 take_lines(lines docs/linking.md "export PKG_CONFIG_PATH=")
 follow("${lines}" "bands" "band" "band")
 
-# The main page's line links a program that uses the value tree.
+# Its second client fills a report.
 set(ENV{LD_LIBRARY_PATH} "${PREFIX}/${LIBDIR}")
+file(CREATE_LINK "${SOURCE_DIR}/examples" "${WORK_DIR}/examples" SYMBOLIC)
+take_lines(lines docs/linking.md "c++ fill.cpp ")
+follow("${lines}" "complete")
+
+# The main page's line links a program that uses the value tree.
 file(COPY_FILE "${SOURCE_DIR}/examples/writetree/main.cpp" "${WORK_DIR}/client.cpp")
 take_lines(lines docs/pages/mainpage.md "c++ client.cpp ")
 follow("${lines}")
@@ -53,3 +59,17 @@ file(READ "${WORK_DIR}/inventory.xml" inventory)
 if(NOT inventory MATCHES "<Name>Tower &amp; Hill</Name>")
     message(SEND_ERROR "The value tree is not in the document:\n${inventory}")
 endif()
+
+# So does that of the panel with a program of widgets, which waits for its operator and is not run.
+file(COPY "${SOURCE_DIR}/examples/reportpanel/main.cpp" DESTINATION "${WORK_DIR}")
+take_lines(lines docs/report-panel.md "c++ main.cpp ")
+follow("${lines}")
+
+# The catalogues lie where pkg-config says.
+run(OUTPUT folder COMMAND "${PKG_CONFIG}" --variable=translationsdir xmlhelper)
+string(STRIP "${folder}" folder)
+foreach(catalogue IN LISTS LIBRARY_CATALOGUES)
+    if(NOT EXISTS "${folder}/${catalogue}")
+        message(SEND_ERROR "pkg-config tells of catalogues in ${folder}, and there is no ${catalogue}.")
+    endif()
+endforeach()

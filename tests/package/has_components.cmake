@@ -1,7 +1,9 @@
-# A client asks for the components, gets all that they stand on, builds and runs.
+# A client asks for the components, gets all that they stand on, builds and runs. It is told where the catalogues are.
 include("${CMAKE_CURRENT_LIST_DIR}/packagetest.cmake")
 
-configure_client(components -D "XMLHelper_DIR=${PREFIX}/${LIBDIR}/cmake/XMLHelper")
+list(JOIN LIBRARY_CATALOGUES "," catalogues)
+configure_client(components -D "XMLHelper_DIR=${PREFIX}/${LIBDIR}/cmake/XMLHelper"
+    -D "CATALOGUES=${catalogues}")
 build_and_run_client(
     "level: 17.5"
     "filled: no"
