@@ -5,6 +5,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include <xmlhelper/xmlhelperversion.h>
 #include <xmlhelperreports/reportfiller.h>
 
 #ifdef XMLHELPER_HAS_VALIDATION
@@ -129,7 +130,7 @@ int main(int argc, char** argv)
         return Complete;
     }
     if (parser.isSet(QStringLiteral("version"))) {
-        print(QStringLiteral("xmlhelper-fill " XMLHELPER_VERSION));
+        print(QStringLiteral("xmlhelper-fill " XMLHELPER_VERSION_STRING));
         return Complete;
     }
     const QStringList arguments = parser.positionalArguments();

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QUrl>
 
+#include <xmlhelper/xmlhelperversion.h>
 #include <xmlhelperreports/reportjournal.h>
 
 namespace {
@@ -237,7 +238,7 @@ int main(int argc, char** argv)
         return Good;
     }
     if (parser.isSet(QStringLiteral("version"))) {
-        print(QStringLiteral("xmlhelper-journal " XMLHELPER_VERSION));
+        print(QStringLiteral("xmlhelper-journal " XMLHELPER_VERSION_STRING));
         return Good;
     }
     return run(parser);

@@ -5,6 +5,8 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include <xmlhelper/xmlhelperversion.h>
+
 #include "language.h"
 #include "rendering.h"
 
@@ -30,7 +32,7 @@ int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("xmlhelper-report"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(XMLHELPER_VERSION));
+    QCoreApplication::setApplicationVersion(QStringLiteral(XMLHELPER_VERSION_STRING));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(

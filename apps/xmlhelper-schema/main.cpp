@@ -7,6 +7,7 @@
 #include <QApplication>
 
 #include <xmlhelper/filesaving_p.h>
+#include <xmlhelper/xmlhelperversion.h>
 
 #include "commandline.h"
 #include "doctorwindow.h"
@@ -160,7 +161,7 @@ int main(int argc, char** argv)
     qSetGlobalQHashSeed(0);
     const std::unique_ptr<QCoreApplication> application = applicationFor(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("xmlhelper-schema"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(XMLHELPER_VERSION));
+    QCoreApplication::setApplicationVersion(QStringLiteral(XMLHELPER_VERSION_STRING));
     const CommandLine line = commandLineOf(QCoreApplication::arguments());
     switch (line.show) {
     case CommandLine::Show::WrongUsage:

@@ -15,6 +15,7 @@
 #include <xmlhelper/vcreporting.h>
 #include <xmlhelper/xmlcreatereport.h>
 #include <xmlhelper/xmlevent.h>
+#include <xmlhelper/xmlhelperversion.h>
 #include <xmlhelper/xmlreader.h>
 #include <xmlhelper/xmlwriter.h>
 

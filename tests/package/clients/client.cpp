@@ -21,6 +21,10 @@
 #include <arbase/trace.h>
 #endif
 
+static_assert(XMLHELPER_VERSION >= XMLHELPER_VERSION_CHECK(1, 0, 0), "Clients compare versions.");
+static_assert(XMLHELPER_VERSION < XMLHELPER_VERSION_CHECK(XMLHELPER_VERSION_MAJOR, XMLHELPER_VERSION_MINOR + 1, 0),
+              "Each part counts more than those behind it.");
+
 namespace {
 
 void print(const QString& line)

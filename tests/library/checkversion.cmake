@@ -1,0 +1,12 @@
+# The macros for clients say the version of the project.
+file(READ "${HEADER}" header)
+string(REPLACE "." ";" parts "${VERSION}")
+list(GET parts 0 major)
+list(GET parts 1 minor)
+list(GET parts 2 patch)
+foreach(line IN ITEMS "MAJOR ${major}" "MINOR ${minor}" "PATCH ${patch}" "STRING \"${VERSION}\"")
+    string(FIND "${header}" "\n#define XMLHELPER_VERSION_${line}\n" position)
+    if(position EQUAL -1)
+        message(SEND_ERROR "${HEADER} does not define XMLHELPER_VERSION_${line}.")
+    endif()
+endforeach()
