@@ -1,7 +1,7 @@
 #include <QTextStream>
 #include <xmlhelper/xmlhelper.h>
 
-struct Printer : IXMLHelper
+struct Printer final : IXMLHelper
 {
     void XmlUpdate(XmlEvent* event) override
     {

@@ -1,4 +1,5 @@
 # A client can include every client header, each on its own and without a warning, and no other header of the library.
+# Nor does the client that the README prints give any, one of destructors neither: nobody deletes an observer by its base.
 include("${CMAKE_CURRENT_LIST_DIR}/packagetest.cmake")
 
 set(ENV{PKG_CONFIG_PATH} "${PREFIX}/${LIBDIR}/pkgconfig")
@@ -8,13 +9,24 @@ separate_arguments(cflags UNIX_COMMAND "${cflags}")
 separate_arguments(flags UNIX_COMMAND "${FLAGS}")
 list(APPEND flags -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Werror)
 
-function(try_including header result_variable error_variable)
-    file(WRITE "${WORK_DIR}/include.cpp" "#include <xmlhelper/${header}>\n")
-    execute_process(COMMAND "${COMPILER}" ${flags} -std=c++17 -fPIC -fsyntax-only ${cflags} include.cpp
+function(try_compiling file result_variable error_variable)
+    execute_process(COMMAND "${COMPILER}" ${flags} -std=c++17 -fsyntax-only ${cflags} "${file}"
         WORKING_DIRECTORY "${WORK_DIR}" RESULT_VARIABLE result OUTPUT_VARIABLE error ERROR_VARIABLE error)
     set(${result_variable} "${result}" PARENT_SCOPE)
     set(${error_variable} "${error}" PARENT_SCOPE)
 endfunction()
+
+function(try_including header result_variable error_variable)
+    file(WRITE "${WORK_DIR}/include.cpp" "#include <xmlhelper/${header}>\n")
+    try_compiling(include.cpp result error)
+    set(${result_variable} "${result}" PARENT_SCOPE)
+    set(${error_variable} "${error}" PARENT_SCOPE)
+endfunction()
+
+try_compiling("${SOURCE_DIR}/examples/firststeps/main.cpp" result error)
+if(NOT result EQUAL 0)
+    message(SEND_ERROR "The client that the README prints gives warnings:\n${error}")
+endif()
 
 file(GLOB headers "${SOURCE_DIR}/tools/xmlhelper/*.h")
 set(refused 0)

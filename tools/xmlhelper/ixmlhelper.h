@@ -9,7 +9,8 @@ class XmlEvent;
 ///
 /// A client implements XmlUpdate() and hands a pointer to its observer to the component that it uses (XMLReader,
 /// XmlCreateReport). The library never owns an observer and never deletes one, which is why the class has no virtual
-/// destructor: the observer must outlive every component that was given the pointer.
+/// destructor: the observer must outlive every component that was given the pointer. A class that implements it is
+/// final, or has a virtual destructor of its own.
 ///
 /// Everything happens on the thread of the component, as plain synchronous calls without any lock. An observer that
 /// serves components of several threads has to protect itself.
