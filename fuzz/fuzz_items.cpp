@@ -17,6 +17,9 @@
 #include "fuzzing.h"
 #include "fuzzinput.h"
 
+// What clients are warned of goes on doing what it did.
+QT_WARNING_DISABLE_DEPRECATED
+
 // Each item is a name, a kind, and a text or a number; a press of the report button follows, and gives XML whatever
 // they are.
 

@@ -19,6 +19,9 @@
 #include "newsrecorder.h"
 #include "tracecollector.h"
 
+// What clients are warned of goes on doing what it did.
+QT_WARNING_DISABLE_DEPRECATED
+
 /// What those may do who are told of a report, while they are told.
 class TestReportNewsReceivers : public QObject
 {

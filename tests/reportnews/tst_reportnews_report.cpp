@@ -32,6 +32,9 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+// What clients are warned of goes on doing what it did.
+QT_WARNING_DISABLE_DEPRECATED
 #endif
 
 /// What is told of each report of the process.

@@ -13,6 +13,9 @@
 #include "reportingscene.h"
 #include "tracecollector.h"
 
+// What clients are warned of goes on doing what it did.
+QT_WARNING_DISABLE_DEPRECATED
+
 namespace {
 
 using AddItem = void (*)(VCReporting&);

@@ -32,6 +32,9 @@
 #include "reportingscene.h"
 #include "tracecollector.h"
 
+// What clients are warned of goes on doing what it did.
+QT_WARNING_DISABLE_DEPRECATED
+
 QT_WARNING_DISABLE_DEPRECATED
 
 namespace {

@@ -107,12 +107,15 @@ public:
     /// @param formatText       as above
     /// @param decimalExponent  as above
     /// @param unit             as above
-    void AddExplicitReportData(const QString& name, const QString& value, int maxOccurs, const QString& formatText,
-                               int decimalExponent, const QString& unit);
+    [[deprecated("an explicit text is written as an empty one: use AddReportData() with a fixed text")]] void
+    AddExplicitReportData(const QString& name, const QString& value, int maxOccurs, const QString& formatText,
+                          int decimalExponent, const QString& unit);
     /// Registers an item with an explicit floating-point number, which reaches the report as an empty text.
     /// @copydetails AddExplicitReportData(const QString&,const QString&,int,const QString&,int,const QString&)
-    void AddExplicitReportData(const QString& name, double value, int maxOccurs, const QString& formatText,
-                               int decimalExponent, const QString& unit);
+    [[deprecated(
+        "an explicit double is written as an empty text: use AddReportData() with a value or a fixed text")]] void
+    AddExplicitReportData(const QString& name, double value, int maxOccurs, const QString& formatText,
+                          int decimalExponent, const QString& unit);
     /// Registers an item with an explicit truth value, written as such.
     /// @copydetails AddExplicitReportData(const QString&,const QString&,int,const QString&,int,const QString&)
     void AddExplicitReportData(const QString& name, bool value, int maxOccurs, const QString& formatText,
