@@ -399,6 +399,40 @@ void TestVCReportingReport::offersAnExplicitValue_data()
         },
         "<Value>-2147483648</Value>", "");
 
+    // Calls that would fit none of the others best.
+    row(
+        "int-is-an-integer", "integer",
+        [](VCReporting& reporting) {
+            reporting.AddExplicitReportData(QStringLiteral("Value"), -42, 1, QString(), 0, QString());
+        },
+        "<Value>-42</Value>", "");
+    row(
+        "literal-zero-is-an-integer", "integer",
+        [](VCReporting& reporting) {
+            reporting.AddExplicitReportData(QStringLiteral("Value"), 0, 1, QString(), 0, QString());
+        },
+        "<Value>0</Value>", "");
+    row(
+        "short-is-an-integer", "integer",
+        [](VCReporting& reporting) {
+            reporting.AddExplicitReportData(QStringLiteral("Value"), qint16(7), 1, QString(), 0, QString());
+        },
+        "<Value>7</Value>", "");
+    row(
+        "greatest-unsigned-takes-the-upper-limit", "integer",
+        [](VCReporting& reporting) {
+            reporting.AddExplicitReportData(QStringLiteral("Value"), std::numeric_limits<unsigned>::max(), 1, QString(),
+                                            0, QString());
+        },
+        "<Value>2147483647</Value>", "");
+    row(
+        "least-qint64-takes-the-lower-limit", "integer",
+        [](VCReporting& reporting) {
+            reporting.AddExplicitReportData(QStringLiteral("Value"), std::numeric_limits<qint64>::min(), 1, QString(),
+                                            0, QString());
+        },
+        "<Value>-2147483648</Value>", "");
+
     row("explicit-text-for-string-gives-an-empty-text", "string", addText, "<Value/>", "");
     row("explicit-text-for-date-time-gives-an-empty-text", "dateTime", addText, "<Value/>", "string");
     row("explicit-double-for-string-gives-an-empty-text", "string", addDouble, "<Value/>", "");

@@ -1,5 +1,7 @@
 #include "vcreporting.h"
 
+#include <algorithm>
+#include <limits>
 #include <utility>
 
 #include <QCoreApplication>
@@ -230,6 +232,27 @@ void VCReporting::AddExplicitReportData(const QString& name, long value, int max
                     static_cast<long>(decimalExponent), unit.toUtf8().constData());
     }
     addExplicitItem(value, name, maxOccurs, formatText, decimalExponent, unit);
+}
+
+void VCReporting::AddExplicitReportData(const QString& name, int value, int maxOccurs, const QString& formatText,
+                                        int decimalExponent, const QString& unit)
+{
+    AddExplicitReportData(name, static_cast<long>(value), maxOccurs, formatText, decimalExponent, unit);
+}
+
+void VCReporting::AddExplicitReportData(const QString& name, unsigned value, int maxOccurs, const QString& formatText,
+                                        int decimalExponent, const QString& unit)
+{
+    AddExplicitReportData(name, static_cast<qint64>(value), maxOccurs, formatText, decimalExponent, unit);
+}
+
+void VCReporting::AddExplicitReportData(const QString& name, qint64 value, int maxOccurs, const QString& formatText,
+                                        int decimalExponent, const QString& unit)
+{
+    // A long has 32 bits on Windows.
+    const auto limited = static_cast<long>(
+        std::clamp<qint64>(value, std::numeric_limits<long>::min(), std::numeric_limits<long>::max()));
+    AddExplicitReportData(name, limited, maxOccurs, formatText, decimalExponent, unit);
 }
 
 void VCReporting::DeleteReportData(QString name)

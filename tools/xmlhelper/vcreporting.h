@@ -124,6 +124,18 @@ public:
     /// @copydetails AddExplicitReportData(const QString&,const QString&,int,const QString&,int,const QString&)
     void AddExplicitReportData(const QString& name, long value, int maxOccurs, const QString& formatText,
                                int decimalExponent, const QString& unit);
+    /// Does the same with an int, which would fit none of the other types best.
+    /// @copydetails AddExplicitReportData(const QString&,const QString&,int,const QString&,int,const QString&)
+    void AddExplicitReportData(const QString& name, int value, int maxOccurs, const QString& formatText,
+                               int decimalExponent, const QString& unit);
+    /// Does the same with an integer without sign.
+    /// @copydetails AddExplicitReportData(const QString&,const QString&,int,const QString&,int,const QString&)
+    void AddExplicitReportData(const QString& name, unsigned value, int maxOccurs, const QString& formatText,
+                               int decimalExponent, const QString& unit);
+    /// Does the same with an integer of 64 bits.
+    /// @copydetails AddExplicitReportData(const QString&,const QString&,int,const QString&,int,const QString&)
+    void AddExplicitReportData(const QString& name, qint64 value, int maxOccurs, const QString& formatText,
+                               int decimalExponent, const QString& unit);
     /// A text literal would silently become a bool.
     void AddExplicitReportData(const QString& name, const char* value, int maxOccurs, const QString& formatText,
                                int decimalExponent, const QString& unit)
