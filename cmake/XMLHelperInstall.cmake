@@ -11,33 +11,43 @@ include(CMakePackageConfigHelpers)
 # Where the catalogues of the libraries and the programs lie; clients are told.
 set(xmlhelper_translations_dir "${CMAKE_INSTALL_DATADIR}/xmlhelper/translations")
 
-# Installs a library, its PUBLIC_HEADERs (absolute paths) below the name of its folder, and a CMake package of
-# its name, which finds everything that the library links: a client's linker follows its shared libraries.
+# Installs a library, its PUBLIC_HEADERs (absolute paths) below the name of its folder, and a CMake package of its name,
+# which finds everything that the library links: a client's linker follows its shared libraries.
 #
 #   xmlhelper_install_library(<target> [NAMESPACE <namespace::>] RUNTIME <component> DEVELOPMENT <component>)
 function(xmlhelper_install_library target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "NAMESPACE;RUNTIME;DEVELOPMENT" "")
     get_target_property(source_dir ${target} SOURCE_DIR)
     get_filename_component(folder "${source_dir}" NAME)
-    set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/${target}")
+    set(package "${target}${xmlhelper_name_suffix}")
+    set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/${package}")
 
     # A library finds its neighbours wherever the tree is moved to, and so does the linker of a client.
     if(UNIX AND NOT APPLE)
         set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
     endif()
-    install(TARGETS ${target} EXPORT ${target}Targets
+    install(TARGETS ${target} EXPORT ${package}Targets
         RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT ${arg_RUNTIME}
         LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
             COMPONENT ${arg_RUNTIME} NAMELINK_COMPONENT ${arg_DEVELOPMENT}
         ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT ${arg_DEVELOPMENT}
-        PUBLIC_HEADER DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${folder}" COMPONENT ${arg_DEVELOPMENT})
-    install(EXPORT ${target}Targets NAMESPACE "${arg_NAMESPACE}"
+        PUBLIC_HEADER DESTINATION "${xmlhelper_install_includedir}/${folder}" COMPONENT ${arg_DEVELOPMENT})
+    install(EXPORT ${package}Targets NAMESPACE "${arg_NAMESPACE}"
         DESTINATION "${package_dir}" COMPONENT ${arg_DEVELOPMENT})
 
     get_target_property(dependencies ${target} LINK_LIBRARIES)
     if(NOT dependencies)
         get_target_property(dependencies ${target} INTERFACE_LINK_LIBRARIES)
     endif()
+    xmlhelper_install_package_files(${target} ${package})
+    # The library is found by its own name too. The name of a folder must begin with it.
+    if(target STREQUAL "XMLHelper" AND NOT package STREQUAL target)
+        xmlhelper_install_package_files(${target} ${target})
+    endif()
+endfunction()
+
+# Installs what find_package() reads when it looks for a name. Variables of xmlhelper_install_library() are used.
+function(xmlhelper_install_package_files target name)
     set(required_qt "Qt${XMLHELPER_QT_MAJOR}")
     set(required_qt_components ${dependencies})
     list(FILTER required_qt_components INCLUDE REGEX "^${required_qt}::")
@@ -49,16 +59,20 @@ function(xmlhelper_install_library target)
     # Qt promises that what was built with one minor version runs with the later ones.
     string(REGEX MATCH "^[0-9]+\\.[0-9]+" required_qt_version "${${required_qt}_VERSION}")
 
+    math(EXPR other_qt "11 - ${XMLHELPER_QT_MAJOR}")
     set(translations "")
     if(target STREQUAL "XMLHelper")
-        set(translations "set(XMLHelper_TRANSLATIONS_DIR \"\${PACKAGE_PREFIX_DIR}/${xmlhelper_translations_dir}\")\n")
+        set(translations "set(${name}_TRANSLATIONS_DIR \"\${PACKAGE_PREFIX_DIR}/${xmlhelper_translations_dir}\")\n")
     endif()
-    set(config_dir "${PROJECT_BINARY_DIR}/package/${target}")
+    set(config "${PROJECT_BINARY_DIR}/package/${package}/${name}Config")
     configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/PackageConfig.cmake.in"
-        "${config_dir}/${target}Config.cmake" INSTALL_DESTINATION "${package_dir}")
-    write_basic_package_version_file("${config_dir}/${target}ConfigVersion.cmake"
+        "${config}.cmake" INSTALL_DESTINATION "${package_dir}")
+
+    write_basic_package_version_file("${config}Version.cmake"
         VERSION ${PROJECT_VERSION} COMPATIBILITY SameMajorVersion)
-    install(FILES "${config_dir}/${target}Config.cmake" "${config_dir}/${target}ConfigVersion.cmake"
+    file(READ "${config}Version.cmake" version_check)
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/PackageQtCheck.cmake.in" "${config}Version.cmake" @ONLY)
+    install(FILES "${config}.cmake" "${config}Version.cmake"
         DESTINATION "${package_dir}" COMPONENT ${arg_DEVELOPMENT})
 endfunction()
 
@@ -70,13 +84,14 @@ function(xmlhelper_install_pkg_config_file target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESCRIPTION;COMPONENT" "")
     get_target_property(requires ${target} INTERFACE_LINK_LIBRARIES)
     list(TRANSFORM requires TOLOWER REGEX "^[A-Za-z]+$")
+    list(TRANSFORM requires APPEND "${xmlhelper_lower_suffix}" REGEX "^[a-z]+$")
     list(TRANSFORM requires REPLACE "::" "")
     list(JOIN requires " " requires)
 
     get_target_property(type ${target} TYPE)
     set(libraries "")
     if(NOT type STREQUAL INTERFACE_LIBRARY)
-        set(libraries "-L\${libdir} -l${target}")
+        set(libraries " -L\${libdir} -l${target}${xmlhelper_name_suffix}")
     endif()
     set(flags "-I\${includedir}")
     if(UNIX)
@@ -89,7 +104,7 @@ function(xmlhelper_install_pkg_config_file target)
         set(variables "translationsdir=\${prefix}/${xmlhelper_translations_dir}\n")
     endif()
     string(TOLOWER "${target}" name)
-    set(file "${PROJECT_BINARY_DIR}/package/${name}.pc")
+    set(file "${PROJECT_BINARY_DIR}/package/${name}${xmlhelper_lower_suffix}.pc")
     configure_file("${PROJECT_SOURCE_DIR}/cmake/library.pc.in" "${file}" @ONLY)
     install(FILES "${file}" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT ${arg_COMPONENT})
 endfunction()

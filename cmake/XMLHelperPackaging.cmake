@@ -6,6 +6,8 @@
 #   xmlhelper-platform-dev platform_development: their headers, CMake packages and pkg-config files
 #   xmlhelper-tools        programs that fill reports: one for the command line, and the example application
 #
+# Those of a build on Qt 6 have -qt6 in their names, but for the tools, which are the same for everybody.
+#
 # The suite's own base libraries take the place of the stand-ins in a package that provides xmlhelper-platform-abi1, and
 # conflicts with it, as one package at a time may have files of these names; see docs/platform.md.
 #
@@ -51,18 +53,19 @@ set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/XMLHelperDropSearchPaths.cmake")
 
-set(runtime_package "libxmlhelper${PROJECT_VERSION_MAJOR}")
 if(XMLHELPER_QT_MAJOR EQUAL 6)
+    set(runtime_package "libxmlhelper-qt6-${PROJECT_VERSION_MAJOR}")    # a name that ends in a digit gets a dash
     set(qt_packages "qt6-base-dev, qt6-5compat-dev")
     set(qt_sql_drivers libqt6sql6)
 else()
+    set(runtime_package "libxmlhelper${PROJECT_VERSION_MAJOR}")
     set(qt_packages "qtbase5-dev")
     set(qt_sql_drivers libqt5sql5)
 endif()
 
 # The stand-ins by default, or what provides the same. The number is that of their sonames.
-set(platform_package "xmlhelper-platform")
-set(platform_abi "xmlhelper-platform-abi${PROJECT_VERSION_MAJOR}")
+set(platform_package "xmlhelper-platform${xmlhelper_lower_suffix}")
+set(platform_abi "${platform_package}-abi${PROJECT_VERSION_MAJOR}")
 set(platform_or_other "${platform_package} | ${platform_abi}")
 
 # What a package of libraries tells those that are linked with them: on what to depend. The loader's cache is dpkg's own
@@ -73,7 +76,7 @@ function(xmlhelper_package_libraries component)
     set(folder "${PROJECT_BINARY_DIR}/package/${component}")
     set(shlibs "")
     foreach(library IN LISTS arg_LIBRARIES)
-        string(APPEND shlibs "lib${library} ${PROJECT_VERSION_MAJOR} ${arg_DEPENDENCY}\n")
+        string(APPEND shlibs "lib${library}${xmlhelper_name_suffix} ${PROJECT_VERSION_MAJOR} ${arg_DEPENDENCY}\n")
     endforeach()
     file(WRITE "${folder}/shlibs" "${shlibs}")
     file(WRITE "${folder}/triggers" "activate-noawait ldconfig\n")
@@ -98,7 +101,7 @@ by an XSD schema, and writes measurement reports at the press of a button.
 
 This package contains the shared libraries.")
 
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libxmlhelper-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME "libxmlhelper${xmlhelper_lower_suffix}-dev")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS

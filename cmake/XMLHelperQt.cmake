@@ -1,7 +1,6 @@
 # Finds Qt and gives its parts names that stay the same on Qt 5 and Qt 6.
 #
 #   xmlhelper_qt_core, xmlhelper_qt_gui, xmlhelper_qt_widgets, xmlhelper_qt_xml, xmlhelper_qt_test
-#   xmlhelper_qt_core, xmlhelper_qt_widgets, xmlhelper_qt_xml, xmlhelper_qt_test
 #   xmlhelper_qt_sql, which is empty where Qt has no SQL module; the journal of reports is left out then
 #
 # The SAX classes live in QtXml on Qt 5 and in Core5Compat on Qt 6.
@@ -37,4 +36,18 @@ if(TARGET ${_qt}::Sql)
     set(xmlhelper_qt_sql ${_qt}::Sql)
 else()
     message(STATUS "The journal of reports is left out: it needs the SQL module of Qt.")
+endif()
+
+# What was built on Qt 6 has names of its own, so that both can be installed on one system and nobody links the wrong
+# one: libXMLHelperQt6, xmlhelper-qt6. The names of targets and headers stay; docs/versions.md tells clients.
+set(xmlhelper_name_suffix "")
+set(xmlhelper_lower_suffix "")
+if(XMLHELPER_QT_MAJOR EQUAL 6)
+    set(xmlhelper_name_suffix "Qt6")
+    set(xmlhelper_lower_suffix "-qt6")
+endif()
+include(GNUInstallDirs)
+set(xmlhelper_install_includedir "${CMAKE_INSTALL_INCLUDEDIR}")
+if(XMLHELPER_QT_MAJOR EQUAL 6)
+    string(APPEND xmlhelper_install_includedir "/xmlhelper${xmlhelper_lower_suffix}")
 endif()

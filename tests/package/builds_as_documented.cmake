@@ -1,5 +1,5 @@
 # The command lines of the pages build clients of the installed tree as they stand there, by CMake and by pkg-config,
-# and without a word from compiler and linker; the clients run.
+# and without a word from compiler and linker; the clients run. On Qt 6 pkg-config's files have other names.
 include("${CMAKE_CURRENT_LIST_DIR}/packagetest.cmake")
 
 # Takes the lines out of a page that begin with the given one and are set off as code.
@@ -15,6 +15,7 @@ function(take_lines variable page first_line)
     string(REGEX MATCH "^(\n    [^\n]*)+" lines "${text}")
     string(REPLACE "\n    " "\n" lines "${lines}")
     string(REPLACE "xmlhelper/lib" "xmlhelper/${LIBDIR}" lines "${lines}")
+    string(REGEX REPLACE "(--libs [a-z]+)" "\\1${LOWER_SUFFIX}" lines "${lines}")
     set(${variable} "${lines}\n" PARENT_SCOPE)
 endfunction()
 
@@ -27,7 +28,7 @@ function(follow lines)
 endfunction()
 
 set(ENV{PKG_CONFIG_PATH} "${PREFIX}/${LIBDIR}/pkgconfig")
-run(OUTPUT version COMMAND "${PKG_CONFIG}" --modversion xmlhelper)
+run(OUTPUT version COMMAND "${PKG_CONFIG}" --modversion xmlhelper${LOWER_SUFFIX})
 expect_output("${version}" "${VERSION}")
 
 file(COPY "${SOURCE_DIR}/examples/firststeps/main.cpp" "${SOURCE_DIR}/examples/firststeps/fill.cpp"
@@ -66,7 +67,7 @@ take_lines(lines docs/report-panel.md "c++ main.cpp ")
 follow("${lines}")
 
 # The catalogues lie where pkg-config says.
-run(OUTPUT folder COMMAND "${PKG_CONFIG}" --variable=translationsdir xmlhelper)
+run(OUTPUT folder COMMAND "${PKG_CONFIG}" --variable=translationsdir xmlhelper${LOWER_SUFFIX})
 string(STRIP "${folder}" folder)
 foreach(catalogue IN LISTS LIBRARY_CATALOGUES)
     if(NOT EXISTS "${folder}/${catalogue}")

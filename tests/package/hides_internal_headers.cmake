@@ -3,7 +3,7 @@
 include("${CMAKE_CURRENT_LIST_DIR}/packagetest.cmake")
 
 set(ENV{PKG_CONFIG_PATH} "${PREFIX}/${LIBDIR}/pkgconfig")
-run(OUTPUT cflags COMMAND "${PKG_CONFIG}" --cflags xmlhelper)
+run(OUTPUT cflags COMMAND "${PKG_CONFIG}" --cflags xmlhelper${LOWER_SUFFIX})
 string(REPLACE "-I/usr/" "-isystem/usr/" cflags "${cflags}") # Qt's own headers may give warnings.
 separate_arguments(cflags UNIX_COMMAND "${cflags}")
 separate_arguments(flags UNIX_COMMAND "${FLAGS}")

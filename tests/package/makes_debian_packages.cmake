@@ -60,43 +60,45 @@ function(expect_package name)
     endforeach()
 endfunction()
 
-set(runtime libxmlhelper${VERSION_MAJOR})
 string(REPLACE "." "\\." version "${VERSION}")
+set(platform xmlhelper-platform${LOWER_SUFFIX})
 if(QT_MAJOR EQUAL 6)
+    set(runtime libxmlhelper-qt6-${VERSION_MAJOR})
     set(qt_dev "qt6-base-dev, qt6-5compat-dev")
     set(qt_core libqt6core6)
 else()
+    set(runtime libxmlhelper${VERSION_MAJOR})
     set(qt_dev "qtbase5-dev")
     set(qt_core libqt5core5a)
 endif()
 
 expect_package(${runtime} FILES runtime_files
-    DEPENDS "${qt_core} \\(>=" "libc6 \\(>=" "xmlhelper-platform \\| xmlhelper-platform-abi${VERSION_MAJOR}")
-expect_package(libxmlhelper-dev FILES development_files DEPENDS "${runtime} \\(= ${version}\\)" "${qt_dev}"
-    "xmlhelper-platform-dev \\| xmlhelper-platform-abi${VERSION_MAJOR}-dev")
-expect_package(xmlhelper-platform FILES platform_files DEPENDS "${qt_core} \\(>=" "libc6 \\(>=")
-expect_package(xmlhelper-platform-dev FILES platform_development_files
-    DEPENDS "xmlhelper-platform \\(= ${version}\\)" "${qt_dev}")
+    DEPENDS "${qt_core} \\(>=" "libc6 \\(>=" "${platform} \\| ${platform}-abi${VERSION_MAJOR}")
+expect_package(libxmlhelper${LOWER_SUFFIX}-dev FILES development_files DEPENDS "${runtime} \\(= ${version}\\)" "${qt_dev}"
+    "${platform}-dev \\| ${platform}-abi${VERSION_MAJOR}-dev")
+expect_package(${platform} FILES platform_files DEPENDS "${qt_core} \\(>=" "libc6 \\(>=")
+expect_package(${platform}-dev FILES platform_development_files
+    DEPENDS "${platform} \\(= ${version}\\)" "${qt_dev}")
 foreach(suffix IN ITEMS "" -dev)
-    file(GLOB package "${WORK_DIR}/xmlhelper-platform${suffix}_${VERSION}_*.deb")
+    file(GLOB package "${WORK_DIR}/${platform}${suffix}_${VERSION}_*.deb")
     foreach(field IN ITEMS Provides Conflicts Replaces)
-        expect_field("${package}" ${field} "^xmlhelper-platform-abi${VERSION_MAJOR}${suffix}$")
+        expect_field("${package}" ${field} "^${platform}-abi${VERSION_MAJOR}${suffix}$")
     endforeach()
 endforeach()
 
 # What is linked with these libraries depends on their packages.
 set(shlibs "")
 foreach(library IN ITEMS XMLHelper XMLHelperReports XMLHelperReportWidgets)
-    string(APPEND shlibs "lib${library} ${VERSION_MAJOR} ${runtime} (>= ${VERSION})\n")
+    string(APPEND shlibs "lib${library}${NAME_SUFFIX} ${VERSION_MAJOR} ${runtime} (>= ${VERSION})\n")
 endforeach()
 expect_control(${runtime} shlibs "${shlibs}")
 set(shlibs "")
 foreach(library IN ITEMS ARBase ValueFramework GuiBase BasicValueWidgets VornAppStartUp)
     string(APPEND shlibs
-        "lib${library} ${VERSION_MAJOR} xmlhelper-platform | xmlhelper-platform-abi${VERSION_MAJOR}\n")
+        "lib${library}${NAME_SUFFIX} ${VERSION_MAJOR} ${platform} | ${platform}-abi${VERSION_MAJOR}\n")
 endforeach()
-expect_control(xmlhelper-platform shlibs "${shlibs}")
-foreach(name IN ITEMS ${runtime} xmlhelper-platform)
+expect_control(${platform} shlibs "${shlibs}")
+foreach(name IN ITEMS ${runtime} ${platform})
     expect_control(${name} triggers "activate-noawait ldconfig\n")
 endforeach()
 
@@ -136,7 +138,7 @@ if(HAS_TOOLS)
 
     # The panel is started by its link and makes a report by the schema that comes with it.
     file(MAKE_DIRECTORY "${WORK_DIR}/reports")
-    set(ENV{LD_LIBRARY_PATH} "${WORK_DIR}/${runtime}/usr/${LIBDIR}:${WORK_DIR}/xmlhelper-platform/usr/${LIBDIR}")
+    set(ENV{LD_LIBRARY_PATH} "${WORK_DIR}/${runtime}/usr/${LIBDIR}:${WORK_DIR}/${platform}/usr/${LIBDIR}")
     run(COMMAND "${WORK_DIR}/xmlhelper-tools/usr/bin/measurementpanel" --press 1 --reports "${WORK_DIR}/reports")
     file(GLOB reports "${WORK_DIR}/reports/*.xml")
     if(NOT reports)

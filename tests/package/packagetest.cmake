@@ -89,7 +89,30 @@ function(list_files variable folder)
     list(TRANSFORM files REPLACE "Targets-${config}\\.cmake$" "Targets-<config>.cmake")
     list(TRANSFORM files REPLACE "\\.so\\.${VERSION}$" ".so.<version>")
     list(TRANSFORM files REPLACE "\\.so\\.${VERSION_MAJOR}$" ".so.<major>")
+    if(QT_MAJOR EQUAL 6)
+        take_names_of_qt6(files)
+    endif()
     set(${variable} "${files}" PARENT_SCOPE)
+endfunction()
+
+# Gives the files of a library the names that they have on Qt 5. All must have others on Qt 6, so that both can lie side
+# by side; one that has not is marked.
+function(take_names_of_qt6 variable)
+    set(renamed "")
+    foreach(file IN LISTS ${variable})
+        if(file MATCHES "cmake/XMLHelperQt6/XMLHelperConfig")    # the library is found by both names
+            continue()
+        endif()
+        string(REGEX REPLACE "include/xmlhelper-qt6/" "include/" name "${file}")
+        string(REGEX REPLACE "cmake/([A-Za-z]+)Qt6/([A-Za-z]+)Qt6" "cmake/\\1/\\2" name "${name}")
+        string(REGEX REPLACE "([A-Za-z]+)Qt6(\\.so|\\.dll)" "\\1\\2" name "${name}")
+        string(REPLACE "-qt6.pc" ".pc" name "${name}")
+        if(name STREQUAL file AND file MATCHES "^(usr/)?(include|<libdir>)/|\\.dll$")
+            string(APPEND name " (has the name of Qt 5)")
+        endif()
+        list(APPEND renamed "${name}")
+    endforeach()
+    set(${variable} "${renamed}" PARENT_SCOPE)
 endfunction()
 
 # Checks that a list of installed files has the companion programs that are built, with their man pages and translations,

@@ -2,7 +2,7 @@
 # not look for one, and the traces of the library arrive at the host.
 include("${CMAKE_CURRENT_LIST_DIR}/packagetest.cmake")
 
-configure_client(findpackage -D "XMLHelper_DIR=${PREFIX}/${LIBDIR}/cmake/XMLHelper"
+configure_client(findpackage -D "XMLHelper_DIR=${PACKAGE_DIR}"
     -D "EXPECTED_VERSION=${VERSION}" -D "EXPECTED_MAJOR=${VERSION_MAJOR}" -D HOST_HAS_ARBASE=ON)
 build_and_run_client(
     "host trace: the client's own"
