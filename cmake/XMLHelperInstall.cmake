@@ -1,9 +1,9 @@
 # The install rules: the libraries with their client headers, and what find_package() and pkg-config find them by.
-# The components: runtime; development, with the companion programs; platform and platform_development, the stand-ins for
-# the suite's base libraries; and the tools, which are installed only by name:
+# The components: runtime and development; platform and platform_development, the stand-ins for the suite's base
+# libraries; tools, the companion programs; translations; and examples, which are installed only by name:
 #
 #   cmake --install <build> --prefix <folder>
-#   cmake --install <build> --prefix <folder> --component tools
+#   cmake --install <build> --prefix <folder> --component examples
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -109,49 +109,62 @@ function(xmlhelper_install_pkg_config_file target)
     install(FILES "${file}" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT ${arg_COMPONENT})
 endfunction()
 
-# Installs a program, with its man page man/<target>.1 if it has one, that looks for its FILES beside itself. Those have no place among the programs of a Unix system:
+# Installs what stands beside the sources of a program: its man page, man/<target>.1, and for one with windows its entry
+# in menus and its description for software centres. What completes its options in a shell is the same for all.
+#
+#   xmlhelper_install_program_files(<target> <component> [EXCLUDE_FROM_ALL])
+function(xmlhelper_install_program_files target component)
+    get_target_property(source_dir ${target} SOURCE_DIR)
+    install(FILES "${source_dir}/man/${target}.1"
+        DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT ${component} ${ARGN})
+    if(NOT UNIX OR APPLE)
+        return()
+    endif()
+    if(EXISTS "${source_dir}/${target}.desktop")
+        install(FILES "${source_dir}/${target}.desktop"
+            DESTINATION "${CMAKE_INSTALL_DATADIR}/applications" COMPONENT ${component} ${ARGN})
+        install(FILES "${source_dir}/${target}.metainfo.xml"
+            DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo" COMPONENT ${component} ${ARGN})
+    endif()
+    install(FILES "${PROJECT_SOURCE_DIR}/cmake/completion.bash" RENAME ${target}
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" COMPONENT ${component} ${ARGN})
+endfunction()
+
+# Installs an example that looks for its FILES beside itself. Those have no place among the programs of a Unix system:
 # there both stand in a folder of their own, and a link leads to the program.
 #
-#   xmlhelper_install_tool(<target> [FILES <file>...])
-function(xmlhelper_install_tool target)
+#   xmlhelper_install_example(<target> FILES <file>...)
+function(xmlhelper_install_example target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FILES")
     set(folder "${CMAKE_INSTALL_BINDIR}")
-    if(UNIX AND arg_FILES)
+    if(UNIX)
         set(folder "${CMAKE_INSTALL_LIBEXECDIR}/xmlhelper")
         file(RELATIVE_PATH program "/${CMAKE_INSTALL_BINDIR}" "/${folder}/${target}")
         set(link "${PROJECT_BINARY_DIR}/package/links/${target}")
         file(MAKE_DIRECTORY "${PROJECT_BINARY_DIR}/package/links")
         file(CREATE_LINK "${program}" "${link}" SYMBOLIC)
-        install(PROGRAMS "${link}" DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tools EXCLUDE_FROM_ALL)
+        install(PROGRAMS "${link}" DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT examples EXCLUDE_FROM_ALL)
     endif()
-
     if(UNIX AND NOT APPLE)
         file(RELATIVE_PATH libraries "/${folder}" "/${CMAKE_INSTALL_LIBDIR}")
         set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries}")
     endif()
-    install(TARGETS ${target} RUNTIME DESTINATION "${folder}" COMPONENT tools EXCLUDE_FROM_ALL)
-    install(FILES ${arg_FILES} DESTINATION "${folder}" COMPONENT tools EXCLUDE_FROM_ALL)
-    get_target_property(source_dir ${target} SOURCE_DIR)
-    if(EXISTS "${source_dir}/man/${target}.1")
-        install(FILES "${source_dir}/man/${target}.1"
-            DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT tools EXCLUDE_FROM_ALL)
-    endif()
+    install(TARGETS ${target} RUNTIME DESTINATION "${folder}" COMPONENT examples EXCLUDE_FROM_ALL)
+    install(FILES ${arg_FILES} DESTINATION "${folder}" COMPONENT examples EXCLUDE_FROM_ALL)
+    xmlhelper_install_program_files(${target} examples EXCLUDE_FROM_ALL)
 endfunction()
 
-# Installs a companion program, its translations and its man page, man/<target>.1 beside its sources, for the people who write schemas and
-# reports: with the development files.
+# Installs a companion program and its translations.
 function(xmlhelper_install_app target)
     if(UNIX AND NOT APPLE)
         file(RELATIVE_PATH libraries "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
         set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries}")
     endif()
-    get_target_property(source_dir ${target} SOURCE_DIR)
-    install(TARGETS ${target} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT development)
-    install(FILES "${source_dir}/man/${target}.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT development)
+    install(TARGETS ${target} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tools)
+    xmlhelper_install_program_files(${target} tools)
     get_target_property(catalogues ${target} XMLHELPER_CATALOGUES)
     if(catalogues)
-        install(FILES ${catalogues}
-            DESTINATION "${xmlhelper_translations_dir}" COMPONENT development)
+        install(FILES ${catalogues} DESTINATION "${xmlhelper_translations_dir}" COMPONENT translations)
     endif()
 endfunction()
 
@@ -183,21 +196,16 @@ xmlhelper_install_pkg_config_file(XMLHelperReportWidgets
 if(TARGET xmlhelper_translations)
     get_target_property(catalogues xmlhelper_translations XMLHELPER_CATALOGUES)
     list(FILTER catalogues INCLUDE REGEX "/XMLHelper(ReportWidgets)?_[a-z]+\\.qm$")
-    install(FILES ${catalogues} DESTINATION "${xmlhelper_translations_dir}" COMPONENT development)
+    install(FILES ${catalogues} DESTINATION "${xmlhelper_translations_dir}" COMPONENT translations)
 endif()
 
-foreach(app IN ITEMS xmlhelper-report xmlhelper-schema)
+foreach(app IN ITEMS xmlhelper-fill xmlhelper-journal xmlhelper-report xmlhelper-schema)
     if(TARGET ${app})
         xmlhelper_install_app(${app})
-    endif()
-endforeach()
-foreach(tool IN ITEMS xmlhelper-fill xmlhelper-journal)
-    if(TARGET ${tool})
-        xmlhelper_install_tool(${tool})
     endif()
 endforeach()
 if(TARGET measurementpanel)
     get_target_property(panel_dir measurementpanel SOURCE_DIR)
     file(GLOB panel_schemas CONFIGURE_DEPENDS "${panel_dir}/*.xsd")
-    xmlhelper_install_tool(measurementpanel FILES ${panel_schemas})
+    xmlhelper_install_example(measurementpanel FILES ${panel_schemas})
 endif()

@@ -1,12 +1,14 @@
 # The packages that cpack makes, on Debian one for each component:
 #
 #   libxmlhelper1          runtime: the libraries
-#   libxmlhelper-dev       development: headers, CMake packages, pkg-config, and the companion programs
+#   libxmlhelper-dev       development: headers, CMake packages, pkg-config
 #   xmlhelper-platform     platform: the stand-ins for the suite's base libraries
 #   xmlhelper-platform-dev platform_development: their headers, CMake packages and pkg-config files
-#   xmlhelper-tools        programs that fill reports: one for the command line, and the example application
+#   xmlhelper-tools        tools: the companion programs
+#   xmlhelper-l10n         translations: what libraries and programs say in other languages
+#   xmlhelper-examples     examples: the example application
 #
-# Those of a build on Qt 6 have -qt6 in their names, but for the tools, which are the same for everybody.
+# Those of a build on Qt 6 have -qt6 in their names, but for the last three, which serve both.
 #
 # The suite's own base libraries take the place of the stand-ins in a package that provides xmlhelper-platform-abi1, and
 # conflicts with it, as one package at a time may have files of these names; see docs/platform.md.
@@ -30,8 +32,14 @@ set(CPACK_COMPONENTS_ALL runtime development)
 if(stand_ins)
     list(APPEND CPACK_COMPONENTS_ALL platform platform_development)
 endif()
-if(TARGET xmlhelper-fill OR TARGET measurementpanel)
+if(TARGET xmlhelper-fill)
     list(APPEND CPACK_COMPONENTS_ALL tools)
+endif()
+if(TARGET xmlhelper_translations)
+    list(APPEND CPACK_COMPONENTS_ALL translations)
+endif()
+if(TARGET measurementpanel)
+    list(APPEND CPACK_COMPONENTS_ALL examples)
 endif()
 
 find_program(XMLHELPER_DPKG_DEB dpkg-deb)
@@ -103,7 +111,7 @@ This package contains the shared libraries.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME "libxmlhelper${xmlhelper_lower_suffix}-dev")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_RECOMMENDS xmlhelper-l10n)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "${runtime_package} (= ${PROJECT_VERSION}), ${platform_package}-dev | ${platform_abi}-dev, ${qt_packages}")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
@@ -111,8 +119,8 @@ set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
 XMLHelper reads XML as a stream of events, writes XML files, fills documents
 by an XSD schema, and writes measurement reports at the press of a button.
 
-This package contains the headers, the CMake packages and the pkg-config file,
-and the companion programs for the authors of schemas and reports.")
+This package contains the headers, the CMake packages and the pkg-config
+files.")
 
 set(platform_description
 "The library and its programs stand on five base libraries: traces and clock, the
@@ -148,12 +156,31 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME xmlhelper-tools)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION}), ${platform_or_other}")
+set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS xmlhelper-l10n)
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION
-"XML and measurement reports on Qt: tools
-The program xmlhelper-fill fills a report from the command line, under the
-rules of an XSD schema. The program xmlhelper-journal looks into the journal of
-reports. The program measurementpanel is a measurement screen with a report
-button, on simulated values.")
+"XML and measurement reports on Qt: programs for reports and schemas
+The program xmlhelper-schema shows how a schema is understood and mends it,
+xmlhelper-report says what a finished report lacks, xmlhelper-fill fills one
+from the command line, and xmlhelper-journal looks into the journal of reports.")
+
+set(CPACK_DEBIAN_TRANSLATIONS_PACKAGE_NAME xmlhelper-l10n)
+set(CPACK_DEBIAN_TRANSLATIONS_PACKAGE_SECTION localization)
+set(CPACK_DEBIAN_TRANSLATIONS_PACKAGE_ARCHITECTURE all)
+set(CPACK_COMPONENT_TRANSLATIONS_DESCRIPTION
+"XML and measurement reports on Qt: translations
+XMLHelper reads XML as a stream of events, writes XML files, fills documents
+by an XSD schema, and writes measurement reports at the press of a button.
+
+This package contains the German and French texts of libraries and programs.")
+
+set(CPACK_DEBIAN_EXAMPLES_PACKAGE_NAME xmlhelper-examples)
+set(CPACK_DEBIAN_EXAMPLES_PACKAGE_SECTION misc)
+set(CPACK_DEBIAN_EXAMPLES_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_EXAMPLES_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION}), ${platform_or_other}")
+set(CPACK_COMPONENT_EXAMPLES_DESCRIPTION
+"XML and measurement reports on Qt: example application
+The program measurementpanel is a measurement screen with a report button, on
+simulated values.")
 
 # Where the libraries of one package lie while another is looked at for what it needs.
 foreach(library IN ITEMS XMLHelper XMLHelperReports XMLHelperReportWidgets ${stand_ins})

@@ -115,14 +115,21 @@ function(take_names_of_qt6 variable)
     set(${variable} "${renamed}" PARENT_SCOPE)
 endfunction()
 
-# Checks that a list of installed files has the companion programs that are built, with their man pages and translations,
-# and takes them out of it.
+# Checks that a list of installed files has the companion programs that are built, with their man pages, what completes
+# their options, entries in menus and translations, and takes them out of it.
 #   take_apps(<variable>)
 function(take_apps variable)
     set(expected ${APP_TRANSLATIONS})
     list(TRANSFORM expected PREPEND "share/xmlhelper/translations/")
     foreach(app IN LISTS APPS)
-        list(APPEND expected "bin/${app}" "share/man/man1/${app}.1")
+        if(IS_WINDOWS)
+            list(APPEND expected "bin/${app}.exe" "share/man/man1/${app}.1")
+            continue()
+        endif()
+        list(APPEND expected "bin/${app}" "share/man/man1/${app}.1" "share/bash-completion/completions/${app}")
+        if(app STREQUAL "xmlhelper-schema")
+            list(APPEND expected "share/applications/${app}.desktop" "share/metainfo/${app}.metainfo.xml")
+        endif()
     endforeach()
     foreach(file IN LISTS expected)
         if(NOT file IN_LIST ${variable})
