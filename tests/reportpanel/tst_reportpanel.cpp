@@ -294,6 +294,18 @@ void TestReportPanel::tellsEveryState_data()
         },
         signOf(State::Written, QStringLiteral("fault")), "Report a.xml is written, but its schema was not understood.",
         "Reason: no root is left.", open);
+    row(
+        "schema-that-spoils-the-file",
+        [](Desk& desk) {
+            const quint64 report = desk.station.Begin(desk.PathOf("a.xml"));
+            Q_EMIT ReportNews::Instance().SchemaRead(report, false, QStringLiteral("it ends too early"));
+            desk.station.Write(report, desk.PathOf("a.xml"), "<?xml version='1.0'?>");
+            const auto isRead = [&] { return desk.station.StateOf(report) == State::NotWellFormed; };
+            return QTest::qWaitFor(isRead) ? report : 0;
+        },
+        signOf(State::NotWellFormed, QStringLiteral("fault")),
+        "Report a.xml is written, but its schema was not understood.",
+        "Reason: it ends too early. Have the schema mended", open);
     row("gone",
         [](Desk& desk) {
             const quint64 report = desk.Write("a.xml");

@@ -64,7 +64,7 @@ constexpr std::array<StateWords, 13> words {{
      QT_TRANSLATE_NOOP("ReportWords", "Report %1 is not saved: it was discarded."), ""},
 }};
 
-/// Of one that was written without its schema: the file is there, and may lack anything.
+/// Of one that was written without its schema: the file is there, and may lack anything, even its root.
 constexpr StateWords withoutSchema {
     ReportState::Written,
     "§",
@@ -74,9 +74,16 @@ constexpr StateWords withoutSchema {
     QT_TRANSLATE_NOOP("ReportWords", "Have the schema mended, and make the report again."),
 };
 
+/// Whether the schema is what has to be mended: the disk is not to blame for a file that a schema has spoiled.
+bool isSchemaToBlame(const ReportSupervisor::Verdict& verdict)
+{
+    const bool isThere = verdict.state == ReportState::Written || verdict.state == ReportState::NotWellFormed;
+    return isThere && !verdict.schemaFault.isEmpty();
+}
+
 const StateWords& wordsOf(const ReportSupervisor::Verdict& verdict)
 {
-    if (verdict.state == ReportState::Written && !verdict.schemaFault.isEmpty()) {
+    if (isSchemaToBlame(verdict)) {
         return withoutSchema;
     }
     const auto isIt = [&verdict](const StateWords& entry) { return entry.state == verdict.state; };
@@ -95,8 +102,7 @@ QString reasonOf(const ReportSupervisor::Verdict& verdict)
     if (verdict.state == ReportState::Closed) {
         return {};
     }
-    const bool isOfSchema = verdict.reason.isEmpty() && verdict.state == ReportState::Written;
-    const QString reason = isOfSchema ? verdict.schemaFault : verdict.reason;
+    const QString reason = isSchemaToBlame(verdict) ? verdict.schemaFault : verdict.reason;
     return reason.endsWith(QLatin1Char('.')) ? reason.chopped(1) : reason; // whoever's words they are
 }
 
