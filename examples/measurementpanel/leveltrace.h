@@ -1,57 +1,42 @@
 #ifndef MEASUREMENTPANEL_LEVELTRACE_H
 #define MEASUREMENTPANEL_LEVELTRACE_H
 
-#include <vector>
-
+#include <QPainter>
 #include <QWidget>
 
-#include "reportitems.h"
+#include "simulatedreceiver.h"
 
-class QCPGraph;
-class QCPItemText;
-class QCPItemTracer;
-class QCustomPlot;
-
-/// A small live picture of the level over the frequency, with a marker on what a press would report.
-///
-/// The marker's text is made of the values as the report writes them, with the report's units, which are those of the
-/// axes too; numbers have a decimal point in every language, because the report's have.
+/// A small live picture of the level, from -20 to 80 dBµV: the latest measurements, the last one at the right.
 class LevelTrace : public QWidget
 {
-    Q_OBJECT
-
 public:
-    explicit LevelTrace(QWidget* parent = nullptr);
-    ~LevelTrace() override;
-
-    /// @param frequencies  in the unit of @p frequency, ascending; one level for each
-    /// @param frequency    what a press would report, where the marker stands
-    void Show(const std::vector<double>& frequencies, const std::vector<double>& levels, const ReportedValue& frequency,
-              const ReportedValue& level);
-
-    QString GetMarkerText() const;
-    /// Where the marker stands, in the units of the axes.
-    QPointF GetMarkerPosition() const;
-
-    /// Says everything again, in the language of now.
-    void Translate();
+    explicit LevelTrace(const SimulatedReceiver& receiver)
+    {
+        connect(&receiver, &SimulatedReceiver::Measured, this, [this, &receiver] {
+            m_levels.prepend(receiver.GetLevels().back());
+            m_levels = m_levels.mid(0, 120);
+            update();
+        });
+    }
 
 protected:
-    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        QPolygonF trace;
+        double x = width();
+        for (const double level : std::as_const(m_levels)) {
+            trace.append(QPointF(x, height() * (80.0 - level) / 100.0));
+            x -= width() / 119.0;
+        }
+        painter.fillRect(rect(), palette().base());
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(palette().highlight(), 2));
+        painter.drawPolyline(trace);
+    }
 
 private:
-    Q_DISABLE_COPY(LevelTrace)
-
-    void useColours();
-
-    QString m_sFrequencyUnit;
-    QString m_sLevelUnit;
-
-    // The plot is a child of this widget, and owns the rest.
-    QCustomPlot* m_pPlot;
-    QCPGraph* m_pTrace;
-    QCPItemTracer* m_pMarker;
-    QCPItemText* m_pMarkerText;
+    QVector<double> m_levels;
 };
 
 #endif

@@ -1,117 +1,86 @@
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
 #include <QHashFunctions>
+#include <QStandardPaths>
 #include <QTextStream>
+#include <QThread>
+#include <QToolButton>
 
-#include "commandline.h"
-#include "languages.h"
-#include "measurementtree.h"
-#include "operator.h"
-#include "panelsettings.h"
+#include <xmlhelper/reportnews.h>
+
 #include "panelwindow.h"
-#include "simulatedreceiver.h"
 
 namespace {
 
-enum ExitCode { Success = 0, Failure = 1, WrongUsage = 2 };
-
-/// Qt writes the attributes of an element in the order of a hash: with this, the same report is the same text in every
-/// run. An application may do so; a library may not.
-void useFixedHashSeed()
+/// Among the user's documents, and made when it is missing, so that the first press finds it.
+QString firstReportDirectory()
 {
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    qSetGlobalQHashSeed(0);
-#else
-    QHashSeed::setDeterministicGlobalSeed();
-#endif
+    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    documents.mkpath(QStringLiteral("Measurement Reports"));
+    return documents.filePath(QStringLiteral("Measurement Reports"));
 }
 
-bool isWithoutScreen()
+/// Presses the button on one channel after the other, and prints where the reports are. Stops at one that is not good.
+bool press(int times, const PanelWindow& window, const ReportSupervisor& supervisor, SimulatedReceiver& receiver)
 {
-#ifdef Q_OS_LINUX
-    return qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
-        && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
-#else
-    return false;
-#endif
-}
-
-/// Lies beside the program.
-QString ownSchema()
-{
-    return QStringLiteral("measurementreport.xsd");
-}
-
-int refuse(const QString& reason, const QString& help)
-{
-    QTextStream(stderr) << reason << "\n\n" << help;
-    return WrongUsage;
-}
-
-/// What the robot does depends on nothing but its command line: it speaks English unless told otherwise.
-int workByItself(const CommandLine& commandLine, Languages& languages)
-{
-    languages.Use(commandLine.language.value_or(QString()));
-    const MeasurementTree tree;
-    SimulatedReceiver receiver(tree);
-    PanelWindow window(tree, receiver, commandLine.schema.value_or(ownSchema()), *commandLine.reportDirectory);
-    Operator robot(window, receiver, {commandLine.presses, commandLine.comment, commandLine.screenshot});
-    return robot.Work() ? Success : Failure;
-}
-
-/// The command line goes before what the operator has chosen last, for this session.
-int serveOperator(const CommandLine& commandLine, Languages& languages)
-{
-    PanelSettings settings(commandLine.settings.value_or(PanelSettings::DefaultFile()));
-    const auto chosen = [](const QString& remembered, const QString& otherwise) {
-        return remembered.isEmpty() ? otherwise : remembered;
-    };
-    languages.Use(commandLine.language.value_or(chosen(settings.GetLanguage(), languages.OfSystem())));
-
-    const MeasurementTree tree;
-    SimulatedReceiver receiver(tree);
-    QString directory = commandLine.reportDirectory.value_or(settings.GetReportDirectory());
-    if (directory.isEmpty()) {
-        directory = PanelSettings::DefaultReportDirectory();
+    window.findChild<VCReporting*>()->SetShowCommentDialog(false);
+    quint64 report = 0;
+    const QObject listener;
+    QObject::connect(&ReportNews::Instance(), &ReportNews::Begun, &listener, [&](quint64 number) { report = number; });
+    for (; times > 0; --times, report = 0) {
+        QThread::msleep(1); // reports are named after the millisecond
+        window.findChild<VCReporting*>()->GetReportButton()->click();
+        const ReportSupervisor::Verdict verdict = supervisor.GetReport(report);
+        if (verdict.state != ReportSupervisor::State::Written || !verdict.schemaFault.isEmpty()) {
+            QTextStream(stderr) << PanelWindow::tr("No report is made.") << ' ' << verdict.schemaFault << verdict.reason
+                                << '\n';
+            return false;
+        }
+        QTextStream(stdout) << QDir::toNativeSeparators(verdict.fileName) << '\n';
+        receiver.MeasureNextChannel();
     }
-    PanelWindow window(tree, receiver, commandLine.schema.value_or(chosen(settings.GetSchema(), ownSchema())),
-                       directory);
-    window.AskForComment(settings.GetAskForComment());
-    window.OfferLanguages(languages);
-    window.Remember(settings);
-    receiver.Start();
-    window.show();
-    return QApplication::exec();
+    return true;
 }
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    useFixedHashSeed();
-    const bool isOffscreen = isWithoutScreen();
-    if (isOffscreen) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+    // So that attributes have the same order in every run. An application may do so; a library may not.
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // else the button's picture is coarse on fine screens
+    qSetGlobalQHashSeed(0);
+#else
+    QHashSeed::setDeterministicGlobalSeed();
 #endif
     QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("measurementpanel"));
-    QApplication::setStyle(QStringLiteral("Fusion"));
-
-    Languages languages(QDir(QApplication::applicationDirPath()).filePath(QStringLiteral("translations")));
-    languages.Use(languages.OfSystem());
-    const CommandLine commandLine = readCommandLine(QApplication::arguments());
-    if (commandLine.isHelpWanted) {
-        QTextStream(stdout) << commandLine.help;
-        return Success;
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    parser.addOptions({{QStringLiteral("press"), QStringLiteral("Press the button and end."), QStringLiteral("times")},
+                       {QStringLiteral("reports"), QStringLiteral("Where reports go."), QStringLiteral("directory")},
+                       {QStringLiteral("schema"), QStringLiteral("What reports look like."), QStringLiteral("file")},
+                       {QStringLiteral("language"), QStringLiteral("Such as de."), QStringLiteral("code")}});
+    parser.process(application);
+    QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("measurementpanel"));
+    const auto chosen = [&](const QString& name) {
+        return parser.isSet(name) ? parser.value(name) : settings.value(name).toString();
+    };
+    PanelWindow::Speak(chosen(QStringLiteral("language")));
+    const QString schema = chosen(QStringLiteral("schema"));
+    const QString reports = chosen(QStringLiteral("reports"));
+    SimulatedReceiver receiver;
+    ReportSupervisor supervisor;
+    if (parser.isSet(QStringLiteral("press"))) {
+        supervisor.SetEmergencyFolder(QString()); // whoever has started this sees at once what is not written
     }
-    if (!commandLine.fault.isEmpty()) {
-        return refuse(commandLine.fault, commandLine.help);
+    PanelWindow window(receiver, supervisor, settings,
+                       schema.isEmpty() ? QApplication::applicationDirPath() + QStringLiteral("/measurementreport.xsd")
+                                        : QFileInfo(schema).absoluteFilePath(),
+                       reports.isEmpty() ? firstReportDirectory() : QFileInfo(reports).absoluteFilePath());
+    window.show();
+    if (!parser.isSet(QStringLiteral("press"))) {
+        receiver.Start();
+        return QApplication::exec();
     }
-    if (isOffscreen && commandLine.presses == 0) {
-        return refuse(QCoreApplication::translate("CommandLine", "There is no screen; use --press."), commandLine.help);
-    }
-    return commandLine.presses > 0 ? workByItself(commandLine, languages) : serveOperator(commandLine, languages);
+    return press(parser.value(QStringLiteral("press")).toInt(), window, supervisor, receiver) ? 0 : 1;
 }

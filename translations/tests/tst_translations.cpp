@@ -239,32 +239,33 @@ void TestTranslations::theRegistryLoadsEveryLanguage_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("verdict");
+    QTest::addColumn<QString>("value");
 
     QTest::newRow("german") << "de"
                             << "Bericht erstellen (Shift+F10)"
-                            << "geschrieben";
+                            << "keine Peilung";
     QTest::newRow("german-of-austria") << "de_AT"
                                        << "Bericht erstellen (Shift+F10)"
-                                       << "geschrieben";
-    QTest::newRow("french") << "fr" << QStringLiteral("Créer un rapport (Shift+F10)") << QStringLiteral("écrit");
+                                       << "keine Peilung";
+    QTest::newRow("french") << "fr" << QStringLiteral("Créer un rapport (Shift+F10)")
+                            << QStringLiteral("pas de relèvement");
     QTest::newRow("english") << "en"
                              << "To Report (Shift+F10)"
-                             << "written";
+                             << "no bearing";
 }
 
 void TestTranslations::theRegistryLoadsEveryLanguage()
 {
     QFETCH(QString, language);
     QFETCH(QString, button);
-    QFETCH(QString, verdict);
+    QFETCH(QString, value);
     TranslationCenter& center = TranslationCenter::Instance();
     center.Register(QStringLiteral("XMLHelper"));
     center.Register(QStringLiteral("MeasurementPanel"));
 
     QCOMPARE(center.InstallTranslators(QLocale(language), compiled), 2);
     QCOMPARE(QCoreApplication::translate("VCReporting", "To Report (Shift+F10)"), button);
-    QCOMPARE(QCoreApplication::translate("PressText", "written"), verdict);
+    QCOMPARE(QCoreApplication::translate("PanelWindow", "no bearing"), value);
 
     center.Unregister(QStringLiteral("XMLHelper"));
     center.Unregister(QStringLiteral("MeasurementPanel"));

@@ -12,9 +12,10 @@
 #include <QPushButton>
 #include <QTableView>
 #include <QTextEdit>
+#include <QThread>
 #include <QToolButton>
 
-#include <xmlhelper/vcreporting.h>
+#include <xmlhelper/reportnews.h>
 
 #ifdef Q_OS_UNIX
 #include <csignal>
@@ -42,8 +43,6 @@ QList<QWidget*> openDialogs()
             open.append(window);
         }
     }
-    std::sort(open.begin(), open.end(),
-              [](const QWidget* one, const QWidget* other) { return one->windowTitle() < other->windowTitle(); });
     return open;
 }
 
@@ -106,17 +105,6 @@ bool FullDisk::IsPossible()
 
 #endif
 
-ProgramFolder::ProgramFolder(const QString& folder)
-    : m_former(qgetenv("PATH"))
-{
-    qputenv("PATH", QFile::encodeName(folder));
-}
-
-ProgramFolder::~ProgramFolder()
-{
-    qputenv("PATH", m_former);
-}
-
 Answer::Answer(const QString& button)
 {
     QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this, button] {
@@ -137,11 +125,15 @@ Answer::Answer(const QString& button)
 }
 
 PanelScene::PanelScene()
-    : m_receiver(m_tree)
+    : m_settings(m_folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat)
 {
     RestoreReports();
     RestoreSchema();
-    m_window = std::make_unique<PanelWindow>(m_tree, m_receiver, Schema(), Reports());
+    m_supervisor.SetEmergencyFolder(m_folder.filePath(QStringLiteral("unsaved")));
+    m_supervisor.SetPauses(3600000, 3600000); // nothing is tried by itself
+    QObject::connect(&ReportNews::Instance(), &ReportNews::CommentAsked, &m_receiver,
+                     [this](quint64, QDialog* dialog) { m_pDialog = dialog; });
+    m_window = std::make_unique<PanelWindow>(m_receiver, m_supervisor, m_settings, Schema(), Reports());
     m_window->show();
 }
 
@@ -150,36 +142,34 @@ PanelScene::~PanelScene()
     forgetDialogs();
 }
 
-QToolButton& PanelScene::Button()
-{
-    return *m_window->findChild<VCReporting*>()->GetReportButton();
-}
-
 QString PanelScene::LabelText(const char* name) const
 {
     return Find<QLabel>(name)->text();
 }
 
-QString PanelScene::Verdict(int row) const
+int PanelScene::Rows() const
 {
-    const QAbstractItemModel* const log = Find<QTableView>("sessionLog")->model();
-    return log->index(row, SessionLog::Verdict).data().toString();
+    return Find<QTableView>("reportList")->model()->rowCount();
+}
+
+QString PanelScene::OnlyReport() const
+{
+    const QStringList written = Written();
+    return written.size() == 1 ? QDir(Reports()).filePath(written.constFirst()) : QString();
 }
 
 void PanelScene::Press()
 {
+    QThread::msleep(1);
     QTest::mouseClick(&Button(), Qt::LeftButton);
 }
 
-QWidget* PanelScene::PressWithComment()
+QDialog* PanelScene::PressWithComment()
 {
-    const QList<QWidget*> before = openDialogs();
     Find<QCheckBox>("askForComment")->setChecked(true);
+    m_pDialog = nullptr;
     Press();
-    const QList<QWidget*> after = openDialogs();
-    const auto found
-        = std::find_if(after.begin(), after.end(), [&before](QWidget* dialog) { return !before.contains(dialog); });
-    return found == after.end() ? nullptr : *found;
+    return m_pDialog;
 }
 
 QStringList PanelScene::Written() const

@@ -3,23 +3,23 @@
 
 #include <memory>
 
+#include <QDialog>
 #include <QMessageBox>
+#include <QPointer>
 #include <QString>
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include "measurementtree.h"
 #include "panelwindow.h"
-#include "simulatedreceiver.h"
 
 class QToolButton;
 
 bool writeFile(const QString& path, const QByteArray& content);
 QString readFile(const QString& path);
 
-/// The open comment dialogs, the oldest first.
+/// The open comment dialogs, in any order.
 QList<QWidget*> openDialogs();
-/// Hides those that an earlier test has left open: the library keeps them for good.
+/// Closes those that an earlier test has left open: the library keeps them for good.
 void forgetDialogs();
 void typeComment(QWidget& dialog, const QString& comment);
 
@@ -33,19 +33,6 @@ public:
 
 private:
     Q_DISABLE_COPY(FullDisk)
-};
-
-/// Makes a folder the only one where programs are looked for, for as long as it lives.
-class ProgramFolder
-{
-public:
-    explicit ProgramFolder(const QString& folder);
-    ~ProgramFolder();
-
-private:
-    Q_DISABLE_COPY(ProgramFolder)
-
-    QByteArray m_former;
 };
 
 /// Answers questions like an operator who sees them come up, always by the button of that text, and counts them.
@@ -70,18 +57,29 @@ public:
     ~PanelScene();
 
     PanelWindow& Window() { return *m_window; }
-    QToolButton& Button();
+    SimulatedReceiver& Receiver() { return m_receiver; }
+    ReportSupervisor& Supervisor() { return m_supervisor; }
+    QSettings& Settings() { return m_settings; }
+    VCReporting& Reporting() const { return *m_window->findChild<VCReporting*>(); }
+    QToolButton& Button() const { return *Reporting().GetReportButton(); }
     template <class Widget> Widget* Find(const char* name) const
     {
         return m_window->findChild<Widget*>(QLatin1String(name));
     }
     QString LabelText(const char* name) const;
-    QString Verdict(int row) const;
+    /// How many reports stand in the list.
+    int Rows() const;
+    /// Has the button follow its paths at once, as coming back to the window does.
+    void Look() { Reporting().EnableReportButton(true); }
+    /// The path of the only report there is; empty when there are none or several.
+    QString OnlyReport() const;
 
-    /// Clicks the report button.
+    /// Clicks the report button, in another millisecond than the press before.
     void Press();
     /// Asks for the comment dialog, clicks, and gives the dialog; null when there is none.
-    QWidget* PressWithComment();
+    QDialog* PressWithComment();
+    /// The dialog that has come up last.
+    QDialog* LastDialog() const { return m_pDialog; }
 
     QString Reports() const { return m_folder.filePath(QStringLiteral("reports")); }
     QString Schema() const { return m_folder.filePath(QStringLiteral("schemas/measurementreport.xsd")); }
@@ -95,8 +93,10 @@ private:
     Q_DISABLE_COPY(PanelScene)
 
     QTemporaryDir m_folder;
-    MeasurementTree m_tree;
+    QSettings m_settings;
     SimulatedReceiver m_receiver;
+    ReportSupervisor m_supervisor;
+    QPointer<QDialog> m_pDialog;
     std::unique_ptr<PanelWindow> m_window;
 };
 

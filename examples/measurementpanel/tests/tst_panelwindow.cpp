@@ -1,258 +1,464 @@
 #include <QtTest>
 
-#include <memory>
-
+#include <QAction>
 #include <QCheckBox>
 #include <QLabel>
-#include <QPlainTextEdit>
+#include <QLibraryInfo>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
-#include <QTemporaryDir>
-#include <QTextEdit>
+#include <QScreen>
+#include <QTabBar>
+#include <QTableView>
 #include <QToolButton>
 
-#include <valueframework/valuenumeric.h>
-#include <valueframework/valueselection.h>
-#include <xmlhelper/vcreporting.h>
+#include "panelscene.h"
 
-#include "measurementtree.h"
-#include "panelwindow.h"
-#include "simulatedreceiver.h"
-
+/// What an operator does on the panel, and what the panel says to it.
 class TestPanelWindow : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void cleanup();
 
-    void showsTheValuesOfTheTree();
-    void aWeakSignalHasNoBearing();
-    void saysWhetherSchemaAndDirectoryAreAvailable_data();
-    void saysWhetherSchemaAndDirectoryAreAvailable();
-    void noticesADirectoryThatIsMadeLater();
-    void showsTheLastReport();
-    void showsNoReportOfEarlierTimes();
-    void waitsForTheComment();
-    void saysWhatBecameOfAPress_data();
-    void saysWhatBecameOfAPress();
+    void theValuesAreShown();
+    void theDirectoryIsShownBeforeTheFirstPress();
+    void aPressIsTold();
+    void theMenuPressesTheButton();
+    void theShortcutWorksWhereverTheFocusIs();
+    void tabGoesOnFromTheButton();
+    void everyKeyIsThatOfOneThing_data();
+    void everyKeyIsThatOfOneThing();
 
-private:
-    PanelWindow& openWindow(const QString& schema, const QString& reports);
-    QString labelText(const char* name) const;
-    void press();
+    void aMissingPathIsNamed_data();
+    void aMissingPathIsNamed();
+    void aBrokenSchemaIsExplained_data();
+    void aBrokenSchemaIsExplained();
 
-    std::unique_ptr<QTemporaryDir> m_directory;
-    std::unique_ptr<MeasurementTree> m_tree;
-    std::unique_ptr<SimulatedReceiver> m_receiver;
-    std::unique_ptr<PanelWindow> m_window;
+    void aDialogSaysWhichReportItIsOf();
+    void noDialogHidesAnother();
+    void aReportThatIsNotSavedIsKept();
+    void quittingAsksWhenReportsWouldBeLost_data();
+    void quittingAsksWhenReportsWouldBeLost();
+    void quittingWithoutLossAsksNothing();
+
+    void theLanguageChangesEverythingAtOnce();
+    void qtSpeaksTheLanguageToo();
+    void choicesAreRemembered();
+    void anotherDirectoryTakesTheNextReports();
+
+    void theWindowFitsItsScreen_data();
+    void theWindowFitsItsScreen();
 };
 
 namespace {
 
-const QString schemaFile = QStringLiteral(MEASUREMENTPANEL_SCHEMA);
+constexpr QSize Smallest(800, 560);
 
-QString readFile(const QString& path)
+/// Speaks a language for as long as it lives.
+class Spoken
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-bool writeFile(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-}
-
-QWidget* openDialog()
-{
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget* const widget : widgets) {
-        if (widget->isVisible() && widget->objectName() == QLatin1String("ToReportCommentDialog")) {
-            return widget;
-        }
+public:
+    explicit Spoken(const QString& language) { PanelWindow::Speak(language); }
+    ~Spoken() { PanelWindow::Speak(QStringLiteral("en")); }
+    static bool IsPossible()
+    {
+        return QFile::exists(QCoreApplication::applicationDirPath()
+                             + QStringLiteral("/translations/MeasurementPanel_de.qm"));
     }
-    return nullptr;
+
+private:
+    Q_DISABLE_COPY(Spoken)
+};
+
+void addLanguages()
+{
+    QTest::addColumn<QString>("language");
+    for (const char* const language : {"en", "de", "fr"}) {
+        QTest::newRow(language) << QString::fromLatin1(language);
+    }
+}
+
+/// The key of a text such as "&Open"; empty when it has none.
+QString keyOf(const QString& text)
+{
+    return QKeySequence::mnemonic(text).toString();
+}
+
+QStringList keysIn(const PanelWindow& window)
+{
+    QStringList keys;
+    const QList<QAction*> menus = window.menuBar()->actions();
+    for (const QAction* const menu : menus) {
+        keys.append(keyOf(menu->text()));
+    }
+    const auto buttons = window.findChildren<QAbstractButton*>();
+    for (const QAbstractButton* const button : buttons) {
+        keys.append(keyOf(button->text()));
+    }
+    const auto labels = window.findChildren<QLabel*>();
+    for (const QLabel* const label : labels) {
+        keys.append(label->buddy() ? keyOf(label->text()) : QString());
+    }
+    const auto* const tabs = window.findChild<QTabBar*>();
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        keys.append(keyOf(tabs->tabText(tab)));
+    }
+    keys.removeAll(QString());
+    keys.sort();
+    return keys;
 }
 
 } // namespace
 
-void TestPanelWindow::init()
-{
-    m_directory = std::make_unique<QTemporaryDir>();
-    m_tree = std::make_unique<MeasurementTree>();
-    m_receiver = std::make_unique<SimulatedReceiver>(*m_tree);
-}
-
 void TestPanelWindow::cleanup()
 {
-    m_window.reset();
-    m_receiver.reset();
-    m_tree.reset();
-    m_directory.reset();
+    forgetDialogs();
 }
 
-PanelWindow& TestPanelWindow::openWindow(const QString& schema, const QString& reports)
+void TestPanelWindow::theValuesAreShown()
 {
-    m_window = std::make_unique<PanelWindow>(*m_tree, *m_receiver, schema, reports);
-    m_window->show();
-    return *m_window;
-}
-
-QString TestPanelWindow::labelText(const char* name) const
-{
-    return m_window->findChild<QLabel*>(QLatin1String(name))->text();
-}
-
-void TestPanelWindow::press()
-{
-    QTest::mouseClick(m_window->findChild<VCReporting*>()->GetReportButton(), Qt::LeftButton);
-}
-
-void TestPanelWindow::showsTheValuesOfTheTree()
-{
-    openWindow(schemaFile, m_directory->path());
-    for (int channel = 0; channel < 2; ++channel) {
-        QCOMPARE(labelText("FrequencyValue"), m_tree->Frequency().GetText());
-        QCOMPARE(labelText("BandwidthValue"), m_tree->Bandwidth().GetText());
-        QCOMPARE(labelText("LevelValue"), m_tree->Level().GetText());
-        m_receiver->FinishChannel();
-        m_receiver->Step();
+    PanelScene scene;
+    const SimulatedReceiver& receiver = scene.Receiver();
+    for (const char* const value :
+         {"Receiver/Frequency", "Receiver/Bandwidth", "Receiver/Level", "DirectionFinder/Azimuth"}) {
+        QVERIFY2(scene.LabelText("values").contains(receiver.TextOf(value)), value);
     }
-    QCOMPARE(labelText("FrequencyValue"), QStringLiteral("162.025 MHz"));
+    scene.Receiver().MeasureNextChannel();
+    QVERIFY(scene.LabelText("values").contains(QLatin1String("121.5 MHz")));
+    QVERIFY(scene.LabelText("values").contains(QLatin1String("no bearing")));
 }
 
-void TestPanelWindow::aWeakSignalHasNoBearing()
+void TestPanelWindow::theDirectoryIsShownBeforeTheFirstPress()
 {
-    openWindow(schemaFile, m_directory->path());
-    QVERIFY(m_receiver->HasBearing());
-    QCOMPARE(labelText("AzimuthValue"), m_tree->Azimuth().GetText());
-
-    m_receiver->FinishChannel();
-    m_receiver->FinishChannel();
-    QVERIFY(!m_receiver->HasBearing());
-    QCOMPARE(labelText("AzimuthValue"), QStringLiteral("no bearing"));
+    const PanelScene scene;
+    QCOMPARE(scene.Find<QLineEdit>("reportDirectory")->text(), QDir::toNativeSeparators(scene.Reports()));
+    QVERIFY(scene.Find<QLineEdit>("reportDirectory")->isVisible());
 }
 
-void TestPanelWindow::saysWhetherSchemaAndDirectoryAreAvailable_data()
+void TestPanelWindow::aPressIsTold()
 {
-    QTest::addColumn<QString>("schema");
-    QTest::addColumn<QString>("reports");
-    QTest::addColumn<bool>("isAvailable");
+    PanelScene scene;
+    scene.Press();
+    QTRY_COMPARE(scene.Rows(), 1);
+    const QString path = scene.OnlyReport();
+    QTRY_COMPARE(scene.LabelText("reportSentence"),
+                 QStringLiteral("Report %1 is written.").arg(QFileInfo(path).fileName()));
+    QCOMPARE(scene.LabelText("reportPath"), QDir::toNativeSeparators(path));
 
-    const QString here = QStringLiteral(".");
-    const QString missing = QStringLiteral("missing");
-    QTest::newRow("both") << schemaFile << here << true;
-    QTest::newRow("no-schema") << QStringLiteral("/missing.xsd") << here << false;
-    QTest::newRow("no-directory") << schemaFile << missing << false;
+    scene.Press();
+    QTRY_COMPARE(scene.Rows(), 2);
+    QCOMPARE(scene.Written().size(), 2);
 }
 
-void TestPanelWindow::saysWhetherSchemaAndDirectoryAreAvailable()
+void TestPanelWindow::theMenuPressesTheButton()
 {
-    QFETCH(QString, schema);
-    QFETCH(QString, reports);
-    QFETCH(bool, isAvailable);
-    openWindow(schema, m_directory->filePath(reports));
+    PanelScene scene;
+    auto* const makeReport = scene.Find<QAction>("makeReport");
+    QVERIFY(makeReport->text().endsWith(scene.Button().shortcut().toString(QKeySequence::NativeText)));
+    const QSignalSpy presses(&scene.Button(), &QAbstractButton::clicked);
+    makeReport->trigger();
+    QCOMPARE(presses.count(), 1);
+    QCOMPARE(scene.Written().size(), 1);
 
-    QCOMPARE(labelText("availability").contains(QLatin1String("are available")), isAvailable);
-    QCOMPARE(labelText("availability").contains(QLatin1String("is missing")), !isAvailable);
-    QCOMPARE(m_window->findChild<VCReporting*>()->GetReportButton()->isEnabled(), isAvailable);
+    QVERIFY(scene.RemoveReports());
+    scene.Look();
+    QVERIFY(!makeReport->isEnabled());
 }
 
-void TestPanelWindow::noticesADirectoryThatIsMadeLater()
+void TestPanelWindow::theShortcutWorksWhereverTheFocusIs()
 {
-    const QString reports = m_directory->filePath(QStringLiteral("later"));
-    openWindow(schemaFile, reports);
-    QVERIFY(labelText("availability").contains(QLatin1String("is missing")));
-
-    QVERIFY(QDir().mkdir(reports));
-    m_window->findChild<VCReporting*>()->EnableReportButton(true); // looks at once instead of with the next tick
-    QVERIFY(labelText("availability").contains(QLatin1String("are available")));
-
-    // From now on the directory is watched.
-    const QSignalSpy written(m_window.get(), &PanelWindow::ReportWritten);
-    QVERIFY(writeFile(QDir(reports).filePath(QStringLiteral("a.xml")), "<a/>"));
-    QTRY_COMPARE(written.count(), 1);
+    PanelScene scene;
+    QApplication::setActiveWindow(&scene.Window());
+    QVERIFY(QTest::qWaitForWindowActive(&scene.Window()));
+    int presses = 0;
+    for (const char* const name : {"reportList", "reportPage", "askForComment", "reportDirectory"}) {
+        auto* const widget = scene.Find<QWidget>(name);
+        widget->setFocus();
+        QTest::keyClick(widget, Qt::Key_F10, Qt::ShiftModifier);
+        ++presses;
+        QTRY_COMPARE(scene.Rows(), presses);
+    }
+    QVERIFY(!QApplication::activePopupWidget());
 }
 
-void TestPanelWindow::showsTheLastReport()
+void TestPanelWindow::tabGoesOnFromTheButton()
 {
-    const PanelWindow& window = openWindow(schemaFile, m_directory->path());
-    const QSignalSpy written(&window, &PanelWindow::ReportWritten);
-    QCOMPARE(labelText("reportName"), QStringLiteral("No report yet"));
-
-    press();
-    QCOMPARE(written.count(), 1);
-    const QString path = written.first().first().toString();
-    const QString text = readFile(path);
-    QVERIFY(!text.isEmpty());
-    QCOMPARE(window.findChild<QPlainTextEdit*>(QStringLiteral("reportView"))->toPlainText(), text);
-    QVERIFY(labelText("reportName").endsWith(QFileInfo(path).fileName()));
-    QVERIFY(labelText("lastPress").endsWith(QFileInfo(path).fileName()));
+    PanelScene scene;
+    const QTemporaryDir folder;
+    QApplication::setActiveWindow(&scene.Window());
+    QVERIFY(QTest::qWaitForWindowActive(&scene.Window()));
+    for (int times = 0; times < 2; ++times) {
+        scene.Button().setFocus();
+        for (const char* const name : {"askForComment", "reportDirectory"}) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QCOMPARE(QApplication::focusWidget()->objectName(), QLatin1String(name));
+        }
+        scene.Window().UseReportDirectory(folder.path()); // which makes another button
+    }
 }
 
-void TestPanelWindow::showsNoReportOfEarlierTimes()
+void TestPanelWindow::everyKeyIsThatOfOneThing_data()
 {
-    QVERIFY(writeFile(m_directory->filePath(QStringLiteral("earlier.xml")), "<a/>"));
-    openWindow(schemaFile, m_directory->path());
-    QCOMPARE(labelText("reportName"), QStringLiteral("No report yet"));
-
-    press();
-    QVERIFY(!labelText("reportName").contains(QLatin1String("earlier")));
-    QVERIFY(labelText("reportName").startsWith(QLatin1String("Last report: ")));
+    addLanguages();
 }
 
-void TestPanelWindow::waitsForTheComment()
+void TestPanelWindow::everyKeyIsThatOfOneThing()
 {
-    const PanelWindow& window = openWindow(schemaFile, m_directory->path());
-    const QSignalSpy written(&window, &PanelWindow::ReportWritten);
-    const QSignalSpy failed(&window, &PanelWindow::ReportFailed);
-    window.findChild<QCheckBox*>(QStringLiteral("askForComment"))->setChecked(true);
-
-    press();
-    QWidget* const dialog = openDialog();
-    QVERIFY(dialog);
-    QVERIFY(labelText("lastPress").contains(QLatin1String("when its comment dialog is answered")));
-    QCOMPARE(written.count(), 0);
-
-    QTest::keyClicks(dialog->findChild<QTextEdit*>(QStringLiteral("m_pTextEdit")), QStringLiteral("drifts"));
-    QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("m_pSaveButton")), Qt::LeftButton);
-    QTRY_COMPARE(written.count(), 1);
-    QVERIFY(readFile(written.first().first().toString()).contains(QLatin1String("<Comment>drifts</Comment>")));
-    QVERIFY(labelText("lastPress").startsWith(QLatin1String("Report written: ")));
-    QCOMPARE(failed.count(), 0);
+    QFETCH(const QString, language);
+    const Spoken spoken(language);
+    PanelScene scene;
+    QVERIFY(!keyOf(scene.Find<QCheckBox>("askForComment")->text()).isEmpty());
+    QStringList keys = keysIn(scene.Window());
+    const QString all = keys.join(QLatin1Char(' '));
+    // "Discard" and "Open" are never offered at once, but a key that is another thing's is never one of theirs.
+    QVERIFY2(keys.removeDuplicates() == 0, qPrintable(all));
 }
 
-void TestPanelWindow::saysWhatBecameOfAPress_data()
+void TestPanelWindow::aMissingPathIsNamed_data()
 {
-    QTest::addColumn<QString>("schema");
-    QTest::addColumn<QString>("reports");
+    QTest::addColumn<bool>("isSchema");
+    QTest::newRow("schema") << true;
+    QTest::newRow("directory") << false;
+}
+
+void TestPanelWindow::aMissingPathIsNamed()
+{
+    QFETCH(const bool, isSchema);
+    PanelScene scene;
+    QCOMPARE(scene.LabelText("missing"), QString());
+    QVERIFY(isSchema ? scene.RemoveSchema() : scene.RemoveReports());
+    scene.Look();
+    QVERIFY(!scene.Button().isEnabled());
+    QVERIFY(scene.LabelText("missing").contains(QDir::toNativeSeparators(isSchema ? scene.Schema() : scene.Reports())));
+
+    QVERIFY(isSchema ? scene.RestoreSchema() : scene.RestoreReports());
+    QEvent comingBack(QEvent::ActivationChange);
+    QApplication::sendEvent(&scene.Window(), &comingBack);
+    QVERIFY(scene.Button().isEnabled());
+    QCOMPARE(scene.LabelText("missing"), QString());
+}
+
+void TestPanelWindow::aBrokenSchemaIsExplained_data()
+{
+    QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("reason");
-
-    const QString here = QStringLiteral(".");
-    QTest::newRow("malformed-schema") << QStringLiteral("malformed.xsd") << here
-                                      << QStringLiteral("the schema could not be read");
-    QTest::newRow("schema-with-another-ending") << QStringLiteral("other.txt") << here << QStringLiteral("not made");
-    QTest::newRow("file-in-place-of-the-directory")
-        << QStringLiteral("good.xsd") << QStringLiteral("other.txt") << QStringLiteral("could not be written");
+    QTest::newRow("English") << "en"
+                             << "is not well-formed";
+    QTest::newRow("German") << "de"
+                            << "nicht wohlgeformt";
 }
 
-void TestPanelWindow::saysWhatBecameOfAPress()
+/// By the library itself: no other program is needed.
+void TestPanelWindow::aBrokenSchemaIsExplained()
 {
-    QFETCH(QString, schema);
-    QFETCH(QString, reports);
-    QFETCH(QString, reason);
-    QVERIFY(writeFile(m_directory->filePath(QStringLiteral("malformed.xsd")), "<xs:schema>"));
-    QVERIFY(writeFile(m_directory->filePath(QStringLiteral("other.txt")), "text"));
-    QVERIFY(writeFile(m_directory->filePath(QStringLiteral("good.xsd")),
-                      "<xs:schema><xs:element name='a' type='xs:string'/></xs:schema>"));
-    const PanelWindow& window = openWindow(m_directory->filePath(schema), m_directory->filePath(reports));
-    const QSignalSpy failed(&window, &PanelWindow::ReportFailed);
+    QFETCH(const QString, language);
+    QFETCH(const QString, reason);
+    if (!Spoken::IsPossible()) {
+        QSKIP("Built without lrelease: there are no translations.");
+    }
+    const Spoken spoken(language);
+    PanelScene scene;
+    QVERIFY(writeFile(scene.Schema(), "<xs:schema><xs:element name='a'>"));
+    scene.Press();
+    QTRY_VERIFY2(scene.LabelText("reportAdvice").contains(reason), qPrintable(scene.LabelText("reportAdvice")));
+}
 
-    press();
-    QCOMPARE(failed.count(), 1);
-    QCOMPARE(labelText("lastPress"), failed.first().first().toString());
-    QVERIFY2(labelText("lastPress").contains(reason), qPrintable(labelText("lastPress")));
+void TestPanelWindow::aDialogSaysWhichReportItIsOf()
+{
+    if (!Spoken::IsPossible()) {
+        QSKIP("Built without lrelease: there are no translations.");
+    }
+    PanelScene scene;
+    const QDialog* const first = scene.PressWithComment();
+    const QDialog* const second = scene.PressWithComment();
+    QVERIFY(first && second);
+    const std::vector<ReportSupervisor::Verdict> reports = scene.Supervisor().GetReports();
+    QCOMPARE(reports.size(), std::size_t(2));
+    const auto title = [&reports](std::size_t report, const char* word) {
+        return QStringLiteral("%1 %2, %3")
+            .arg(QLatin1String(word))
+            .arg(reports[report].report)
+            .arg(reports[report].begun.toLocalTime().toString(QStringLiteral("hh:mm:ss.zzz")));
+    };
+    QCOMPARE(first->windowTitle(), title(0, "Report"));
+    QCOMPARE(second->windowTitle(), title(1, "Report"));
+
+    // The dialogs change their language too, and would go back to a title of their own.
+    const Spoken spoken(QStringLiteral("fr"));
+    QTRY_COMPARE(first->findChild<QPushButton*>(QStringLiteral("m_pSaveButton"))->text(),
+                 QStringLiteral("Enregistrer"));
+    QCOMPARE(first->windowTitle(), title(0, "Rapport"));
+    QCOMPARE(second->windowTitle(), title(1, "Rapport"));
+}
+
+void TestPanelWindow::noDialogHidesAnother()
+{
+    PanelScene scene;
+    std::vector<QRect> places;
+    for (int dialog = 0; dialog < 5; ++dialog) {
+        const QRect place = scene.PressWithComment()->frameGeometry();
+        QVERIFY(scene.Window().screen()->availableGeometry().contains(place));
+        for (const QRect& other : places) {
+            QVERIFY(qAbs(place.x() - other.x()) > 20 && qAbs(place.y() - other.y()) > 20);
+        }
+        places.push_back(place);
+    }
+}
+
+void TestPanelWindow::aReportThatIsNotSavedIsKept()
+{
+    PanelScene scene;
+    QDialog* const dialog = scene.PressWithComment();
+    typeComment(*dialog, QStringLiteral("drifts"));
+    QVERIFY(scene.RemoveReports());
+    QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("m_pSaveButton")), Qt::LeftButton);
+    QTRY_VERIFY(scene.Find<QPushButton>("reportTryAgain")->isVisible());
+    QVERIFY(scene.LabelText("reportSentence").contains(QLatin1String("is not saved yet")));
+
+    QVERIFY(scene.RestoreReports());
+    QTest::mouseClick(scene.Find<QPushButton>("reportTryAgain"), Qt::LeftButton);
+    QVERIFY(readFile(scene.OnlyReport()).contains(QLatin1String("<Comment>drifts</Comment>")));
+    QTRY_VERIFY(scene.LabelText("reportSentence").contains(QLatin1String("is written")));
+}
+
+void TestPanelWindow::quittingAsksWhenReportsWouldBeLost_data()
+{
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<bool>("isClosed");
+    QTest::newRow("quit") << "Quit all the same" << true;
+    QTest::newRow("stay") << "Stay" << false;
+}
+
+void TestPanelWindow::quittingAsksWhenReportsWouldBeLost()
+{
+    QFETCH(const QString, answer);
+    QFETCH(const bool, isClosed);
+    PanelScene scene;
+    QVERIFY(scene.PressWithComment());
+    QVERIFY(scene.PressWithComment());
+    const Answer operatorsAnswer(answer);
+    QCOMPARE(scene.Window().close(), isClosed);
+    QCOMPARE(scene.Window().isVisible(), !isClosed);
+    QCOMPARE(operatorsAnswer.GetQuestions(), 1);
+}
+
+void TestPanelWindow::quittingWithoutLossAsksNothing()
+{
+    PanelScene scene;
+    scene.Press();
+    const Answer answer(QStringLiteral("Stay"));
+    QVERIFY(scene.Window().close());
+    QCOMPARE(answer.GetQuestions(), 0);
+}
+
+void TestPanelWindow::theLanguageChangesEverythingAtOnce()
+{
+    if (!Spoken::IsPossible()) {
+        QSKIP("Built without lrelease: there are no translations.");
+    }
+    PanelScene scene;
+    scene.Press();
+    QVERIFY(scene.RemoveReports());
+    scene.Look();
+    const Spoken english(QStringLiteral("en"));
+    scene.Find<QAction>("language_de")->trigger();
+    QTRY_COMPARE(scene.Window().windowTitle(), QStringLiteral("Messpult"));
+    QCOMPARE(scene.Find<QCheckBox>("askForComment")->text().remove(QLatin1Char('&')),
+             QStringLiteral("Nach Kommentar fragen"));
+    QVERIFY(scene.LabelText("missing").startsWith(QLatin1String("Es kann kein Bericht")));
+    QCOMPARE(scene.Button().accessibleName(), QStringLiteral("Bericht erstellen"));
+    QTRY_VERIFY(scene.LabelText("reportSentence").startsWith(QLatin1String("Bericht ")));
+
+    scene.Find<QAction>("language_en")->trigger();
+    QTRY_COMPARE(scene.Window().windowTitle(), QStringLiteral("Measurement Panel"));
+    QCOMPARE(scene.Button().accessibleName(), QStringLiteral("To Report"));
+}
+
+void TestPanelWindow::qtSpeaksTheLanguageToo()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#else
+    const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#endif
+    if (!QFile::exists(folder + QStringLiteral("/qtbase_de.qm"))) {
+        QSKIP("Qt's own catalogues are not installed.");
+    }
+    const Spoken spoken(QStringLiteral("de"));
+    const QMessageBox question(QMessageBox::Warning, QString(), QString(), QMessageBox::Yes | QMessageBox::Cancel);
+    QCOMPARE(question.button(QMessageBox::Yes)->text(), QStringLiteral("&Ja"));
+    QCOMPARE(question.button(QMessageBox::Cancel)->text(), QStringLiteral("Abbrechen"));
+}
+
+void TestPanelWindow::choicesAreRemembered()
+{
+    const QTemporaryDir folder;
+    PanelScene scene;
+    const Spoken english(QStringLiteral("en"));
+    scene.Find<QCheckBox>("askForComment")->setChecked(true);
+    scene.Window().UseReportDirectory(folder.path());
+    QCOMPARE(scene.Settings().value(QStringLiteral("reports")).toString(), folder.path());
+    if (auto* const french = scene.Find<QAction>("language_fr")) {
+        french->trigger();
+        QCOMPARE(scene.Settings().value(QStringLiteral("language")).toString(), QStringLiteral("fr"));
+    }
+    const PanelWindow again(scene.Receiver(), scene.Supervisor(), scene.Settings(), scene.Schema(), scene.Reports());
+    QVERIFY(again.findChild<QCheckBox*>(QStringLiteral("askForComment"))->isChecked());
+}
+
+void TestPanelWindow::anotherDirectoryTakesTheNextReports()
+{
+    const QTemporaryDir folder;
+    PanelScene scene;
+    scene.Press();
+    scene.Window().UseReportDirectory(folder.path());
+    QCOMPARE(scene.Find<QLineEdit>("reportDirectory")->text(), QDir::toNativeSeparators(folder.path()));
+    scene.Press();
+    QCOMPARE(scene.Written().size(), 1);
+    QCOMPARE(QDir(folder.path()).entryList({QStringLiteral("*.xml")}).size(), 1);
+    QTRY_VERIFY(scene.LabelText("reportPath").startsWith(QDir::toNativeSeparators(folder.path())));
+}
+
+void TestPanelWindow::theWindowFitsItsScreen_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<int>("dpi");
+    for (const char* const language : {"en", "de", "fr"}) {
+        for (const int dpi : {96, 144, 192}) {
+            QTest::addRow("%s-%d-dpi", language, dpi) << QString::fromLatin1(language) << dpi;
+        }
+    }
+}
+
+/// Letters half as large again must do with the same; only those twice as large get more, as in the report panel.
+void TestPanelWindow::theWindowFitsItsScreen()
+{
+    QFETCH(const QString, language);
+    QFETCH(const int, dpi);
+    const QFont usual = QApplication::font();
+    QFont font = usual;
+    font.setPointSizeF(usual.pointSizeF() * dpi / 96);
+    QApplication::setFont(font);
+    const auto restore = qScopeGuard([usual] { QApplication::setFont(usual); });
+    const Spoken spoken(language);
+
+    PanelScene scene;
+    const QSize screen = scene.Window().screen()->availableSize();
+    QVERIFY(scene.Window().width() <= screen.width() && scene.Window().height() <= screen.height());
+    scene.Press();
+    for (const QSize& size : {dpi > 144 ? Smallest * dpi / 96 : Smallest, QSize(1366, 768), QSize(3840, 2160)}) {
+        if (size.width() < Smallest.width() * dpi / 96) {
+            continue;
+        }
+        scene.Window().resize(size);
+        QCoreApplication::processEvents();
+        QCOMPARE(scene.Window().size(), size);
+        QVERIFY(scene.Find<QTableView>("reportList")->height() > 3 * QFontMetrics(font).height());
+        QVERIFY(!scene.Find<QWidget>("qt_toolbar_ext_button")->isVisible()); // everything in the tool bar is seen
+    }
 }
 
 QTEST_MAIN(TestPanelWindow)
