@@ -84,7 +84,6 @@ void PanelWindow::createMenus()
 {
     QMenu* const file = menuBar()->addMenu(QString());
     m_pMakeReport = file->addAction(QString(), this, [this] { m_pReporting->GetReportButton()->click(); });
-    m_pMakeReport->setObjectName(QStringLiteral("makeReport"));
     QAction* const quit = file->addAction(QString(), this, &PanelWindow::close);
     quit->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
     QMenu* const settings = menuBar()->addMenu(QString());
@@ -147,10 +146,10 @@ void PanelWindow::createToolBar()
 /// In place of the one before: a report widget keeps its directory for life.
 void PanelWindow::createReporting()
 {
-    delete m_pReporting;
+    delete m_pReportingAction; // with the report widget
     m_pReporting = new VCReporting(m_sSchema, m_pDirectory->text(), m_pToolBar, true, "toReport", true, QPixmap());
     m_pReporting->SetShowCommentDialog(m_pAskForComment->isChecked());
-    m_pToolBar->insertWidget(m_pToolBar->actions().constFirst(), m_pReporting);
+    m_pReportingAction = m_pToolBar->insertWidget(m_pToolBar->actions().constFirst(), m_pReporting);
     connect(m_pReporting, &VCReporting::PrepareToReport, this,
             [this] { registerReportItems(*m_pReporting, m_receiver, ++m_iReports); });
     connect(m_pReporting, &VCReporting::ReportDirAndSchemaAvailable, this, &PanelWindow::showAvailability);

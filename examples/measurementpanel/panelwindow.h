@@ -54,6 +54,7 @@ private:
     QAction* m_pMakeReport = nullptr;
     QToolBar* m_pToolBar = nullptr;
     VCReporting* m_pReporting = nullptr;
+    QAction* m_pReportingAction = nullptr;
     QCheckBox* m_pAskForComment;
     QLineEdit* m_pDirectory;
     QLabel* m_pMissing;

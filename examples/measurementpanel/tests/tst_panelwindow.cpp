@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QTabBar>
 #include <QTableView>
+#include <QToolBar>
 #include <QToolButton>
 
 #include "panelscene.h"
@@ -156,7 +157,8 @@ void TestPanelWindow::aPressIsTold()
 void TestPanelWindow::theMenuPressesTheButton()
 {
     PanelScene scene;
-    auto* const makeReport = scene.Find<QAction>("makeReport");
+    QAction* const makeReport = scene.Window().menuBar()->actions().constFirst()->menu()->actions().constFirst();
+    QCOMPARE(makeReport->text().section(QLatin1Char('\t'), 0, 0), QStringLiteral("&Make a report"));
     QVERIFY(makeReport->text().endsWith(scene.Button().shortcut().toString(QKeySequence::NativeText)));
     const QSignalSpy presses(&scene.Button(), &QAbstractButton::clicked);
     makeReport->trigger();
@@ -414,7 +416,9 @@ void TestPanelWindow::anotherDirectoryTakesTheNextReports()
     const QTemporaryDir folder;
     PanelScene scene;
     scene.Press();
+    const auto inToolBar = scene.Window().findChild<QToolBar*>()->actions().size();
     scene.Window().UseReportDirectory(folder.path());
+    QCOMPARE(scene.Window().findChild<QToolBar*>()->actions().size(), inToolBar);
     QCOMPARE(scene.Find<QLineEdit>("reportDirectory")->text(), QDir::toNativeSeparators(folder.path()));
     scene.Press();
     QCOMPARE(scene.Written().size(), 1);
