@@ -92,7 +92,8 @@ bool DatabaseServer::Empty()
 {
     Stop();
     return runAsUser({programPath(QStringLiteral("postgres")), QStringLiteral("--single"), QStringLiteral("-F"),
-                      QStringLiteral("-D"), m_folder + QStringLiteral("/data"), QStringLiteral("postgres")},
+                      QStringLiteral("-c"), QStringLiteral("log_checkpoints=off"), QStringLiteral("-D"),
+                      m_folder + QStringLiteral("/data"), QStringLiteral("postgres")},
                      "DROP TABLE IF EXISTS reports\n");
 }
 

@@ -227,7 +227,9 @@ bool JournalStore::Change(const std::function<bool()>& change)
     if (change() && run(QStringLiteral("COMMIT"))) {
         return true;
     }
-    static_cast<void>(m_database.rollback()); // The fault is that of the change.
+    if (IsOpen()) {
+        static_cast<void>(m_database.rollback()); // The fault is that of the change.
+    }
     return false;
 }
 

@@ -1,7 +1,6 @@
 #include "reportjournaldata_p.h"
 
 #include <algorithm>
-#include <mutex>
 #include <utility>
 
 #include <QDir>
@@ -10,11 +9,11 @@
 #include <QLockFile>
 #include <QMetaEnum>
 #include <QSysInfo>
-#include <QUuid>
 
 #include <arbase/vornos.h>
 #include <xmlhelper/filesaving_p.h>
 
+#include "reportids_p.h"
 #include "reportsupervision_p.h"
 
 namespace {
@@ -27,59 +26,6 @@ constexpr int PauseBetweenTries = 1000;
 
 /// Milliseconds to wait for a process that sets a damaged journal aside.
 constexpr int SetAsideTimeout = 5000;
-
-/// What the ids of found files are made from, so that those who find a file at once make one entry.
-const QUuid FoundFiles(0x3d1f5a52, 0x7c8e, 0x4f0b, 0x9b, 0x1d, 0x52, 0x6a, 0x0e, 0x77, 0xc4, 0x31);
-
-/// Gives reports of the process their entries, the same in all of its journals, so that none doubles what another
-/// wrote.
-class ReportIds
-{
-public:
-    static ReportIds& Instance()
-    {
-        static ReportIds ids;
-        return ids;
-    }
-
-    const QUuid Process = QUuid::createUuid(); ///< that the ids of new entries are made from
-
-    /// A report goes on with an entry that was there.
-    void Set(const QString& report, const QString& id)
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_ids[report] = id;
-    }
-
-    /// The entry that a report goes on with; empty when it does not.
-    QString Find(const QString& report)
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        const auto found = m_ids.find(report);
-        return found == m_ids.end() ? QString() : found->second;
-    }
-
-private:
-    ReportIds() = default;
-    Q_DISABLE_COPY(ReportIds)
-
-    std::mutex m_mutex;
-    std::map<QString, QString> m_ids;
-};
-
-/// What tells a report from all others of the process. Each supervisor numbers those of earlier processes by itself.
-QString nameOf(const ReportSupervisor::Verdict& report)
-{
-    const QString number = QString::number(report.report);
-    return report.report < ReportSupervisor::FirstEarlier
-        ? number
-        : QStringLiteral("%1 %2 %3").arg(number, report.begun.toString(Qt::ISODateWithMs), report.reportPath);
-}
-
-QString idFrom(const QUuid& space, const QString& name)
-{
-    return QUuid::createUuidV5(space, name).toString(QUuid::WithoutBraces);
-}
 
 QString nameOf(ReportSupervisor::State state)
 {
@@ -118,7 +64,7 @@ void takeValues(QMap<QString, QString>& values, const QMap<QString, QString>& ot
 StoredEntry entryOfFound(const QString& path, const ReportContent& content)
 {
     StoredEntry entry;
-    entry.id = idFrom(FoundFiles, thisStation() + QLatin1Char(':') + path);
+    entry.id = ReportIds::OfFound(thisStation(), path);
     entry.station = thisStation();
     entry.begun = content.time;
     entry.path = path;
@@ -428,12 +374,11 @@ ReportJournalData::Update ReportJournalData::UpdateOf(const ReportSupervisor::Ve
 
 QString ReportJournalData::IdOf(const Update& update)
 {
-    const QString report = nameOf(update.verdict);
-    const QString known = ReportIds::Instance().Find(report);
+    const QString known = ReportIds::Instance().Find(update.verdict);
     if (!known.isEmpty()) {
         return known;
     }
-    const QString id = idFrom(ReportIds::Instance().Process, report);
+    const QString id = ReportIds::Instance().Make(update.verdict);
     if (update.path.isEmpty() || !store.Find(id).id.isEmpty()) {
         return id;
     }
@@ -441,7 +386,7 @@ QString ReportJournalData::IdOf(const Update& update)
     if (earlier.isEmpty()) {
         return id;
     }
-    ReportIds::Instance().Set(report, earlier);
+    ReportIds::Instance().Set(update.verdict, earlier);
     return earlier;
 }
 
