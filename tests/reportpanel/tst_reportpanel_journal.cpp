@@ -124,7 +124,10 @@ private:
     }
 };
 
-const QString Heading = QStringLiteral("Earlier sessions");
+QString heading()
+{
+    return QStringLiteral("Earlier sessions");
+}
 
 } // namespace
 
@@ -161,13 +164,13 @@ void TestReportPanelJournal::listsEarlierSessionsBelowAHeading()
     desk.WriteChecked("a.xml");
     desk.WriteChecked("b.xml");
     desk.StartAgain();
-    QCOMPARE(desk.Files(), QStringList({Heading, QStringLiteral("b.xml"), QStringLiteral("a.xml")}));
+    QCOMPARE(desk.Files(), QStringList({heading(), QStringLiteral("b.xml"), QStringLiteral("a.xml")}));
     QVERIFY(desk.IsHeading(0));
     QCOMPARE(desk.List()->columnSpan(0, 0), 3);
 
     QVERIFY(desk.Becomes(desk.Write("c.xml"), signOf(State::Written)));
     QCOMPARE(desk.Files(),
-             QStringList({QStringLiteral("c.xml"), Heading, QStringLiteral("b.xml"), QStringLiteral("a.xml")}));
+             QStringList({QStringLiteral("c.xml"), heading(), QStringLiteral("b.xml"), QStringLiteral("a.xml")}));
     QCOMPARE(desk.List()->columnSpan(0, 0), 1);
     QCOMPARE(desk.List()->columnSpan(1, 0), 3);
 }
@@ -339,7 +342,7 @@ void TestReportPanelJournal::dropsOneThatIsReplaced()
     QCOMPARE(desk.Files().size(), 4); // it has replaced nothing yet
     desk.station.Write(report, desk.PathOf("a.xml"));
     QVERIFY(desk.Becomes(report, signOf(State::Written)));
-    QTRY_COMPARE(desk.Files(), QStringList({QStringLiteral("a.xml"), Heading, QStringLiteral("b.xml")}));
+    QTRY_COMPARE(desk.Files(), QStringList({QStringLiteral("a.xml"), heading(), QStringLiteral("b.xml")}));
     desk.Write("b.xml");
     QTRY_COMPARE(desk.Files(), QStringList({QStringLiteral("b.xml"), QStringLiteral("a.xml")}));
 }
@@ -350,7 +353,7 @@ void TestReportPanelJournal::listsOneThatIsKeptOnce()
     desk.Lose("a.xml");
     QTRY_COMPARE(int(desk.journal->Search({}).size()), 1);
     desk.StartAgain();
-    QCOMPARE(desk.Files(), QStringList({Heading, QStringLiteral("a.xml")}));
+    QCOMPARE(desk.Files(), QStringList({heading(), QStringLiteral("a.xml")}));
     QCOMPARE(desk.station.Supervisor().TakeOverEarlier(), QStringList());
     QVERIFY(desk.Becomes(ReportSupervisor::FirstEarlier, signOf(State::Offered)));
     QCOMPARE(desk.Files(), QStringList(QStringLiteral("a.xml")));
@@ -364,7 +367,18 @@ void TestReportPanelJournal::takesInWhatTheJournalFinds()
     QVERIFY(QDir().mkpath(desk.PathOf("found")));
     writeFile(desk.PathOf("found/a.xml"), "<report/>");
     desk.journal->TakeIn(desk.PathOf("found"));
-    QTRY_COMPARE(desk.Files(), QStringList({Heading, QStringLiteral("a.xml")}));
+    QTRY_COMPARE(desk.Files(), QStringList({heading(), QStringLiteral("a.xml")}));
+
+    // What is known of the others by then stays.
+    desk.Click(1);
+    QVERIFY(desk.Shows(1, signOf(State::Written)));
+    QVERIFY(QFile::remove(desk.PathOf("found/a.xml")));
+    QVERIFY(desk.Shows(1, signOf(State::Gone)));
+    QVERIFY(QDir().mkpath(desk.PathOf("too")));
+    writeFile(desk.PathOf("too/b.xml"), "<report/>");
+    desk.journal->TakeIn(desk.PathOf("too"));
+    QTRY_COMPARE(desk.Files(), QStringList({heading(), QStringLiteral("b.xml"), QStringLiteral("a.xml")}));
+    QVERIFY(desk.Cell(2, 0).startsWith(signOf(State::Gone)));
 }
 
 void TestReportPanelJournal::listsTheLatestOfMany()
@@ -387,7 +401,7 @@ void TestReportPanelJournal::readsTheJournalForNoPress()
     desk.panel->SetJournal(desk.journal.get());
     desk.Record("b.xml", "Failed");
     QVERIFY(desk.Becomes(desk.WriteChecked("c.xml"), signOf(State::Written)));
-    QCOMPARE(desk.Files(), QStringList({QStringLiteral("c.xml"), Heading, QStringLiteral("a.xml")}));
+    QCOMPARE(desk.Files(), QStringList({QStringLiteral("c.xml"), heading(), QStringLiteral("a.xml")}));
 }
 
 void TestReportPanelJournal::listsThoseOfThisComputer()
@@ -397,7 +411,7 @@ void TestReportPanelJournal::listsThoseOfThisComputer()
     desk.RecordOfOthers("b.xml");
     QCOMPARE(int(desk.journal->Search({}).size()), 2);
     desk.panel->SetJournal(desk.journal.get());
-    QCOMPARE(desk.Files(), QStringList({Heading, QStringLiteral("a.xml")}));
+    QCOMPARE(desk.Files(), QStringList({heading(), QStringLiteral("a.xml")}));
 }
 
 void TestReportPanelJournal::outlivesItsJournal()

@@ -1,6 +1,7 @@
 #include "earlierreports_p.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QDir>
 
@@ -140,6 +141,15 @@ QSet<QString> filesOf(const std::vector<ReportSupervisor::Verdict>& reports)
     return files;
 }
 
+/// What is known of a report already is newer than what the journal has.
+ReportSupervisor::Verdict newestOf(const std::vector<ReportSupervisor::Verdict>& known,
+                                   const ReportSupervisor::Verdict& verdict)
+{
+    const auto isIt = [&verdict](const ReportSupervisor::Verdict& one) { return one.report == verdict.report; };
+    const auto found = std::find_if(known.begin(), known.end(), isIt);
+    return found == known.end() ? verdict : *found;
+}
+
 bool isSameVerdict(const ReportSupervisor::Verdict& one, const ReportSupervisor::Verdict& other)
 {
     return one.state == other.state && one.reason == other.reason && one.size == other.size;
@@ -206,7 +216,7 @@ void EarlierReports::Recheck(quint64 report)
 /// Page after page. What a folder held before the journal knew it is of earlier sessions too.
 void EarlierReports::read()
 {
-    m_reports.clear();
+    const std::vector<ReportSupervisor::Verdict> known = std::exchange(m_reports, {});
     const QSet<QString> filesOfNow = filesOf(m_supervisor.GetReports());
     ReportJournal::Query query;
     query.limit = PageSize;
@@ -216,7 +226,7 @@ void EarlierReports::read()
             const bool isEarlier = entry.number <= m_iLast || entry.verdict == QLatin1String("Found");
             if (isEarlier && entry.station == QSysInfo::machineHostName() && !filesOfNow.contains(entry.path)
                 && m_reports.size() < MaxListed) {
-                m_reports.push_back(verdictOf(entry));
+                m_reports.push_back(newestOf(known, verdictOf(entry)));
             }
         }
         if (int(entries.size()) < PageSize || m_reports.size() == MaxListed) {
