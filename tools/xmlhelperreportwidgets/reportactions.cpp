@@ -86,7 +86,7 @@ QString askForFile(QWidget& parent, const QString& title, const QString& suggest
     QObject::connect(dialog, &QFileDialog::filterSelected, dialog,
                      [&dialog](const QString& kind) { dialog->setDefaultSuffix(endingOf(kind)); });
     const bool isChosen = dialog->exec() == QDialog::Accepted;
-    if (!dialog) {
+    if (dialog.isNull()) {
         return QString();
     }
     const QString fileName = isChosen ? dialog->selectedFiles().value(0) : QString();
