@@ -13,7 +13,7 @@
 # The suite's own base libraries take the place of the stand-ins in a package that provides xmlhelper-platform-abi1, and
 # conflicts with it, as one package at a time may have files of these names; see docs/platform.md.
 #
-# Configure with -DCMAKE_INSTALL_PREFIX=/usr to have the libraries where Debian keeps its own, in the folder of the
+# The preset "packages" configures with -DCMAKE_INSTALL_PREFIX=/usr to have the libraries where Debian keeps its own, in the folder of the
 # machine's architecture. With another prefix they go into /usr/lib itself, where the loader finds them too.
 
 include(GNUInstallDirs)
@@ -53,13 +53,17 @@ else()
     set(CPACK_GENERATOR TGZ)
 endif()
 
+# Under which licence the packages are given away is the owner's to say.
+set(XMLHELPER_COPYRIGHT_FILE "" CACHE FILEPATH "The file copyright of the Debian packages; empty: they have none yet")
+set(CPACK_XMLHELPER_COPYRIGHT_FILE "${XMLHELPER_COPYRIGHT_FILE}")
+
 set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_PACKAGE_SOURCE xmlhelper)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
-set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/XMLHelperDropSearchPaths.cmake")
+set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/XMLHelperFinishPackages.cmake")
 
 if(XMLHELPER_QT_MAJOR EQUAL 6)
     set(runtime_package "libxmlhelper-qt6-${PROJECT_VERSION_MAJOR}")    # a name that ends in a digit gets a dash
@@ -89,7 +93,9 @@ function(xmlhelper_package_libraries component)
     file(WRITE "${folder}/shlibs" "${shlibs}")
     file(WRITE "${folder}/triggers" "activate-noawait ldconfig\n")
     string(TOUPPER "${component}" component)
-    set(CPACK_DEBIAN_${component}_PACKAGE_CONTROL_EXTRA "${folder}/shlibs" "${folder}/triggers" PARENT_SCOPE)
+    # cpack adds scripts that call ldconfig unless there are others; to name them is enough.
+    set(CPACK_DEBIAN_${component}_PACKAGE_CONTROL_EXTRA
+        "${folder}/shlibs" "${folder}/triggers" "${folder}/postinst" "${folder}/postrm" PARENT_SCOPE)
 endfunction()
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
@@ -123,9 +129,9 @@ This package contains the headers, the CMake packages and the pkg-config
 files.")
 
 set(platform_description
-"The library and its programs stand on five base libraries: traces and clock, the
-value tree, the tool button, and the registry of translations. An application
-suite brings its own; these stand in for them, small but real.")
+"The library and its programs stand on five base libraries: traces and clock,
+the value tree, the tool button, and the registry of translations. A suite of
+applications brings its own; these stand in for them, small but real.")
 
 set(CPACK_DEBIAN_PLATFORM_PACKAGE_NAME ${platform_package})
 set(CPACK_DEBIAN_PLATFORM_PACKAGE_SECTION libs)
