@@ -1,4 +1,5 @@
-# Gives what cpack is about to pack the form that Debian wants. Each package has a folder here, called after its component.
+# Gives what cpack is about to pack the form that Debian wants. Each package has a folder here, called after its
+# component.
 if(NOT CPACK_GENERATOR STREQUAL "DEB")
     return()
 endif()

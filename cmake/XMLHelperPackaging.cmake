@@ -13,8 +13,9 @@
 # The suite's own base libraries take the place of the stand-ins in a package that provides xmlhelper-platform-abi1, and
 # conflicts with it, as one package at a time may have files of these names; see docs/platform.md.
 #
-# The preset "packages" configures with -DCMAKE_INSTALL_PREFIX=/usr to have the libraries where Debian keeps its own, in the folder of the
-# machine's architecture. With another prefix they go into /usr/lib itself, where the loader finds them too.
+# The preset "packages" configures with -DCMAKE_INSTALL_PREFIX=/usr to have the libraries where Debian keeps its own, in
+# the folder of the machine's architecture. With another prefix they go into /usr/lib itself, where the loader finds them
+# too.
 
 include(GNUInstallDirs)
 

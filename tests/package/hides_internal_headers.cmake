@@ -1,5 +1,5 @@
 # A client can include every client header, each on its own and without a warning, and no other header of the library.
-# Nor does the client that the README prints give any, one of destructors neither: nobody deletes an observer by its base.
+# Nor does the client that the README prints give any: its observer is final, as nobody deletes one by its base.
 include("${CMAKE_CURRENT_LIST_DIR}/packagetest.cmake")
 
 set(ENV{PKG_CONFIG_PATH} "${PREFIX}/${LIBDIR}/pkgconfig")

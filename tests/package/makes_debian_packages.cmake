@@ -1,6 +1,6 @@
 # cpack makes one package for each component. Together they hold the files of the checked-in lists; libraries alone are
-# in the runtime packages, those of the suite's base in packages of their own that others may take the place of, and have
-# no search paths; each package knows what it depends on, and the tools run from where they are packed.
+# in the runtime packages, those of the suite's base in packages of their own that others may take the place of, and
+# have no search paths; each package knows what it depends on, and the example runs from where it is packed.
 include("${CMAKE_CURRENT_LIST_DIR}/packagetest.cmake")
 
 run(COMMAND "${CPACK}" --config "${BUILD_DIR}/CPackConfig.cmake" -C "${CONFIG}" -B "${WORK_DIR}" -G DEB)
@@ -79,8 +79,8 @@ endif()
 
 expect_package(${runtime} FILES runtime_files
     DEPENDS "${qt_core} \\(>=" "libc6 \\(>=" "${platform} \\| ${platform}-abi${VERSION_MAJOR}")
-expect_package(libxmlhelper${LOWER_SUFFIX}-dev FILES development_files DEPENDS "${runtime} \\(= ${version}\\)" "${qt_dev}"
-    "${platform}-dev \\| ${platform}-abi${VERSION_MAJOR}-dev")
+expect_package(libxmlhelper${LOWER_SUFFIX}-dev FILES development_files
+    DEPENDS "${runtime} \\(= ${version}\\)" "${qt_dev}" "${platform}-dev \\| ${platform}-abi${VERSION_MAJOR}-dev")
 expect_package(${platform} FILES platform_files DEPENDS "${qt_core} \\(>=" "libc6 \\(>=")
 expect_package(${platform}-dev FILES platform_development_files
     DEPENDS "${platform} \\(= ${version}\\)" "${qt_dev}")
@@ -171,7 +171,8 @@ set(completion "${WORK_DIR}/xmlhelper-tools/usr/share/bash-completion/completion
 if(BASH AND EXISTS "${completion}")
     set(ENV{LD_LIBRARY_PATH} "${WORK_DIR}/${runtime}/usr/${LIBDIR}:${WORK_DIR}/${platform}/usr/${LIBDIR}")
     set(program "${WORK_DIR}/xmlhelper-tools/usr/bin/xmlhelper-fill")
+    set(typed "COMP_WORDS=('${program}' --v)\nCOMP_CWORD=1")
     run(OUTPUT options COMMAND "${BASH}" -c
-        "source '${completion}'\nCOMP_WORDS=('${program}' --v)\nCOMP_CWORD=1\n_xmlhelper '${program}'\nprintf '%s\\n' \"\${COMPREPLY[@]}\" | sort")
+        "source '${completion}'\n${typed}\n_xmlhelper '${program}'\nprintf '%s\\n' \"\${COMPREPLY[@]}\" | sort")
     expect_output("${options}" "--values" "--version")
 endif()
