@@ -35,7 +35,7 @@ public:
         : QObject(&dialog)
         , m_heard(std::move(heard))
     {
-        dialog.installEventFilter(this);
+        parent()->installEventFilter(this); // which is the dialog
     }
     ~DialogWatch() override { m_heard(Heard::Gone); }
 
@@ -69,33 +69,37 @@ ReportInbox::ReportInbox(std::shared_ptr<EmergencyCopies> copies, std::function<
 {
 }
 
-/// Each connection holds the inbox, since a thread may be telling something while it is closed.
+/// Each connection holds the inbox, since a thread may be telling something while it is closed. What is told is taken
+/// at once, in the thread that tells it.
 void ReportInbox::Listen()
 {
     const ReportNews* const news = &ReportNews::Instance();
     const auto self = shared_from_this();
+    const auto connected = [news](auto signal, auto take) {
+        return QObject::connect(news, signal, news, std::move(take), Qt::DirectConnection);
+    };
     m_connections = {
-        QObject::connect(news, &ReportNews::Begun,
-                         [self](quint64 report, const QString& reportPath, const QString& schemaPath) {
-                             self->putBegun(report, reportPath, schemaPath);
-                         }),
-        QObject::connect(news, &ReportNews::SchemaRead,
-                         [self](quint64 report, bool, const QString& reason) {
-                             self->put(noteOf(NoteKind::SchemaRead, report, reason));
-                         }),
-        QObject::connect(news, &ReportNews::CommentAsked,
-                         [self](quint64 report, QDialog* dialog) { self->putCommentAsked(report, *objectOf(dialog)); }),
-        QObject::connect(news, &ReportNews::Written,
-                         [self](quint64 report, const QString& fileName, qint64 size) {
-                             ReportNote note = noteOf(NoteKind::Written, report, fileName);
-                             note.size = size;
-                             self->takePaths(report);
-                             self->put(std::move(note));
-                         }),
-        QObject::connect(news, &ReportNews::NotWritten,
-                         [self](quint64 report, const QString& reason, const QByteArray& content) {
-                             self->putNotWritten(report, reason, content);
-                         }),
+        connected(&ReportNews::Begun,
+                  [self](quint64 report, const QString& reportPath, const QString& schemaPath) {
+                      self->putBegun(report, reportPath, schemaPath);
+                  }),
+        connected(&ReportNews::SchemaRead,
+                  [self](quint64 report, bool, const QString& reason) {
+                      self->put(noteOf(NoteKind::SchemaRead, report, reason));
+                  }),
+        connected(&ReportNews::CommentAsked,
+                  [self](quint64 report, QDialog* dialog) { self->putCommentAsked(report, *objectOf(dialog)); }),
+        connected(&ReportNews::Written,
+                  [self](quint64 report, const QString& fileName, qint64 size) {
+                      ReportNote note = noteOf(NoteKind::Written, report, fileName);
+                      note.size = size;
+                      self->takePaths(report);
+                      self->put(std::move(note));
+                  }),
+        connected(&ReportNews::NotWritten,
+                  [self](quint64 report, const QString& reason, const QByteArray& content) {
+                      self->putNotWritten(report, reason, content);
+                  }),
     };
 }
 
