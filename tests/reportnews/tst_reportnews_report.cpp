@@ -28,13 +28,13 @@
 #include "filesizelimit.h"
 #include "newsrecorder.h"
 
+// What clients are warned of goes on doing what it did.
+QT_WARNING_DISABLE_DEPRECATED
+
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-// What clients are warned of goes on doing what it did.
-QT_WARNING_DISABLE_DEPRECATED
 #endif
 
 /// What is told of each report of the process.

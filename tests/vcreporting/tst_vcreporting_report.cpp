@@ -35,8 +35,6 @@
 // What clients are warned of goes on doing what it did.
 QT_WARNING_DISABLE_DEPRECATED
 
-QT_WARNING_DISABLE_DEPRECATED
-
 namespace {
 
 using AddItem = void (*)(VCReporting&);
