@@ -1,7 +1,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
-#include <QHashFunctions>
 #include <QStandardPaths>
 #include <QTextStream>
 #include <QThread>
@@ -47,11 +46,9 @@ bool press(int times, const PanelWindow& window, const ReportSupervisor& supervi
 
 int main(int argc, char* argv[])
 {
-    // So that attributes have the same order in every run. An application may do so; a library may not.
+    qputenv("QT_HASH_SEED", "0"); // so that attributes have the same order in every run
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    qSetGlobalQHashSeed(0);
-#else
-    QHashSeed::setDeterministicGlobalSeed();
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // else the button's picture is coarse on fine screens
 #endif
     QApplication application(argc, argv);
     QCommandLineParser parser;

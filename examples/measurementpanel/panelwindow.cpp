@@ -95,7 +95,8 @@ void PanelWindow::createMenus()
     say([=] {
         setWindowTitle(tr("Measurement Panel"));
         file->setTitle(tr("Fi&le"));
-        m_pMakeReport->setText(tr("&Make a report") + QStringLiteral("\tShift+F10")); // the button has the key itself
+        const QKeySequence key(QStringLiteral("Shift+F10")); // which the button has itself
+        m_pMakeReport->setText(tr("&Make a report") + QLatin1Char('\t') + key.toString(QKeySequence::NativeText));
         quit->setText(tr("&Quit"));
         settings->setTitle(tr("Setti&ngs"));
         directory->setText(tr("Choose the report &directory…"));
