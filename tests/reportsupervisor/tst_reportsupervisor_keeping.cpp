@@ -416,11 +416,12 @@ void TestReportSupervisorKeeping::tellsWhatWouldBeLost()
     QFETCH(QString, emergencyFolder);
     Station station;
     QCOMPARE(station.Supervisor().MayQuit(), QStringList());
-    const quint64 report = station.Begin(QStringLiteral("a.xml"));
-    QCOMPARE(station.Supervisor().MayQuit(), QStringList(QStringLiteral("a.xml is being made")));
+    const quint64 report = station.Begin(QStringLiteral("reports\\a.xml"));
+    const QString path = QDir::toNativeSeparators(QStringLiteral("reports/a.xml"));
+    QCOMPARE(station.Supervisor().MayQuit(), QStringList(path + QStringLiteral(" is being made")));
     QDialog dialog;
     Q_EMIT ReportNews::Instance().CommentAsked(report, &dialog);
-    QCOMPARE(station.Supervisor().MayQuit(), QStringList(QStringLiteral("a.xml waits for a comment")));
+    QCOMPARE(station.Supervisor().MayQuit(), QStringList(path + QStringLiteral(" waits for a comment")));
     station.Fail(report);
     QCOMPARE(station.Supervisor().MayQuit(), QStringList());
     station.Supervisor().SetEmergencyFolder(emergencyFolder.isEmpty() ? QString() : station.PathOf(emergencyFolder));

@@ -3,9 +3,21 @@
 #include <algorithm>
 #include <utility>
 
+#include <QDir>
+
 #include <xmlhelper/filesaving_p.h>
 
 #include "reportsupervision_p.h"
+
+namespace {
+
+/// As people write it: a report of the button has back slashes everywhere.
+QString pathFor(const ReportSupervisor::Verdict& verdict)
+{
+    return QDir::toNativeSeparators(openableFileName(verdict.reportPath));
+}
+
+} // namespace
 
 ReportSupervisor::ReportSupervisor(QObject* parent)
     : QObject(parent)
@@ -127,11 +139,11 @@ QStringList ReportSupervisor::MayQuit()
     for (auto& [number, entry] : m_pData->entries) {
         const Verdict& verdict = entry.verdict;
         if (verdict.state == State::Making) {
-            lost.append(tr("%1 is being made").arg(verdict.reportPath));
+            lost.append(tr("%1 is being made").arg(pathFor(verdict)));
         } else if (verdict.state == State::Waiting) {
-            lost.append(tr("%1 waits for a comment").arg(verdict.reportPath));
+            lost.append(tr("%1 waits for a comment").arg(pathFor(verdict)));
         } else if (isKept(verdict.state) && !m_pData->KeepSafe(entry)) {
-            lost.append(tr("%1 could not be written, and no copy of it either").arg(verdict.reportPath));
+            lost.append(tr("%1 could not be written, and no copy of it either").arg(pathFor(verdict)));
         }
     }
     m_pData->Tell();
