@@ -1,5 +1,7 @@
 #include <atomic>
 
+#include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QtTest>
 
 #include <xmlhelper/reportnews.h>
@@ -46,6 +48,7 @@ private Q_SLOTS:
     void remembersWhatWasMadeBeforeItWatched();
     void writesAtTheEndWhatIsLeft();
     void keepsWhatItCannotWrite();
+    void tellsOnceThatItCannotWrite();
     void takesValuesByTheirNames_data();
     void takesValuesByTheirNames();
     void givesValuesToTheNextReport();
@@ -272,6 +275,29 @@ void TestReportJournal::keepsWhatItCannotWrite()
     all.limit = -1;
     QTRY_COMPARE_WITH_TIMEOUT(int(journal->Search(all).size()), count, 20000);
     QVERIFY(!journal->Search(all).back().hash.isEmpty());
+}
+
+/// That it can still be read is no news.
+void TestReportJournal::tellsOnceThatItCannotWrite()
+{
+    ReportJournal journal;
+    QVERIFY(journal.Open(file()));
+    QVERIFY(!record(journal, QStringLiteral("a.xml")).isEmpty());
+    const QSignalSpy spy(&journal, &ReportJournal::Troubled);
+    {
+        QSqlDatabase other = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("other"));
+        other.setDatabaseName(file());
+        QVERIFY(other.open());
+        QSqlQuery lock(other);
+        QVERIFY(lock.exec(QStringLiteral("BEGIN IMMEDIATE")));
+        for (int i = 0; i < 2; ++i) {
+            QVERIFY(record(journal, QStringLiteral("b.xml")).isEmpty());
+            QCOMPARE(journal.Search({}).size(), std::size_t(1));
+        }
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("other"));
+    QCOMPARE(spy.size(), 1);
+    QVERIFY(!record(journal, QStringLiteral("c.xml")).isEmpty());
 }
 
 void TestReportJournal::takesValuesByTheirNames_data()

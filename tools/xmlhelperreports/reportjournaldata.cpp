@@ -248,7 +248,7 @@ bool ReportJournalData::OpenAgain(QString& message)
 
 /// Works with the database; once more with a new one when it turns out to be damaged, or was set aside by another
 /// process meanwhile, which may not have seen what was written.
-bool ReportJournalData::Do(const std::function<bool()>& work)
+bool ReportJournalData::Do(const std::function<bool()>& work, bool isChange)
 {
     QString message;
     OpenAgain(message);
@@ -262,13 +262,15 @@ bool ReportJournalData::Do(const std::function<bool()>& work)
     if (message.isEmpty() && !isDone && store.IsOpen() && !store.Fault().isEmpty()) {
         message = ReportJournal::tr("The journal cannot be used: %1.").arg(store.Fault());
     }
-    Trouble(message);
+    if (isChange || file.isEmpty() || !message.isEmpty()) { // That it can be read says nothing of writing.
+        Trouble(message);
+    }
     return isDone;
 }
 
 bool ReportJournalData::Change(const std::function<bool()>& change)
 {
-    const bool isDone = !file.isEmpty() && Do([this, &change] { return store.Change(change); });
+    const bool isDone = !file.isEmpty() && Do([this, &change] { return store.Change(change); }, true);
     if (isDone && sender) {
         sender->Wake();
     }

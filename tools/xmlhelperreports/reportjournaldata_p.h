@@ -51,7 +51,7 @@ struct ReportJournalData
     void Share();
 
     bool OpenAgain(QString& message);
-    bool Do(const std::function<bool()>& work);
+    bool Do(const std::function<bool()>& work, bool isChange = false);
     bool Change(const std::function<bool()>& change);
     bool Select(const ReportJournal::Query& query, std::vector<ReportJournal::Entry>& entries);
     void Trouble(const QString& message);
