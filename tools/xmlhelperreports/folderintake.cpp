@@ -65,6 +65,10 @@ void FolderIntake::begin()
 
 void FolderIntake::readSome()
 {
+    if (m_isTaking) {
+        m_readTimer.start(Pause);
+        return;
+    }
     if (m_folder.isEmpty()) {
         begin();
         return;
@@ -91,7 +95,9 @@ void FolderIntake::handOver()
 {
     QStringList files = m_found.mid(0, FilesInOneGo);
     const auto count = files.size();
+    m_isTaking = true;
     const int added = files.isEmpty() ? 0 : m_take(files);
+    m_isTaking = false;
     if (m_folder.isEmpty()) {
         return; // All begins anew.
     }

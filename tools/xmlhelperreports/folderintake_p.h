@@ -67,6 +67,7 @@ private:
     std::unique_ptr<QDirIterator> m_names; ///< of it; null behind the last
     QStringList m_found; ///< not taken yet
     int m_added = 0;
+    bool m_isTaking = false; ///< and who is told of it may run an event loop
     int m_readings = 0;
     QTimer m_readTimer;
     QTimer m_pauseTimer;
