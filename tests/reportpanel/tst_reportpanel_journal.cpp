@@ -1,5 +1,6 @@
 #include <QtTest>
 
+#include <QAbstractItemModelTester>
 #include <QDesktopServices>
 #include <QSysInfo>
 
@@ -138,6 +139,7 @@ class TestReportPanelJournal : public QObject
 
 private Q_SLOTS:
     void listsEarlierSessionsBelowAHeading();
+    void tellsOfEachRowWhenNoneStays();
     void listsNothingOfThisSessionTwice();
     void choosingOneDrivesAll();
     void takesTheKeyboardAcrossTheHeading();
@@ -173,6 +175,24 @@ void TestReportPanelJournal::listsEarlierSessionsBelowAHeading()
              QStringList({QStringLiteral("c.xml"), heading(), QStringLiteral("b.xml"), QStringLiteral("a.xml")}));
     QCOMPARE(desk.List()->columnSpan(0, 0), 1);
     QCOMPARE(desk.List()->columnSpan(1, 0), 3);
+}
+
+/// The heading goes with the last row and comes with the first.
+void TestReportPanelJournal::tellsOfEachRowWhenNoneStays()
+{
+    JournalDesk desk;
+    desk.WriteChecked("a.xml");
+    desk.StartAgain();
+    QCOMPARE(desk.Files(), (QStringList {heading(), QStringLiteral("a.xml")}));
+    const QAbstractItemModel* const model = desk.List()->model();
+    const QAbstractItemModelTester tester(desk.List()->model(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QVERIFY(QDir().mkpath(desk.PathOf("found")));
+    for (int i = 0; i < MaxListed; ++i) {
+        writeFile(desk.PathOf("found/b%1.xml").arg(i), "<report/>");
+    }
+    desk.journal->TakeIn(desk.PathOf("found"));
+    QTRY_COMPARE(model->rowCount(), 1 + MaxListed);
+    QVERIFY(!desk.Files().contains(QStringLiteral("a.xml")));
 }
 
 void TestReportPanelJournal::listsNothingOfThisSessionTwice()

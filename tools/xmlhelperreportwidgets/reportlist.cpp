@@ -1,5 +1,6 @@
 #include "reportlist_p.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <set>
 
@@ -40,9 +41,16 @@ void ReportList::Put(const std::vector<ReportSupervisor::Verdict>& reports)
     sayAllAgain();
 }
 
-/// The heading comes and goes with the rows below it.
+/// The heading comes and goes with the rows below it: when none of them stays, it goes with the last and comes anew.
 void ReportList::PutEarlier(const std::vector<ReportSupervisor::Verdict>& reports)
 {
+    const auto stays = [&reports](const ReportSupervisor::Verdict& known) {
+        return std::any_of(reports.begin(), reports.end(),
+                           [&known](const auto& report) { return report.report == known.report; });
+    };
+    if (!reports.empty() && !m_earlier.empty() && std::none_of(m_earlier.begin(), m_earlier.end(), stays)) {
+        PutEarlier({});
+    }
     const int heading = int(m_reports.size());
     if (m_earlier.empty() && !reports.empty()) {
         beginInsertRows({}, heading, heading + int(reports.size()));
