@@ -265,7 +265,8 @@ void ReportActions::saveElsewhere()
     const quint64 report = m_verdict.report; // another may be chosen before the answer
     const QStringList kinds = tr("Reports (*.xml);;All files (*)").split(QStringLiteral(";;"));
     const QString fileName = askForFile(*this, tr("Save the report elsewhere"), ReportWords::Path(m_verdict), kinds);
-    if (!fileName.isEmpty() && !m_supervisor.SaveElsewhere(report, fileName)) {
+    if (!fileName.isEmpty() && !m_supervisor.SaveElsewhere(report, fileName)
+        && ReportWords::IsKept(m_supervisor.GetReport(report))) { // It may have been saved meanwhile.
         Q_EMIT Complaint(tr("The report could not be saved as %1.").arg(QDir::toNativeSeparators(fileName)));
     }
 }
