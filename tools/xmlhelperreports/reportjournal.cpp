@@ -122,8 +122,8 @@ int ReportJournal::Unsent() const
 void ReportJournal::Watch(ReportSupervisor& supervisor)
 {
     connect(&supervisor, &ReportSupervisor::Changed, this, [this](quint64 report) { m_pData->Note(report); });
-    const auto takeValues = [this](quint64 report) {
-        if (QThread::currentThread() == thread() && !m_pData->givenValues.isEmpty()) {
+    const auto takeValues = [this, home = thread()](quint64 report) { // Other threads must not touch the journal.
+        if (QThread::currentThread() == home && !m_pData->givenValues.isEmpty()) {
             m_pData->valuesOfBegun[report] = std::exchange(m_pData->givenValues, {});
         }
     };
