@@ -266,7 +266,9 @@ void CommentDialogImpl::growToTexts()
     layout()->activate();
     // The minimum width of a value takes the place of what its text needs, which only the hint still has.
     const QSize needed(layout()->totalSizeHint().width(), layout()->totalMinimumSize().height());
-    resize(size().expandedTo(needed.boundedTo(screen()->availableSize())));
+    if (const QScreen* const place = screen()) { // None is there while a remote desktop is cut off.
+        resize(size().expandedTo(needed.boundedTo(place->availableSize())));
+    }
 }
 
 QDomElement CommentDialogImpl::appendedComment(const QString& comment) const
