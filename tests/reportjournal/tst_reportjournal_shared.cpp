@@ -219,13 +219,12 @@ void TestReportJournalShared::pressDoesNotWaitForTheDatabase()
     ReportJournal journal;
     QVERIFY(journal.Open(file()));
     QVERIFY(!journal.Record({}).isEmpty());
-    const QSignalSpy spy(&journal, &ReportJournal::Sent);
     QVERIFY(journal.Share(QUrl(m_server->Url())));
     for (int i = 0; i < 20; ++i) {
         QVERIFY(!journal.Record({}).isEmpty());
         QCoreApplication::processEvents();
     }
-    QVERIFY(spy.isEmpty()); // The first attempt is still on its way.
+    QCOMPARE(journal.Unsent(), 21); // Nobody has waited for them to be sent.
     m_server->GoOn();
     QTRY_COMPARE_WITH_TIMEOUT(journal.Unsent(), 0, 60000);
 }
