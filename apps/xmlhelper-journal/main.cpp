@@ -165,7 +165,8 @@ const QLatin1String ReadInCommand("read-in");
 
 bool isShared(const QString& place)
 {
-    return QUrl(place).scheme().startsWith(QLatin1String("postgres"));
+    const QString scheme = QUrl(place).scheme(); // what ReportJournal::Open() takes for one
+    return scheme == QLatin1String("postgresql") || scheme == QLatin1String("postgres");
 }
 
 /// What is wrong with the arguments; empty when nothing is.
