@@ -158,7 +158,8 @@ Q_SIGNALS:
     /// What the watch has found, sent after every look.
     /// @param available  whether both schema and report directory exist
     void ReportDirAndSchemaAvailable(bool available);
-    /// A report was made: its file is written, or its comment dialog is open.
+    /// A report was made, and its comment dialog is open when one is wanted. Only ReportNews tells whether its file is
+    /// written.
     void ReportSuccessful();
     /// The schema could not be read.
     void ReportNotSuccessful();

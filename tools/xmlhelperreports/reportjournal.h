@@ -90,7 +90,7 @@ public:
     /// @param place    a file, or the URL of a shared database, `postgresql://user@host:port/name?option=value`, where
     ///                 the option host may be the folder of a socket. To reach it takes some seconds at most
     /// @param message  why it cannot be opened, or that a damaged one was set aside; empty when all is well; may be
-    /// null
+    ///                 null
     /// @return whether it is open
     bool Open(const QString& place, QString* message = nullptr);
 
@@ -117,8 +117,7 @@ public:
 
     /// Has values read from each report that is written from now on and checked by the supervisor, or found.
     /// @param names  elements and attributes as in ReportFiller, such as `Emission[2]/Frequency@Unit`. What a name
-    /// means
-    ///               several times is put together, with semicolons; a name that is no path gives nothing
+    ///               means several times is put together, with semicolons; a name that is no path gives nothing
     void SetValueNames(const QStringList& names);
 
     /// Gives a value to the entry of the next report that is begun in this thread. One read from the report by the same
