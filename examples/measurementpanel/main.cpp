@@ -46,9 +46,11 @@ bool press(int times, const PanelWindow& window, const ReportSupervisor& supervi
 
 int main(int argc, char* argv[])
 {
-    qputenv("QT_HASH_SEED", "0"); // so that attributes have the same order in every run
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // else the button's picture is coarse on fine screens
+    qSetGlobalQHashSeed(0); // so that attributes have the same order in every run; a library must not do so
+#else
+    QHashSeed::setDeterministicGlobalSeed();
 #endif
     QApplication application(argc, argv);
     QCommandLineParser parser;
