@@ -46,6 +46,7 @@ private Q_SLOTS:
     void init();
     void tellsOfTheSchema_data();
     void tellsOfTheSchema();
+    void tellsOfFilesThatIncludeEachOtherInARow();
     void makesTheSameReportForAReceiver();
     void tellsWhyNothingWasWritten_data();
     void tellsWhyNothingWasWritten();
@@ -174,6 +175,10 @@ void TestReportNewsReport::tellsOfTheSchema_data()
         start + QByteArray("<xs:complexType>").repeated(600) + QByteArray("</xs:complexType>").repeated(600)
             + "</xs:schema>",
         {}, "schema not understood: The schema is nested deeper than 512 elements.");
+    row("entities-that-become-too-much",
+        "<!DOCTYPE s [<!ENTITY a '" + QByteArray(2000, 'x') + "'><!ENTITY b '" + QByteArray("&a;").repeated(2000)
+            + "'>]><s>&b;</s>",
+        {}, "schema not understood: The entities of the content expand to more than 2000000 characters.");
     row("included-file-missing", QByteArray(schemaWith(unknown)).replace("\n", include), {},
         "schema not understood: included.xsd cannot be opened.");
     row("included-file-not-well-formed", QByteArray(schemaWith(unknown)).replace("\n", include), "<a>",
@@ -197,6 +202,22 @@ void TestReportNewsReport::tellsOfTheSchema()
     QCOMPARE(
         recorder.Lines(),
         (QStringList {QStringLiteral("1 begun report.xml by schema.xsd"), QStringLiteral("1 ") + line, writtenLine()}));
+}
+
+void TestReportNewsReport::tellsOfFilesThatIncludeEachOtherInARow()
+{
+    Limits few;
+    few.includeDepth = 1;
+    const LimitsInForce inForce(few);
+    QVERIFY(writeFile(
+        schema(),
+        schemaWith("<xs:element name='a' type='T'/>").replace("\n", "<xs:include schemaLocation='included.xsd'/>")));
+    QVERIFY(
+        writeFile(path(QStringLiteral("included.xsd")), "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'/>"));
+    const NewsRecorder recorder(m_folder->path());
+    QVERIFY(!FilledReport().Builder().CreateXmlFromSchema(schema(), report(), false));
+    QCOMPARE(recorder.Lines().value(1),
+             QStringLiteral("1 schema not understood: included.xsd is included by too many files in a row."));
 }
 
 void TestReportNewsReport::makesTheSameReportForAReceiver()

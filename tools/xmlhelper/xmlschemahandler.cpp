@@ -234,6 +234,7 @@ XmlSchemaHandler::XmlSchemaHandler(const std::shared_ptr<SchemaReading>& reading
     , m_iNesting(0)
     , m_bFaultIsTold(false)
     , m_pLocator(nullptr)
+    , m_pGuardedSource(nullptr)
     , m_pReading(reading)
     , m_pShare(&m_pReading->shares[nullptr])
     , m_pLog(reading->log)
@@ -315,7 +316,9 @@ bool XmlSchemaHandler::parse(const QByteArray& bytes, QXmlSimpleReader& parser)
         return parser.parse(plainSource);
     }
     GuardedSource source(bytes);
+    m_pGuardedSource = &source;
     const bool isParsed = source.Parse(parser);
+    m_pGuardedSource = nullptr;
     if (!source.GetRefusal().isEmpty()) {
         m_pReading->budget.Refuse(source.GetRefusal());
     }
@@ -409,7 +412,9 @@ void XmlSchemaHandler::setDocumentLocator(QXmlLocator* locator)
 /// Comes for every parse that fails, also for what a function of this handler has refused.
 bool XmlSchemaHandler::fatalError(const QXmlParseException& exception)
 {
-    if (m_pLog && !m_bFaultIsTold && !m_pReading->budget.IsRefused()) {
+    // A source that refuses its content ends it in the middle, which is no fault of the text.
+    const bool isCutOff = m_pGuardedSource && !m_pGuardedSource->GetRefusal().isEmpty();
+    if (m_pLog && !m_bFaultIsTold && !isCutOff && !m_pReading->budget.IsRefused()) {
         m_bFaultIsTold = true;
         m_pLog->FileMalformed(m_tag.file, exception.message(), exception.lineNumber());
     }

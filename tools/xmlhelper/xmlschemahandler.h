@@ -14,6 +14,7 @@
 #include "schemamodel.h"
 #include "schemareadinglog_p.h"
 
+class GuardedSource;
 class IXMLHelper;
 class QXmlSimpleReader;
 struct SchemaReading;
@@ -195,6 +196,7 @@ private:
     SchemaTag m_tag; ///< that is being read, or whose reference is laid out
     bool m_bFaultIsTold; ///< to the log; or there is none to tell
     QXmlLocator* m_pLocator; ///< the parser's
+    const GuardedSource* m_pGuardedSource; ///< what is parsed; null for a text without a document type
     std::shared_ptr<SchemaReading> m_pReading; ///< shared with the handlers of included files
     SchemaBudget::Share* m_pShare; ///< of the fragment that is being filled; one of those that are shared
     SchemaReadingLog* m_pLog; ///< not owned; null: nobody listens
