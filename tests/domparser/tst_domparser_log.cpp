@@ -185,14 +185,27 @@ void TestDomParserLog::tellsOfRefusedCounts()
 
 void TestDomParserLog::hasHooksThatDoNothing()
 {
-    QDomDocument document = documentOf(QStringLiteral("<r><alt type='t'/><a type='t'/></r>"));
+    const QString a = QStringLiteral("a");
+    const QString c = QStringLiteral("c");
+    QDomDocument document = documentOf(QStringLiteral("<r><alt type='t'/><m><c><a type='t'/></c></m></r>"));
     ScriptedObserver observer;
-    DomParser parser(&observer, {}, {{0, QStringLiteral("alt")}});
+    DomParser parser(&observer, {{c, {{0, {QStringLiteral("m")}}}}, {a, {{2, {c}}}}}, {{0, QStringLiteral("alt")}});
     parser.SetDocument(&document);
     WalkLog log;
     parser.SetLog(&log);
+    bool isCopied = false;
+    observer.OnElement(a, [&](ElemBeginEvent&) {
+        QDomElement* const element = parser.GetCurrentElement();
+        QVERIFY(!parser.IsCountDeclared(a, a, 3, *element));
+        if (!std::exchange(isCopied, true)) {
+            parser.InsertCopies(*element, 1);
+            parser.ContinueAt(element, true);
+            return;
+        }
+        parser.ContinueAt(element, false);
+    });
     QVERIFY(parser.Walk());
-    QCOMPARE(domText(document), domText(documentOf(QStringLiteral("<r><a type='t'/></r>"))));
+    QCOMPARE(domText(document), domText(documentOf(QStringLiteral("<r><m><c><a type='t'/><a type='t'/></c></m></r>"))));
 }
 
 QTEST_GUILESS_MAIN(TestDomParserLog)

@@ -182,6 +182,7 @@ private Q_SLOTS:
     void entryIsReadWhereverTheTreeHoldsIt();
     void entryThatHasGoneIsReadAsNone();
     void valueIsFoundAgainWhileASnapshotLives();
+    void valueHasGoneWhenAnotherItemIsWhereItsNodeWas();
 
     void givesExplicitBoolsAndLongsByKindOnly_data();
     void givesExplicitBoolsAndLongsByKindOnly();
@@ -670,6 +671,36 @@ void TestReportData::valueIsFoundAgainWhileASnapshotLives()
     QCOMPARE(*numberOf(frequency), 98500000.0);
     const Tree other; // While it covers the tree, nothing is asked.
     QCOMPARE(*numberOf(frequency), 98500000.0);
+}
+
+void TestReportData::valueHasGoneWhenAnotherItemIsWhereItsNodeWas()
+{
+    static std::aligned_union_t<0, Node, ValueItem> memory;
+    /// Stands in that memory, and is deleted by its parent like any other item.
+    class PlacedNode : public Node
+    {
+    public:
+        using Node::Node;
+        static void* operator new(std::size_t) { return &memory; }
+        static void operator delete(void*) { }
+    };
+    class PlacedItem : public ValueItem
+    {
+    public:
+        using ValueItem::ValueItem;
+        static void* operator new(std::size_t) { return &memory; }
+        static void operator delete(void*) { }
+    };
+
+    const ReceiverTree tree;
+    auto* const node = new PlacedNode(QStringLiteral("Spare"), tree.Root());
+    new ValueItem(new ValueText(QStringLiteral("Text"), QStringLiteral("text")), node);
+    const ReportData item = itemAt(QStringLiteral("Spare/Text"));
+    const TreeSnapshot snapshot;
+    QCOMPARE(textOf(item), QStringLiteral("text"));
+    delete node;
+    new PlacedItem(nullptr, tree.Root());
+    QCOMPARE(textOf(item), QStringLiteral("(none)"));
 }
 
 void TestReportData::givesExplicitBoolsAndLongsByKindOnly_data()

@@ -72,7 +72,7 @@ ReportAnswerer::~ReportAnswerer()
 {
     try {
         releaseBuilder();
-    } catch (const std::bad_alloc&) {
+    } catch (const std::bad_alloc&) { // unreached: only the first release of a process allocates
         // What could not be given back stays.
     }
 }
