@@ -39,6 +39,7 @@ private Q_SLOTS:
     void isMadeAnewFromTheFiles();
     void goesOnWhenItIsDamagedWhileOpen();
     void goesOnWhenItIsRemovedWhileOpen();
+    void remembersWhatChangesWhileItTellsOfDamage();
     void writesAgainWhenItIsSetAsideMeanwhile();
     void leavesAnotherDatabaseAlone();
     void mendsAnIndexThatLeadsNowhere();
@@ -220,6 +221,40 @@ void TestReportJournalDamage::goesOnWhenItIsRemovedWhileOpen()
     QVERIFY(other.Open(file));
     QCOMPARE(int(other.Search({}).size()), 1);
     QCOMPARE(other.Search({})[0].id, id);
+}
+
+/// Who is told may run an event loop, such as that of a message box.
+void TestReportJournalDamage::remembersWhatChangesWhileItTellsOfDamage()
+{
+#ifndef Q_OS_UNIX
+    QSKIP("This system does not rename files in use.");
+#endif
+    Station station;
+    const QString file = station.PathOf(QStringLiteral("journal.sqlite"));
+    const QString path = station.PathOf(QStringLiteral("a.xml"));
+    ReportJournal journal;
+    QVERIFY(journal.Open(file));
+    journal.Watch(station.Supervisor());
+    const quint64 report = station.Lose(path);
+    const auto verdict = [&journal] { return journal.Search({}).at(0).verdict; };
+    QTRY_COMPARE(int(journal.Search({}).size()), 1);
+    QTRY_COMPARE(verdict(), QStringLiteral("Pending"));
+
+    int told = 0;
+    connect(&journal, &ReportJournal::Troubled, this, [&station, report, path, &told] {
+        if (++told == 1) {
+            QSignalSpy changed(&station.Supervisor(), &ReportSupervisor::Changed);
+            QVERIFY(station.Supervisor().Discard(report));
+            QVERIFY(!changed.isEmpty() || changed.wait());
+        }
+    });
+    for (const QString& end : {QStringLiteral("-shm"), QStringLiteral("-wal"), QString()}) {
+        QFile::rename(file + end, file + QStringLiteral(".away") + end);
+    }
+    writeFile(file, "this is no database, and it is long enough to be looked at as one, is it not, with 100 bytes");
+    station.Fail(report, "<again/>");
+    QTRY_COMPARE(told, 1);
+    QTRY_COMPARE(verdict(), QStringLiteral("Discarded"));
 }
 
 /// Another process, which has found damage, need not see what is written just then.

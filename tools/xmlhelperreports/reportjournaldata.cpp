@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QMetaEnum>
+#include <QScopedValueRollback>
 #include <QSysInfo>
 
 #include <arbase/vornos.h>
@@ -322,17 +323,21 @@ void ReportJournalData::Note(quint64 report)
 /// Gives whether some reports were written. Files are read first, so that other processes do not wait for them.
 bool ReportJournalData::Flush(bool isLast)
 {
-    if (changed.empty() || file.isEmpty()) {
+    if (changed.empty() || file.isEmpty() || isFlushing) {
         return false;
     }
+    const QScopedValueRollback<bool> flushing(isFlushing, true);
     std::vector<Update> updates;
-    for (auto report = changed.begin(); report != changed.end() && updates.size() < ReportsInOneGo; ++report) {
-        updates.push_back(UpdateOf(report->second, isLast));
+    std::map<quint64, ReportSupervisor::Verdict> taken; // Who hears of trouble may bring a newer state of a report.
+    while (!changed.empty() && taken.size() < ReportsInOneGo) {
+        updates.push_back(UpdateOf(changed.begin()->second, isLast));
+        taken.insert(changed.extract(changed.begin()));
     }
     const auto write = [this, &updates] {
         return std::all_of(updates.begin(), updates.end(), [this](Update& update) { return Write(update); });
     };
     if (!Change(write)) {
+        changed.merge(taken);
         flushTimer.start(PauseBetweenTries);
         return false;
     }
@@ -455,11 +460,13 @@ void ReportJournalData::TakeContent(StoredEntry& entry, const Update& update) co
     }
 }
 
-/// What is in the journal need not be remembered.
+/// What is in the journal need not be remembered, unless it has changed since.
 void ReportJournalData::Forget(const Update& update)
 {
     const quint64 report = update.verdict.report;
-    changed.erase(report);
+    if (changed.count(report) > 0) {
+        return;
+    }
     valuesOfBegun.erase(report);
     if (update.content.isRead || !isFile(update.verdict.state) || update.verdict.isChecked) {
         unread.erase(report);

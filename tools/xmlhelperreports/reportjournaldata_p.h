@@ -80,6 +80,7 @@ struct ReportJournalData
     QSet<QString> unwritten; ///< ids of watched reports that could not be written yet
     std::map<quint64, ReportSupervisor::Verdict> changed; ///< as it was told last: the supervisor may forget it
     std::set<quint64> unread; ///< written, and not read since
+    bool isFlushing = false; ///< somebody who is told may run an event loop
     QTimer flushTimer;
     FolderIntake intake;
     std::unique_ptr<JournalSender> sender;
