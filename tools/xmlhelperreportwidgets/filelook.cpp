@@ -13,6 +13,10 @@ namespace {
 /// So long several changes count as one.
 constexpr int Pause = 50;
 
+/// So long after the last change all is looked at once more: Windows tells of a folder only when its time has changed,
+/// and a change within the same tick of the file system's clock leaves that as it is.
+constexpr int PauseBeforeLastLook = 500;
+
 /// Files that are looked at before the event loop goes on.
 constexpr std::size_t LooksInOneGo = 20;
 
@@ -34,11 +38,13 @@ FileLook::FileLook(QObject* parent)
     : QObject(parent)
 {
     m_timer.setSingleShot(true);
+    m_lastLookTimer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &FileLook::lookAtSome);
-    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &FileLook::Look);
+    connect(&m_lastLookTimer, &QTimer::timeout, this, &FileLook::Look);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &FileLook::lookTwice);
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, [this] {
         m_bChosenChanged = true;
-        Look();
+        lookTwice();
     });
 }
 
@@ -54,10 +60,17 @@ void FileLook::Follow(const std::vector<ReportSupervisor::Verdict>& reports, qui
 
 void FileLook::Look()
 {
-    m_next = 0;
-    if (!m_timer.isActive()) { // Else nothing is looked at in a folder that changes all the time.
+    // What is under way is not begun anew: in a folder that changes all the time it would not come to its end.
+    m_bLookAgain = m_next > 0;
+    if (!m_timer.isActive()) {
         m_timer.start(Pause);
     }
+}
+
+void FileLook::lookTwice()
+{
+    Look();
+    m_lastLookTimer.start(PauseBeforeLastLook);
 }
 
 void FileLook::lookAtSome()
@@ -74,8 +87,12 @@ void FileLook::lookAtSome()
     }
     if (m_next < m_written.size()) {
         m_timer.start(0);
-    } else {
-        watch(); // what has taken the place of a file or a folder is watched only now
+        return;
+    }
+    m_next = 0;
+    watch(); // what has taken the place of a file or a folder is watched only now
+    if (std::exchange(m_bLookAgain, false)) {
+        m_timer.start(Pause);
     }
 }
 

@@ -23,7 +23,7 @@ public:
     /// @param reports  those whose folders are watched
     /// @param chosen   the file of this one is watched too; 0 for none
     void Follow(const std::vector<ReportSupervisor::Verdict>& reports, quint64 chosen);
-    /// Looks at all of them, the newest first, from the event loop.
+    /// Looks at all of them, the newest first, from the event loop. Asked for meanwhile, it looks once more at the end.
     void Look();
 
 Q_SIGNALS:
@@ -35,14 +35,17 @@ Q_SIGNALS:
 private:
     Q_DISABLE_COPY(FileLook)
 
+    void lookTwice();
     void lookAtSome();
     void watch();
 
     QFileSystemWatcher m_watcher;
     QTimer m_timer;
+    QTimer m_lastLookTimer;
     std::vector<ReportSupervisor::Verdict> m_written;
     std::size_t m_next = 0; ///< of those above, the one that is looked at next
     quint64 m_chosen = 0;
+    bool m_bLookAgain = false; ///< when all have been looked at
     bool m_bChosenChanged = false;
 };
 
