@@ -28,6 +28,7 @@ private Q_SLOTS:
     void seesWhatFollowsElementsTakenAway();
     void noticesLateWhatFollowsElementsTakenAwayAtTheEnd();
     void findsNoneFirstOfRenamedElements();
+    void findsNoneFirstOfElementsTakenAway();
     void knowsPrefixesBeforeThePlaceOnly();
     void knowsNoPrefixInsideOfItsName();
     void forgetsARemovedPrefix();
@@ -189,6 +190,15 @@ void TestInternalsOwnerIndex::findsNoneFirstOfRenamedElements()
     m_nextGroup.setTagName(QStringLiteral("Other"));
     QVERIFY(!isGroupFirst(m_group));
     QVERIFY(!m_pIndex->IsBelowRoot(QStringLiteral("Group")));
+}
+
+void TestInternalsOwnerIndex::findsNoneFirstOfElementsTakenAway()
+{
+    makeIndex(1000);
+    QVERIFY(m_pIndex->GoTo(m_group.firstChildElement()));
+    m_document.documentElement().removeChild(m_group);
+    m_document.documentElement().removeChild(m_nextGroup);
+    QVERIFY(!m_pIndex->IsFirstAt(1));
 }
 
 QDomElement TestInternalsOwnerIndex::prefixedGroup()

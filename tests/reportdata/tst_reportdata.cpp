@@ -675,12 +675,12 @@ void TestReportData::valueIsFoundAgainWhileASnapshotLives()
 
 void TestReportData::valueHasGoneWhenAnotherItemIsWhereItsNodeWas()
 {
-    static std::aligned_union_t<0, Node, ValueItem> memory;
+    static std::aligned_union_t<0, NamedNode, ValueItem> memory;
     /// Stands in that memory, and is deleted by its parent like any other item.
-    class PlacedNode : public Node
+    class PlacedNode : public NamedNode
     {
     public:
-        using Node::Node;
+        using NamedNode::NamedNode;
         static void* operator new(std::size_t) { return &memory; }
         static void operator delete(void*) { }
     };
@@ -696,6 +696,7 @@ void TestReportData::valueHasGoneWhenAnotherItemIsWhereItsNodeWas()
     auto* const node = new PlacedNode(QStringLiteral("Spare"), tree.Root());
     new ValueItem(new ValueText(QStringLiteral("Text"), QStringLiteral("text")), node);
     const ReportData item = itemAt(QStringLiteral("Spare/Text"));
+    node->Rename(QStringLiteral("Renamed"));
     const TreeSnapshot snapshot;
     QCOMPARE(textOf(item), QStringLiteral("text"));
     delete node;
