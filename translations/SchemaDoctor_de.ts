@@ -2330,7 +2330,30 @@ Stattdessen: %3</translation>
     </message>
 </context>
 <context>
-    <name>schemadoctor::LaidOutTreeModel</name>
+    <name>schemadoctor::MendWindow</name>
+    <message>
+        <source>%1 - mended schema</source>
+        <translation>%1 - überarbeitetes Schema</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Nachher</translation>
+    </message>
+    <message>
+        <source>What it does to reports</source>
+        <translation>Was es für Berichte bedeutet</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::SkeletonTreeModel</name>
     <message>
         <source>Element</source>
         <translation>Element</translation>
@@ -2358,29 +2381,6 @@ Stattdessen: %3</translation>
     <message>
         <source>Set by</source>
         <translation>Gesetzt durch</translation>
-    </message>
-</context>
-<context>
-    <name>schemadoctor::MendWindow</name>
-    <message>
-        <source>%1 - mended schema</source>
-        <translation>%1 - überarbeitetes Schema</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Zeile</translation>
-    </message>
-    <message>
-        <source>Before</source>
-        <translation>Vorher</translation>
-    </message>
-    <message>
-        <source>After</source>
-        <translation>Nachher</translation>
-    </message>
-    <message>
-        <source>What it does to reports</source>
-        <translation>Was es für Berichte bedeutet</translation>
     </message>
 </context>
 </TS>

@@ -2330,7 +2330,30 @@ Write instead: %3</translation>
     </message>
 </context>
 <context>
-    <name>schemadoctor::LaidOutTreeModel</name>
+    <name>schemadoctor::MendWindow</name>
+    <message>
+        <source>%1 - mended schema</source>
+        <translation>%1 - mended schema</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Before</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>After</translation>
+    </message>
+    <message>
+        <source>What it does to reports</source>
+        <translation>What it does to reports</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::SkeletonTreeModel</name>
     <message>
         <source>Element</source>
         <translation>Element</translation>
@@ -2358,29 +2381,6 @@ Write instead: %3</translation>
     <message>
         <source>Set by</source>
         <translation>Set by</translation>
-    </message>
-</context>
-<context>
-    <name>schemadoctor::MendWindow</name>
-    <message>
-        <source>%1 - mended schema</source>
-        <translation>%1 - mended schema</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Line</translation>
-    </message>
-    <message>
-        <source>Before</source>
-        <translation>Before</translation>
-    </message>
-    <message>
-        <source>After</source>
-        <translation>After</translation>
-    </message>
-    <message>
-        <source>What it does to reports</source>
-        <translation>What it does to reports</translation>
     </message>
 </context>
 </TS>

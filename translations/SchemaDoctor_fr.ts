@@ -2330,7 +2330,30 @@ Ce que fait la bibliothèque : %2
     </message>
 </context>
 <context>
-    <name>schemadoctor::LaidOutTreeModel</name>
+    <name>schemadoctor::MendWindow</name>
+    <message>
+        <source>%1 - mended schema</source>
+        <translation>%1 - schéma corrigé</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Avant</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Après</translation>
+    </message>
+    <message>
+        <source>What it does to reports</source>
+        <translation>Effet sur les rapports</translation>
+    </message>
+</context>
+<context>
+    <name>schemadoctor::SkeletonTreeModel</name>
     <message>
         <source>Element</source>
         <translation>Élément</translation>
@@ -2358,29 +2381,6 @@ Ce que fait la bibliothèque : %2
     <message>
         <source>Set by</source>
         <translation>Rempli par</translation>
-    </message>
-</context>
-<context>
-    <name>schemadoctor::MendWindow</name>
-    <message>
-        <source>%1 - mended schema</source>
-        <translation>%1 - schéma corrigé</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Ligne</translation>
-    </message>
-    <message>
-        <source>Before</source>
-        <translation>Avant</translation>
-    </message>
-    <message>
-        <source>After</source>
-        <translation>Après</translation>
-    </message>
-    <message>
-        <source>What it does to reports</source>
-        <translation>Effet sur les rapports</translation>
     </message>
 </context>
 </TS>

@@ -16,7 +16,7 @@
 #include "reading/grammarcheck.h"
 #include "reading/schemarecord.h"
 #include "reading/schematext.h"
-#include "reading/treebuilder.h"
+#include "reading/skeletonbuilder.h"
 #include "rules/rule.h"
 
 namespace schemadoctor {

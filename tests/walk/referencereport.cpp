@@ -1,4 +1,4 @@
-#include "literalreport.h"
+#include "referencereport.h"
 
 #include <QXmlAttributes>
 #include <QXmlSimpleReader>
@@ -23,7 +23,7 @@ bool isValueElement(const QDomElement& element)
 
 } // namespace
 
-LiteralReport::LiteralReport(IXMLHelper* observer)
+ReferenceReport::ReferenceReport(IXMLHelper* observer)
     : m_pObserver(observer)
     , m_pDocument(nullptr)
     , m_bResume(false)
@@ -32,9 +32,9 @@ LiteralReport::LiteralReport(IXMLHelper* observer)
 {
 }
 
-LiteralReport::~LiteralReport() = default;
+ReferenceReport::~ReferenceReport() = default;
 
-void LiteralReport::Create(const QString& schemaPath)
+void ReferenceReport::Create(const QString& schemaPath)
 {
     m_pHandler = std::make_unique<XmlSchemaHandler>(m_pObserver, schemaPath);
     QXmlSimpleReader parser;
@@ -48,7 +48,7 @@ void LiteralReport::Create(const QString& schemaPath)
     }
 }
 
-void LiteralReport::SetXmlValue(const QString& value)
+void ReferenceReport::SetXmlValue(const QString& value)
 {
     const QString type = m_current.attribute(Type);
     if (type.isEmpty()) {
@@ -68,7 +68,7 @@ void LiteralReport::SetXmlValue(const QString& value)
     continueAt(m_current, false);
 }
 
-void LiteralReport::SetElementMaxOccurs(const QString& name, int count)
+void ReferenceReport::SetElementMaxOccurs(const QString& name, int count)
 {
     if (name == m_sLastMultiplied) {
         return;
@@ -85,7 +85,7 @@ void LiteralReport::SetElementMaxOccurs(const QString& name, int count)
     continueAt(m_current, true);
 }
 
-void LiteralReport::DiscardChoiceItem()
+void ReferenceReport::DiscardChoiceItem()
 {
     const QDomElement discarded = m_current;
     const QString tag = discarded.tagName();
@@ -110,7 +110,7 @@ void LiteralReport::DiscardChoiceItem()
     }
 }
 
-void LiteralReport::walk()
+void ReferenceReport::walk()
 {
     DocBeginEvent begin;
     m_pObserver->XmlUpdate(&begin);
@@ -139,7 +139,7 @@ void LiteralReport::walk()
     m_pObserver->XmlUpdate(&end);
 }
 
-void LiteralReport::walkChildren(const QDomNode& parent)
+void ReferenceReport::walkChildren(const QDomNode& parent)
 {
     QString text;
     QDomNode node = parent.firstChild();
@@ -165,7 +165,7 @@ void LiteralReport::walkChildren(const QDomNode& parent)
     }
 }
 
-void LiteralReport::takeText(const QDomNode& node, QString& text)
+void ReferenceReport::takeText(const QDomNode& node, QString& text)
 {
     if (node.firstChild().isText()) {
         text = node.firstChild().toText().data();
@@ -178,7 +178,7 @@ void LiteralReport::takeText(const QDomNode& node, QString& text)
     }
 }
 
-void LiteralReport::announce(const QDomNode& node, const QString& text)
+void ReferenceReport::announce(const QDomNode& node, const QString& text)
 {
     QXmlAttributes attributes;
     const QDomNamedNodeMap map = node.attributes();
@@ -190,7 +190,7 @@ void LiteralReport::announce(const QDomNode& node, const QString& text)
     m_pObserver->XmlUpdate(&event);
 }
 
-bool LiteralReport::checkCurrentElement()
+bool ReferenceReport::checkCurrentElement()
 {
     if (!m_probation.isNull()) {
         if (!isValueElement(m_current)) {
@@ -218,7 +218,7 @@ bool LiteralReport::checkCurrentElement()
     return true;
 }
 
-bool LiteralReport::isOptional()
+bool ReferenceReport::isOptional()
 {
     const auto codes = m_occurs.find(m_current.tagName());
     if (codes == m_occurs.end()) {
@@ -237,7 +237,7 @@ bool LiteralReport::isOptional()
     return isFound;
 }
 
-bool LiteralReport::isChoiceAlternative() const
+bool ReferenceReport::isChoiceAlternative() const
 {
     const QString tag = m_current.tagName();
     bool isFound = false;
@@ -247,20 +247,20 @@ bool LiteralReport::isChoiceAlternative() const
     return isFound;
 }
 
-void LiteralReport::continueAt(const QDomNode& node, bool revisit)
+void ReferenceReport::continueAt(const QDomNode& node, bool revisit)
 {
     m_resume = node;
     m_bResume = true;
     m_bRevisit = revisit;
 }
 
-QDomNode LiteralReport::remove(const QDomNode& node)
+QDomNode ReferenceReport::remove(const QDomNode& node)
 {
     m_removed.push_back(node);
     return node.parentNode().removeChild(node);
 }
 
-void LiteralReport::searchNodes(const QString& name, const QDomElement& element, Nodes& results) const
+void ReferenceReport::searchNodes(const QString& name, const QDomElement& element, Nodes& results) const
 {
     if (element.tagName() == name) {
         results.push_back(m_pDocument->lastChild());
@@ -274,7 +274,7 @@ void LiteralReport::searchNodes(const QString& name, const QDomElement& element,
     }
 }
 
-QDomNode LiteralReport::searchStartNode(const QString& name, const QDomElement& element) const
+QDomNode ReferenceReport::searchStartNode(const QString& name, const QDomElement& element) const
 {
     if (element.tagName() == name) {
         return m_pDocument->lastChild();
@@ -291,7 +291,7 @@ QDomNode LiteralReport::searchStartNode(const QString& name, const QDomElement& 
     return QDomNode();
 }
 
-LiteralReport::Nodes LiteralReport::searchElements(const QString& name, const QString& ownerName) const
+ReferenceReport::Nodes ReferenceReport::searchElements(const QString& name, const QString& ownerName) const
 {
     Nodes results;
     QDomElement start = m_pDocument->documentElement();
@@ -304,7 +304,7 @@ LiteralReport::Nodes LiteralReport::searchElements(const QString& name, const QS
     return results;
 }
 
-bool LiteralReport::isCountAllowed(const QString& name, const QString& tagName, int count, const QDomElement& element)
+bool ReferenceReport::isCountAllowed(const QString& name, const QString& tagName, int count, const QDomElement& element)
 {
     const auto codes = m_occurs.find(name);
     if (codes == m_occurs.end()) {
@@ -325,7 +325,7 @@ bool LiteralReport::isCountAllowed(const QString& name, const QString& tagName, 
     return isFound;
 }
 
-bool LiteralReport::isBelow(const QString& owner, const QString& tagName, const QDomElement& element) const
+bool ReferenceReport::isBelow(const QString& owner, const QString& tagName, const QDomElement& element) const
 {
     bool isFound = false;
     for (const QDomNode& found : searchElements(owner, QString())) {
@@ -336,7 +336,7 @@ bool LiteralReport::isBelow(const QString& owner, const QString& tagName, const 
     return isFound;
 }
 
-void LiteralReport::send(int errorID)
+void ReferenceReport::send(int errorID)
 {
     ErrorEvent event(static_cast<IXMLHelper::ErrorID>(errorID));
     m_pObserver->XmlUpdate(&event);

@@ -1,5 +1,5 @@
-#ifndef XMLHELPER_TESTS_LITERALREPORT_H
-#define XMLHELPER_TESTS_LITERALREPORT_H
+#ifndef XMLHELPER_TESTS_REFERENCEREPORT_H
+#define XMLHELPER_TESTS_REFERENCEREPORT_H
 
 #include <list>
 #include <memory>
@@ -18,11 +18,11 @@ class XmlSchemaHandler;
 /// and meant to be read beside the rules; the library is held against it.
 ///
 /// Knows texts as values only, and no facets.
-class LiteralReport
+class ReferenceReport
 {
 public:
-    explicit LiteralReport(IXMLHelper* observer);
-    ~LiteralReport();
+    explicit ReferenceReport(IXMLHelper* observer);
+    ~ReferenceReport();
 
     /// Reads the schema with the library's handler and walks what it has laid out.
     void Create(const QString& schemaPath);
@@ -34,7 +34,7 @@ public:
     const QDomDocument& Document() const { return *m_pDocument; }
 
 private:
-    Q_DISABLE_COPY(LiteralReport)
+    Q_DISABLE_COPY(ReferenceReport)
 
     using Nodes = std::list<QDomNode>;
 

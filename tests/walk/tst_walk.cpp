@@ -13,8 +13,8 @@
 
 #include "domtext.h"
 #include "eventrecorder.h"
-#include "literalreport.h"
 #include "randomschema.h"
+#include "referencereport.h"
 
 namespace {
 
@@ -304,7 +304,7 @@ void TestWalk::walksByTheRules()
         QVERIFY(report.CreateXmlFromSchema(schemaPath, reportPath, false));
 
         Guest literalGuest(seed, static_cast<Manners>(manners));
-        LiteralReport literal(&literalGuest);
+        ReferenceReport literal(&literalGuest);
         literalGuest.operations.setXmlValue = [&](const QString& value) { literal.SetXmlValue(value); };
         literalGuest.operations.setElementMaxOccurs
             = [&](const QString& name, int count) { literal.SetElementMaxOccurs(name, count); };

@@ -17,7 +17,7 @@ class ButtonFindings
     Q_DECLARE_TR_FUNCTIONS(schemadoctor::ButtonFindings)
 
 public:
-    explicit ButtonFindings(const LaidOutTree& tree)
+    explicit ButtonFindings(const SkeletonTree& tree)
         : m_tree(tree)
     {
     }
@@ -33,14 +33,14 @@ private:
     static QString remedyOf(Obstacle obstacle);
     Finding* add(int element, const Place& place, const QString& rule, const QString& about);
 
-    const LaidOutTree& m_tree;
+    const SkeletonTree& m_tree;
     QVector<Finding> m_findings;
     std::set<std::tuple<QString, QString, QString, int>> m_told; ///< by rule, name, file and line
 };
 
 void ButtonFindings::LookAt(int element, const ButtonElement& view)
 {
-    const LaidOutElement& laidOut = m_tree.elements[std::size_t(element)];
+    const SkeletonElement& laidOut = m_tree.elements[std::size_t(element)];
     if (!isContainer(laidOut)) {
         const QString described = tr("the element '%1' of the type '%2'").arg(laidOut.name, laidOut.type);
         tellObstacle(element, described, laidOut.place, view.value);

@@ -97,7 +97,7 @@ ItemKinds withoutIncluded(ItemKinds kinds)
 class ButtonTrial : public IXMLHelper
 {
 public:
-    ButtonTrial(const LaidOutTree& tree, std::vector<ButtonElement>& view)
+    ButtonTrial(const SkeletonTree& tree, std::vector<ButtonElement>& view)
         : m_tree(tree)
         , m_view(view)
         , m_areTried(tree.elements.size())
@@ -112,7 +112,7 @@ public:
 private:
     void mark(const QDomElement& root);
     void tryElement(int index);
-    void tryValue(const LaidOutElement& declared, ButtonFilling& filling);
+    void tryValue(const SkeletonElement& declared, ButtonFilling& filling);
     void tryAttribute(const DeclaredAttribute& declared, ButtonFilling& filling);
     void tryAttributeOfValue(const DeclaredAttribute& declared, ButtonFilling& filling);
     ItemKinds kindsOf(const DeclaredAttribute& declared, const QString& item, const Item& first, bool isFirst);
@@ -121,7 +121,7 @@ private:
     void restore();
     void settle();
 
-    const LaidOutTree& m_tree;
+    const SkeletonTree& m_tree;
     std::vector<ButtonElement>& m_view;
     std::vector<bool> m_areTried;
     std::map<std::tuple<QString, int, QString, QString>, int> m_known; ///< by declaration, the element tried for it
@@ -179,7 +179,7 @@ void ButtonTrial::mark(const QDomElement& root)
 /// Once for all elements of one declaration.
 void ButtonTrial::tryElement(int index)
 {
-    const LaidOutElement& declared = m_tree.elements[std::size_t(index)];
+    const SkeletonElement& declared = m_tree.elements[std::size_t(index)];
     ButtonElement& view = m_view[std::size_t(index)];
     const auto [known, isNew] = m_known.emplace(
         std::make_tuple(declared.place.file, declared.place.line, declared.name, declared.type), index);
@@ -204,7 +204,7 @@ void ButtonTrial::tryElement(int index)
     }
 }
 
-void ButtonTrial::tryValue(const LaidOutElement& declared, ButtonFilling& filling)
+void ButtonTrial::tryValue(const SkeletonElement& declared, ButtonFilling& filling)
 {
     m_ownProbe.item.reset();
     if (isContainer(declared)) {
@@ -347,22 +347,22 @@ void ButtonTrial::settle()
 class ItemNames
 {
 public:
-    explicit ItemNames(const LaidOutTree& tree);
+    explicit ItemNames(const SkeletonTree& tree);
 
     void Name(std::vector<ButtonElement>& view) const;
 
 private:
-    QString nameOf(const LaidOutElement& element) const;
-    QString qualifiedNameOf(const LaidOutElement& element) const;
+    QString nameOf(const SkeletonElement& element) const;
+    QString qualifiedNameOf(const SkeletonElement& element) const;
 
-    const LaidOutTree& m_tree;
+    const SkeletonTree& m_tree;
     QHash<QString, int> m_reached; ///< values by the names of the items that reach them
 };
 
-ItemNames::ItemNames(const LaidOutTree& tree)
+ItemNames::ItemNames(const SkeletonTree& tree)
     : m_tree(tree)
 {
-    for (const LaidOutElement& element : tree.elements) {
+    for (const SkeletonElement& element : tree.elements) {
         if (!isContainer(element)) {
             ++m_reached[element.name];
             ++m_reached[qualifiedNameOf(element)];
@@ -373,17 +373,17 @@ ItemNames::ItemNames(const LaidOutTree& tree)
     }
 }
 
-QString ItemNames::qualifiedNameOf(const LaidOutElement& element) const
+QString ItemNames::qualifiedNameOf(const SkeletonElement& element) const
 {
     const QString parent
-        = element.parent == LaidOutElement::None ? QString() : m_tree.elements[std::size_t(element.parent)].name;
+        = element.parent == SkeletonElement::None ? QString() : m_tree.elements[std::size_t(element.parent)].name;
     return ReportItems::QualifiedName(parent, element.name);
 }
 
 /// The short name where it is enough.
-QString ItemNames::nameOf(const LaidOutElement& element) const
+QString ItemNames::nameOf(const SkeletonElement& element) const
 {
-    const bool isAlone = m_reached.value(element.name) <= 1 || element.parent == LaidOutElement::None;
+    const bool isAlone = m_reached.value(element.name) <= 1 || element.parent == SkeletonElement::None;
     return isAlone ? element.name : qualifiedNameOf(element);
 }
 
@@ -394,7 +394,7 @@ void ItemNames::Name(std::vector<ButtonElement>& view) const
         filling.others = m_reached.value(item) - 1;
     };
     for (std::size_t i = 0; i < view.size(); ++i) {
-        const LaidOutElement& element = m_tree.elements[i];
+        const SkeletonElement& element = m_tree.elements[i];
         name(view[i].value, isContainer(element) ? QString() : nameOf(element));
         for (const DeclaredAttribute& attribute : element.attributes) {
             name(view[i].attributes.emplace_back(), attribute.name);
@@ -419,7 +419,7 @@ QDataStream& operator>>(QDataStream& stream, ButtonFilling& filling)
     return stream;
 }
 
-QByteArray triedView(const QString& file, const LaidOutTree& tree, std::vector<ButtonElement> view)
+QByteArray triedView(const QString& file, const SkeletonTree& tree, std::vector<ButtonElement> view)
 {
     ButtonTrial(tree, view).Run(file);
     QByteArray result;
@@ -453,7 +453,7 @@ class TrialWords
 
 void tryButton(const QString& file, Examination& examination)
 {
-    const LaidOutTree& tree = examination.tree;
+    const SkeletonTree& tree = examination.tree;
     ButtonView& button = examination.button;
     button.leftOut = TrialWords::tr("What the report button fills was not tried: it would take too long.");
     if (tree.elements.size() > std::size_t(MaxProofElements)) {

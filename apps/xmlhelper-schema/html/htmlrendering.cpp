@@ -77,7 +77,7 @@ public:
     }
 
 private:
-    const LaidOutElement& element(int index) const { return m_examination.tree.elements[std::size_t(index)]; }
+    const SkeletonElement& element(int index) const { return m_examination.tree.elements[std::size_t(index)]; }
     int elementCount() const { return int(m_examination.tree.elements.size()); }
 
     // The top file first, then by name; as much as the page can bear.
@@ -113,7 +113,7 @@ private:
                 elementOfPath.insert(finding.path, findByPath(m_examination.tree, finding.path));
             }
             const int index = elementOfPath.value(finding.path);
-            if (index != LaidOutElement::None && index < shownElements) {
+            if (index != SkeletonElement::None && index < shownElements) {
                 m_elementOfFinding.insert(number, index);
                 m_findingsOfElement[index].append(number);
             }
@@ -237,7 +237,7 @@ private:
 
     void writeElement(int index, int level)
     {
-        const LaidOutElement& shown = element(index);
+        const SkeletonElement& shown = element(index);
         const bool hasBranches = !shown.attributes.isEmpty() || !shown.children.empty();
         m_writer.Start(QLatin1String("li"));
         if (!hasBranches) {
@@ -264,7 +264,7 @@ private:
 
     void writeRow(int index, QLatin1String tag)
     {
-        const LaidOutElement& shown = element(index);
+        const SkeletonElement& shown = element(index);
         m_writer.Start(
             tag,
             {{QLatin1String("class"), QStringLiteral("row")}, {QLatin1String("id"), QStringLiteral("e%1").arg(index)}});
@@ -276,10 +276,10 @@ private:
         if (!shown.defaultValue.isEmpty()) {
             writeFact(Texts::tr("default %1").arg(shown.defaultValue));
         }
-        if (shown.parent != LaidOutElement::None) {
+        if (shown.parent != SkeletonElement::None) {
             writeFact(Texts::tr("occurs %1, counts taken: %2").arg(wordsForOccurs(shown), wordsForCounts(shown)));
         }
-        if (shown.choiceGroup != LaidOutElement::None) {
+        if (shown.choiceGroup != SkeletonElement::None) {
             writeFact(Texts::tr("alternative of choice %1").arg(shown.choiceGroup));
         } else if (shown.isChoiceAlternative) {
             writeFact(Texts::tr("alternative by its name"));

@@ -182,14 +182,14 @@ Staying stayingIn(const SchemaWriter& writer, const QByteArray& text, const QTem
         return staying;
     }
     file.close();
-    const LaidOutTree tree = examineAlone(name).tree;
+    const SkeletonTree tree = examineAlone(name).tree;
     asked += int(tree.elements.size());
-    for (const LaidOutElement& element : tree.elements) {
+    for (const SkeletonElement& element : tree.elements) {
         const bool mayStay = element.fate == Fate::Stays || element.fate == Fate::IsRemovedWithAnother;
         const TextNode* const particle = writer.ParticleAt(element.particle.line);
         if (particle && element.minOccurs == 0 && (mayStay || element.staysInCopies)) {
             staying.optional.insert(particle);
-        } else if (particle && element.choiceGroup != LaidOutElement::None && mayStay) {
+        } else if (particle && element.choiceGroup != SkeletonElement::None && mayStay) {
             staying.alternatives.insert(particle);
         }
     }

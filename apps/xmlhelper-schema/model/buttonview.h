@@ -47,13 +47,13 @@ struct ButtonFilling
 struct ButtonElement
 {
     ButtonFilling value; ///< means nothing for a container
-    std::vector<ButtonFilling> attributes; ///< as LaidOutElement::attributes
+    std::vector<ButtonFilling> attributes; ///< as SkeletonElement::attributes
 };
 
 /// What a report button makes of a schema.
 struct ButtonView
 {
-    std::vector<ButtonElement> elements; ///< as LaidOutTree::elements; empty when it was not tried
+    std::vector<ButtonElement> elements; ///< as SkeletonTree::elements; empty when it was not tried
     QString leftOut; ///< why it was not tried, in a sentence; empty when it was, or was not asked for
 };
 

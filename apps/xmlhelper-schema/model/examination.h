@@ -10,7 +10,7 @@
 #include "buttonview.h"
 #include "finding.h"
 #include "includetree.h"
-#include "laidouttree.h"
+#include "skeletontree.h"
 
 namespace schemadoctor {
 
@@ -49,7 +49,7 @@ struct Examination
     QString unreadableReason;
 
     QVector<Finding> findings; ///< sorted by causes, see groupsOf(): what to mend first comes first
-    LaidOutTree tree; ///< empty when nothing is laid out
+    SkeletonTree tree; ///< empty when nothing is laid out
     QString noTreeReason; ///< why `tree` is empty, in a sentence
     QVector<RootCandidate> rootCandidates;
     ElementCount count;

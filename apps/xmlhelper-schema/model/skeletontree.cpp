@@ -1,4 +1,4 @@
-#include "laidouttree.h"
+#include "skeletontree.h"
 
 #include <utility>
 
@@ -9,10 +9,10 @@ namespace schemadoctor {
 namespace {
 
 /// The name of an element, with its number when a sibling shares the name.
-QString stepOf(const LaidOutTree& tree, int index)
+QString stepOf(const SkeletonTree& tree, int index)
 {
-    const LaidOutElement& element = tree.elements[std::size_t(index)];
-    if (element.parent == LaidOutElement::None) {
+    const SkeletonElement& element = tree.elements[std::size_t(index)];
+    if (element.parent == SkeletonElement::None) {
         return element.name;
     }
     int before = 0;
@@ -27,7 +27,7 @@ QString stepOf(const LaidOutTree& tree, int index)
 }
 
 /// The child to which a step of a path leads.
-int childAt(const LaidOutTree& tree, int parent, const QString& step)
+int childAt(const SkeletonTree& tree, int parent, const QString& step)
 {
     const QString name = step.section(QLatin1Char('['), 0, 0);
     int left = step == name ? 1 : step.mid(name.size() + 1).chopped(1).toInt();
@@ -36,7 +36,7 @@ int childAt(const LaidOutTree& tree, int parent, const QString& step)
             return child;
         }
     }
-    return LaidOutElement::None;
+    return SkeletonElement::None;
 }
 
 QString wordsFor(Fate fate)
@@ -73,7 +73,7 @@ QString wordsFor(const AcceptedCounts& counts)
 }
 
 /// With what holds for further copies of the container around an element.
-QString withCopies(const QString& words, const LaidOutElement& element, bool isOtherwise)
+QString withCopies(const QString& words, const SkeletonElement& element, bool isOtherwise)
 {
     return element.isUntriedInCopies ? Texts::tr("%1 in the first copy, the others were not tried").arg(words)
         : isOtherwise                ? Texts::tr("%1 in the first copy only").arg(words)
@@ -82,52 +82,52 @@ QString withCopies(const QString& words, const LaidOutElement& element, bool isO
 
 } // namespace
 
-QString pathOf(const LaidOutTree& tree, int element)
+QString pathOf(const SkeletonTree& tree, int element)
 {
     QString path;
-    for (int index = element; index != LaidOutElement::None; index = tree.elements[std::size_t(index)].parent) {
+    for (int index = element; index != SkeletonElement::None; index = tree.elements[std::size_t(index)].parent) {
         path.prepend(QLatin1Char('/') + stepOf(tree, index));
     }
     return path;
 }
 
-int findByPath(const LaidOutTree& tree, const QString& path)
+int findByPath(const SkeletonTree& tree, const QString& path)
 {
     const QStringList steps = path.mid(1).split(QLatin1Char('/'));
     if (tree.IsEmpty() || !path.startsWith(QLatin1Char('/')) || steps.first() != tree.elements.front().name) {
-        return LaidOutElement::None;
+        return SkeletonElement::None;
     }
     int index = 0;
-    for (int step = 1; step < steps.size() && index != LaidOutElement::None; ++step) {
+    for (int step = 1; step < steps.size() && index != SkeletonElement::None; ++step) {
         index = childAt(tree, index, steps.at(step));
     }
     return index;
 }
 
-NameIndex::NameIndex(const LaidOutTree& tree)
+NameIndex::NameIndex(const SkeletonTree& tree)
 {
     for (int index = int(tree.elements.size()) - 1; index >= 0; --index) {
-        const LaidOutElement& element = tree.elements[std::size_t(index)];
+        const SkeletonElement& element = tree.elements[std::size_t(index)];
         m_children.insert({element.parent, element.name}, index);
     }
 }
 
-bool isContainer(const LaidOutElement& element)
+bool isContainer(const SkeletonElement& element)
 {
     return !isValueType(element.type);
 }
 
-bool mayBeRepeated(const LaidOutElement& element)
+bool mayBeRepeated(const SkeletonElement& element)
 {
     return element.counts.greatest == AcceptedCounts::Unbounded || element.counts.greatest > 1;
 }
 
-QString wordsForUnfilled(const LaidOutElement& element)
+QString wordsForUnfilled(const SkeletonElement& element)
 {
     return withCopies(wordsFor(element.fate), element, element.staysInCopies);
 }
 
-QString wordsForCounts(const LaidOutElement& element)
+QString wordsForCounts(const SkeletonElement& element)
 {
     return withCopies(wordsFor(element.counts), element, element.isSingleInCopies);
 }
@@ -148,7 +148,7 @@ QStringList namesOf(Setters setters)
     return all;
 }
 
-QString wordsForOccurs(const LaidOutElement& element)
+QString wordsForOccurs(const SkeletonElement& element)
 {
     if (element.maxOccurs == AcceptedCounts::Unbounded) {
         return QStringLiteral("%1..unbounded").arg(element.minOccurs);

@@ -1,5 +1,5 @@
-#ifndef SCHEMADOCTOR_LAIDOUTTREE_H
-#define SCHEMADOCTOR_LAIDOUTTREE_H
+#ifndef SCHEMADOCTOR_SKELETONTREE_H
+#define SCHEMADOCTOR_SKELETONTREE_H
 
 #include <vector>
 
@@ -56,13 +56,13 @@ enum class Fate {
 };
 
 /// An element of the skeleton, as the walk announces it.
-struct LaidOutElement
+struct SkeletonElement
 {
     static constexpr int None = -1;
 
-    int parent = None; ///< an index of LaidOutTree::elements
+    int parent = None; ///< an index of SkeletonTree::elements
     int row = 0; ///< which child of its parent it is
-    std::vector<int> children; ///< indices of LaidOutTree::elements, in document order
+    std::vector<int> children; ///< indices of SkeletonTree::elements, in document order
 
     QString name;
     QString type; ///< without prefix; empty for a container
@@ -91,49 +91,50 @@ struct LaidOutElement
 };
 
 /// The skeleton document. Elements stand in document order, so what is below an element follows it.
-struct LaidOutTree
+struct SkeletonTree
 {
-    std::vector<LaidOutElement> elements; ///< [0] is the root; empty when nothing is laid out
+    std::vector<SkeletonElement> elements; ///< [0] is the root; empty when nothing is laid out
     int rootCount = 0; ///< more than 1: further elements stand behind the root, which are none of these
 
     bool IsEmpty() const { return elements.empty(); }
 };
 
 /// The path of an element: names with a number where siblings share one, such as "/Report/Signal/Sample[2]".
-QString pathOf(const LaidOutTree& tree, int element);
+QString pathOf(const SkeletonTree& tree, int element);
 
-/// The element with that path; LaidOutElement::None when there is none.
-int findByPath(const LaidOutTree& tree, const QString& path);
+/// The element with that path; SkeletonElement::None when there is none.
+int findByPath(const SkeletonTree& tree, const QString& path);
 
 /// Leads from names to elements, of equal names to the first.
 class NameIndex
 {
 public:
-    static constexpr int AboveRoot = LaidOutElement::None;
+    static constexpr int AboveRoot = SkeletonElement::None;
 
-    explicit NameIndex(const LaidOutTree& tree);
+    explicit NameIndex(const SkeletonTree& tree);
 
-    /// The child of that name; LaidOutElement::None when there is none.
+    /// The child of that name; SkeletonElement::None when there is none.
     int ChildOf(int parent, const QString& name) const
     {
-        return m_children.value({parent, name}, LaidOutElement::None);
+        return m_children.value({parent, name}, SkeletonElement::None);
     }
 
 private:
     QHash<QPair<int, QString>, int> m_children; ///< by parent, of the root AboveRoot, and name
 };
 
-bool isContainer(const LaidOutElement& element);
-bool mayBeRepeated(const LaidOutElement& element); ///< a count above 1 is accepted
+bool isContainer(const SkeletonElement& element);
+bool mayBeRepeated(const SkeletonElement& element); ///< a count above 1 is accepted
 
 // Words for people, the same in every rendering.
 
-QString wordsForUnfilled(const LaidOutElement& element); ///< "stays", "is removed", "is removed in the first copy only"
-QString wordsForCounts(const LaidOutElement& element); ///< "no count", "0 only", "1 to 5", "0 to 500", "any"
+QString
+wordsForUnfilled(const SkeletonElement& element); ///< "stays", "is removed", "is removed in the first copy only"
+QString wordsForCounts(const SkeletonElement& element); ///< "no count", "0 only", "1 to 5", "0 to 500", "any"
 QStringList namesOf(Setters setters); ///< the argument types: "QString", "double", "int", "bool", "QDateTime", "QTime"
 
 /// "0..5", "1", "2..unbounded": as written.
-QString wordsForOccurs(const LaidOutElement& element);
+QString wordsForOccurs(const SkeletonElement& element);
 
 } // namespace schemadoctor
 

@@ -18,7 +18,7 @@
 
 #include "fitting.h"
 #include "model/texts.h"
-#include "reading/treebuilder.h"
+#include "reading/skeletonbuilder.h"
 
 QT_WARNING_DISABLE_DEPRECATED
 
@@ -35,7 +35,7 @@ QDateTime someTime()
 class FillingObserver : public IXMLHelper
 {
 public:
-    FillingObserver(const LaidOutTree& tree, const Filling& filling)
+    FillingObserver(const SkeletonTree& tree, const Filling& filling)
         : m_tree(tree)
         , m_filling(filling)
         , m_builder(this)
@@ -47,25 +47,25 @@ public:
 
 private:
     int announced(const QDomElement& element);
-    bool multiply(const QDomElement& element, const LaidOutElement& declared);
-    void setAttributes(const QDomElement& element, const LaidOutElement& declared);
+    bool multiply(const QDomElement& element, const SkeletonElement& declared);
+    void setAttributes(const QDomElement& element, const SkeletonElement& declared);
     void removeAttribute(const QDomElement& element, const QString& name);
     void setAttribute(const DeclaredAttribute& attribute);
-    void setValue(const LaidOutElement& declared);
+    void setValue(const SkeletonElement& declared);
     QString nextText() { return QStringLiteral("text %1").arg(++m_values); }
 
     /// An announced element, and what is known of those directly in it.
     struct Level
     {
         QDomElement element;
-        int index = LaidOutElement::None; ///< in the tree
+        int index = SkeletonElement::None; ///< in the tree
         std::vector<QDomElement> children; ///< as they were before the first of them was announced
         std::size_t child = 0; ///< the one announced last, or where to begin
 
         bool FindChild(const QDomElement& announced);
     };
 
-    const LaidOutTree& m_tree;
+    const SkeletonTree& m_tree;
     const Filling& m_filling;
     std::vector<Level> m_levels; ///< from the root to the element announced last
     QDomDocument m_document;
@@ -94,11 +94,11 @@ void FillingObserver::XmlUpdate(XmlEvent* event)
     const QDomNode node = static_cast<ElemBeginEvent*>(event)->GetElementNode();
     m_document = node.ownerDocument();
     const QDomElement element = node.toElement(); // A text below the root is announced, too.
-    const int index = element.isNull() ? LaidOutElement::None : announced(element);
-    if (index == LaidOutElement::None || !m_filling.isWanted[std::size_t(index)]) {
+    const int index = element.isNull() ? SkeletonElement::None : announced(element);
+    if (index == SkeletonElement::None || !m_filling.isWanted[std::size_t(index)]) {
         return;
     }
-    const LaidOutElement& declared = m_tree.elements[std::size_t(index)];
+    const SkeletonElement& declared = m_tree.elements[std::size_t(index)];
     if (m_filling.isTwice && multiply(element, declared)) {
         return; // It is announced once more.
     }
@@ -114,12 +114,12 @@ int FillingObserver::announced(const QDomElement& element)
         m_levels.pop_back();
     }
     const bool isRoot = m_levels.empty() && element.tagName() == m_tree.elements.front().name;
-    int index = isRoot ? 0 : LaidOutElement::None;
-    if (!m_levels.empty() && m_levels.back().index != LaidOutElement::None) {
+    int index = isRoot ? 0 : SkeletonElement::None;
+    if (!m_levels.empty() && m_levels.back().index != SkeletonElement::None) {
         Level& around = m_levels.back();
         const std::vector<int>& declared = m_tree.elements[std::size_t(around.index)].children;
         index = around.FindChild(element) && around.child < declared.size() ? declared[around.child]
-                                                                            : LaidOutElement::None;
+                                                                            : SkeletonElement::None;
     }
     m_levels.push_back({element, index, {}, 0});
     return index;
@@ -143,7 +143,7 @@ bool FillingObserver::Level::FindChild(const QDomElement& announced)
 }
 
 /// Makes a second one of an element that stands alone and may repeat. Gives whether there is one now.
-bool FillingObserver::multiply(const QDomElement& element, const LaidOutElement& declared)
+bool FillingObserver::multiply(const QDomElement& element, const SkeletonElement& declared)
 {
     const bool isMeantToRepeat = declared.maxOccurs == AcceptedCounts::Unbounded || declared.maxOccurs > 1;
     const QPair<QDomNode, QString> place {element.parentNode(), declared.name};
@@ -156,7 +156,7 @@ bool FillingObserver::multiply(const QDomElement& element, const LaidOutElement&
 }
 
 /// Optional attributes belong to everything, and are removed where only what is required is filled.
-void FillingObserver::setAttributes(const QDomElement& element, const LaidOutElement& declared)
+void FillingObserver::setAttributes(const QDomElement& element, const SkeletonElement& declared)
 {
     for (const DeclaredAttribute& attribute : declared.attributes) {
         if (attribute.isRequired || m_filling.isWithOptionalAttributes) {
@@ -197,7 +197,7 @@ void FillingObserver::setAttribute(const DeclaredAttribute& attribute)
 }
 
 /// The kinds in the order in which a type that takes several of them is most likely to mean one.
-void FillingObserver::setValue(const LaidOutElement& declared)
+void FillingObserver::setValue(const SkeletonElement& declared)
 {
     const Setters setters = declared.setters;
     if (setters.testFlag(Setter::Integer)) {
@@ -217,14 +217,14 @@ void FillingObserver::setValue(const LaidOutElement& declared)
 
 /// Which elements belong to a report of which @p isLeftOut tells what does not, together with what is below that. Of
 /// each choice the first branch is filled.
-template <class IsLeftOut> std::vector<bool> wantedIn(const LaidOutTree& tree, const IsLeftOut& isLeftOut)
+template <class IsLeftOut> std::vector<bool> wantedIn(const SkeletonTree& tree, const IsLeftOut& isLeftOut)
 {
     std::vector<bool> isWanted(tree.elements.size(), false);
     std::map<std::pair<int, int>, int> branches; // of the choices below each parent
     for (std::size_t index = 0; index < tree.elements.size(); ++index) {
-        const LaidOutElement& element = tree.elements[index];
-        const bool isParentWanted = element.parent == LaidOutElement::None || isWanted[std::size_t(element.parent)];
-        const bool isOfBranch = element.choiceGroup == LaidOutElement::None
+        const SkeletonElement& element = tree.elements[index];
+        const bool isParentWanted = element.parent == SkeletonElement::None || isWanted[std::size_t(element.parent)];
+        const bool isOfBranch = element.choiceGroup == SkeletonElement::None
             || branches.emplace(std::make_pair(element.parent, element.choiceGroup), element.choiceBranch).first->second
                 == element.choiceBranch;
         isWanted[index] = isParentWanted && isOfBranch && element.maxOccurs != 0 && !isLeftOut(int(index));
@@ -232,14 +232,14 @@ template <class IsLeftOut> std::vector<bool> wantedIn(const LaidOutTree& tree, c
     return isWanted;
 }
 
-bool isOptional(const LaidOutElement& element)
+bool isOptional(const SkeletonElement& element)
 {
-    return element.parent != LaidOutElement::None && element.minOccurs == 0;
+    return element.parent != SkeletonElement::None && element.minOccurs == 0;
 }
 
-bool isAround(const LaidOutTree& tree, int outer, int inner)
+bool isAround(const SkeletonTree& tree, int outer, int inner)
 {
-    while (inner != LaidOutElement::None && inner != outer) {
+    while (inner != SkeletonElement::None && inner != outer) {
         inner = tree.elements[std::size_t(inner)].parent;
     }
     return inner == outer;
@@ -247,7 +247,7 @@ bool isAround(const LaidOutTree& tree, int outer, int inner)
 
 } // namespace
 
-std::vector<Filling> fillingsOf(const LaidOutTree& tree, int most, int& all)
+std::vector<Filling> fillingsOf(const SkeletonTree& tree, int most, int& all)
 {
     const auto isOptionalAt = [&tree](int index) { return isOptional(tree.elements[std::size_t(index)]); };
     const std::vector<bool> everything = wantedIn(tree, [](int) { return false; });
@@ -264,7 +264,7 @@ std::vector<Filling> fillingsOf(const LaidOutTree& tree, int most, int& all)
     fillings.resize(std::size_t(std::clamp(most, 0, all)));
     std::set<std::tuple<QString, int, QString>> declarations; // of the containers tried
     for (int container = 0; container < int(tree.elements.size()); ++container) {
-        const LaidOutElement& element = tree.elements[std::size_t(container)];
+        const SkeletonElement& element = tree.elements[std::size_t(container)];
         if (!isContainer(element) || !isOptional(element) || !everything[std::size_t(container)]
             || !declarations.emplace(element.place.file, element.place.line, element.name).second || ++all > most) {
             continue;
@@ -277,7 +277,7 @@ std::vector<Filling> fillingsOf(const LaidOutTree& tree, int most, int& all)
     return fillings;
 }
 
-QByteArray filledReport(const QString& schema, const LaidOutTree& tree, const Filling& filling)
+QByteArray filledReport(const QString& schema, const SkeletonTree& tree, const Filling& filling)
 {
     return FillingObserver(tree, filling).Fill(schema);
 }

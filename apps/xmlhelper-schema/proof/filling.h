@@ -6,7 +6,7 @@
 #include <QByteArray>
 #include <QString>
 
-#include "model/laidouttree.h"
+#include "model/skeletontree.h"
 
 namespace schemadoctor {
 
@@ -24,12 +24,12 @@ struct Filling
 ///
 /// @param most  how many at most are given
 /// @param all   becomes how many there are
-std::vector<Filling> fillingsOf(const LaidOutTree& tree, int most, int& all);
+std::vector<Filling> fillingsOf(const SkeletonTree& tree, int most, int& all);
 
 /// The report that the library makes of a schema when it is filled so, as the bytes of its file. All values fit the
 /// types and the facets that the library hands out; optional attributes are filled with everything else, and removed
 /// from the smallest report.
-QByteArray filledReport(const QString& schema, const LaidOutTree& tree, const Filling& filling);
+QByteArray filledReport(const QString& schema, const SkeletonTree& tree, const Filling& filling);
 
 } // namespace schemadoctor
 

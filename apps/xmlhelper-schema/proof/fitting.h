@@ -8,7 +8,7 @@
 
 #include <xmlhelper/skeletonwords_p.h>
 
-#include "model/laidouttree.h"
+#include "model/skeletontree.h"
 
 namespace schemadoctor {
 

@@ -36,7 +36,7 @@ int affordableReports(const Examination& examination)
     return int(MaxProofElements / std::max(qsizetype(1), cost));
 }
 
-QByteArray filledAndValidated(const QString& file, const LaidOutTree& tree, const std::vector<Filling>& fillings)
+QByteArray filledAndValidated(const QString& file, const SkeletonTree& tree, const std::vector<Filling>& fillings)
 {
     QVector<QByteArray> reports;
     for (const Filling& filling : fillings) {
@@ -61,7 +61,7 @@ PlaceKey keyOf(const Place& place)
 class Surroundings
 {
 public:
-    Surroundings(const LaidOutTree& tree, const std::vector<const TextFile*>& files);
+    Surroundings(const SkeletonTree& tree, const std::vector<const TextFile*>& files);
 
     /// The element of the tree under these names; the nearest around it when there is none.
     int Find(const QStringList& names) const;
@@ -75,7 +75,7 @@ private:
     void addAround(const TextNode* tag, std::set<PlaceKey>& places) const;
     void addBelow(const TextNode& tag, std::set<PlaceKey>& places, QSet<const TextNode*>& visited) const;
 
-    const LaidOutTree& m_tree;
+    const SkeletonTree& m_tree;
     const NameIndex m_names;
     QHash<QString, QHash<int, std::vector<const TextNode*>>> m_tags; ///< by file and line
     QHash<QString, std::vector<const TextNode*>> m_globals;
@@ -83,7 +83,7 @@ private:
     std::map<int, std::set<PlaceKey>> m_places; ///< likewise
 };
 
-Surroundings::Surroundings(const LaidOutTree& tree, const std::vector<const TextFile*>& files)
+Surroundings::Surroundings(const SkeletonTree& tree, const std::vector<const TextFile*>& files)
     : m_tree(tree)
     , m_names(tree)
 {
@@ -99,11 +99,11 @@ Surroundings::Surroundings(const LaidOutTree& tree, const std::vector<const Text
 
 int Surroundings::Find(const QStringList& names) const
 {
-    int found = LaidOutElement::None;
+    int found = SkeletonElement::None;
     int next = NameIndex::AboveRoot;
     for (const QString& name : names) {
         next = m_names.ChildOf(next, name);
-        if (next == LaidOutElement::None) {
+        if (next == SkeletonElement::None) {
             break;
         }
         found = next;
@@ -133,7 +133,7 @@ const QString& Surroundings::pathTo(int element)
 const std::set<PlaceKey>& Surroundings::placesOf(int element)
 {
     const auto [found, isNew] = m_places.emplace(element, std::set<PlaceKey>());
-    const LaidOutElement& laidOut = m_tree.elements[std::size_t(element)];
+    const SkeletonElement& laidOut = m_tree.elements[std::size_t(element)];
     if (isNew) {
         QSet<const TextNode*> visited;
         for (const Place& place : {laidOut.place, laidOut.particle}) {
@@ -187,14 +187,14 @@ bool isForetold(const ValidityError& error, int element, Surroundings& surroundi
     return std::any_of(examination.findings.begin(), examination.findings.end(), [&](const Finding& finding) {
         const bool mayLieAround = error.isOfContent || finding.severity == Severity::Error;
         return surroundings.IsAbout(finding, element)
-            || (mayLieAround && parent != LaidOutElement::None && surroundings.IsAbout(finding, parent))
+            || (mayLieAround && parent != SkeletonElement::None && surroundings.IsAbout(finding, parent))
             || (error.names.isEmpty() && finding.severity == Severity::Error);
     });
 }
 
-Finding findingOf(const ValidityError& error, int element, const Filling& filling, const LaidOutTree& tree)
+Finding findingOf(const ValidityError& error, int element, const Filling& filling, const SkeletonTree& tree)
 {
-    const LaidOutElement& laidOut = tree.elements[std::size_t(element)];
+    const SkeletonElement& laidOut = tree.elements[std::size_t(element)];
     Finding finding;
     finding.severity = Severity::Warning;
     finding.rule = QStringLiteral("unforetold");

@@ -13,7 +13,7 @@ constexpr int MaxSchemaBytes = 4 * 1024 * 1024;
 constexpr int MaxShownElements = 30000;
 
 /// Elements of all definitions that the library is let to lay out for the doctor.
-constexpr int MaxLaidOutElements = 100000;
+constexpr int MaxSkeletonElements = 100000;
 
 /// Attributes of these elements: types, facets, enumeration values, declared attributes.
 constexpr int MaxLaidOutAnnotations = 300000;

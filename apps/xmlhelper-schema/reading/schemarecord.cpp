@@ -39,7 +39,7 @@ Limits limitsOfTheDoctor()
     Limits limits;
     limits.schemaBytes = MaxSchemaBytes;
     limits.elements = MaxShownElements;
-    limits.elementsOfAllDefinitions = MaxLaidOutElements;
+    limits.elementsOfAllDefinitions = MaxSkeletonElements;
     limits.attributes = MaxLaidOutAnnotations;
     limits.copiedEnumerationValues = MaxLaidOutAnnotations;
     return limits;

@@ -1,4 +1,4 @@
-#include "treebuilder.h"
+#include "skeletonbuilder.h"
 
 #include <algorithm>
 #include <utility>
@@ -75,28 +75,28 @@ int branchOf(const TextNode* tag)
     const auto isTag = [tag](const std::unique_ptr<TextNode>& child) { return child.get() == tag; };
     return choice
         ? 1 + int(std::find_if(choice->children.begin(), choice->children.end(), isTag) - choice->children.begin())
-        : LaidOutElement::None;
+        : SkeletonElement::None;
 }
 
-class TreeBuilder
+class SkeletonBuilder
 {
 public:
-    explicit TreeBuilder(const SchemaRecord& record);
+    explicit SkeletonBuilder(const SchemaRecord& record);
 
-    LaidOutTree Build();
+    SkeletonTree Build();
 
 private:
     int add(const QDomElement& element, int parent);
-    void applyDeclaration(LaidOutElement& laidOut, const SchemaRecord::ElementOrigin& origin) const;
-    void annotate(LaidOutElement& laidOut, const QDomElement& element,
+    void applyDeclaration(SkeletonElement& laidOut, const SchemaRecord::ElementOrigin& origin) const;
+    void annotate(SkeletonElement& laidOut, const QDomElement& element,
                   std::vector<SchemaRecord::AttributeOrigin> origins) const;
 
     const SchemaRecord& m_record;
     QHash<const TextNode*, int> m_choices; ///< the numbers of the xs:choice tags
-    LaidOutTree m_tree;
+    SkeletonTree m_tree;
 };
 
-TreeBuilder::TreeBuilder(const SchemaRecord& record)
+SkeletonBuilder::SkeletonBuilder(const SchemaRecord& record)
     : m_record(record)
 {
     for (const TextFile* const file : record.GetReadFiles()) {
@@ -108,7 +108,7 @@ TreeBuilder::TreeBuilder(const SchemaRecord& record)
     }
 }
 
-LaidOutTree TreeBuilder::Build()
+SkeletonTree SkeletonBuilder::Build()
 {
     struct Step
     {
@@ -118,7 +118,7 @@ LaidOutTree TreeBuilder::Build()
     const QDomElement root = m_record.GetRoot();
     std::vector<Step> open;
     if (!root.isNull()) {
-        open.push_back({root, add(root, LaidOutElement::None)});
+        open.push_back({root, add(root, SkeletonElement::None)});
     }
     while (!open.empty()) {
         QDomElement next = open.back().element.firstChildElement();
@@ -135,13 +135,13 @@ LaidOutTree TreeBuilder::Build()
     return m_tree;
 }
 
-int TreeBuilder::add(const QDomElement& element, int parent)
+int SkeletonBuilder::add(const QDomElement& element, int parent)
 {
     const int index = int(m_tree.elements.size());
-    LaidOutElement& laidOut = m_tree.elements.emplace_back();
+    SkeletonElement& laidOut = m_tree.elements.emplace_back();
     laidOut.name = element.tagName();
     laidOut.parent = parent;
-    if (parent != LaidOutElement::None) {
+    if (parent != SkeletonElement::None) {
         std::vector<int>& siblings = m_tree.elements[std::size_t(parent)].children;
         laidOut.row = int(siblings.size());
         siblings.push_back(index);
@@ -153,7 +153,7 @@ int TreeBuilder::add(const QDomElement& element, int parent)
 }
 
 /// What a reference says of occurrences counts in place of what the declaration says.
-void TreeBuilder::applyDeclaration(LaidOutElement& laidOut, const SchemaRecord::ElementOrigin& origin) const
+void SkeletonBuilder::applyDeclaration(SkeletonElement& laidOut, const SchemaRecord::ElementOrigin& origin) const
 {
     laidOut.place = m_record.PlaceOf(origin.declaration);
     laidOut.particle = laidOut.place;
@@ -163,7 +163,7 @@ void TreeBuilder::applyDeclaration(LaidOutElement& laidOut, const SchemaRecord::
     const bool isReferred = origin.reference && !origin.reference->Has("name");
     const TextNode& particle = isReferred ? *origin.reference : *origin.declaration;
     laidOut.particle = particle.GetPlace();
-    laidOut.choiceGroup = m_choices.value(particle.Around("choice"), LaidOutElement::None);
+    laidOut.choiceGroup = m_choices.value(particle.Around("choice"), SkeletonElement::None);
     laidOut.choiceBranch = branchOf(&particle);
     if (particle.IsGlobal()) {
         return;
@@ -175,8 +175,8 @@ void TreeBuilder::applyDeclaration(LaidOutElement& laidOut, const SchemaRecord::
                                                   : maxOccurs.toInt();
 }
 
-void TreeBuilder::annotate(LaidOutElement& laidOut, const QDomElement& element,
-                           std::vector<SchemaRecord::AttributeOrigin> origins) const
+void SkeletonBuilder::annotate(SkeletonElement& laidOut, const QDomElement& element,
+                               std::vector<SchemaRecord::AttributeOrigin> origins) const
 {
     using Kind = SchemaReadingLog::AttributeKind;
     std::sort(origins.begin(), origins.end(),
@@ -212,9 +212,9 @@ void TreeBuilder::annotate(LaidOutElement& laidOut, const QDomElement& element,
 
 } // namespace
 
-LaidOutTree builtTree(const SchemaRecord& record)
+SkeletonTree builtTree(const SchemaRecord& record)
 {
-    return TreeBuilder(record).Build();
+    return SkeletonBuilder(record).Build();
 }
 
 } // namespace schemadoctor

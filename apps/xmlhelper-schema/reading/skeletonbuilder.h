@@ -1,13 +1,13 @@
-#ifndef SCHEMADOCTOR_TREEBUILDER_H
-#define SCHEMADOCTOR_TREEBUILDER_H
+#ifndef SCHEMADOCTOR_SKELETONBUILDER_H
+#define SCHEMADOCTOR_SKELETONBUILDER_H
 
-#include "model/laidouttree.h"
+#include "model/skeletontree.h"
 #include "schemarecord.h"
 
 namespace schemadoctor {
 
 /// The tree of the document that the library has laid out, with what its model and its origins say about each element.
-LaidOutTree builtTree(const SchemaRecord& record);
+SkeletonTree builtTree(const SchemaRecord& record);
 
 } // namespace schemadoctor
 

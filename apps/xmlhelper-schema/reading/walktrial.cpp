@@ -19,7 +19,7 @@ namespace schemadoctor {
 
 namespace {
 
-constexpr int None = LaidOutElement::None;
+constexpr int None = SkeletonElement::None;
 
 /// Attributes of the trial's document: which element of the tree it is, and that it is the second of two copies.
 const QLatin1String IndexMark("index");
@@ -29,7 +29,7 @@ const QLatin1String CopyMark("copy");
 class Skeleton
 {
 public:
-    explicit Skeleton(const LaidOutTree& tree);
+    explicit Skeleton(const SkeletonTree& tree);
 
     QDomDocument& GetDocument() { return m_document; }
     const QDomElement& At(int index) const { return m_elements[std::size_t(index)]; }
@@ -39,10 +39,10 @@ private:
     std::vector<QDomElement> m_elements;
 };
 
-Skeleton::Skeleton(const LaidOutTree& tree)
+Skeleton::Skeleton(const SkeletonTree& tree)
 {
     m_elements.reserve(tree.elements.size());
-    for (const LaidOutElement& element : tree.elements) {
+    for (const SkeletonElement& element : tree.elements) {
         QDomElement laidOut = m_document.createElement(element.name);
         laidOut.setAttribute(IndexMark, int(m_elements.size()));
         if (!element.type.isEmpty()) {
@@ -61,7 +61,7 @@ Skeleton::Skeleton(const LaidOutTree& tree)
 class Extents
 {
 public:
-    explicit Extents(const LaidOutTree& tree);
+    explicit Extents(const SkeletonTree& tree);
 
     int SizeOf(int container) const { return m_ends[std::size_t(container)] - container; }
     bool IsInside(int index, int container) const
@@ -73,7 +73,7 @@ private:
     std::vector<int> m_ends; ///< behind the last element inside of each
 };
 
-Extents::Extents(const LaidOutTree& tree)
+Extents::Extents(const SkeletonTree& tree)
     : m_ends(tree.elements.size())
 {
     for (int index = int(tree.elements.size()) - 1; index >= 0; --index) {
@@ -115,7 +115,7 @@ struct Outcome
 };
 
 /// Whether others are copied with an element that may be repeated. Its own copies stand where it stands itself.
-bool hasCopiesOfOthers(const LaidOutElement& element)
+bool hasCopiesOfOthers(const SkeletonElement& element)
 {
     return mayBeRepeated(element) && !element.children.empty();
 }
@@ -124,7 +124,7 @@ bool hasCopiesOfOthers(const LaidOutElement& element)
 class Walk : public IXMLHelper, public WalkLog
 {
 public:
-    Walk(const LaidOutTree& tree, const Extents& extents, const OccursMap& occurs, const ChoiceMap& choices,
+    Walk(const SkeletonTree& tree, const Extents& extents, const OccursMap& occurs, const ChoiceMap& choices,
          Answers answers);
 
     DomParser& GetParser() { return m_parser; }
@@ -154,7 +154,7 @@ private:
     bool isToAnswer() const;
     bool isCopied(QDomElement& element);
 
-    const LaidOutTree& m_tree;
+    const SkeletonTree& m_tree;
     const Extents& m_extents;
     const Answers m_answers;
     Skeleton m_skeleton;
@@ -168,7 +168,7 @@ private:
     Place m_probation;
 };
 
-Walk::Walk(const LaidOutTree& tree, const Extents& extents, const OccursMap& occurs, const ChoiceMap& choices,
+Walk::Walk(const SkeletonTree& tree, const Extents& extents, const OccursMap& occurs, const ChoiceMap& choices,
            Answers answers)
     : m_tree(tree)
     , m_extents(extents)
@@ -303,7 +303,7 @@ bool Walk::isCopied(QDomElement& element)
 class Trial
 {
 public:
-    Trial(LaidOutTree& tree, const OccursMap& occurs, const ChoiceMap& choices);
+    Trial(SkeletonTree& tree, const OccursMap& occurs, const ChoiceMap& choices);
 
     bool IsAffordable() const;
     void Tell();
@@ -316,13 +316,13 @@ private:
     Fate fateOf(int index, const std::vector<Record>& records) const;
     void tellFate(int index, const std::vector<Record>& records);
 
-    LaidOutTree& m_tree;
+    SkeletonTree& m_tree;
     const OccursMap& m_occurs;
     const ChoiceMap& m_choices;
     const Extents m_extents;
 };
 
-Trial::Trial(LaidOutTree& tree, const OccursMap& occurs, const ChoiceMap& choices)
+Trial::Trial(SkeletonTree& tree, const OccursMap& occurs, const ChoiceMap& choices)
     : m_tree(tree)
     , m_occurs(occurs)
     , m_choices(choices)
@@ -340,7 +340,7 @@ bool Trial::IsAffordable() const
         }
     }
     qint64 steps = 0;
-    for (const LaidOutElement& element : m_tree.elements) {
+    for (const SkeletonElement& element : m_tree.elements) {
         steps += 1 + declarations.value(element.name);
     }
     return steps <= MaxTrialSteps;
@@ -376,7 +376,7 @@ void Trial::tellCounts(Walk& walk)
     DomParser& parser = walk.GetParser();
     QHash<QPair<int, QString>, AcceptedCounts> known;
     for (int index = 0; index < int(m_tree.elements.size()); ++index) {
-        LaidOutElement& element = m_tree.elements[std::size_t(index)];
+        SkeletonElement& element = m_tree.elements[std::size_t(index)];
         const QPair<int, QString> key(element.parent, element.name);
         if (!known.contains(key)) {
             known.insert(key, countsOf(parser, index, walk.At(index)));
@@ -410,7 +410,7 @@ Fate Trial::fateOf(int index, const std::vector<Record>& records) const
 
 void Trial::tellFate(int index, const std::vector<Record>& records)
 {
-    LaidOutElement& element = m_tree.elements[std::size_t(index)];
+    SkeletonElement& element = m_tree.elements[std::size_t(index)];
     element.fate = fateOf(index, records);
     const int atStake = records[std::size_t(index)].atStake;
     element.goesInstead = element.fate == Fate::Stays && !m_extents.IsInside(index, atStake) ? atStake : None;
@@ -427,12 +427,12 @@ Outcome Trial::outcomeOf(Answers answers, bool isNeeded) const
 
 void Trial::tellFates(const Outcome& outcome)
 {
-    const std::vector<LaidOutElement>& elements = m_tree.elements;
+    const std::vector<SkeletonElement>& elements = m_tree.elements;
     const Outcome further = outcomeOf(Answers::WhereTheWalkWouldEnd,
                                       std::any_of(outcome.originals.begin(), outcome.originals.end(),
                                                   [](const Record& record) { return !record.isAnnounced; }));
     const Outcome full
-        = outcomeOf(Answers::All, std::any_of(elements.begin(), elements.end(), [](const LaidOutElement& element) {
+        = outcomeOf(Answers::All, std::any_of(elements.begin(), elements.end(), [](const SkeletonElement& element) {
                         return !isContainer(element) && element.setters == Setters();
                     }));
     const Outcome twice
@@ -440,8 +440,8 @@ void Trial::tellFates(const Outcome& outcome)
     for (int index = 1; index < int(elements.size()); ++index) {
         const std::size_t at = std::size_t(index);
         tellFate(index, outcome.originals[at].isAnnounced ? outcome.originals : further.originals);
-        LaidOutElement& element = m_tree.elements[at];
-        const LaidOutElement& parent = elements[std::size_t(element.parent)];
+        SkeletonElement& element = m_tree.elements[at];
+        const SkeletonElement& parent = elements[std::size_t(element.parent)];
         element.isNeverKept = parent.isNeverKept || full.originals[at].isRemoved;
         element.staysInCopies = fateOf(index, twice.copies) == Fate::Stays && element.fate != Fate::Stays;
         element.isSingleInCopies = twice.copies[at].isRefused;
@@ -459,14 +459,14 @@ void Trial::Tell()
 
 } // namespace
 
-void tryWalks(LaidOutTree& tree, const OccursMap& occurs, const ChoiceMap& choices)
+void tryWalks(SkeletonTree& tree, const OccursMap& occurs, const ChoiceMap& choices)
 {
     if (tree.IsEmpty()) {
         return;
     }
     Trial trial(tree, occurs, choices);
     if (!trial.IsAffordable()) {
-        for (LaidOutElement& element : tree.elements) {
+        for (SkeletonElement& element : tree.elements) {
             element.fate = element.parent == None ? Fate::Stays : Fate::IsUnknown;
             element.counts.isKnown = false;
         }

@@ -99,7 +99,7 @@ QJsonObject jsonFor(const ButtonFilling& filling)
             {key("obstacle"), nameOf(filling.obstacle)}};
 }
 
-QJsonObject jsonFor(const LaidOutElement& element, const ButtonElement& view)
+QJsonObject jsonFor(const SkeletonElement& element, const ButtonElement& view)
 {
     QJsonArray attributes;
     for (int i = 0; i < element.attributes.size(); ++i) {
@@ -123,9 +123,9 @@ QString buttonText(const Examination& examination)
     }
     std::vector<int> levels(button.elements.size(), 1);
     for (std::size_t index = 0; index < button.elements.size(); ++index) {
-        const LaidOutElement& element = examination.tree.elements[index];
+        const SkeletonElement& element = examination.tree.elements[index];
         const ButtonElement& view = button.elements[index];
-        levels[index] += element.parent == LaidOutElement::None ? 0 : levels[std::size_t(element.parent)];
+        levels[index] += element.parent == SkeletonElement::None ? 0 : levels[std::size_t(element.parent)];
         text += line(levels[index], element.name,
                      isContainer(element) ? ButtonWords::Container() : ButtonWords::For(view.value));
         for (int i = 0; i < element.attributes.size(); ++i) {

@@ -17,14 +17,14 @@ class CopiesWords
 
 public:
     static QString Title() { return tr("In every copy but the first"); }
-    static QString For(const LaidOutElement& element);
+    static QString For(const SkeletonElement& element);
 
 private:
-    static QString wordsForRest(const LaidOutElement& element);
+    static QString wordsForRest(const SkeletonElement& element);
 };
 
 /// What is left in an element that stays: its annotations, and the default as its value.
-QString CopiesWords::wordsForRest(const LaidOutElement& element)
+QString CopiesWords::wordsForRest(const SkeletonElement& element)
 {
     QStringList rest;
     if (!isContainer(element)) {
@@ -42,7 +42,7 @@ QString CopiesWords::wordsForRest(const LaidOutElement& element)
     return element.defaultValue.isEmpty() ? stays : tr("%1 and the value '%2'").arg(stays, element.defaultValue);
 }
 
-QString CopiesWords::For(const LaidOutElement& element)
+QString CopiesWords::For(const SkeletonElement& element)
 {
     QStringList words;
     if (element.staysInCopies) {
@@ -58,10 +58,10 @@ QString CopiesWords::For(const LaidOutElement& element)
 }
 
 /// The nearest container around an element that may be repeated; None when there is none.
-int repeatedAround(const LaidOutTree& tree, const LaidOutElement& element)
+int repeatedAround(const SkeletonTree& tree, const SkeletonElement& element)
 {
     int index = element.parent;
-    while (index != LaidOutElement::None && !mayBeRepeated(tree.elements[std::size_t(index)])) {
+    while (index != SkeletonElement::None && !mayBeRepeated(tree.elements[std::size_t(index)])) {
         index = tree.elements[std::size_t(index)].parent;
     }
     return index;
@@ -69,13 +69,13 @@ int repeatedAround(const LaidOutTree& tree, const LaidOutElement& element)
 
 } // namespace
 
-QString copiesText(const LaidOutTree& tree)
+QString copiesText(const SkeletonTree& tree)
 {
     std::map<int, QString> lines; // by container
-    for (const LaidOutElement& element : tree.elements) {
+    for (const SkeletonElement& element : tree.elements) {
         const QString words = CopiesWords::For(element);
-        const int container = words.isEmpty() ? LaidOutElement::None : repeatedAround(tree, element);
-        if (container != LaidOutElement::None) {
+        const int container = words.isEmpty() ? SkeletonElement::None : repeatedAround(tree, element);
+        if (container != SkeletonElement::None) {
             lines[container] += QStringLiteral("    %1: %2\n").arg(element.name, words);
         }
     }

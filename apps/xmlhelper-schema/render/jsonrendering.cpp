@@ -38,7 +38,7 @@ QJsonObject jsonFor(const DeclaredAttribute& attribute)
 
 QJsonValue numberOrNull(int number)
 {
-    return number == LaidOutElement::None ? QJsonValue() : QJsonValue(number);
+    return number == SkeletonElement::None ? QJsonValue() : QJsonValue(number);
 }
 
 QJsonValue maximum(int number)
@@ -65,7 +65,7 @@ QString wordFor(Fate fate)
     return key("unknown");
 }
 
-QJsonObject jsonFor(const LaidOutElement& element)
+QJsonObject jsonFor(const SkeletonElement& element)
 {
     QJsonArray attributes;
     for (const DeclaredAttribute& attribute : element.attributes) {

@@ -50,7 +50,7 @@ QString wordsFor(Setters setters)
     return names.isEmpty() ? Texts::tr("no setter") : Texts::tr("set by %1").arg(names.join(QLatin1String(", ")));
 }
 
-QString lineFor(const LaidOutElement& element)
+QString lineFor(const SkeletonElement& element)
 {
     QStringList words;
     if (isContainer(element)) {
@@ -69,7 +69,7 @@ QString lineFor(const LaidOutElement& element)
     }
     words.append(Texts::tr("occurs %1, counts: %2").arg(wordsForOccurs(element), wordsForCounts(element)));
     if (element.isChoiceAlternative) {
-        words.append(element.choiceGroup == LaidOutElement::None
+        words.append(element.choiceGroup == SkeletonElement::None
                          ? Texts::tr("alternative by name")
                          : Texts::tr("alternative of choice %1").arg(element.choiceGroup));
     }
@@ -96,13 +96,13 @@ QString lineFor(const DeclaredAttribute& attribute)
     return QStringLiteral("@%1: %2").arg(attribute.name, words.join(QLatin1String("; ")));
 }
 
-QString treeText(const LaidOutTree& tree)
+QString treeText(const SkeletonTree& tree)
 {
     QString text;
     std::vector<int> levels(tree.elements.size(), 0);
     for (std::size_t index = 0; index < tree.elements.size(); ++index) {
-        const LaidOutElement& element = tree.elements[index];
-        const int level = element.parent == LaidOutElement::None ? 0 : levels[std::size_t(element.parent)] + 1;
+        const SkeletonElement& element = tree.elements[index];
+        const int level = element.parent == SkeletonElement::None ? 0 : levels[std::size_t(element.parent)] + 1;
         levels[index] = level;
         text += indent(level) + lineFor(element) + QLatin1Char('\n');
         for (const DeclaredAttribute& attribute : element.attributes) {

@@ -5,9 +5,9 @@ namespace schemadoctor {
 void anyValueType(const Schema& schema, Findings& findings)
 {
     ToldDeclarations told;
-    const LaidOutTree& tree = schema.GetTree();
+    const SkeletonTree& tree = schema.GetTree();
     for (int index = 0; index < int(tree.elements.size()); ++index) {
-        const LaidOutElement& element = tree.elements[std::size_t(index)];
+        const SkeletonElement& element = tree.elements[std::size_t(index)];
         if (!element.setters.testFlag(Setter::Text) || !element.setters.testFlag(Setter::Integer)
             || !told.Add(element.place, element.name, element.type)) {
             continue;

@@ -7,7 +7,7 @@ namespace schemadoctor {
 void containedAttributeNames(const Schema& schema, Findings& findings)
 {
     QSet<QString> told;
-    const LaidOutTree& tree = schema.GetTree();
+    const SkeletonTree& tree = schema.GetTree();
     for (int index = 0; index < int(tree.elements.size()); ++index) {
         const QVector<DeclaredAttribute>& attributes = tree.elements[std::size_t(index)].attributes;
         for (const DeclaredAttribute& shorter : attributes) {

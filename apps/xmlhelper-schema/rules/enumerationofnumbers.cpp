@@ -16,9 +16,9 @@ template <class Declared> bool isNeverChecked(const Declared& declared)
 void enumerationOfNumbers(const Schema& schema, Findings& findings)
 {
     ToldDeclarations told;
-    const LaidOutTree& tree = schema.GetTree();
+    const SkeletonTree& tree = schema.GetTree();
     for (int index = 0; index < int(tree.elements.size()); ++index) {
-        const LaidOutElement& element = tree.elements[std::size_t(index)];
+        const SkeletonElement& element = tree.elements[std::size_t(index)];
         const auto tell = [&](const auto& declared, const QString& what) {
             if (isNeverChecked(declared) && told.Add(declared.place, declared.name, declared.type)) {
                 findings.Add(Severity::Error, declared.place, declared.name, what.arg(declared.name, declared.type),

@@ -117,9 +117,9 @@ void MeantTree::addContent(const TextNode& tag, int level)
     }
 }
 
-void addLaidOut(const LaidOutTree& tree, int index, int level, QStringList& lines)
+void addLaidOut(const SkeletonTree& tree, int index, int level, QStringList& lines)
 {
-    const LaidOutElement& element = tree.elements[std::size_t(index)];
+    const SkeletonElement& element = tree.elements[std::size_t(index)];
     const auto addLine = [&lines](const QString& text, int depth) {
         if (lines.size() < MaxTreeLines - 1) {
             lines.append(QString(2 * depth, QLatin1Char(' ')) + text);
@@ -151,7 +151,7 @@ QString meantTreeOf(const Schema& schema, const TextNode& declaration)
 QString laidOutTreeOf(const Schema& schema, const TextNode& declaration)
 {
     const int element = schema.FirstElementOf(declaration);
-    if (element == LaidOutElement::None) {
+    if (element == SkeletonElement::None) {
         return Texts::tr("(nothing)");
     }
     QStringList lines;

@@ -68,21 +68,21 @@ Cause alwaysEmpty(const QString& name, Fate fate)
 }
 
 /// Whether the element or one inside of it has any.
-bool isAnyAttributeIn(const LaidOutTree& tree, int index)
+bool isAnyAttributeIn(const SkeletonTree& tree, int index)
 {
     const auto begin = tree.elements.begin() + index;
     const auto end = std::find_if(begin + 1, tree.elements.end(),
-                                  [index](const LaidOutElement& other) { return other.parent < index; });
-    return std::any_of(begin, end, [](const LaidOutElement& element) { return !element.attributes.isEmpty(); });
+                                  [index](const SkeletonElement& other) { return other.parent < index; });
+    return std::any_of(begin, end, [](const SkeletonElement& element) { return !element.attributes.isEmpty(); });
 }
 
-Cause causeOf(const LaidOutTree& tree, int index)
+Cause causeOf(const SkeletonTree& tree, int index)
 {
-    const LaidOutElement& element = tree.elements[std::size_t(index)];
+    const SkeletonElement& element = tree.elements[std::size_t(index)];
     if (element.staysInCopies) {
         return firstCopyOnly(element.name);
     }
-    if (element.goesInstead != LaidOutElement::None) {
+    if (element.goesInstead != SkeletonElement::None) {
         return goneInstead(element.name, tree.elements[std::size_t(element.goesInstead)].name);
     }
     if (!element.counts.takesZero) {
@@ -96,9 +96,9 @@ Cause causeOf(const LaidOutTree& tree, int index)
 void optionalThatStays(const Schema& schema, Findings& findings)
 {
     ToldDeclarations told;
-    const LaidOutTree& tree = schema.GetTree();
+    const SkeletonTree& tree = schema.GetTree();
     for (int index = 0; index < int(tree.elements.size()); ++index) {
-        const LaidOutElement& element = tree.elements[std::size_t(index)];
+        const SkeletonElement& element = tree.elements[std::size_t(index)];
         const bool mayStay = element.fate == Fate::Stays || element.fate == Fate::IsRemovedWithAnother;
         if (element.minOccurs != 0 || (!mayStay && !element.staysInCopies)
             || !told.Add(element.particle, element.name, element.type)) {

@@ -14,10 +14,10 @@ QString keyOf(const QString& name, int greatest, const Place& place)
 }
 
 /// The greatest counts that are accepted of the elements, with their names and places, and once more without places.
-QSet<QString> acceptedCounts(const LaidOutTree& tree)
+QSet<QString> acceptedCounts(const SkeletonTree& tree)
 {
     QSet<QString> keys;
-    for (const LaidOutElement& element : tree.elements) {
+    for (const SkeletonElement& element : tree.elements) {
         for (const Place& place : {element.place, Place()}) {
             keys.insert(keyOf(element.name, element.counts.greatest, place));
         }

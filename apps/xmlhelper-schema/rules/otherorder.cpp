@@ -44,11 +44,11 @@ private:
 /// names.
 void otherOrder(const Schema& schema, Findings& findings)
 {
-    const LaidOutTree& tree = schema.GetTree();
+    const SkeletonTree& tree = schema.GetTree();
     const std::vector<SchemaRecord::ElementOrigin>& origins = schema.GetRecord().GetOrigins();
     const Positions positions(schema.GetFiles());
     std::set<std::pair<const TextNode*, const TextNode*>> told;
-    for (const LaidOutElement& element : tree.elements) {
+    for (const SkeletonElement& element : tree.elements) {
         for (std::size_t child = 1; child < element.children.size(); ++child) {
             const int index = element.children[child];
             const TextNode* const first = particleOf(origins[std::size_t(element.children[child - 1])]);

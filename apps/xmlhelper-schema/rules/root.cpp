@@ -8,7 +8,7 @@ namespace schemadoctor {
 void rootChoice(const Schema& schema, Findings& findings)
 {
     const QVector<RootCandidate>& candidates = schema.GetRecord().GetRootCandidates();
-    const LaidOutTree& tree = schema.GetTree();
+    const SkeletonTree& tree = schema.GetTree();
     if (tree.IsEmpty()) {
         return;
     }

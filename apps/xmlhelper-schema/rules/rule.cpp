@@ -18,13 +18,13 @@ QPair<QPair<QString, int>, QString> keyOf(const Place& place, const QString& nam
 
 } // namespace
 
-Schema::Schema(const SchemaRecord& record, const LaidOutTree& tree, const QVector<GrammarFault>& faults)
+Schema::Schema(const SchemaRecord& record, const SkeletonTree& tree, const QVector<GrammarFault>& faults)
     : m_record(record)
     , m_tree(tree)
     , m_faults(faults)
 {
     for (int index = int(tree.elements.size()) - 1; index >= 0; --index) {
-        const LaidOutElement& element = tree.elements[std::size_t(index)];
+        const SkeletonElement& element = tree.elements[std::size_t(index)];
         m_firstElements.insert(keyOf(element.place, element.name), index);
     }
     for (const TextFile* const file : GetFiles()) {
@@ -64,7 +64,7 @@ const TextNode* Schema::FindGlobal(std::initializer_list<const char*> tags, cons
 
 int Schema::FirstElementOf(const TextNode& declaration) const
 {
-    return m_firstElements.value(keyOf(declaration.GetPlace(), declaration.Value("name")), LaidOutElement::None);
+    return m_firstElements.value(keyOf(declaration.GetPlace(), declaration.Value("name")), SkeletonElement::None);
 }
 
 Findings::Findings(const Schema& schema, const QString& rule)
@@ -76,7 +76,7 @@ Findings::Findings(const Schema& schema, const QString& rule)
 Finding& Findings::Add(Severity severity, const TextNode& tag, const QString& what, const QString& effect,
                        const QString& remedy)
 {
-    const int element = tag.Is("element") ? m_schema.FirstElementOf(tag) : LaidOutElement::None;
+    const int element = tag.Is("element") ? m_schema.FirstElementOf(tag) : SkeletonElement::None;
     return Add(severity, tag.GetPlace(), nameOf(tag), what, effect, remedy, element);
 }
 
@@ -95,7 +95,7 @@ Finding& Findings::Add(Severity severity, const Place& place, const QString& sub
         ++m_leftOutCount;
         return m_leftOut = finding;
     }
-    if (element != LaidOutElement::None) {
+    if (element != SkeletonElement::None) {
         finding.path = pathOf(m_schema.GetTree(), element);
     }
     m_findings.append(finding);

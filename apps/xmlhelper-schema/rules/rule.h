@@ -12,7 +12,7 @@
 #include <QVector>
 
 #include "model/finding.h"
-#include "model/laidouttree.h"
+#include "model/skeletontree.h"
 #include "model/texts.h"
 #include "reading/grammarcheck.h"
 #include "reading/schemarecord.h"
@@ -24,10 +24,10 @@ namespace schemadoctor {
 class Schema
 {
 public:
-    Schema(const SchemaRecord& record, const LaidOutTree& tree, const QVector<GrammarFault>& faults);
+    Schema(const SchemaRecord& record, const SkeletonTree& tree, const QVector<GrammarFault>& faults);
 
     const SchemaRecord& GetRecord() const { return m_record; }
-    const LaidOutTree& GetTree() const { return m_tree; }
+    const SkeletonTree& GetTree() const { return m_tree; }
     const QVector<GrammarFault>& GetFaults() const { return m_faults; }
     const std::vector<const TextFile*>& GetFiles() const { return m_record.GetReadFiles(); }
 
@@ -37,12 +37,12 @@ public:
     /// The global declaration of that name; null when there is none.
     const TextNode* FindGlobal(std::initializer_list<const char*> tags, const QString& name) const;
 
-    /// The first element that was laid out for a declaration; LaidOutElement::None when there is none.
+    /// The first element that was laid out for a declaration; SkeletonElement::None when there is none.
     int FirstElementOf(const TextNode& declaration) const;
 
 private:
     const SchemaRecord& m_record;
-    const LaidOutTree& m_tree;
+    const SkeletonTree& m_tree;
     const QVector<GrammarFault>& m_faults;
     QHash<QPair<QPair<QString, int>, QString>, int> m_firstElements;
     QHash<QString, std::vector<const TextNode*>> m_globals;
@@ -60,7 +60,7 @@ public:
 
     /// Adds a finding about a place, and about the laid-out element of that index when one is given.
     Finding& Add(Severity severity, const Place& place, const QString& subject, const QString& what,
-                 const QString& effect, const QString& remedy, int element = LaidOutElement::None);
+                 const QString& effect, const QString& remedy, int element = SkeletonElement::None);
 
     /// What was found; when it is more than anybody reads, the last one says how many are left out.
     QVector<Finding> Take();

@@ -5,11 +5,11 @@ namespace schemadoctor {
 /// XML has one element at the top.
 void severalRoots(const Schema& schema, Findings& findings)
 {
-    const LaidOutTree& tree = schema.GetTree();
+    const SkeletonTree& tree = schema.GetTree();
     if (tree.rootCount < 2) {
         return;
     }
-    const LaidOutElement& first = tree.elements.front();
+    const SkeletonElement& first = tree.elements.front();
     findings.Add(
         Severity::Error, first.place, first.name,
         Texts::tr("%1 elements are laid out as roots, of which '%2' is the first.").arg(tree.rootCount).arg(first.name),

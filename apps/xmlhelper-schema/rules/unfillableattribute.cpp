@@ -6,7 +6,7 @@ namespace schemadoctor {
 void unfillableAttribute(const Schema& schema, Findings& findings)
 {
     ToldDeclarations told;
-    const LaidOutTree& tree = schema.GetTree();
+    const SkeletonTree& tree = schema.GetTree();
     for (int index = 0; index < int(tree.elements.size()); ++index) {
         for (const DeclaredAttribute& attribute : tree.elements[std::size_t(index)].attributes) {
             if (attribute.setters != Setters() || !told.Add(attribute.place, attribute.name, attribute.type)) {

@@ -22,7 +22,7 @@ bool isMeantToBeEmpty(const Schema& schema, const TextNode& declaration)
 }
 
 /// What comes of it that no setter takes the element.
-QString effectOn(const LaidOutElement& element)
+QString effectOn(const SkeletonElement& element)
 {
     if (!element.isNeverKept) {
         return element.fate == Fate::Stays || element.fate == Fate::IsRemovedWithAnother
@@ -49,9 +49,9 @@ void unfillableElement(const Schema& schema, Findings& findings)
         declarations.insert(declarationKey(tag->GetPlace(), tag->Value("name")), tag);
     }
     ToldDeclarations told;
-    const LaidOutTree& tree = schema.GetTree();
+    const SkeletonTree& tree = schema.GetTree();
     for (int index = 0; index < int(tree.elements.size()); ++index) {
-        const LaidOutElement& element = tree.elements[std::size_t(index)];
+        const SkeletonElement& element = tree.elements[std::size_t(index)];
         const bool hasAttributesOnly = isContainer(element) && !element.attributes.isEmpty();
         if (element.setters != Setters() || !element.children.empty() || hasAttributesOnly) {
             continue;

@@ -6,9 +6,9 @@ namespace schemadoctor {
 void unrepeatable(const Schema& schema, Findings& findings)
 {
     ToldDeclarations told;
-    const LaidOutTree& tree = schema.GetTree();
+    const SkeletonTree& tree = schema.GetTree();
     for (int index = 0; index < int(tree.elements.size()); ++index) {
-        const LaidOutElement& element = tree.elements[std::size_t(index)];
+        const SkeletonElement& element = tree.elements[std::size_t(index)];
         const bool isMeantToBe = element.maxOccurs == AcceptedCounts::Unbounded || element.maxOccurs > 1;
         const bool isNever = element.counts.isKnown && element.counts.greatest == 0;
         if (!isMeantToBe || (!isNever && !element.isSingleInCopies)

@@ -17,7 +17,7 @@ using namespace schemadoctor;
 namespace {
 
 /// The element of the tree under the names of @p element and those around it; the first one of equal names.
-int indexOf(const LaidOutTree& tree, const QDomElement& element)
+int indexOf(const SkeletonTree& tree, const QDomElement& element)
 {
     if (!element.parentNode().isElement()) {
         return 0;
@@ -28,7 +28,7 @@ int indexOf(const LaidOutTree& tree, const QDomElement& element)
             return child;
         }
     }
-    return LaidOutElement::None;
+    return SkeletonElement::None;
 }
 
 /// Does one thing when an element is announced for the first time, and listens what the library says to it.
@@ -37,7 +37,7 @@ class OneCall : public IXMLHelper
 public:
     using Call = std::function<void(XmlCreateReport& builder)>;
 
-    OneCall(const LaidOutTree& tree, int element, Call call)
+    OneCall(const SkeletonTree& tree, int element, Call call)
         : m_tree(tree)
         , m_iElement(element)
         , m_call(std::move(call))
@@ -73,7 +73,7 @@ public:
     }
 
 private:
-    const LaidOutTree& m_tree;
+    const SkeletonTree& m_tree;
     const int m_iElement;
     const Call m_call;
     bool m_bMade = false;
@@ -83,10 +83,10 @@ private:
 };
 
 /// Whether the element, and each around it, is the first of its name among its siblings: the one that names lead to.
-bool isFirstOfItsNames(const LaidOutTree& tree, int index)
+bool isFirstOfItsNames(const SkeletonTree& tree, int index)
 {
     for (; index > 0; index = tree.elements[std::size_t(index)].parent) {
-        const LaidOutElement& element = tree.elements[std::size_t(index)];
+        const SkeletonElement& element = tree.elements[std::size_t(index)];
         for (const int sibling : tree.elements[std::size_t(element.parent)].children) {
             if (sibling < index && tree.elements[std::size_t(sibling)].name == element.name) {
                 return false;
@@ -96,18 +96,18 @@ bool isFirstOfItsNames(const LaidOutTree& tree, int index)
     return true;
 }
 
-bool isOrIsBelow(const LaidOutTree& tree, int inner, int outer)
+bool isOrIsBelow(const SkeletonTree& tree, int inner, int outer)
 {
-    while (inner != LaidOutElement::None && inner != outer) {
+    while (inner != SkeletonElement::None && inner != outer) {
         inner = tree.elements[std::size_t(inner)].parent;
     }
     return inner == outer;
 }
 
-bool hasElement(const QByteArray& report, const LaidOutTree& tree, int index)
+bool hasElement(const QByteArray& report, const SkeletonTree& tree, int index)
 {
     QStringList names;
-    for (int element = index; element != LaidOutElement::None; element = tree.elements[std::size_t(element)].parent) {
+    for (int element = index; element != SkeletonElement::None; element = tree.elements[std::size_t(element)].parent) {
         names.prepend(tree.elements[std::size_t(element)].name);
     }
     QDomDocument document;
@@ -194,7 +194,7 @@ void TestSchemaDoctorCorpus::settersAreTrue()
     };
     const Examination& examination = examinationOf(file);
     for (int index = 0; index < int(examination.tree.elements.size()); ++index) {
-        const LaidOutElement& element = examination.tree.elements[std::size_t(index)];
+        const SkeletonElement& element = examination.tree.elements[std::size_t(index)];
         for (const auto& [setter, call] : calls) {
             OneCall trial(examination.tree, index, call);
             if (isFirstOfItsNames(examination.tree, index) && trial.Make(file)) {
@@ -215,7 +215,7 @@ void TestSchemaDoctorCorpus::countsAreTrue()
     QFETCH(QString, file);
     const Examination& examination = examinationOf(file);
     for (int index = 0; index < int(examination.tree.elements.size()); ++index) {
-        const LaidOutElement& element = examination.tree.elements[std::size_t(index)];
+        const SkeletonElement& element = examination.tree.elements[std::size_t(index)];
         const int greatest = element.counts.greatest;
         for (const int count : {0, 1, 2, greatest, greatest + 1, 1000}) {
             const QString name = element.name;
@@ -237,11 +237,11 @@ void TestSchemaDoctorCorpus::fatesAreTrue()
 {
     QFETCH(QString, file);
     const Examination& examination = examinationOf(file);
-    const LaidOutTree& tree = examination.tree;
+    const SkeletonTree& tree = examination.tree;
     for (int index = 1; index < int(tree.elements.size()); ++index) {
-        const LaidOutElement& element = tree.elements[std::size_t(index)];
+        const SkeletonElement& element = tree.elements[std::size_t(index)];
         bool areAllAroundStaying = true;
-        for (int around = element.parent; around != LaidOutElement::None;
+        for (int around = element.parent; around != SkeletonElement::None;
              around = tree.elements[std::size_t(around)].parent) {
             areAllAroundStaying = areAllAroundStaying && tree.elements[std::size_t(around)].fate == Fate::Stays;
         }

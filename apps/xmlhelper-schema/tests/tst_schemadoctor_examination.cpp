@@ -15,7 +15,7 @@
 #include "fill/dryrun.h"
 #include "mend/mend.h"
 #include "reading/doctorlimits.h"
-#include "reading/treebuilder.h"
+#include "reading/skeletonbuilder.h"
 #include "render/jsonrendering.h"
 #include "render/textrendering.h"
 
@@ -207,9 +207,9 @@ private:
     XmlCreateReport m_builder;
 };
 
-QSet<QString> namesBelow(const LaidOutTree& tree, int top)
+QSet<QString> namesBelow(const SkeletonTree& tree, int top)
 {
-    const LaidOutElement& element = tree.elements.at(std::size_t(top));
+    const SkeletonElement& element = tree.elements.at(std::size_t(top));
     QSet<QString> names {element.name};
     for (const int child : element.children) {
         names += namesBelow(tree, child);
@@ -360,7 +360,7 @@ void TestSchemaDoctorExamination::tellsOfAnElement()
                    "</xs:simpleType></xs:element></xs:choice></xs:complexType></xs:element>");
     QCOMPARE(examination.count.elements, 2);
     QCOMPARE(int(examination.tree.elements.size()), 2);
-    const LaidOutElement& mode = examination.tree.elements.at(1);
+    const SkeletonElement& mode = examination.tree.elements.at(1);
     QCOMPARE(mode.name, QStringLiteral("Mode"));
     QCOMPARE(mode.parent, 0);
     QCOMPARE(mode.type, QStringLiteral("string"));
@@ -423,7 +423,7 @@ void TestSchemaDoctorExamination::tellsOfAReferenceByItsOwnOccurrence()
                             "<xs:element ref='Level' minOccurs='0' maxOccurs='7'/>\n"
                             "</xs:choice></xs:complexType></xs:element>\n";
     const Examination examination = examined(isDeclaredLater ? root + global : global + root);
-    const LaidOutElement& level = examination.tree.elements.at(1);
+    const SkeletonElement& level = examination.tree.elements.at(1);
     QCOMPARE(wordsForOccurs(level), QStringLiteral("0..7"));
     QCOMPARE(level.choiceGroup, 1);
     QCOMPARE(level.place.line, isDeclaredLater ? 6 : 3);
@@ -477,7 +477,7 @@ void TestSchemaDoctorExamination::placesWhatStandsBehindTagsOfAnEntityInTheFile(
         QCOMPARE(place.line, 0);
         QCOMPARE(place.file, file.fileName());
     }
-    for (const LaidOutElement& element : examination.tree.elements) {
+    for (const SkeletonElement& element : examination.tree.elements) {
         for (const DeclaredAttribute& attribute : element.attributes) {
             QCOMPARE(attribute.place.file, file.fileName());
         }
@@ -557,9 +557,9 @@ void TestSchemaDoctorExamination::tellsWhatBecomesOfUnfilledElements()
     QFETCH(QByteArray, content);
     QFETCH(QString, path);
     QFETCH(QString, words);
-    const LaidOutTree tree = examined(report(content)).tree;
+    const SkeletonTree tree = examined(report(content)).tree;
     const int index = findByPath(tree, path);
-    QVERIFY(index != LaidOutElement::None);
+    QVERIFY(index != SkeletonElement::None);
     QCOMPARE(wordsForUnfilled(tree.elements.at(std::size_t(index))), words);
 }
 
@@ -577,16 +577,16 @@ void TestSchemaDoctorExamination::saysWhatTheBuilderDoes()
     QFETCH(quint32, seed);
     const QString file = schema(RandomSchema(seed).Body());
     const Examination examination = examine(file);
-    const LaidOutTree& tree = examination.tree;
+    const SkeletonTree& tree = examination.tree;
     const QByteArray shown = textOf(examination).toUtf8();
     const QString written = m_folder.filePath(QStringLiteral("report.xml"));
     QSet<QString> kept = Filler(QSet<QString>()).NamesIn(file, written);
-    for (const LaidOutElement& element : tree.elements) {
+    for (const SkeletonElement& element : tree.elements) {
         QVERIFY2(kept.contains(element.name) != element.isNeverKept,
                  (element.name.toUtf8() + '\n' + shown).constData());
     }
     for (int index = 1; index < int(tree.elements.size()); ++index) {
-        const LaidOutElement& element = tree.elements.at(std::size_t(index));
+        const SkeletonElement& element = tree.elements.at(std::size_t(index));
         if (element.isNeverKept || element.fate == Fate::IsUnknown) {
             continue;
         }
@@ -660,9 +660,9 @@ void TestSchemaDoctorExamination::tellsOfFurtherCopies()
     QFETCH(QString, path);
     QFETCH(QString, words);
     QFETCH(QString, counts);
-    const LaidOutTree tree = examined(body).tree;
+    const SkeletonTree tree = examined(body).tree;
     const int index = findByPath(tree, path);
-    QVERIFY(index != LaidOutElement::None);
+    QVERIFY(index != SkeletonElement::None);
     QCOMPARE(wordsForUnfilled(tree.elements.at(std::size_t(index))), words);
     QCOMPARE(wordsForCounts(tree.elements.at(std::size_t(index))), counts);
 }
@@ -701,7 +701,7 @@ void TestSchemaDoctorExamination::claimsNothingThatWasNotTried()
     for (int i = 0; i < 6000; ++i) {
         content += value("Level", "maxOccurs='" + QByteArray::number(1 + i % 7) + "'");
     }
-    const LaidOutTree tree = examined(report(content)).tree;
+    const SkeletonTree tree = examined(report(content)).tree;
     QCOMPARE(int(tree.elements.size()), 6001);
     QCOMPARE(wordsForUnfilled(tree.elements.at(1)), QStringLiteral("was not tried"));
     QCOMPARE(wordsForCounts(tree.elements.at(1)), QStringLiteral("not tried"));
@@ -719,7 +719,7 @@ void TestSchemaDoctorExamination::claimsNothingOfCopiesThatWereNotTried()
     for (int i = containers; i > 0; --i) {
         content = container("C" + QByteArray::number(i), content, "maxOccurs='unbounded'");
     }
-    const LaidOutTree tree = examined(report(content)).tree;
+    const SkeletonTree tree = examined(report(content)).tree;
     QCOMPARE(int(tree.elements.size()), 1 + containers + values);
     QCOMPARE(wordsForUnfilled(tree.elements.at(1)), QStringLiteral("stays"));
     QCOMPARE(wordsForUnfilled(tree.elements.back()),
@@ -755,10 +755,10 @@ void TestSchemaDoctorExamination::prunesWhatTheWalkPrunes()
     QFile device(report);
     QVERIFY(document.setContent(&device));
     const Examination examination = examine(file);
-    for (const LaidOutElement& element : examination.tree.elements) {
-        const LaidOutElement* container = &element;
+    for (const SkeletonElement& element : examination.tree.elements) {
+        const SkeletonElement* container = &element;
         bool isLeft = true;
-        while (container->parent != LaidOutElement::None) {
+        while (container->parent != SkeletonElement::None) {
             isLeft = isLeft && container->fate == Fate::Stays;
             container = &examination.tree.elements.at(std::size_t(container->parent));
         }
@@ -782,9 +782,9 @@ void TestSchemaDoctorExamination::findsElementsByTheirPaths()
     }
     QVERIFY(paths.contains(QStringLiteral("/Report/Value[3]")));
     QVERIFY(paths.contains(QStringLiteral("/Report/Site")));
-    QCOMPARE(findByPath(examination.tree, QStringLiteral("/Report/Value[4]")), int(LaidOutElement::None));
-    QCOMPARE(findByPath(examination.tree, QStringLiteral("/Other")), int(LaidOutElement::None));
-    QCOMPARE(findByPath(examination.tree, QString()), int(LaidOutElement::None));
+    QCOMPARE(findByPath(examination.tree, QStringLiteral("/Report/Value[4]")), int(SkeletonElement::None));
+    QCOMPARE(findByPath(examination.tree, QStringLiteral("/Other")), int(SkeletonElement::None));
+    QCOMPARE(findByPath(examination.tree, QString()), int(SkeletonElement::None));
 }
 
 void TestSchemaDoctorExamination::tellsOfIncludedFiles()

@@ -447,7 +447,7 @@ void TestSchemaDoctorMend::writesPatternsOfSeveralSteps()
     for (const Finding& finding : examination.findings) {
         QVERIFY2(!finding.effect.contains(QLatin1String("no setter")), qPrintable(finding.effect));
     }
-    const LaidOutTree& tree = examination.tree;
+    const SkeletonTree& tree = examination.tree;
     QCOMPARE(tree.elements.size(), std::size_t(4));
     QCOMPARE(tree.elements[1].setters, Setters(Setter::Text));
     QCOMPARE(tree.elements[2].setters, Setters(Setter::Text));
@@ -611,7 +611,7 @@ void TestSchemaDoctorMend::keepsReportsValidByTheOriginal()
         const bool isKept = std::none_of(mending.rewrites.begin(), mending.rewrites.end(), [](const Rewrite& rewrite) {
             return rewrite.effect == RewriteEffect::ChangesFormat;
         });
-        const LaidOutTree tree = examine(written(out, mending.text), false).tree;
+        const SkeletonTree tree = examine(written(out, mending.text), false).tree;
         if (!isKept || mending.rewrites.isEmpty()) {
             continue;
         }
@@ -681,7 +681,7 @@ void TestSchemaDoctorMend::saysRightlyThatReportsStayValid()
     QCOMPARE(isSaid, staysValid);
     if (staysValid) {
         const QString out = written(m_folder.filePath(QStringLiteral("mended.xsd")), mending.text);
-        const LaidOutTree tree = examine(out, false).tree;
+        const SkeletonTree tree = examine(out, false).tree;
         int all = 0;
         QVector<QByteArray> reports;
         for (const Filling& filling : fillingsOf(tree, 20, all)) {
@@ -729,7 +729,7 @@ void TestSchemaDoctorMend::beginsWithNoSubstitute()
     const Mending mending = mended(schema("<xs:element name='Head' type='xs:string'/>\n"
                                           "<xs:element name='Zone' type='xs:string' substitutionGroup='Head'/>\n"
                                           + report("<xs:element ref='Head'/>")));
-    const LaidOutTree tree
+    const SkeletonTree tree
         = examine(written(m_folder.filePath(QStringLiteral("mended.xsd")), mending.text), false).tree;
     QVERIFY(!tree.IsEmpty());
     QCOMPARE(tree.elements.front().name, QStringLiteral("Report"));

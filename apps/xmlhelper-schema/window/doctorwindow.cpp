@@ -32,12 +32,12 @@
 
 #include <xmlhelper/filesaving_p.h>
 
-#include "laidouttreemodel.h"
 #include "mendwindow.h"
 #include "model/texts.h"
 #include "placewords.h"
 #include "schematextview.h"
 #include "schemawatcher.h"
+#include "skeletontreemodel.h"
 
 namespace schemadoctor {
 
@@ -340,7 +340,7 @@ void DoctorWindow::showExamination(const Examination& examination)
     m_pProxy->setSourceModel(nullptr);
     delete m_pModel; // before the tree that it shows
     m_examination = examination;
-    m_pModel = new LaidOutTreeModel(m_examination.tree, this);
+    m_pModel = new SkeletonTreeModel(m_examination.tree, this);
     setWindowTitle(tr("%1 - schema doctor").arg(m_examination.file));
     fillTree();
     fillFiles();
@@ -359,7 +359,7 @@ void DoctorWindow::fillTree()
     } else {
         m_pTree->expandToDepth(0);
     }
-    for (int column = 0; column < LaidOutTreeModel::SetBy; ++column) {
+    for (int column = 0; column < SkeletonTreeModel::SetBy; ++column) {
         m_pTree->resizeColumnToContents(column);
     }
 }

@@ -18,7 +18,7 @@ class QTreeWidgetItem;
 
 namespace schemadoctor {
 
-class LaidOutTreeModel;
+class SkeletonTreeModel;
 class SchemaTextView;
 class SchemaWatcher;
 
@@ -96,7 +96,7 @@ private:
     Examination m_examination;
     const Examine m_examine;
     Choice m_choice; ///< the last one: kept while the file cannot be read
-    LaidOutTreeModel* m_pModel = nullptr; // all of these are children
+    SkeletonTreeModel* m_pModel = nullptr; // all of these are children
     QSortFilterProxyModel* m_pProxy;
     SchemaWatcher* m_pWatcher;
     QLabel* m_pMessage;

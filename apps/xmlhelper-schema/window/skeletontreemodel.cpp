@@ -1,4 +1,4 @@
-#include "laidouttreemodel.h"
+#include "skeletontreemodel.h"
 
 #include "model/texts.h"
 #include <algorithm>
@@ -37,14 +37,14 @@ QString settersOf(Setters setters)
     return names.isEmpty() ? Texts::tr("nothing can fill it") : names.join(QStringLiteral(", "));
 }
 
-QString textFor(const LaidOutElement& element, int column)
+QString textFor(const SkeletonElement& element, int column)
 {
     switch (column) {
-    case LaidOutTreeModel::Name:
+    case SkeletonTreeModel::Name:
         return element.name;
-    case LaidOutTreeModel::Type:
+    case SkeletonTreeModel::Type:
         return element.type;
-    case LaidOutTreeModel::Limits: {
+    case SkeletonTreeModel::Limits: {
         const QString limits = limitsOf(element.facets, element.enumeration);
         if (element.defaultValue.isEmpty()) {
             return limits;
@@ -52,15 +52,15 @@ QString textFor(const LaidOutElement& element, int column)
         const QString standard = Texts::tr("default %1").arg(element.defaultValue);
         return limits.isEmpty() ? standard : limits + QStringLiteral(", ") + standard;
     }
-    case LaidOutTreeModel::Occurs:
-        return element.choiceGroup == LaidOutElement::None
+    case SkeletonTreeModel::Occurs:
+        return element.choiceGroup == SkeletonElement::None
             ? wordsForOccurs(element)
             : Texts::tr("%1, choice %2").arg(wordsForOccurs(element)).arg(element.choiceGroup);
-    case LaidOutTreeModel::Counts:
+    case SkeletonTreeModel::Counts:
         return wordsForCounts(element);
-    case LaidOutTreeModel::Unfilled:
+    case SkeletonTreeModel::Unfilled:
         return wordsForUnfilled(element);
-    case LaidOutTreeModel::SetBy:
+    case SkeletonTreeModel::SetBy:
         return isContainer(element) ? QString() : settersOf(element.setters);
     default:
         return QString();
@@ -70,13 +70,13 @@ QString textFor(const LaidOutElement& element, int column)
 QString textFor(const DeclaredAttribute& attribute, int column)
 {
     switch (column) {
-    case LaidOutTreeModel::Name:
+    case SkeletonTreeModel::Name:
         return QLatin1Char('@') + attribute.name;
-    case LaidOutTreeModel::Type:
+    case SkeletonTreeModel::Type:
         return attribute.type.isEmpty() ? Texts::tr("no type") : attribute.type;
-    case LaidOutTreeModel::Limits:
+    case SkeletonTreeModel::Limits:
         return limitsOf(attribute.facets, attribute.enumeration);
-    case LaidOutTreeModel::SetBy:
+    case SkeletonTreeModel::SetBy:
         return settersOf(attribute.setters);
     default:
         return QString();
@@ -85,32 +85,32 @@ QString textFor(const DeclaredAttribute& attribute, int column)
 
 } // namespace
 
-LaidOutTreeModel::LaidOutTreeModel(const LaidOutTree& tree, QObject* parent)
+SkeletonTreeModel::SkeletonTreeModel(const SkeletonTree& tree, QObject* parent)
     : QAbstractItemModel(parent)
     , m_tree(tree)
 {
 }
 
-LaidOutTreeModel::Row LaidOutTreeModel::rowAt(const QModelIndex& index) const
+SkeletonTreeModel::Row SkeletonTreeModel::rowAt(const QModelIndex& index) const
 {
     const int holder = holderOf(index);
-    if (holder == LaidOutElement::None) {
+    if (holder == SkeletonElement::None) {
         return {0, nullptr};
     }
-    const LaidOutElement& above = element(holder);
+    const SkeletonElement& above = element(holder);
     const int attributeCount = int(above.attributes.size());
     if (index.row() < attributeCount) {
-        return {LaidOutElement::None, &above.attributes.at(index.row())};
+        return {SkeletonElement::None, &above.attributes.at(index.row())};
     }
     return {above.children[std::size_t(index.row() - attributeCount)], nullptr};
 }
 
-QModelIndex LaidOutTreeModel::IndexOf(int number, const QString& attribute) const
+QModelIndex SkeletonTreeModel::IndexOf(int number, const QString& attribute) const
 {
-    if (number == LaidOutElement::None) {
+    if (number == SkeletonElement::None) {
         return QModelIndex();
     }
-    const LaidOutElement& wanted = element(number);
+    const SkeletonElement& wanted = element(number);
     if (!attribute.isEmpty()) {
         const auto found = std::find_if(wanted.attributes.begin(), wanted.attributes.end(),
                                         [&](const DeclaredAttribute& one) { return one.name == attribute; });
@@ -118,25 +118,25 @@ QModelIndex LaidOutTreeModel::IndexOf(int number, const QString& attribute) cons
             ? QModelIndex()
             : createIndex(int(found - wanted.attributes.begin()), 0, idBelow(number));
     }
-    if (wanted.parent == LaidOutElement::None) {
-        return createIndex(0, 0, idBelow(LaidOutElement::None));
+    if (wanted.parent == SkeletonElement::None) {
+        return createIndex(0, 0, idBelow(SkeletonElement::None));
     }
     return createIndex(int(element(wanted.parent).attributes.size()) + wanted.row, 0, idBelow(wanted.parent));
 }
 
-int LaidOutTreeModel::ElementOf(const QModelIndex& index) const
+int SkeletonTreeModel::ElementOf(const QModelIndex& index) const
 {
     const Row row = rowAt(index);
     return row.pAttribute ? holderOf(index) : row.element;
 }
 
-QString LaidOutTreeModel::AttributeOf(const QModelIndex& index) const
+QString SkeletonTreeModel::AttributeOf(const QModelIndex& index) const
 {
     const Row row = rowAt(index);
     return row.pAttribute ? row.pAttribute->name : QString();
 }
 
-Place LaidOutTreeModel::PlaceOf(const QModelIndex& index) const
+Place SkeletonTreeModel::PlaceOf(const QModelIndex& index) const
 {
     if (!index.isValid()) {
         return Place();
@@ -145,20 +145,20 @@ Place LaidOutTreeModel::PlaceOf(const QModelIndex& index) const
     return row.pAttribute ? row.pAttribute->place : element(row.element).place;
 }
 
-QModelIndex LaidOutTreeModel::index(int row, int column, const QModelIndex& parent) const
+QModelIndex SkeletonTreeModel::index(int row, int column, const QModelIndex& parent) const
 {
     if (!hasIndex(row, column, parent)) {
         return QModelIndex();
     }
-    return createIndex(row, column, idBelow(parent.isValid() ? rowAt(parent).element : LaidOutElement::None));
+    return createIndex(row, column, idBelow(parent.isValid() ? rowAt(parent).element : SkeletonElement::None));
 }
 
-QModelIndex LaidOutTreeModel::parent(const QModelIndex& child) const
+QModelIndex SkeletonTreeModel::parent(const QModelIndex& child) const
 {
     return child.isValid() ? IndexOf(holderOf(child)) : QModelIndex();
 }
 
-int LaidOutTreeModel::rowCount(const QModelIndex& parent) const
+int SkeletonTreeModel::rowCount(const QModelIndex& parent) const
 {
     if (!parent.isValid()) {
         return m_tree.IsEmpty() ? 0 : 1;
@@ -170,12 +170,12 @@ int LaidOutTreeModel::rowCount(const QModelIndex& parent) const
     return int(element(row.element).attributes.size()) + int(element(row.element).children.size());
 }
 
-int LaidOutTreeModel::columnCount(const QModelIndex&) const
+int SkeletonTreeModel::columnCount(const QModelIndex&) const
 {
     return ColumnCount;
 }
 
-QVariant LaidOutTreeModel::data(const QModelIndex& index, int role) const
+QVariant SkeletonTreeModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
         return QVariant();
@@ -184,7 +184,7 @@ QVariant LaidOutTreeModel::data(const QModelIndex& index, int role) const
     return row.pAttribute ? textFor(*row.pAttribute, index.column()) : textFor(element(row.element), index.column());
 }
 
-QVariant LaidOutTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
+QVariant SkeletonTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     const QStringList titles {tr("Element"),      tr("Type"),        tr("Limits"), tr("Occurs"),
                               tr("Counts taken"), tr("Unfilled it"), tr("Set by")};

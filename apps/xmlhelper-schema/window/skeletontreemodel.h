@@ -1,14 +1,14 @@
-#ifndef SCHEMADOCTOR_LAIDOUTTREEMODEL_H
-#define SCHEMADOCTOR_LAIDOUTTREEMODEL_H
+#ifndef SCHEMADOCTOR_SKELETONTREEMODEL_H
+#define SCHEMADOCTOR_SKELETONTREEMODEL_H
 
 #include <QAbstractItemModel>
 
-#include "model/laidouttree.h"
+#include "model/skeletontree.h"
 
 namespace schemadoctor {
 
 /// The laid-out tree for a view: a row for each element, and before an element's children a row for each attribute.
-class LaidOutTreeModel : public QAbstractItemModel
+class SkeletonTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
 
@@ -16,9 +16,9 @@ public:
     enum Column { Name, Type, Limits, Occurs, Counts, Unfilled, SetBy, ColumnCount };
 
     /// @param tree  is referred to and must outlive the model
-    explicit LaidOutTreeModel(const LaidOutTree& tree, QObject* parent = nullptr);
+    explicit SkeletonTreeModel(const SkeletonTree& tree, QObject* parent = nullptr);
 
-    /// Of an element, or of its attribute of that name. An invalid index for LaidOutElement::None, and without such an
+    /// Of an element, or of its attribute of that name. An invalid index for SkeletonElement::None, and without such an
     /// attribute.
     QModelIndex IndexOf(int element, const QString& attribute = QString()) const;
 
@@ -46,9 +46,9 @@ private:
         const DeclaredAttribute* pAttribute; ///< null for an element
     };
     Row rowAt(const QModelIndex& index) const;
-    const LaidOutElement& element(int index) const { return m_tree.elements[std::size_t(index)]; }
+    const SkeletonElement& element(int index) const { return m_tree.elements[std::size_t(index)]; }
 
-    const LaidOutTree& m_tree;
+    const SkeletonTree& m_tree;
 };
 
 } // namespace schemadoctor

@@ -4,15 +4,15 @@ namespace schemadoctor {
 
 namespace {
 
-int append(LaidOutTree& tree, int parent, const QString& name, const QString& type, const Place& place)
+int append(SkeletonTree& tree, int parent, const QString& name, const QString& type, const Place& place)
 {
-    LaidOutElement element;
+    SkeletonElement element;
     element.name = name;
     element.type = type;
     element.place = place;
     element.parent = parent;
     const int index = int(tree.elements.size());
-    if (parent != LaidOutElement::None) {
+    if (parent != SkeletonElement::None) {
         std::vector<int>& siblings = tree.elements[std::size_t(parent)].children;
         element.row = int(siblings.size());
         siblings.push_back(index);
@@ -42,13 +42,13 @@ Examination sampleExamination(const QString& suffix)
     included.isOutsideOfFolder = true;
     examination.includes.includes.push_back(included);
 
-    LaidOutTree& tree = examination.tree;
-    const int root = append(tree, LaidOutElement::None, text("Report"), QString(), {top, 3});
+    SkeletonTree& tree = examination.tree;
+    const int root = append(tree, SkeletonElement::None, text("Report"), QString(), {top, 3});
     const int station = append(tree, root, text("Station"), QStringLiteral("string"), {top, 4});
     const int signal = append(tree, root, text("Signal"), QString(), {top, 5});
     const int level = append(tree, signal, text("Level"), QStringLiteral("double"), {types, 2});
     const int price = append(tree, signal, text("Price"), QStringLiteral("decimal"), {types, 2});
-    const auto at = [&tree](int index) -> LaidOutElement& { return tree.elements[std::size_t(index)]; };
+    const auto at = [&tree](int index) -> SkeletonElement& { return tree.elements[std::size_t(index)]; };
     at(station).setters = Setter::Text;
     at(station).enumeration = QStringList {text("Tower"), text("Mast")};
     at(station).defaultValue = text("Mast");
@@ -106,7 +106,7 @@ Examination wideExamination(int elements)
     examination.file = QStringLiteral("wide.xsd");
     examination.texts[examination.file] = QStringLiteral("<xs:schema/>");
     examination.includes.file = examination.file;
-    const int root = append(examination.tree, LaidOutElement::None, QStringLiteral("Report"), QString(), {});
+    const int root = append(examination.tree, SkeletonElement::None, QStringLiteral("Report"), QString(), {});
     for (int i = 0; i < elements; ++i) {
         append(examination.tree, root, QStringLiteral("Level%1").arg(i), QStringLiteral("double"),
                {examination.file, 1});

@@ -21,10 +21,10 @@
 
 #include "doctorwindow.h"
 #include "examine.h"
-#include "laidouttreemodel.h"
 #include "mendwindow.h"
 #include "sampleexamination.h"
 #include "schematextview.h"
+#include "skeletontreemodel.h"
 
 using namespace schemadoctor;
 
@@ -43,7 +43,7 @@ QStringList namesBelow(const QAbstractItemModel& model, const QModelIndex& paren
 
 QStringList namesOf(const Examination& examination)
 {
-    return namesBelow(LaidOutTreeModel(examination.tree), QModelIndex());
+    return namesBelow(SkeletonTreeModel(examination.tree), QModelIndex());
 }
 
 QString textOfMarkedLine(const SchemaTextView& view)
@@ -225,7 +225,7 @@ private Q_SLOTS:
 void TestSchemaDoctorWindow::modelIsConsistent()
 {
     const Examination examination = sampleExamination();
-    LaidOutTreeModel model(examination.tree);
+    SkeletonTreeModel model(examination.tree);
     QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     QCOMPARE(model.rowCount(), 1);
 }
@@ -233,7 +233,7 @@ void TestSchemaDoctorWindow::modelIsConsistent()
 void TestSchemaDoctorWindow::modelShowsElementsAndTheirAttributes()
 {
     const Examination examination = sampleExamination();
-    const LaidOutTreeModel model(examination.tree);
+    const SkeletonTreeModel model(examination.tree);
     const QStringList expected {QStringLiteral("Report"), QStringLiteral("Station"), QStringLiteral("Signal"),
                                 QStringLiteral("Level"),  QStringLiteral("@Unit"),   QStringLiteral("Price")};
     QCOMPARE(namesBelow(model, QModelIndex()), expected);
@@ -242,33 +242,33 @@ void TestSchemaDoctorWindow::modelShowsElementsAndTheirAttributes()
 void TestSchemaDoctorWindow::modelTellsTheFactsOfAnElement()
 {
     const Examination examination = sampleExamination();
-    const LaidOutTreeModel model(examination.tree);
+    const SkeletonTreeModel model(examination.tree);
     const auto text = [&](int element, int column) {
         const QModelIndex index = model.IndexOf(element);
         return index.siblingAtColumn(column).data().toString();
     };
-    QCOMPARE(text(3, LaidOutTreeModel::Type), QStringLiteral("double"));
-    QCOMPARE(text(3, LaidOutTreeModel::Limits), QStringLiteral("minInclusive 0, pattern [0-9] (not checked)"));
-    QCOMPARE(text(3, LaidOutTreeModel::SetBy), QStringLiteral("double"));
-    QCOMPARE(text(1, LaidOutTreeModel::Limits), QStringLiteral("Tower | Mast, default Mast"));
-    QVERIFY(text(1, LaidOutTreeModel::Occurs).endsWith(QLatin1String(", choice 1")));
-    QCOMPARE(text(4, LaidOutTreeModel::SetBy), QStringLiteral("nothing can fill it"));
-    QCOMPARE(text(2, LaidOutTreeModel::SetBy), QString());
+    QCOMPARE(text(3, SkeletonTreeModel::Type), QStringLiteral("double"));
+    QCOMPARE(text(3, SkeletonTreeModel::Limits), QStringLiteral("minInclusive 0, pattern [0-9] (not checked)"));
+    QCOMPARE(text(3, SkeletonTreeModel::SetBy), QStringLiteral("double"));
+    QCOMPARE(text(1, SkeletonTreeModel::Limits), QStringLiteral("Tower | Mast, default Mast"));
+    QVERIFY(text(1, SkeletonTreeModel::Occurs).endsWith(QLatin1String(", choice 1")));
+    QCOMPARE(text(4, SkeletonTreeModel::SetBy), QStringLiteral("nothing can fill it"));
+    QCOMPARE(text(2, SkeletonTreeModel::SetBy), QString());
 }
 
 void TestSchemaDoctorWindow::modelOfNothingHasNoRows()
 {
-    const LaidOutTree tree;
-    const LaidOutTreeModel model(tree);
+    const SkeletonTree tree;
+    const SkeletonTreeModel model(tree);
     QCOMPARE(model.rowCount(), 0);
-    QVERIFY(!model.IndexOf(LaidOutElement::None).isValid());
+    QVERIFY(!model.IndexOf(SkeletonElement::None).isValid());
     QVERIFY(model.PlaceOf(QModelIndex()).file.isEmpty());
 }
 
 void TestSchemaDoctorWindow::modelFindsTheRowOfAnElement()
 {
     const Examination examination = sampleExamination();
-    const LaidOutTreeModel model(examination.tree);
+    const SkeletonTreeModel model(examination.tree);
     for (int element = 0; element < int(examination.tree.elements.size()); ++element) {
         QCOMPARE(model.IndexOf(element).data().toString(), examination.tree.elements[std::size_t(element)].name);
     }
