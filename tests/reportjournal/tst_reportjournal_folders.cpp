@@ -15,6 +15,8 @@ constexpr int ManyReports = 4000;
 constexpr int ManyReports = 20000;
 #endif
 
+constexpr int Presses = 200;
+
 int takeAll(QStringList& files)
 {
     const int count = int(files.size());
@@ -256,7 +258,7 @@ void TestReportJournalFolders::pressIsAsFastWhateverLiesThere()
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         }
         const std::clock_t before = std::clock();
-        for (int i = 0; i < 200; ++i) {
+        for (int i = 0; i < Presses; ++i) {
             const QString report = path(name) + QStringLiteral("/press%1.xml").arg(i);
             const quint64 number = m_station->Begin(report);
             m_station->Write(number, report);
@@ -270,9 +272,14 @@ void TestReportJournalFolders::pressIsAsFastWhateverLiesThere()
     write(ManyReports);
     const double withNone = timeOfPresses(QStringLiteral("empty"));
     const double withMany = timeOfPresses(QStringLiteral("reports"));
-    qInfo("200 presses: %.0f ms beside none, %.0f ms beside %d", withNone * 1000 / CLOCKS_PER_SEC,
-          withMany * 1000 / CLOCKS_PER_SEC, ManyReports);
-    QVERIFY(withMany < 2 * withNone + CLOCKS_PER_SEC / 10);
+    const std::clock_t before = std::clock();
+    QVERIFY(QDir(folder()).entryList().size() > ManyReports);
+    const double ofOneReading = double(std::clock() - before);
+    qInfo("%d presses: %.0f ms beside none, %.0f ms beside %d, whose names are read in %.0f ms", Presses,
+          withNone * 1000 / CLOCKS_PER_SEC, withMany * 1000 / CLOCKS_PER_SEC, ManyReports,
+          ofOneReading * 1000 / CLOCKS_PER_SEC);
+    // Names are read once in a pause, which a busy machine fills with fewer presses.
+    QVERIFY(withMany < 2 * withNone + Presses / 4 * ofOneReading);
 }
 
 QTEST_GUILESS_MAIN(TestReportJournalFolders)
