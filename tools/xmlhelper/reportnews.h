@@ -62,8 +62,8 @@ Q_SIGNALS:
     /// The file could not be written; an earlier one of that name is as it was, unless it had to be written in place.
     /// @param report   its number
     /// @param reason   what the operating system or a limit says, a sentence without its stop
-    /// @param content  what would have been written, the comment included; empty when it is beyond the limits, when the
-    ///                 schema gave nothing, or when an observer has thrown
+    /// @param content  what would have been written, the comment included; empty when it is beyond the limits or memory
+    ///                 is short, when the schema gave nothing, or when an observer has thrown
     void NotWritten(quint64 report, const QString& reason, const QByteArray& content);
 
 private:

@@ -1,6 +1,7 @@
 #include "reportteller_p.h"
 
 #include <atomic>
+#include <new>
 
 #include <QCoreApplication>
 #include <QMetaMethod>
@@ -16,6 +17,16 @@ quint64 newReportNumber()
 {
     static std::atomic<quint64> last {0};
     return ++last;
+}
+
+/// What would have been written. That nothing was written is told without it, too.
+QByteArray contentOf(const SavedFile& file, const QDomDocument& document)
+{
+    try {
+        return file.isTooLong ? QByteArray() : savedBytesOf(document);
+    } catch (const std::bad_alloc&) {
+        return QByteArray();
+    }
 }
 
 } // namespace
@@ -56,6 +67,6 @@ void ReportTeller::TellFile(bool isWritten, const SavedFile& file, const QDomDoc
     if (isWritten) {
         Q_EMIT news.Written(m_iReport, file.name, file.size);
     } else if (news.isSignalConnected(QMetaMethod::fromSignal(&ReportNews::NotWritten))) {
-        Q_EMIT news.NotWritten(m_iReport, file.reason, file.isTooLong ? QByteArray() : savedBytesOf(document));
+        Q_EMIT news.NotWritten(m_iReport, file.reason, contentOf(file, document));
     }
 }

@@ -20,6 +20,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <xmlhelper/filesaving_p.h>
+#include <xmlhelper/reportnews.h>
+#include <xmlhelper/reportteller_p.h>
+
 #include "domtext.h"
 #include "faultinjection.h"
 #include "faultyflows.h"
@@ -43,6 +47,7 @@ private Q_SLOTS:
     void survivesEveryFault();
     void noticesAFault_data();
     void noticesAFault();
+    void tellsOfAReportThatMemoryIsTooShortFor();
 
 private:
     QTemporaryDir m_folder;
@@ -73,6 +78,9 @@ std::unique_ptr<Report, void (*)(Report*)> sharedReport()
 constexpr int EndedInsideQt = 78;
 constexpr int EndedByViolation = 79;
 constexpr unsigned RunTimeout = 200;
+
+/// More than it takes to save a document of some thousand nodes.
+constexpr int AllocationsAtMost = 1000;
 
 [[noreturn]] void endByUncaughtException()
 {
@@ -374,6 +382,31 @@ void TestRobustnessFaults::noticesAFault()
     QVERIFY(report);
     const QString found = violationOf(run, Fault::Allocation, m_folder.path(), expected, *report);
     QVERIFY2(found.contains(violation), qPrintable(found));
+}
+
+/// Who hears of reports learns that one is not written, if not what it would have been.
+void TestRobustnessFaults::tellsOfAReportThatMemoryIsTooShortFor()
+{
+    const QDomDocument document = documentOf(QStringLiteral("<r>") + QStringLiteral("<a b='c'>text</a>").repeated(1000)
+                                             + QStringLiteral("</r>"));
+    const ReportTeller teller(QStringLiteral("report.xml"), QStringLiteral("schema.xsd"));
+    int told = 0;
+    int withoutContent = 0;
+    connect(&ReportNews::Instance(), &ReportNews::NotWritten, this,
+            [&](quint64, const QString&, const QByteArray& content) {
+                ++told;
+                withoutContent += content.isEmpty() ? 1 : 0;
+            });
+    const SavedFile file;
+    const void* taker = nullptr;
+    int number = AllocationsAtMost;
+    do { // The last one is that of the bytes; Qt does not look at each of those before.
+        const FaultInjection injection(Fault::Allocation, --number, true, &taker);
+        teller.TellFile(false, file, document);
+    } while (number > 1 && !FaultInjection::HasStruck());
+    QVERIFY(FaultInjection::HasStruck());
+    QCOMPARE(told, AllocationsAtMost - number);
+    QCOMPARE(withoutContent, 1);
 }
 
 QTEST_MAIN(TestRobustnessFaults)
