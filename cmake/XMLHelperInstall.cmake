@@ -209,3 +209,11 @@ if(TARGET measurementpanel)
     file(GLOB panel_schemas CONFIGURE_DEPENDS "${panel_dir}/*.xsd")
     xmlhelper_install_example(measurementpanel FILES ${panel_schemas})
 endif()
+
+# What scripts/make-docs has made, as a component of its own that is installed only by name.
+if(EXISTS "${XMLHELPER_DOCS}/html/index.html")
+    install(DIRECTORY "${XMLHELPER_DOCS}/html" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/xmlhelper-doc"
+        COMPONENT doc EXCLUDE_FROM_ALL)
+    install(FILES "${XMLHELPER_DOCS}/xmlhelper.qch" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/xmlhelper-doc"
+        COMPONENT doc EXCLUDE_FROM_ALL)
+endif()

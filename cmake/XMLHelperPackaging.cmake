@@ -7,8 +7,9 @@
 #   xmlhelper-tools        tools: the companion programs
 #   xmlhelper-l10n         translations: what libraries and programs say in other languages
 #   xmlhelper-examples     examples: the example application
+#   xmlhelper-doc          doc: the documentation, where XMLHELPER_DOCS names the folder in which it was made
 #
-# Those of a build on Qt 6 have -qt6 in their names, but for the last three, which serve both.
+# Those of a build on Qt 6 have -qt6 in their names, but for the last four, which serve both.
 #
 # The suite's own base libraries take the place of the stand-ins in a package that provides xmlhelper-platform-abi1, and
 # conflicts with it, as one package at a time may have files of these names; see docs/platform.md.
@@ -41,6 +42,9 @@ if(TARGET xmlhelper_translations)
 endif()
 if(TARGET measurementpanel)
     list(APPEND CPACK_COMPONENTS_ALL examples)
+endif()
+if(EXISTS "${XMLHELPER_DOCS}/html/index.html")
+    list(APPEND CPACK_COMPONENTS_ALL doc)
 endif()
 
 find_program(XMLHELPER_DPKG_DEB dpkg-deb)
@@ -188,6 +192,18 @@ set(CPACK_COMPONENT_EXAMPLES_DESCRIPTION
 "XML and measurement reports on Qt: example application
 The program measurementpanel is a measurement screen with a report button, on
 simulated values.")
+
+set(CPACK_DEBIAN_DOC_PACKAGE_NAME xmlhelper-doc)
+set(CPACK_DEBIAN_DOC_PACKAGE_SECTION doc)
+set(CPACK_DEBIAN_DOC_PACKAGE_ARCHITECTURE all)
+set(CPACK_DEBIAN_DOC_PACKAGE_SUGGESTS qt5-assistant)
+set(CPACK_COMPONENT_DOC_DESCRIPTION
+"XML and measurement reports on Qt: documentation
+XMLHelper reads XML as a stream of events, writes XML files, fills documents
+by an XSD schema, and writes measurement reports at the press of a button.
+
+This package contains the pages on tasks and classes for a browser, and the
+same as a file for Qt Assistant.")
 
 # Where the libraries of one package lie while another is looked at for what it needs.
 foreach(library IN ITEMS XMLHelper XMLHelperReports XMLHelperReportWidgets ${stand_ins})
