@@ -1,0 +1,180 @@
+#!/usr/bin/env python3
+"""Runs the commands that the pages show, word for word and in their order, each page in a folder of its own.
+
+usage: run_commands.py SOURCES WORK-FOLDER PROGRAM-FOLDER...
+
+A command is a line that is set off as code and is neither CMake nor C++, or a call of one of the programs within a
+sentence, unless it has a place for something, such as FILE.xsd. Each must end with 0 and print what EXPECTED has. What
+is not run is either a block of which tests/package/builds_as_documented.cmake takes the lines, or has its reason in
+NOT_RUN. A reason without a command is a fault, too.
+"""
+
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+
+ITSELF = "it runs the tests, this one too"
+ANEW = "it builds everything anew"
+WINDOWS = "it needs a Qt for Windows"
+PACKED = "package_makes_debian_packages and package_makes_documentation_package do the same"
+NOT_RUN = {
+    "scripts/demo": ANEW,
+    "scripts/demo --window": ANEW + ", and waits for somebody",
+    "scripts/test": ITSELF,
+    "scripts/test all": ITSELF,
+    "scripts/test asan": ITSELF,
+    "scripts/test tsan": ITSELF,
+    "scripts/test-packages": "it makes a Debian of its own, as root",
+    "scripts/fuzz MINUTES": "it takes minutes",
+    "scripts/check STEP": "it takes minutes",
+    "scripts/bench": "it takes minutes",
+    "scripts/bench --list": ANEW,
+    "scripts/bench --filter '^walk/.*/1000$'": "it takes minutes",
+    "scripts/bench --seconds 0.3 --limit 2": "it takes minutes",
+    "scripts/bench --json results.json": "it takes minutes",
+    "scripts/bench --json docs/measured/benchmarks.json": "it takes minutes",
+    "scripts/coverage docs/measured/coverage.json": "it takes minutes",
+    "scripts/mutate --json docs/measured/mutation.json": "it takes an hour",
+    "valgrind --tool=callgrind --collect-atstart=no build/release/benchmarks/xmlhelper_benchmarks \\\n"
+    "    --instructions --filter '^walk/flat/unfilled/1000$'": "it needs a build without tests",
+    "scripts/test-windows QT_PREFIX": WINDOWS,
+    "scripts/package-windows QT_PREFIX": WINDOWS,
+    "scripts/install-packages build": "it installs packages",
+    "scripts/install-packages bench": "it installs packages",
+    "scripts/install-packages build panel check": "it installs packages",
+    "scripts/make-docs": "package_makes_documentation_package runs it",
+    "cmake --preset dev": "it is the build of the tests",
+    "cmake --preset release -DXMLHELPER_BUILD_TESTS=OFF": ANEW,
+    "cmake --build --preset release": ANEW,
+    'cmake --install build/release --prefix "$HOME/xmlhelper"': "package_installs_what_clients_need installs",
+    "cmake --preset packages": PACKED,
+    "cmake --build --preset packages": PACKED,
+    "(cd build/packages && cpack)": PACKED,
+    "ctest -R replay_": "it runs tests",
+    "pkg-config --variable=translationsdir xmlhelper": "package_builds_as_documented runs it",
+}
+EXPECTED = {
+    "xmlhelper-schema examples/schemas/carrier.xsd": r"^No findings\.$",
+    "xmlhelper-schema --fill examples/schemas/carrier.values examples/schemas/carrier.xsd": r"^<Carrier ",
+    "xmlhelper-report report.xml": r"valid by .*carrier\.xsd",
+    "xmlhelper-schema --mend mended.xsd examples/schemas/weatherstation.xsd": r"^No findings\.$",
+    'xmlhelper-journal search journal.sqlite "98.5" --from 2026-03-01': r"98\.5 MHz\.xml",
+}
+PROGRAMS = r"(?:xmlhelper-[a-z]+|scripts/[a-z-]+|cmake|cpack|ctest|pkg-config|c\+\+)"
+
+
+def blocks_of(text):
+    """The blocks of lines that are set off by four blanks, and those between fences that name the shell."""
+    fenced = re.findall(r"^```(?:sh|bash|console)\n(.*?)^```$", text, re.MULTILINE | re.DOTALL)
+    text = re.sub(r"^```.*?^```$", "", text, flags=re.MULTILINE | re.DOTALL)
+    indented = re.findall(r"(?<=\n\n)((?: {4}[^\n]*\n)+)", text)
+    return [re.sub(r"^ {4}", "", block, flags=re.MULTILINE) for block in indented] + fenced
+
+
+def is_shell(block):
+    """Whether a block holds commands: neither calls of CMake or C++ nor the fields of a package."""
+    return not re.match(r"\s*(?:[\w.]+\(|[A-Z][a-z]+: )", block)
+
+
+def commands_of(block):
+    """The commands of a block without their comments; a line that ends in a back slash goes on."""
+    for line in re.sub(r"\\\n", "\\\\\0", block).splitlines():
+        command = re.sub(r"(?:^|\s+)# .*$", "", line).rstrip().replace("\0", "\n")
+        if command:
+            yield command
+
+
+def calls_in(text):
+    """The calls of programs within sentences that have something to work on."""
+    text = re.sub(r"^```.*?^```$", "", text, flags=re.MULTILINE | re.DOTALL)
+    for span in re.findall(r"`([^`]+)`", text):
+        call = " ".join(span.split())
+        if not re.match(PROGRAMS + " ", call):
+            continue
+        has_place = re.search(r"\b[A-Z]{2}[A-Z_]*\b(?!=)|\.\.\.", call)
+        is_option = re.fullmatch(r"\S+ --[a-z-]+", call)
+        if call.startswith("scripts/") or not (has_place or is_option):
+            yield call
+
+
+def run_by_package_test(sources, page):
+    """The beginnings of the blocks of a page that the test of clients takes from it."""
+    test = (sources / "tests/package/builds_as_documented.cmake").read_text(encoding="utf-8")
+    return [start for taken, start in re.findall(r'take_lines\(\w+ (\S+) "([^"]+)"\)', test) if taken == page]
+
+
+def lay_out(sources, folder):
+    """What the pages take for given: the examples, a schema and a folder of reports."""
+    folder.mkdir(parents=True)
+    (folder / "examples").symlink_to(sources / "examples")
+    shutil.copy(sources / "examples/schemas/carrier.xsd", folder / "report.xsd")
+    shutil.copy(sources / "examples/schemas/carrier.values", folder / "values.txt")
+    (folder / "reports").mkdir()
+    report = folder / "reports/98.5 MHz.xml"
+    shutil.copy(sources / "examples/records/tests/records.expected", report)
+    march_2026 = 1772450000
+    os.utime(report, (march_2026, march_2026))
+
+
+def run(command, folder):
+    """What is wrong with a command, or nothing."""
+    done = subprocess.run(["sh", "-c", command], cwd=folder, text=True, capture_output=True, check=False)
+    said = done.stdout + done.stderr
+    if done.returncode != 0:
+        return f"ends with {done.returncode}:\n{said}"
+    if command in EXPECTED and not re.search(EXPECTED[command], said, re.MULTILINE):
+        return f"does not print {EXPECTED[command]}:\n{said}"
+    return ""
+
+
+def commands_to_run(sources, page):
+    """All commands of a page but those that another test takes from it."""
+    text = (sources / page).read_text(encoding="utf-8")
+    taken = tuple(run_by_package_test(sources, page))
+    for block in filter(is_shell, blocks_of(text)):
+        if not (taken and block.startswith(taken)):
+            yield from commands_of(block)
+    yield from calls_in(text)
+
+
+def main():
+    if len(sys.argv) < 4:
+        sys.exit(__doc__)
+    sources, work = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
+    os.environ["PATH"] = os.pathsep.join([*sys.argv[3:], os.environ["PATH"]])
+    os.environ.update(LANGUAGE="en", LC_ALL="C.UTF-8", HOME=str(work))
+    shutil.rmtree(work, ignore_errors=True)
+    presets = re.findall(r'"name": "(\w+)"', (sources / "CMakePresets.json").read_text(encoding="utf-8"))
+    pages = sorted(path.relative_to(sources).as_posix() for pattern in ("*.md", "docs/**/*.md", "benchmarks/*.md")
+                   for path in sources.glob(pattern))
+    faults, seen, number_run = [], set(), 0
+    for page in pages:
+        folder = work / page.replace("/", "-")
+        for command in dict.fromkeys(commands_to_run(sources, page)):
+            script = re.match(r"scripts/\S+", command)
+            preset = re.search(r"--preset (\w+)", command)
+            seen.add(command)
+            fault = ""
+            if script and not os.access(sources / script[0], os.X_OK) or preset and preset[1] not in presets:
+                fault = "names what is not there."
+            elif command not in NOT_RUN:
+                if not folder.exists():
+                    lay_out(sources, folder)
+                number_run += 1
+                fault = run(command, folder)
+            if fault:
+                faults.append(f"{page}: {command}\n  {fault}")
+    faults += [f"No page shows this command: {command}" for command in [*NOT_RUN, *EXPECTED] if command not in seen]
+    for fault in faults:
+        print(fault, file=sys.stderr)
+    print(f"{number_run} commands were run, {len(NOT_RUN)} have a reason not to.")
+    if faults or not number_run:
+        sys.exit(1)
+    shutil.rmtree(work)
+
+
+if __name__ == "__main__":
+    main()
