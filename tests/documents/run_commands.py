@@ -1,12 +1,14 @@
 #!/usr/bin/env python3
-"""Runs the commands that the pages show, word for word and in their order, each page in a folder of its own.
+"""Runs the commands that the pages and the manual pages show, word for word and in their order, each page in a folder
+of its own.
 
 usage: run_commands.py SOURCES WORK-FOLDER PROGRAM-FOLDER...
 
 A command is a line that is set off as code and is neither CMake nor C++, or a call of one of the programs within a
 sentence, unless it has a place for something, such as FILE.xsd. Each must end with 0 and print what EXPECTED has. What
 is not run is either a block of which tests/package/builds_as_documented.cmake takes the lines, or has its reason in
-NOT_RUN. A reason without a command is a fault, too.
+NOT_RUN. A reason without a command is a fault, too. The examples of a manual page must print what stands below each
+command; what they work on lies in a folder of the program's name in man.
 """
 
 import os
@@ -140,6 +142,64 @@ def commands_to_run(sources, page):
     yield from calls_in(text)
 
 
+def sessions_of(manual):
+    """The commands of the examples of a manual page, each with what is said to be printed."""
+    text = manual.read_text(encoding="utf-8").replace("\\-", "-")
+    for example in re.findall(r"^\.EX\n(.*?)^\.EE$", text, re.MULTILINE | re.DOTALL):
+        for session in re.findall(r"^\$ [^\n]*\n(?:(?!\$ )[^\n]*\n)*", example, re.MULTILINE):
+            command, printed = session[2:].split("\n", 1)
+            yield command, printed
+
+
+def faults_of_manual(manual, work):
+    """What is wrong with the examples of a manual page."""
+    folder = work / manual.name
+    shutil.copytree(pathlib.Path(__file__).parent / "man" / manual.stem, folder)
+    for command, printed in sessions_of(manual):
+        done = subprocess.run(["sh", "-c", command], cwd=folder, text=True, capture_output=True, check=False)
+        if done.stdout + done.stderr != printed:
+            yield f"{manual.name}: {command}\n  prints\n{done.stdout}{done.stderr}  and not\n{printed}"
+
+
+def names_what_is_there(command, sources):
+    """Whether the script and the preset that a command names exist."""
+    script = re.match(r"scripts/\S+", command)
+    preset = re.search(r"--preset (\w+)", command)
+    presets = re.findall(r'"name": "(\w+)"', (sources / "CMakePresets.json").read_text(encoding="utf-8"))
+    return not (script and not os.access(sources / script[0], os.X_OK) or preset and preset[1] not in presets)
+
+
+def check_pages(sources, work):
+    """The faults of all pages, and how many of their commands were run."""
+    pages = sorted(path.relative_to(sources).as_posix() for pattern in ("*.md", "docs/**/*.md", "benchmarks/*.md")
+                   for path in sources.glob(pattern))
+    faults, seen, number_run = [], set(), 0
+    for page in pages:
+        folder = work / page.replace("/", "-")
+        lay_out(sources, folder)
+        for command in dict.fromkeys(commands_to_run(sources, page)):
+            seen.add(command)
+            fault = "" if names_what_is_there(command, sources) else "names what is not there."
+            if not fault and command not in NOT_RUN:
+                number_run += 1
+                fault = run(command, folder)
+            if fault:
+                faults.append(f"{page}: {command}\n  {fault}")
+    faults += [f"No page shows this command: {command}" for command in [*NOT_RUN, *EXPECTED] if command not in seen]
+    return faults, number_run
+
+
+def check_manuals(sources, work):
+    """The same for all manual pages with examples."""
+    faults, number_run = [], 0
+    for manual in sorted([*sources.glob("apps/*/man/*.1"), *sources.glob("examples/*/man/*.1")]):
+        sessions = len(list(sessions_of(manual)))
+        number_run += sessions
+        if sessions:
+            faults += faults_of_manual(manual, work)
+    return faults, number_run
+
+
 def main():
     if len(sys.argv) < 4:
         sys.exit(__doc__)
@@ -147,31 +207,12 @@ def main():
     os.environ["PATH"] = os.pathsep.join([*sys.argv[3:], os.environ["PATH"]])
     os.environ.update(LANGUAGE="en", LC_ALL="C.UTF-8", HOME=str(work))
     shutil.rmtree(work, ignore_errors=True)
-    presets = re.findall(r'"name": "(\w+)"', (sources / "CMakePresets.json").read_text(encoding="utf-8"))
-    pages = sorted(path.relative_to(sources).as_posix() for pattern in ("*.md", "docs/**/*.md", "benchmarks/*.md")
-                   for path in sources.glob(pattern))
-    faults, seen, number_run = [], set(), 0
-    for page in pages:
-        folder = work / page.replace("/", "-")
-        for command in dict.fromkeys(commands_to_run(sources, page)):
-            script = re.match(r"scripts/\S+", command)
-            preset = re.search(r"--preset (\w+)", command)
-            seen.add(command)
-            fault = ""
-            if script and not os.access(sources / script[0], os.X_OK) or preset and preset[1] not in presets:
-                fault = "names what is not there."
-            elif command not in NOT_RUN:
-                if not folder.exists():
-                    lay_out(sources, folder)
-                number_run += 1
-                fault = run(command, folder)
-            if fault:
-                faults.append(f"{page}: {command}\n  {fault}")
-    faults += [f"No page shows this command: {command}" for command in [*NOT_RUN, *EXPECTED] if command not in seen]
-    for fault in faults:
+    faults, in_pages = check_pages(sources, work)
+    more_faults, in_manuals = check_manuals(sources, work)
+    for fault in faults + more_faults:
         print(fault, file=sys.stderr)
-    print(f"{number_run} commands were run, {len(NOT_RUN)} have a reason not to.")
-    if faults or not number_run:
+    print(f"{in_pages} commands of pages and {in_manuals} of manual pages were run, {len(NOT_RUN)} have a reason not to.")
+    if faults or more_faults or not in_pages or not in_manuals:
         sys.exit(1)
     shutil.rmtree(work)
 
