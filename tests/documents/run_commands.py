@@ -211,7 +211,7 @@ def main():
     more_faults, in_manuals = check_manuals(sources, work)
     for fault in faults + more_faults:
         print(fault, file=sys.stderr)
-    print(f"{in_pages} commands of pages and {in_manuals} of manual pages were run, {len(NOT_RUN)} have a reason not to.")
+    print(f"{in_pages} commands of pages and {in_manuals} of manual pages were run; {len(NOT_RUN)} have reasons.")
     if faults or more_faults or not in_pages or not in_manuals:
         sys.exit(1)
     shutil.rmtree(work)
