@@ -2,6 +2,7 @@
 # all of it is private to the target it is called for.
 #
 #   xmlhelper_target_defaults(<target>)   warnings, strict Qt, sanitizers, C++17
+#   xmlhelper_target_exports(<target> <map>)   what a shared library exports, under a version
 #   xmlhelper_lay_translations_beside(<program> <catalogue>...)   into a folder of that name
 
 function(xmlhelper_target_defaults target)
@@ -31,6 +32,33 @@ function(xmlhelper_target_defaults target)
         target_compile_options(${target} PRIVATE
             -fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
         target_link_options(${target} PUBLIC -fsanitize=${sanitizers})
+    endif()
+endfunction()
+
+# The version of every symbol that the libraries export. The soname's number and Qt stand in it: the loader does not
+# start a client with a library on the other Qt, and says which version it misses.
+set(xmlhelper_version_node "XMLHELPER_${PROJECT_VERSION_MAJOR}")
+set(xmlhelper_version_node_of_other_qt "XMLHELPER_QT6_${PROJECT_VERSION_MAJOR}")
+if(XMLHELPER_QT_MAJOR EQUAL 6)
+    set(xmlhelper_version_node "XMLHELPER_QT6_${PROJECT_VERSION_MAJOR}")
+    set(xmlhelper_version_node_of_other_qt "XMLHELPER_${PROJECT_VERSION_MAJOR}")
+endif()
+
+# Lets a shared library export what its version script <map>.in names, which stands beside its CMake list.
+function(xmlhelper_target_exports target map)
+    # The formats of Windows and macOS know no version scripts, even where their linker accepts the option.
+    if(NOT UNIX OR APPLE)
+        return()
+    endif()
+    set(version_node "${xmlhelper_version_node}")
+    set(version_script "${CMAKE_CURRENT_BINARY_DIR}/${map}")
+    configure_file("${map}.in" "${version_script}" @ONLY)
+
+    include(CheckLinkerFlag)
+    check_linker_flag(CXX "LINKER:--version-script=${version_script}" XMLHELPER_HAS_VERSION_SCRIPT)
+    if(XMLHELPER_HAS_VERSION_SCRIPT)
+        target_link_options(${target} PRIVATE "LINKER:--version-script=${version_script}")
+        set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${version_script}")
     endif()
 endfunction()
 
