@@ -44,6 +44,14 @@ if(XMLHELPER_QT_MAJOR EQUAL 6)
     set(xmlhelper_version_node_of_other_qt "XMLHELPER_${PROJECT_VERSION_MAJOR}")
 endif()
 
+# Only debug information with types tells the binary interface. scripts/check-abi compares that of builds on Qt 5.
+set(XMLHELPER_TELLS_TYPES OFF)
+if(XMLHELPER_BUILD_TESTS AND CMAKE_BUILD_TYPE STREQUAL "Debug" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU"
+        AND CMAKE_SYSTEM_NAME STREQUAL "Linux" AND CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64"
+        AND XMLHELPER_QT_MAJOR EQUAL 5 AND NOT XMLHELPER_SANITIZE)
+    set(XMLHELPER_TELLS_TYPES ON)
+endif()
+
 # Lets a shared library export what its version script <map>.in names, which stands beside its CMake list.
 function(xmlhelper_target_exports target map)
     # The formats of Windows and macOS know no version scripts, even where their linker accepts the option.
@@ -59,6 +67,9 @@ function(xmlhelper_target_exports target map)
     if(XMLHELPER_HAS_VERSION_SCRIPT)
         target_link_options(${target} PRIVATE "LINKER:--version-script=${version_script}")
         set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${version_script}")
+    endif()
+    if(XMLHELPER_TELLS_TYPES)
+        target_compile_options(${target} PRIVATE -g2)
     endif()
 endfunction()
 
