@@ -26,6 +26,65 @@ int refuse(const QString& reason)
     return Unreadable;
 }
 
+struct Options
+{
+    const QCommandLineOption schema {{QStringLiteral("schema"), QStringLiteral("against")},
+                                     QStringLiteral("Validate by this schema, not by the one that the report names."),
+                                     QStringLiteral("file")};
+    const QCommandLineOption json {QStringLiteral("json"), QStringLiteral("Print JSON, for programs.")};
+    const QCommandLineOption language {
+        QStringLiteral("language"), QStringLiteral("Use this language: de, en or fr; by default that of the system."),
+        QStringLiteral("code")};
+};
+
+void describe(QCommandLineParser& parser, const Options& options)
+{
+    parser.setApplicationDescription(QStringLiteral(
+        "Says what finished reports still lack, and validates them.\n\n"
+        "Exit status: 0 nothing to say, 1 warnings, 2 errors, 3 something cannot be read; of the worst report."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOptions({options.schema, options.json, options.language});
+    parser.addPositionalArgument(QStringLiteral("report"), QStringLiteral("The reports to check."),
+                                 QStringLiteral("report..."));
+}
+
+/// What is wrong with a command line, for its author; empty when nothing is. Ends the program that shall only help.
+QString faultOf(QCommandLineParser& parser, const Options& options)
+{
+    if (!parser.parse(QCoreApplication::arguments())) {
+        return parser.errorText();
+    }
+    if (parser.isSet(QStringLiteral("help"))) {
+        parser.showHelp();
+    }
+    if (parser.isSet(QStringLiteral("version"))) {
+        parser.showVersion();
+    }
+    if (parser.positionalArguments().isEmpty()) {
+        return QStringLiteral("no report is given");
+    }
+    return parser.isSet(options.schema) && parser.value(options.schema).isEmpty()
+        ? QStringLiteral("--schema needs a file")
+        : QString();
+}
+
+/// Checks each report, and prints at once what is text.
+int check(const QStringList& reports, const QString& schema, bool isJson)
+{
+    std::vector<Result> results;
+    for (const QString& report : reports) {
+        results.push_back(checkReport(report, schema));
+        if (!isJson) {
+            print(stdout, textOf(results.back()).toUtf8());
+        }
+    }
+    if (isJson) {
+        print(stdout, jsonOf(results));
+    }
+    return exitStatusOf(results);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -34,52 +93,16 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(QStringLiteral("xmlhelper-report"));
     QCoreApplication::setApplicationVersion(QStringLiteral(XMLHELPER_VERSION_STRING));
 
+    const Options options;
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Says what finished reports still lack, and validates them.\n\n"
-        "Exit status: 0 nothing to say, 1 warnings, 2 errors, 3 something cannot be read; of the worst report."));
-    const QCommandLineOption schema({QStringLiteral("schema"), QStringLiteral("against")},
-                                    QStringLiteral("Validate by this schema, not by the one that the report names."),
-                                    QStringLiteral("file"));
-    const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print JSON, for programs."));
-    const QCommandLineOption language(QStringLiteral("language"),
-                                      QStringLiteral("Use this language: de, en or fr; by default that of the system."),
-                                      QStringLiteral("code"));
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
-    parser.addOptions({schema, json, language});
-    parser.addPositionalArgument(QStringLiteral("report"), QStringLiteral("The reports to check."),
-                                 QStringLiteral("report..."));
-    if (!parser.parse(QCoreApplication::arguments())) {
-        return refuse(parser.errorText());
+    describe(parser, options);
+    const QString fault = faultOf(parser, options);
+    if (!fault.isEmpty()) {
+        return refuse(fault);
     }
-    if (parser.isSet(help)) {
-        parser.showHelp();
+    const QString language = parser.value(options.language);
+    if (!speak({QStringLiteral("ReportCheck")}, language)) {
+        return refuse(QStringLiteral("there are no texts in the language '%1'").arg(language));
     }
-    if (parser.isSet(version)) {
-        parser.showVersion();
-    }
-    if (parser.positionalArguments().isEmpty()) {
-        return refuse(QStringLiteral("no report is given"));
-    }
-    if (parser.isSet(schema) && parser.value(schema).isEmpty()) {
-        return refuse(QStringLiteral("--schema needs a file"));
-    }
-
-    if (!speak({QStringLiteral("ReportCheck")}, parser.value(language))) {
-        return refuse(QStringLiteral("there are no texts in the language '%1'").arg(parser.value(language)));
-    }
-
-    std::vector<Result> results;
-    const QStringList reports = parser.positionalArguments();
-    for (const QString& report : reports) {
-        results.push_back(checkReport(report, parser.value(schema)));
-        if (!parser.isSet(json)) {
-            print(stdout, textOf(results.back()).toUtf8());
-        }
-    }
-    if (parser.isSet(json)) {
-        print(stdout, jsonOf(results));
-    }
-    return exitStatusOf(results);
+    return check(parser.positionalArguments(), parser.value(options.schema), parser.isSet(options.json));
 }

@@ -264,6 +264,28 @@ bool isEmpty(const QStringList& row)
     return std::all_of(row.begin(), row.end(), [](const QString& cell) { return cell.isEmpty(); });
 }
 
+/// What the rows below the first give, under the names that stand in that one. Returns what is wrong with them.
+QString readRows(const std::vector<QStringList>& rows, int record, std::vector<GivenValue>& given)
+{
+    const QStringList& names = rows.front();
+    for (std::size_t number = 1; number < rows.size(); ++number) {
+        const QStringList& row = rows[number];
+        if (isEmpty(row)) {
+            continue;
+        }
+        if (row.size() > names.size()) {
+            return QStringLiteral("%1: The row has more cells than the first").arg(number + 1);
+        }
+        ++record;
+        for (int column = 0; column < int(row.size()); ++column) {
+            if (!row.at(column).isEmpty()) {
+                given.push_back({names.at(column).trimmed(), row.at(column), record, -1});
+            }
+        }
+    }
+    return {};
+}
+
 } // namespace
 
 QString textOf(const QVariant& value)
@@ -312,29 +334,14 @@ bool readCsv(const QByteArray& csv, std::vector<GivenValue>& values, QString& fa
     }
     CsvText cells(separatorIn(text));
     const bool isClosed = cells.Read(text);
-    const std::vector<QStringList>& rows = cells.Rows();
     if (!isClosed) {
-        fault = QStringLiteral("%1: A quote is not closed").arg(rows.size());
+        fault = QStringLiteral("%1: A quote is not closed").arg(cells.Rows().size());
         return false;
     }
-    const QStringList names = rows.front();
     std::vector<GivenValue> given;
-    int record = lastRecordOf(values);
-    for (std::size_t number = 1; number < rows.size(); ++number) {
-        const QStringList& row = rows[number];
-        if (isEmpty(row)) {
-            continue;
-        }
-        if (row.size() > names.size()) {
-            fault = QStringLiteral("%1: The row has more cells than the first").arg(number + 1);
-            return false;
-        }
-        ++record;
-        for (int column = 0; column < int(row.size()); ++column) {
-            if (!row.at(column).isEmpty()) {
-                given.push_back({names.at(column).trimmed(), row.at(column), record, -1});
-            }
-        }
+    fault = readRows(cells.Rows(), lastRecordOf(values), given);
+    if (!fault.isEmpty()) {
+        return false;
     }
     values.insert(values.end(), given.begin(), given.end());
     return true;

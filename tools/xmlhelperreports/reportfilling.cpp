@@ -83,12 +83,7 @@ bool ReportFilling::Fill(const QString& schema, const QString& report)
     };
     const bool isRead = ReportFiller::makeAside(m_builder, schema, report, m_writtenFile, put);
     m_bSchemaRead = isRead && !m_instances.empty();
-    if (!m_bSchemaRead) {
-        complainOfSchema(schema, isRead);
-    }
-    if (!m_document.documentElement().nextSiblingElement().isNull()) {
-        m_complaints.append(QStringLiteral("the schema lays out several roots: the report is no XML document"));
-    }
+    complainOfSchema(schema, isRead);
     if (isPut) {
         m_writtenFile = QFileInfo(report).isFile() ? report : m_writtenFile;
     } else if (!m_instances.empty()) {
@@ -103,9 +98,14 @@ bool ReportFilling::Fill(const QString& schema, const QString& report)
 
 void ReportFilling::complainOfSchema(const QString& schema, bool isRead)
 {
-    const QString reason = isRead ? QString() : reasonAgainst(schema);
-    m_complaints.append(isRead ? QStringLiteral("the schema lays out no element")
-                               : QStringLiteral("the schema cannot be read: %1").arg(reason));
+    if (!isRead) {
+        m_complaints.append(QStringLiteral("the schema cannot be read: %1").arg(reasonAgainst(schema)));
+    } else if (!m_bSchemaRead) {
+        m_complaints.append(QStringLiteral("the schema lays out no element"));
+    }
+    if (!m_document.documentElement().nextSiblingElement().isNull()) {
+        m_complaints.append(QStringLiteral("the schema lays out several roots: the report is no XML document"));
+    }
 }
 
 std::vector<ReportFiller::Verdict> ReportFilling::TakeVerdicts()
