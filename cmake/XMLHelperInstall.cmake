@@ -131,7 +131,8 @@ function(xmlhelper_install_program_files target component)
 endfunction()
 
 # Installs an example that looks for its FILES beside itself. Those have no place among the programs of a Unix system:
-# there both stand in a folder of their own, and a link leads to the program.
+# there both stand in a folder of their own, and a link leads to the program. Its translations go where those of the
+# libraries are.
 #
 #   xmlhelper_install_example(<target> FILES <file>...)
 function(xmlhelper_install_example target)
@@ -151,6 +152,11 @@ function(xmlhelper_install_example target)
     endif()
     install(TARGETS ${target} RUNTIME DESTINATION "${folder}" COMPONENT examples EXCLUDE_FROM_ALL)
     install(FILES ${arg_FILES} DESTINATION "${folder}" COMPONENT examples EXCLUDE_FROM_ALL)
+    get_target_property(catalogues ${target} XMLHELPER_CATALOGUES)
+    if(catalogues)
+        list(FILTER catalogues EXCLUDE REGEX "/XMLHelper[A-Za-z]*_[a-z]+\\.qm$")
+        install(FILES ${catalogues} DESTINATION "${xmlhelper_translations_dir}" COMPONENT examples EXCLUDE_FROM_ALL)
+    endif()
     xmlhelper_install_program_files(${target} examples EXCLUDE_FROM_ALL)
 endfunction()
 

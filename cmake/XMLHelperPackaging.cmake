@@ -188,6 +188,7 @@ set(CPACK_DEBIAN_EXAMPLES_PACKAGE_NAME xmlhelper-examples)
 set(CPACK_DEBIAN_EXAMPLES_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_EXAMPLES_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_EXAMPLES_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION}), ${platform_or_other}")
+set(CPACK_DEBIAN_EXAMPLES_PACKAGE_RECOMMENDS xmlhelper-l10n)
 set(CPACK_COMPONENT_EXAMPLES_DESCRIPTION
 "XML and measurement reports on Qt: example application
 The program measurementpanel is a measurement screen with a report button, on

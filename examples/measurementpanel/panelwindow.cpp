@@ -27,9 +27,12 @@ namespace {
 
 const QLatin1String Context("MeasurementPanel_");
 
+/// The folder beside the program, or the one where translations are installed.
 QString catalogues()
 {
-    return QApplication::applicationDirPath() + QStringLiteral("/translations");
+    const QDir program(QApplication::applicationDirPath());
+    const QString beside = program.filePath(QStringLiteral("translations"));
+    return QDir(beside).exists() ? beside : program.filePath(QStringLiteral(INSTALLED_TRANSLATIONS));
 }
 
 } // namespace

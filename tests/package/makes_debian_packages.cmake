@@ -154,6 +154,13 @@ endif()
 
 if(HAS_EXAMPLES)
     expect_package(xmlhelper-examples FILES examples_files DEPENDS "${runtime} \\(= ${version}\\)" "${qt_core} \\(>=")
+    foreach(language IN ITEMS de en fr)
+        set(catalogue "usr/share/xmlhelper/translations/MeasurementPanel_${language}.qm")
+        if(APP_TRANSLATIONS AND NOT catalogue IN_LIST examples_files)
+            message(SEND_ERROR "${catalogue} is missing.")
+        endif()
+        list(REMOVE_ITEM examples_files "${catalogue}")
+    endforeach()
     compare_lists("The files of xmlhelper-examples" "${CASES_DIR}/examples-files.txt" LINES ${examples_files})
 
     # The panel is started by its link and makes a report by the schema that comes with it.
@@ -163,6 +170,14 @@ if(HAS_EXAMPLES)
     file(GLOB reports "${WORK_DIR}/reports/*.xml")
     if(NOT reports)
         message(SEND_ERROR "The packed measurementpanel has made no report.")
+    endif()
+    if(APP_TRANSLATIONS)
+        execute_process(ERROR_VARIABLE complaint
+            COMMAND "${WORK_DIR}/xmlhelper-examples/usr/bin/measurementpanel"
+                --press 1 --language de --schema none.xsd --reports "${WORK_DIR}/reports")
+        if(NOT complaint MATCHES "Es ist kein Bericht entstanden")
+            message(SEND_ERROR "The packed measurementpanel does not speak German: ${complaint}")
+        endif()
     endif()
 endif()
 
