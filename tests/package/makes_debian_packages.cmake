@@ -181,13 +181,27 @@ if(HAS_EXAMPLES)
     endif()
 endif()
 
-# A shell is told the options that a program has.
-set(completion "${WORK_DIR}/xmlhelper-tools/usr/share/bash-completion/completions/xmlhelper-fill")
-if(BASH AND EXISTS "${completion}")
+# A shell is told the options that a program has, whichever it is.
+#   expect_completion(<package> <program> <typed> <expected option>...)
+function(expect_completion package program typed)
+    set(folder "${WORK_DIR}/${package}/usr")
+    set(completion "${folder}/share/bash-completion/completions/${program}")
+    if(NOT BASH OR NOT EXISTS "${folder}/bin/${program}")
+        return()
+    endif()
     set(ENV{LD_LIBRARY_PATH} "${WORK_DIR}/${runtime}/usr/${LIBDIR}:${WORK_DIR}/${platform}/usr/${LIBDIR}")
-    set(program "${WORK_DIR}/xmlhelper-tools/usr/bin/xmlhelper-fill")
-    set(typed "COMP_WORDS=('${program}' --v)\nCOMP_CWORD=1")
-    run(OUTPUT options COMMAND "${BASH}" -c
-        "source '${completion}'\n${typed}\n_xmlhelper '${program}'\nprintf '%s\\n' \"\${COMPREPLY[@]}\" | sort")
-    expect_output("${options}" "--values" "--version")
-endif()
+    run(OUTPUT options COMMAND "${BASH}" -c "
+        source '${completion}'
+        [[ $(complete -p ${program}) == *_xmlhelper* ]] || exit 1
+        COMP_WORDS=('${folder}/bin/${program}' ${typed})
+        COMP_CWORD=1
+        _xmlhelper '${folder}/bin/${program}'
+        printf '%s\\n' \"\${COMPREPLY[@]}\" | sort")
+    expect_output("${options}" ${ARGN})
+endfunction()
+
+expect_completion(xmlhelper-tools    xmlhelper-fill    --v "--values" "--version")
+expect_completion(xmlhelper-tools    xmlhelper-journal --v "--verdict" "--version")
+expect_completion(xmlhelper-tools    xmlhelper-report  --s "--schema")
+expect_completion(xmlhelper-tools    xmlhelper-schema  --m "--mend")
+expect_completion(xmlhelper-examples measurementpanel  --re "--reports")
