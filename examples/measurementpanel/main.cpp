@@ -42,9 +42,8 @@ bool press(int times, const PanelWindow& window, const ReportSupervisor& supervi
     return true;
 }
 
-} // namespace
-
-int main(int argc, char* argv[])
+/// What must be set before the application is there.
+void prepareQt()
 {
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // else the button's picture is coarse on fine screens
@@ -52,13 +51,25 @@ int main(int argc, char* argv[])
 #else
     QHashSeed::setDeterministicGlobalSeed();
 #endif
-    QApplication application(argc, argv);
-    QCommandLineParser parser;
+}
+
+void describe(QCommandLineParser& parser)
+{
     parser.addHelpOption();
     parser.addOptions({{QStringLiteral("press"), QStringLiteral("Press the button and end."), QStringLiteral("times")},
                        {QStringLiteral("reports"), QStringLiteral("Where reports go."), QStringLiteral("directory")},
                        {QStringLiteral("schema"), QStringLiteral("What reports look like."), QStringLiteral("file")},
                        {QStringLiteral("language"), QStringLiteral("Such as de."), QStringLiteral("code")}});
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    prepareQt();
+    QApplication application(argc, argv);
+    QCommandLineParser parser;
+    describe(parser);
     parser.process(application);
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("measurementpanel"));
     const auto chosen = [&](const QString& name) {
