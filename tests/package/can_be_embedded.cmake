@@ -3,7 +3,7 @@
 include("${CMAKE_CURRENT_LIST_DIR}/packagetest.cmake")
 
 # The whole library is built once more: as fast as the compiler can.
-configure_client(embedding -D CMAKE_UNITY_BUILD=ON -D CMAKE_BUILD_TYPE=
+configure_client(embedding -D XMLHELPER_QUICK_BUILD=ON -D CMAKE_BUILD_TYPE=
     -D "XMLHELPER_SOURCE_DIR=${SOURCE_DIR}" -D "CMAKE_INSTALL_LIBDIR=${LIBDIR}")
 build_and_run_client(
     "host trace: the client's own"
