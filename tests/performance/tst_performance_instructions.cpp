@@ -34,7 +34,7 @@ struct Bounded
 };
 
 constexpr Bounded Cases[] = {
-    {"read/file/10000", 1.22, 1.59},
+    {"read/file/10000", 1.17, 1.51},
     {"read/document/10000", 1.15, 1.40},
     {"search/all/10000", 1.83, 1.91},
     {"search/below/10000", 1.83, 1.90},
@@ -49,7 +49,7 @@ constexpr Bounded Cases[] = {
     {"occurs/owners/100", 1.23, 1.17},
     {"save/10000", 1.06, 1.06},
     {"job/qt/50", 1.31, 1.83},
-    {"button/10", 1.12, 1.19},
+    {"button/10", 1.32, 1.35},
     {"writer/1000", 1.11, 1.36},
 };
 
