@@ -109,6 +109,31 @@ const QLatin1String RestrictionTag("xs:restriction");
 const QLatin1String ExtensionTag("xs:extension");
 const QLatin1String ChoiceTag("xs:choice");
 
+const QLatin1String NameWord("name");
+const QLatin1String TypeWord("type");
+const QLatin1String RefWord("ref");
+const QLatin1String DefaultWord("default");
+const QLatin1String MinOccursWord("minOccurs");
+const QLatin1String MaxOccursWord("maxOccurs");
+
+/// Most words of a schema differ in their length already.
+inline bool isWord(const QString& text, QLatin1String word)
+{
+    return text.size() == word.size() && text == word;
+}
+
+/// Nearly every number of a schema is a digit, for which Qt's conversion is a long way.
+int numberIn(const QString& text)
+{
+    const int digit = text.size() == 1 ? text.at(0).unicode() - '0' : -1;
+    return digit >= 0 && digit <= 9 ? digit : text.toInt();
+}
+
+int greatestIn(const QString& maxOccurs)
+{
+    return maxOccurs == QLatin1String("unbounded") ? UnboundedOccurs : numberIn(maxOccurs);
+}
+
 bool hasSchemaPrefix(const QString& name)
 {
     return name.contains(SchemaPrefix);
@@ -188,20 +213,25 @@ QString identityOfFile(const QString& fileName)
 } // namespace
 
 XmlSchemaHandler::ElementDeclaration::ElementDeclaration(const QXmlAttributes& attributes)
-    : name(attributes.value(QLatin1String("name")))
-    , type(attributes.value(QLatin1String("type")))
-    , ref(attributes.value(QLatin1String("ref")))
-    , defaultValue(attributes.value(QLatin1String("default")))
 {
-    const int minIndex = attributes.index(QLatin1String("minOccurs"));
-    minOccurs = minIndex < 0 ? OccursNotGiven : attributes.value(minIndex).toInt();
+    for (int i = attributes.count(); i-- > 0;) { // backwards: of several of one name the first one counts
+        const QString attribute = attributes.qName(i);
+        if (isWord(attribute, NameWord)) {
+            name = attributes.value(i);
+        } else if (isWord(attribute, TypeWord)) {
+            type = attributes.value(i);
+        } else if (isWord(attribute, MinOccursWord)) {
+            minOccurs = numberIn(attributes.value(i));
+        } else if (isWord(attribute, MaxOccursWord)) {
+            maxOccurs = greatestIn(attributes.value(i));
+        } else if (isWord(attribute, RefWord)) {
+            ref = attributes.value(i);
+        } else if (isWord(attribute, DefaultWord)) {
+            defaultValue = attributes.value(i);
+        }
+    }
     if (minOccurs == OccursNotGiven) {
         minOccurs = 1;
-    }
-    const int maxIndex = attributes.index(QLatin1String("maxOccurs"));
-    if (maxIndex >= 0) {
-        const QString value = attributes.value(maxIndex);
-        maxOccurs = value == QLatin1String("unbounded") ? UnboundedOccurs : value.toInt();
     }
 }
 
