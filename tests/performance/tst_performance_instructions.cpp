@@ -38,7 +38,7 @@ constexpr Bounded Cases[] = {
     {"read/document/10000", 1.15, 1.40},
     {"search/all/10000", 1.83, 1.91},
     {"search/below/10000", 1.83, 1.90},
-    {"schema/read/groups/50", 1.24, 1.81},
+    {"schema/read/groups/50", 1.18, 2.14},
     {"walk/flat/unfilled/1000", 2.01, 2.10},
     {"walk/groups/half-filled/1000", 2.31, 2.02},
     {"fill/text/500", 1.86, 2.79},

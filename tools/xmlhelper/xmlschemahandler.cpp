@@ -116,10 +116,16 @@ const QLatin1String DefaultWord("default");
 const QLatin1String MinOccursWord("minOccurs");
 const QLatin1String MaxOccursWord("maxOccurs");
 
-/// Most words of a schema differ in their length already.
+// For the few short words of a schema, which are compared for every tag: calls into Qt would take longer.
+inline bool beginsWith(const QString& text, QLatin1String word)
+{
+    return text.size() >= word.size()
+        && std::equal(word.begin(), word.end(), text.constData(),
+                      [](char letter, QChar c) { return c == QLatin1Char(letter); });
+}
 inline bool isWord(const QString& text, QLatin1String word)
 {
-    return text.size() == word.size() && text == word;
+    return text.size() == word.size() && beginsWith(text, word);
 }
 
 /// Nearly every number of a schema is a digit, for which Qt's conversion is a long way.
@@ -134,9 +140,10 @@ int greatestIn(const QString& maxOccurs)
     return maxOccurs == QLatin1String("unbounded") ? UnboundedOccurs : numberIn(maxOccurs);
 }
 
+/// Wherever it stands; nearly always in front, which is seen without a search.
 bool hasSchemaPrefix(const QString& name)
 {
-    return name.contains(SchemaPrefix);
+    return beginsWith(name, SchemaPrefix) || name.contains(SchemaPrefix);
 }
 
 /// The name without its first three characters when it contains the prefix, wherever that stands.
@@ -177,7 +184,7 @@ int enumerationValuesBelow(const QDomNode& fragment)
 bool isNamespaceDeclaration(const QString& attributeName)
 {
     const QLatin1String word("xmlns");
-    return attributeName.startsWith(word)
+    return beginsWith(attributeName, word)
         && (attributeName.size() == word.size() || attributeName.at(word.size()) == QLatin1Char(':'));
 }
 
