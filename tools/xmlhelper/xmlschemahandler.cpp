@@ -154,12 +154,12 @@ QString withoutSchemaPrefix(const QString& name)
 
 bool isTypeTag(const QString& qName)
 {
-    return qName == ComplexTypeTag || qName == SimpleTypeTag;
+    return isWord(qName, ComplexTypeTag) || isWord(qName, SimpleTypeTag);
 }
 
 bool isDeclarationTag(const QString& qName)
 {
-    return qName == ElementTag || qName == AttributeTag;
+    return isWord(qName, ElementTag) || isWord(qName, AttributeTag);
 }
 
 int enumerationValuesAmong(const DomAttributes& attributes)
@@ -424,10 +424,10 @@ bool XmlSchemaHandler::endElement(const QString&, const QString&, const QString&
         if (qName == AttributeTag) {
             m_bGlobalIsAttribute = false;
         }
-    } else if (qName == RestrictionTag) {
+    } else if (isWord(qName, RestrictionTag)) {
         m_bInsideRestriction = false;
         m_iEnumerationCounter = 1;
-    } else if (qName == ChoiceTag) {
+    } else if (isWord(qName, ChoiceTag)) {
         m_bInsideChoice = false;
     }
     return true;
@@ -517,26 +517,47 @@ void XmlSchemaHandler::takeOffAllOrigins()
 
 void XmlSchemaHandler::readTag()
 {
-    const QString& tag = m_sCurrentName;
-    if (tag == IncludeTag) {
-        readInclude();
-    } else if (isTypeTag(tag)) {
-        beginType();
-    } else if (isDeclarationTag(tag) && m_iDefinitionDepth == 0) {
-        beginGlobalDeclaration();
-    } else if (tag == ElementTag) {
-        readLocalElement();
-    } else if (tag == RestrictionTag) {
-        beginRestriction();
-    } else if (tag == ExtensionTag) {
-        beginExtension();
-    } else if (tag == AttributeTag) {
-        readAttribute();
-    } else if (tag == ChoiceTag) {
-        m_bInsideChoice = true;
+    struct Construct
+    {
+        QLatin1String tag;
+        void (XmlSchemaHandler::*read)();
+    };
+    static const Construct constructs[] = {
+        {ElementTag, &XmlSchemaHandler::readElement},          {AttributeTag, &XmlSchemaHandler::readAttribute},
+        {ComplexTypeTag, &XmlSchemaHandler::beginType},        {SimpleTypeTag, &XmlSchemaHandler::beginType},
+        {RestrictionTag, &XmlSchemaHandler::beginRestriction}, {ExtensionTag, &XmlSchemaHandler::beginExtension},
+        {ChoiceTag, &XmlSchemaHandler::beginChoice},           {IncludeTag, &XmlSchemaHandler::readInclude},
+    };
+    const auto* const construct = std::find_if(std::begin(constructs), std::end(constructs),
+                                               [this](const Construct& c) { return isWord(m_sCurrentName, c.tag); });
+    if (construct != std::end(constructs)) {
+        (this->*construct->read)();
     } else if (m_pLog) {
         m_pLog->TagPassedOver(m_tag);
     }
+}
+
+void XmlSchemaHandler::readElement()
+{
+    if (m_iDefinitionDepth == 0) {
+        beginGlobalDeclaration();
+    } else {
+        readLocalElement();
+    }
+}
+
+void XmlSchemaHandler::readAttribute()
+{
+    if (m_iDefinitionDepth == 0) {
+        beginGlobalDeclaration();
+    } else {
+        readLocalAttribute();
+    }
+}
+
+void XmlSchemaHandler::beginChoice()
+{
+    m_bInsideChoice = true;
 }
 
 void XmlSchemaHandler::readInclude()
@@ -831,7 +852,7 @@ void XmlSchemaHandler::extendDefinition(const QString& base)
     copyFacets(attributes, target);
 }
 
-void XmlSchemaHandler::readAttribute()
+void XmlSchemaHandler::readLocalAttribute()
 {
     const QString name = m_attributes.value(QLatin1String("name"));
     const QString ref = m_attributes.value(QLatin1String("ref"));
