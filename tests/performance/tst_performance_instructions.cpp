@@ -36,8 +36,8 @@ struct Bounded
 constexpr Bounded Cases[] = {
     {"read/file/10000", 1.17, 1.51},
     {"read/document/10000", 1.15, 1.40},
-    {"search/all/10000", 1.83, 1.91},
-    {"search/below/10000", 1.83, 1.90},
+    {"search/all/10000", 1.52, 1.80},
+    {"search/below/10000", 1.52, 1.80},
     {"schema/read/groups/50", 1.18, 2.14},
     {"walk/flat/unfilled/1000", 2.01, 2.10},
     {"walk/groups/half-filled/1000", 2.31, 2.02},

@@ -1,14 +1,46 @@
 #include "elementsearch_p.h"
 
-#include "domorder_p.h"
-
 namespace {
 
-/// Whether a walk that starts at @p node, whose node name does not match, has its start for a match.
-bool isMatchingAsStart(const QDomNode& node, const QString& name)
+/// Moves @p node, which is below @p start, in document order behind all that is below it; to a null node at the end. It
+/// is moved in place, because handles of nodes are most of what a search costs.
+void moveBehind(QDomNode& node, const QDomNode& start)
+{
+    QDomNode next = node.nextSibling();
+    while (next.isNull()) {
+        node = node.parentNode();
+        if (node == start || node.isNull()) {
+            node = QDomNode();
+            return;
+        }
+        next = node.nextSibling();
+    }
+    node = next;
+}
+
+/// Moves an element to its first child, else as above.
+void moveInto(QDomNode& element, const QDomNode& start)
+{
+    const QDomNode child = element.firstChild();
+    if (child.isNull()) {
+        moveBehind(element, start);
+    } else {
+        element = child;
+    }
+}
+
+/// Most names differ in their length already.
+bool hasNodeName(const QDomNode& node, const QString& name)
+{
+    const QString nodeName = node.nodeName();
+    return nodeName.size() == name.size() && nodeName == name;
+}
+
+/// Whether a walk that starts at an element, whose node name does not match, has its start for a match.
+bool isMatchingAsStart(const QDomNode& element, const QString& name)
 {
     // Only documents read with namespace processing know local names.
-    return node.isElement() && !node.localName().isNull() && node.toElement().tagName() == name;
+    return !element.localName().isNull() && element.toElement().tagName() == name;
 }
 
 } // namespace
@@ -25,13 +57,18 @@ void ElementSearch::AppendMatches(const QString& name, const QDomElement& start,
     }
     QDomNode node = start.firstChild();
     while (!node.isNull()) {
-        const bool isMatching = node.nodeName() == name;
+        const bool isMatching = hasNodeName(node, name);
         if (isMatching) {
             results.push_back(node);
-        } else if (isMatchingAsStart(node, name)) {
+        }
+        if (isMatching || !node.isElement()) {
+            moveBehind(node, start);
+            continue;
+        }
+        if (isMatchingAsStart(node, name)) {
             results.push_back(m_topNode);
         }
-        node = nextBelow(start, node, isMatching);
+        moveInto(node, start);
     }
 }
 
@@ -42,18 +79,21 @@ QDomNode ElementSearch::FirstMatch(const QString& name, const QDomElement& start
     }
     QDomNode node = start.firstChild();
     while (!node.isNull()) {
-        if (node.nodeName() == name) {
-            if (node.isElement()) {
+        const bool isElement = node.isElement();
+        if (hasNodeName(node, name)) {
+            if (isElement) {
                 return node;
             }
-            node = nextBelow(start, node.parentNode(), true);
-        } else if (isMatchingAsStart(node, name)) {
-            if (m_topNode.isElement()) {
-                return m_topNode;
-            }
-            node = nextBelow(start, node, true);
+            node = node.parentNode().lastChild();
+            moveBehind(node, start);
+        } else if (!isElement) {
+            moveBehind(node, start);
+        } else if (!isMatchingAsStart(node, name)) {
+            moveInto(node, start);
+        } else if (m_topNode.isElement()) {
+            return m_topNode;
         } else {
-            node = nextBelow(start, node, false);
+            moveBehind(node, start);
         }
     }
     return QDomNode();
