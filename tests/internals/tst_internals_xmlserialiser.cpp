@@ -21,6 +21,8 @@ private Q_SLOTS:
     void savesWhatQtSaves();
     void savesDeclarationsAsQtDoes_data();
     void savesDeclarationsAsQtDoes();
+    void savesInTheDeclaredEncoding_data();
+    void savesInTheDeclaredEncoding();
     void savesDocumentsWithinAnotherAsQtDoes();
     void savesRandomDocumentsAsQtDoes();
     void savesLongTexts_data();
@@ -194,6 +196,38 @@ void TestXmlSerialiser::savesDeclarationsAsQtDoes()
         document.documentElement().insertBefore(part, document.documentElement().lastChild());
         QCOMPARE(firstDifferenceIn(document), QString());
     }
+}
+
+void TestXmlSerialiser::savesInTheDeclaredEncoding_data()
+{
+    QTest::addColumn<QString>("declaration");
+    QTest::addColumn<bool>("isUnicode");
+    QTest::newRow("none") << QString() << true;
+    QTest::newRow("usual") << QStringLiteral("<?xml version='1.0' encoding='UTF-8'?>") << true;
+    QTest::newRow("in-other-quotes") << QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>") << true;
+    QTest::newRow("without-encoding") << QStringLiteral("<?xml version='1.0'?>") << true;
+    QTest::newRow("standing-alone") << QStringLiteral("<?xml version='1.0' encoding='UTF-8' standalone='yes'?>")
+                                    << true;
+    QTest::newRow("latin-1") << QStringLiteral("<?xml version='1.0' encoding='ISO-8859-1'?>") << false;
+    QTest::newRow("another-instruction-of-that-text") << QStringLiteral("<?p version='1.0' encoding='UTF-8'?>") << true;
+}
+
+/// Whatever the stream would have written by itself.
+void TestXmlSerialiser::savesInTheDeclaredEncoding()
+{
+    QFETCH(QString, declaration);
+    QFETCH(bool, isUnicode);
+    const QDomDocument document = documentOf(declaration + QStringLiteral("<r>\u00e4</r>"));
+    QCOMPARE(document.firstChild().isProcessingInstruction(), !declaration.isEmpty());
+    QByteArray bytes;
+    QTextStream stream(&bytes);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    stream.setCodec(isUnicode ? "ISO-8859-1" : "UTF-8");
+#else
+    stream.setEncoding(isUnicode ? QStringConverter::Latin1 : QStringConverter::Utf8);
+#endif
+    QVERIFY(serialise(document, stream, 4));
+    QVERIFY2(bytes.contains(isUnicode ? "<r>\xC3\xA4</r>" : "<r>\xE4</r>"), bytes.constData());
 }
 
 void TestXmlSerialiser::savesDocumentsWithinAnotherAsQtDoes()

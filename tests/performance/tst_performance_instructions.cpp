@@ -35,7 +35,7 @@ struct Bounded
 
 constexpr Bounded Cases[] = {
     {"read/file/10000", 1.17, 1.51},
-    {"read/document/10000", 1.15, 1.40},
+    {"read/document/10000", 0.71, 1.18},
     {"search/all/10000", 1.52, 1.80},
     {"search/below/10000", 1.52, 1.80},
     {"schema/read/groups/50", 1.18, 2.14},
@@ -47,10 +47,10 @@ constexpr Bounded Cases[] = {
     {"fill/enumeration/100", 1.91, 1.94},
     {"occurs/copies/100", 1.42, 1.46},
     {"occurs/owners/100", 1.23, 1.17},
-    {"save/10000", 1.06, 1.06},
-    {"job/qt/50", 1.31, 1.83},
+    {"save/10000", 0.26, 0.77},
+    {"job/qt/50", 0.94, 1.77},
     {"button/10", 1.32, 1.35},
-    {"writer/1000", 1.11, 1.36},
+    {"writer/1000", 0.69, 1.28},
 };
 
 #ifdef __OPTIMIZE__
