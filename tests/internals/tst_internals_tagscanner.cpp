@@ -48,6 +48,22 @@ void TestTagScanner::looksAtTags_data()
     row("declaration-behind-a-byte-order-mark",
         "\xEF\xBB\xBF<?xml version='1.0' encoding='utf-8' standalone='yes'?><a/>", true);
     row("declaration-with-latin-1", "<?xml version='1.0' encoding='ISO-8859-1'?><a>\xE4</a>", true);
+    row("declaration-with-ascii-in-small-letters", "<?xml version='1.0' encoding='us-ascii'?><a/>", true);
+    row("declaration-with-blanks-everywhere",
+        "<?xml\tversion = '1.1'\r\n encoding\n=\n\"UTF-8\" standalone ='no' ?><a/>", true);
+    row("declaration-of-one-that-stands-alone", "<?xml version='1.0' standalone='yes'?><a/>", true);
+    row("declaration-with-an-unknown-version", "<?xml version='2.0'?><a/>", false);
+    row("declaration-without-version", "<?xml encoding='UTF-8'?><a/>", false);
+    row("declaration-with-an-unnumbered-encoding", "<?xml version='1.0' encoding='ISO-8859-'?><a/>", false);
+    row("declaration-with-a-longer-encoding", "<?xml version='1.0' encoding='UTF-81'?><a/>", false);
+    row("declaration-with-a-wrong-answer", "<?xml version='1.0' standalone='maybe'?><a/>", false);
+    row("declaration-without-a-blank", "<?xml version='1.0'encoding='UTF-8'?><a/>", false);
+    row("declaration-without-equals-sign", "<?xml version '1.0'?><a/>", false);
+    row("declaration-without-quotes", "<?xml version=1.0?><a/>", false);
+    row("declaration-in-unlike-quotes", "<?xml version='1.0\"?><a/>", false);
+    row("declaration-in-the-wrong-order", "<?xml encoding='UTF-8' version='1.0'?><a/>", false);
+    row("declaration-that-does-not-end", "<?xml version='1.0'", false);
+    row("byte-order-mark-without-declaration", "\xEF\xBB\xBF<a/>", true);
     row("declaration-with-another-encoding", "<?xml version='1.0' encoding='UTF-7'?><a/>", false);
     row("declaration-that-names-an-encoding-twice", "<?xml version='UTF-8' encoding='UTF-7'?><a/>", false);
     row("utf-16", QByteArray("\xFF\xFE<\0a\0/\0>\0", 10), false);
