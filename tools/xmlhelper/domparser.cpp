@@ -73,6 +73,17 @@ bool isAmong(const std::vector<std::pair<QString, int>>& declarations, const QSt
     return declaration != declarations.end() && declaration->first == owner;
 }
 
+/// Whether a search for @p tagName that starts at @p root, the top node, reports @p element below it. A search for the
+/// root's own name starts there, whatever else bears the name.
+bool isBelowRoot(const QDomElement& root, const QString& tagName, const QDomNode& element)
+{
+    QDomNode above = element.prefix().isEmpty() ? element.parentNode() : QDomNode();
+    while (!above.isNull() && above != root && above.nodeName() != tagName) {
+        above = above.parentNode();
+    }
+    return above == root;
+}
+
 /// Whether a search for one of the owners meets an element that bears the name behind a prefix.
 template <class IsOwner> bool isAnyBehindPrefix(OwnerIndex& index, const IsOwner& isOwner)
 {
@@ -211,6 +222,9 @@ bool DomParser::isBelowOwnerOf(const Limits& limits, const QString& tagName, con
     const QDomNode top = m_pDocument->lastChild();
     if (!root.prefix().isEmpty()) {
         return isFoundBelowOwner(isOwner, tagName, element);
+    }
+    if (top == root && isOwner(root.tagName()) && isBelowRoot(root, tagName, element)) {
+        return true;
     }
     OwnerIndex& index = owners();
     if (element == root) { // A search that starts at the root reports the root too.
