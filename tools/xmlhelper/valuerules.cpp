@@ -32,6 +32,12 @@ template <std::size_t Count> QStringList builtInTypesOf(const Setter (&setters)[
     return types;
 }
 
+/// QString::contains() prepares for longer texts than types are.
+bool isWordInside(const QString& type, const QString& word)
+{
+    return std::search(type.cbegin(), type.cend(), word.cbegin(), word.cend()) != type.cend();
+}
+
 QLatin1String rangeFacetWithin(const QString& attribute)
 {
     for (const QLatin1String& facet : RangeFacets) {
@@ -65,7 +71,7 @@ QString wordOf(Setter setter)
 
 QString typeTakenBy(const QString& word, const QString& type)
 {
-    if (type.contains(word) || (type == IntType && word == wordOf(Setter::Integer))) {
+    if (isWordInside(type, word) || (type == IntType && word == wordOf(Setter::Integer))) {
         return type;
     }
     for (const QLatin1String universal : {ShortType, LongType}) {
@@ -78,7 +84,7 @@ QString typeTakenBy(const QString& word, const QString& type)
 
 bool isAttributeTakenBy(const QString& word, const QString& type)
 {
-    return type.contains(word);
+    return isWordInside(type, word);
 }
 
 QStringList builtInTypesOfElements()
