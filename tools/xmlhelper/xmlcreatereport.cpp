@@ -65,6 +65,21 @@ template <typename Number> RangeBounds<Number> boundsOfElement(const QDomElement
     return bounds;
 }
 
+/// Whether @p element, whose type was just read, has anything besides. Few elements do.
+bool mayHaveFacets(const QDomElement& element)
+{
+    return element.attributes().count() > 1;
+}
+
+/// Whether @p element, whose attribute @p name was just read, has anything besides that and its type. An attribute of a
+/// long name may count as a facet itself.
+bool mayHaveFacets(const QDomElement& element, const QString& name)
+{
+    const int count = element.attributes().count();
+    return count > 2 || (count == 2 && !element.hasAttribute(TypeAttribute())) || name == TypeAttribute()
+        || name.size() >= EnumerationFacet.size();
+}
+
 /// The attributes of @p element, the current one, with facets' names for which @p isWanted holds, and perhaps others
 /// for which it holds.
 template <class IsWanted> DomAttributes facetsOf(DomParser& parser, QDomElement& element, const IsWanted& isWanted)
@@ -165,7 +180,7 @@ void XmlCreateReport::SetXmlValue(QString value)
         return;
     }
     const QString text = representableText(value, "XmlCreateReport::SetXmlValue");
-    if (useEnumeration(text, isEnumerationOfElement)) {
+    if (!mayHaveFacets(*m_pCurrentElement) || useEnumeration(text, isEnumerationOfElement)) {
         CreateAndAppendTextNode(text);
     }
 }
@@ -178,7 +193,8 @@ void XmlCreateReport::SetXmlValue(double value)
     const QString wanted = wordOf(Setter::Floating);
     const bool isShort = m_pCurrentElement && TypeControl(wanted) == ShortType;
     const QString text = isShort ? QString::number(toInt32(value)) : toReportText(value);
-    if (isTypeAccepted(wanted, IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE) && useRange(value)) {
+    if (isTypeAccepted(wanted, IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE)
+        && (!mayHaveFacets(*m_pCurrentElement) || useRange(value))) {
         CreateAndAppendTextNode(text);
     }
 }
@@ -190,7 +206,7 @@ void XmlCreateReport::SetXmlValue(int value)
     }
     // Removed before the range is checked, unlike the other numbers: a refused integer leaves no type behind.
     m_pDomParser->RemoveAttribute(TypeAttribute());
-    if (useRange(value)) {
+    if (!m_pCurrentElement->hasAttributes() || useRange(value)) {
         CreateAndAppendTextNode(QString::number(value));
     }
 }
@@ -223,7 +239,8 @@ void XmlCreateReport::SetAttributeValue(QString name, QString value)
         return;
     }
     const QString text = representableText(value, "XmlCreateReport::SetAttributeValue");
-    if (useEnumeration(text, [&name](const QString& facet) { return isEnumerationOfAttribute(facet, name); })) {
+    const auto isValue = [&name](const QString& facet) { return isEnumerationOfAttribute(facet, name); };
+    if (!mayHaveFacets(*m_pCurrentElement, name) || useEnumeration(text, isValue)) {
         m_pDomParser->SetAttribute(name, text);
     }
 }
@@ -240,8 +257,9 @@ void XmlCreateReport::SetAttributeValue(QString name, int value)
 {
     if (!refreshCurrentElement()) {
         Error(IXMLHelper::NO_CURRENT_ELEMENT);
-    } else if (isAttributeTypeAccepted(name, wordOf(Setter::Integer), IXMLHelper::CURRENT_TYPE_IS_NOT_INTEGER)) {
-        setCheckedAttribute(name, QString::number(value), value);
+    } else if (isAttributeTypeAccepted(name, wordOf(Setter::Integer), IXMLHelper::CURRENT_TYPE_IS_NOT_INTEGER)
+               && (!mayHaveFacets(*m_pCurrentElement, name) || useRange(name, value))) {
+        m_pDomParser->SetAttribute(name, QString::number(value));
     }
 }
 
@@ -249,8 +267,9 @@ void XmlCreateReport::SetAttributeValue(QString name, double value)
 {
     if (!refreshCurrentElement()) {
         Error(IXMLHelper::NO_CURRENT_ELEMENT);
-    } else if (isAttributeTypeAccepted(name, wordOf(Setter::Floating), IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE)) {
-        setCheckedAttribute(name, toReportText(value), value);
+    } else if (isAttributeTypeAccepted(name, wordOf(Setter::Floating), IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE)
+               && (!mayHaveFacets(*m_pCurrentElement, name) || useRange(name, value))) {
+        m_pDomParser->SetAttribute(name, toReportText(value));
     }
 }
 
@@ -529,20 +548,19 @@ template <typename Number> bool XmlCreateReport::useRange(Number value)
     return true;
 }
 
-/// Checks a number against the range facets of the attribute, removes those that were used and sets the attribute.
-template <typename Number>
-void XmlCreateReport::setCheckedAttribute(const QString& name, const QString& text, Number value)
+/// The same with the range facets of the attribute @p name.
+template <typename Number> bool XmlCreateReport::useRange(const QString& name, Number value)
 {
     const RangeVerdict verdict = boundsOfAttribute<Number>(*m_pDomParser, *m_pCurrentElement, name)
                                      .Check(value, UpperBoundBehindLower::Strict);
     if (!verdict.isAccepted) {
         Error(IXMLHelper::VALUE_IS_NOT_VALID);
-        return;
+        return false;
     }
     for (const QLatin1String facet : verdict.usedFacets) {
         m_pDomParser->RemoveAttribute(facet + name);
     }
-    m_pDomParser->SetAttribute(name, text);
+    return true;
 }
 
 /// Makes the current element occur @p count times. A root has no place for copies, which counts as success. Gives

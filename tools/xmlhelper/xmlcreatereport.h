@@ -238,7 +238,7 @@ private:
     bool isAttributeTypeAccepted(const QString& name, const QString& wanted, IXMLHelper::ErrorID refusal);
     template <class IsEnumerationName> bool useEnumeration(const QString& value, IsEnumerationName isEnumerationName);
     template <typename Number> bool useRange(Number value);
-    template <typename Number> void setCheckedAttribute(const QString& name, const QString& text, Number value);
+    template <typename Number> bool useRange(const QString& name, Number value);
     bool copyCurrentElement(int count);
     bool isDiscardAllowed(const QString& tagName) const;
 
