@@ -2,9 +2,9 @@
 #define XMLHELPER_RANGECHECK_P_H
 
 #include <initializer_list>
-#include <vector>
 
 #include <QLatin1String>
+#include <QVarLengthArray>
 
 #include "constants_p.h"
 #include "skeletonwords_p.h"
@@ -14,7 +14,7 @@
 struct RangeVerdict
 {
     bool isAccepted;
-    std::vector<QLatin1String> usedFacets;
+    QVarLengthArray<QLatin1String, 2> usedFacets;
 };
 
 /// How a value is compared with maxInclusive once it has passed a lower bound.

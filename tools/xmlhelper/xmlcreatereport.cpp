@@ -1,6 +1,7 @@
 #include "xmlcreatereport.h"
 
 #include <memory>
+#include <optional>
 #include <type_traits>
 #include <utility>
 
@@ -8,6 +9,7 @@
 #include <QDomDocument>
 #include <QScopedValueRollback>
 #include <QStringList>
+#include <QVarLengthArray>
 #include <QXmlSimpleReader>
 
 #include "commentdialogimpl.h"
@@ -41,9 +43,34 @@ namespace {
 /// The namespace of schema instances, fixed by W3C XML Schema, Structures.
 const QLatin1String SchemaInstanceNamespace("http://www.w3.org/2001/XMLSchema-instance");
 
+/// Up to so many digits fit into an integer.
+constexpr int DigitsOfInt = 9;
+
+/// The number that @p text holds when it is nothing but digits behind an optional sign, as bounds mostly are. Qt's
+/// conversions take longer than all the rest of a check.
+std::optional<int> plainNumberIn(const QString& text)
+{
+    const bool isNegative = text.startsWith(QLatin1Char('-'));
+    const QStringView digits = QStringView(text).mid(isNegative ? 1 : 0);
+    if (digits.isEmpty() || digits.size() > DigitsOfInt) {
+        return std::nullopt;
+    }
+    int number = 0;
+    for (const QChar digit : digits) {
+        if (digit < QLatin1Char('0') || digit > QLatin1Char('9')) {
+            return std::nullopt;
+        }
+        number = 10 * number + (digit.unicode() - '0');
+    }
+    return isNegative ? -number : number;
+}
+
 /// A facet's number; one that does not convert counts as 0.
 template <typename Number> Number boundIn(const QString& text)
 {
+    if (const std::optional<int> plain = plainNumberIn(text)) {
+        return *plain;
+    }
     if constexpr (std::is_same_v<Number, int>) {
         return text.toInt();
     } else {
@@ -53,16 +80,17 @@ template <typename Number> Number boundIn(const QString& text)
     }
 }
 
-template <typename Number> RangeBounds<Number> boundsOfElement(const QDomElement& element)
+/// The range facets of @p element, each with the attribute that gives it.
+QVarLengthArray<std::pair<QLatin1String, QDomAttr>, 4> rangeFacetsOf(const QDomElement& element)
 {
-    RangeBounds<Number> bounds;
+    QVarLengthArray<std::pair<QLatin1String, QDomAttr>, 4> facets;
     for (const QDomAttr& attribute : attributesOf(element)) {
         const QLatin1String facet = rangeFacetOfElement(attribute.name());
         if (facet.size() > 0) {
-            bounds.Set(facet, boundIn<Number>(attribute.value()));
+            facets.append({facet, attribute});
         }
     }
-    return bounds;
+    return facets;
 }
 
 /// Whether @p element, whose type was just read, has anything besides. Few elements do.
@@ -109,7 +137,7 @@ RangeBounds<Number> boundsOfAttribute(DomParser& parser, QDomElement& element, c
     RangeBounds<Number> bounds;
     const auto isBound = [&](const QString& facet) { return rangeFacetOfAttribute(facet, name).size() > 0; };
     for (const QDomAttr& attribute : facetsOf(parser, element, isBound)) {
-        bounds.Set(rangeFacetOfAttribute(attribute.name(), name), attribute.value().toInt());
+        bounds.Set(rangeFacetOfAttribute(attribute.name(), name), boundIn<int>(attribute.value()));
     }
     return bounds;
 }
@@ -536,14 +564,21 @@ bool XmlCreateReport::useEnumeration(const QString& value, IsEnumerationName isE
 /// Checks a number against the range facets of the current element and removes those that were used.
 template <typename Number> bool XmlCreateReport::useRange(Number value)
 {
-    const RangeVerdict verdict
-        = boundsOfElement<Number>(*m_pCurrentElement).Check(value, UpperBoundBehindLower::Inclusive);
+    const auto facets = rangeFacetsOf(*m_pCurrentElement);
+    RangeBounds<Number> bounds;
+    for (const auto& [facet, attribute] : facets) {
+        bounds.Set(facet, boundIn<Number>(attribute.value()));
+    }
+    const RangeVerdict verdict = bounds.Check(value, UpperBoundBehindLower::Inclusive);
     if (!verdict.isAccepted) {
         Error(IXMLHelper::VALUE_IS_NOT_VALID);
         return false;
     }
-    for (const QLatin1String facet : verdict.usedFacets) {
-        m_pDomParser->RemoveAttribute(facet);
+    const OwnerIndex::OwnChange change = m_pDomParser->Change();
+    for (const auto& [facet, attribute] : facets) {
+        if (verdict.usedFacets.contains(facet)) {
+            m_pDomParser->RemoveAttribute(attribute.name());
+        }
     }
     return true;
 }
@@ -557,6 +592,7 @@ template <typename Number> bool XmlCreateReport::useRange(const QString& name, N
         Error(IXMLHelper::VALUE_IS_NOT_VALID);
         return false;
     }
+    const OwnerIndex::OwnChange change = m_pDomParser->Change();
     for (const QLatin1String facet : verdict.usedFacets) {
         m_pDomParser->RemoveAttribute(facet + name);
     }
