@@ -217,12 +217,13 @@ void XmlCreateReport::SetXmlValue(double value)
 {
     // The type is asked before the element is refreshed: the object is the same for the whole walk, so only the first
     // operation of all does not know its type. One might expect to ask once; it is kept because an element without a
-    // type is reported as unknown twice, and receivers count on that.
+    // type is reported as unknown twice, and receivers count on that. A type that fits is not asked for again.
     const QString wanted = wordOf(Setter::Floating);
-    const bool isShort = m_pCurrentElement && TypeControl(wanted) == ShortType;
-    const QString text = isShort ? QString::number(toInt32(value)) : toReportText(value);
-    if (isTypeAccepted(wanted, IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE)
-        && (!mayHaveFacets(*m_pCurrentElement) || useRange(value))) {
+    const QString type = m_pCurrentElement ? TypeControl(wanted) : QString();
+    const QString text = type == ShortType ? QString::number(toInt32(value)) : toReportText(value);
+    const bool isAccepted
+        = type.isEmpty() ? isTypeAccepted(wanted, IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE) : refreshCurrentElement();
+    if (isAccepted && (!mayHaveFacets(*m_pCurrentElement) || useRange(value))) {
         CreateAndAppendTextNode(text);
     }
 }
