@@ -342,6 +342,11 @@ void TestXmlCreateReportValues::checksEnumerations_data()
               R"(<e> "v77" </e>)");
     answerRow("enumeration-of-many-values-stays-whole-after-a-refusal", restrictedElement("string", manyFacets),
               text("v121"), annotatedLine(manyAnnotations), {E::VALUE_IS_NOT_VALID});
+    answerRow("empty-value-among-many", restrictedElement("string", manyFacets + "enumeration="), text(""),
+              R"(<e> "" </e>)");
+    answerRow("value-of-an-attribute-whose-name-ends-in-a-digit-among-many",
+              elementWithAttributes(manyAnnotations + " Mode2=xs:string enumeration1Mode2=A"), text("A"),
+              R"(<e Mode2="xs:string"> "A" </e>)");
     answerRow("value-that-is-there-twice", restrictedElement("string", "enumeration=A enumeration=A"), text("A"),
               R"(<e> "A" </e>)");
 

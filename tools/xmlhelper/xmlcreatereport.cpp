@@ -65,6 +65,9 @@ std::optional<int> plainNumberIn(const QString& text)
     return isNegative ? -number : number;
 }
 
+/// Up to here listing the attributes is fast.
+constexpr int FewToList = 16;
+
 /// A facet's number; one that does not convert counts as 0.
 template <typename Number> Number boundIn(const QString& text)
 {
@@ -127,6 +130,34 @@ template <class IsWanted> DomAttributes facetsOf(DomParser& parser, QDomElement&
         }
     }
     return facets;
+}
+
+/// The enumeration of @p element, whose type was just read, if that is all it has: the values are numbered, and asking
+/// for one after the other takes less than listing the attributes. Empty when there is something else, or an empty
+/// value: then the order counts in which attributes are listed.
+DomAttributes numberedValuesOf(const QDomElement& element)
+{
+    const QDomNamedNodeMap map = element.attributes();
+    DomAttributes values;
+    values.reserve(map.count());
+    QString name = EnumerationFacet;
+    while (values.size() < map.count()) {
+        name.truncate(EnumerationFacet.size());
+        name += QString::number(values.size() + 1);
+        const QDomAttr value = map.namedItem(name).toAttr();
+        if (value.value().isEmpty()) {
+            break;
+        }
+        values.append(value);
+    }
+    return values.size() + 1 == map.count() ? values : DomAttributes();
+}
+
+/// The values that @p element, the current one, may have.
+DomAttributes valuesOfElement(DomParser& parser, QDomElement& element)
+{
+    const DomAttributes values = element.attributes().count() > FewToList ? numberedValuesOf(element) : DomAttributes();
+    return values.isEmpty() ? facetsOf(parser, element, isEnumerationOfElement) : values;
 }
 
 /// The facets of an attribute are read as integers for numbers of every kind, so that a fractional one counts as 0. One
@@ -208,7 +239,8 @@ void XmlCreateReport::SetXmlValue(QString value)
         return;
     }
     const QString text = representableText(value, "XmlCreateReport::SetXmlValue");
-    if (!mayHaveFacets(*m_pCurrentElement) || useEnumeration(text, isEnumerationOfElement)) {
+    if (!mayHaveFacets(*m_pCurrentElement)
+        || useEnumeration(text, valuesOfElement(*m_pDomParser, *m_pCurrentElement))) {
         CreateAndAppendTextNode(text);
     }
 }
@@ -269,7 +301,8 @@ void XmlCreateReport::SetAttributeValue(QString name, QString value)
     }
     const QString text = representableText(value, "XmlCreateReport::SetAttributeValue");
     const auto isValue = [&name](const QString& facet) { return isEnumerationOfAttribute(facet, name); };
-    if (!mayHaveFacets(*m_pCurrentElement, name) || useEnumeration(text, isValue)) {
+    if (!mayHaveFacets(*m_pCurrentElement, name)
+        || useEnumeration(text, facetsOf(*m_pDomParser, *m_pCurrentElement, isValue))) {
         m_pDomParser->SetAttribute(name, text);
     }
 }
@@ -541,11 +574,9 @@ bool XmlCreateReport::isAttributeTypeAccepted(const QString& name, const QString
     return false;
 }
 
-/// Checks a text against an enumeration and removes the enumeration when it is in order.
-template <class IsEnumerationName>
-bool XmlCreateReport::useEnumeration(const QString& value, IsEnumerationName isEnumerationName)
+/// Checks a text against an enumeration, which is given by its attributes, and removes these when it is in order.
+template <class Facets> bool XmlCreateReport::useEnumeration(const QString& value, const Facets& facets)
 {
-    const DomAttributes facets = facetsOf(*m_pDomParser, *m_pCurrentElement, isEnumerationName);
     QString lastValue;
     bool isFound = false;
     for (const QDomAttr& facet : facets) {

@@ -236,7 +236,7 @@ private:
     bool refreshCurrentElement();
     bool isTypeAccepted(const QString& wanted, IXMLHelper::ErrorID refusal);
     bool isAttributeTypeAccepted(const QString& name, const QString& wanted, IXMLHelper::ErrorID refusal);
-    template <class IsEnumerationName> bool useEnumeration(const QString& value, IsEnumerationName isEnumerationName);
+    template <class Facets> bool useEnumeration(const QString& value, const Facets& facets);
     template <typename Number> bool useRange(Number value);
     template <typename Number> bool useRange(const QString& name, Number value);
     bool copyCurrentElement(int count);
