@@ -24,14 +24,21 @@ QT_WARNING_DISABLE_DEPRECATED
 
 namespace {
 
-QXmlAttributes saxAttributesOf(const QDomNode& node)
+QXmlAttributes toSax(const DomAttributes& listed)
 {
     const QString none = QLatin1String("");
     QXmlAttributes attributes;
-    for (const QDomAttr& attribute : attributesOf(node.toElement())) {
+    for (const QDomAttr& attribute : listed) {
         attributes.append(attribute.name(), none, none, attribute.value());
     }
     return attributes;
+}
+
+QString defaultIn(const DomAttributes& attributes)
+{
+    const auto found = std::find_if(attributes.begin(), attributes.end(),
+                                    [](const QDomAttr& attribute) { return attribute.name() == DefaultAttribute(); });
+    return found == attributes.end() ? QString() : found->value();
 }
 
 bool isValueElement(const QDomElement& element)
@@ -142,7 +149,7 @@ bool DomParser::Walk()
     deliver<DocBeginEvent>(m_pCallback);
     m_root = m_pDocument->documentElement();
     standOn(m_root);
-    announce(m_root, QLatin1String(""));
+    announce(m_root, attributesOf(m_root), QLatin1String(""));
 
     // A stack of our own: siblings of pruned containers are walked one level deeper, without a limit.
     m_levels.push_back({m_root.firstChild(), QLatin1String("")});
@@ -425,8 +432,9 @@ void DomParser::visit()
     const bool isTopLevel = m_levels.size() == 1;
     Level& level = m_levels.back();
     standOn(level.node);
-    takeText(level, isTopLevel);
-    announce(level.node, level.text);
+    DomAttributes attributes = attributesOf(m_currentElement);
+    takeText(level, isTopLevel, attributes);
+    announce(level.node, attributes, level.text);
 
     if (takeNotice()) {
         keep(m_bRevisit ? WalkLog::Keeping::AnnouncedAgain : WalkLog::Keeping::Answered);
@@ -450,28 +458,30 @@ void DomParser::visit()
 }
 
 /// The text of an element without one is that of the last sibling that had one; receivers read values from the node.
-void DomParser::takeText(Level& level, bool isTopLevel)
+/// Below the top level a default, one of the @p attributes, becomes the text.
+void DomParser::takeText(Level& level, bool isTopLevel, DomAttributes& attributes)
 {
     const QDomNode first = level.node.firstChild();
     if (first.isText()) {
         level.text = first.toText().data();
         return;
     }
-    const QString defaultText = m_currentElement.attribute(DefaultAttribute());
-    if (!isTopLevel && !defaultText.isEmpty()) {
+    const QString defaultText = isTopLevel ? QString() : defaultIn(attributes);
+    if (!defaultText.isEmpty()) {
         const OwnerIndex::OwnChange change = Change();
         m_currentElement.removeAttribute(DefaultAttribute());
         m_currentElement.appendChild(m_pDocument->createTextNode(defaultText));
+        attributes = attributesOf(m_currentElement);
     }
 }
 
-void DomParser::announce(const QDomNode& node, const QString& text)
+void DomParser::announce(const QDomNode& node, const DomAttributes& attributes, const QString& text)
 {
     m_bAnnounced = true;
     if (m_pLog) {
         m_pLog->Announced(node, kindOf(node));
     }
-    deliver<ElemBeginEvent>(m_pCallback, node, node.nodeName(), saxAttributesOf(node), text);
+    deliver<ElemBeginEvent>(m_pCallback, node, node.nodeName(), toSax(attributes), text);
 }
 
 bool DomParser::takeNotice()

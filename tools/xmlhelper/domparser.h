@@ -141,8 +141,8 @@ private:
     void keepParent();
     void leave(Level& level);
     void visit();
-    void takeText(Level& level, bool isTopLevel);
-    void announce(const QDomNode& node, const QString& text);
+    void takeText(Level& level, bool isTopLevel, DomAttributes& attributes);
+    void announce(const QDomNode& node, const DomAttributes& attributes, const QString& text);
     WalkLog::Kind kindOf(const QDomNode& node) const;
     bool takeNotice();
     void endProbation();
