@@ -252,11 +252,11 @@ void XmlCreateReport::SetXmlValue(double value)
     // type is reported as unknown twice, and receivers count on that. A type that fits is not asked for again.
     const QString wanted = wordOf(Setter::Floating);
     const QString type = m_pCurrentElement ? TypeControl(wanted) : QString();
-    const QString text = type == ShortType ? QString::number(toInt32(value)) : toReportText(value);
+    const bool isShort = type == ShortType;
     const bool isAccepted
         = type.isEmpty() ? isTypeAccepted(wanted, IXMLHelper::CURRENT_TYPE_IS_NOT_DOUBLE) : refreshCurrentElement();
     if (isAccepted && (!mayHaveFacets(*m_pCurrentElement) || useRange(value))) {
-        CreateAndAppendTextNode(text);
+        CreateAndAppendTextNode(isShort ? QString::number(toInt32(value)) : toReportText(value));
     }
 }
 
