@@ -19,6 +19,7 @@ private Q_SLOTS:
     void appendsToTheResultsThatAreThere();
     void findsNothingBelowANullElement();
     void searchesNotBeyondTheStart();
+    void searchesNothingWithinOtherNodes();
     void namesTheTopNodeItWasGiven();
     void matchesFollowARecursion();
     void firstMatchFollowsARecursion();
@@ -141,6 +142,18 @@ void TestElementSearch::searchesNotBeyondTheStart()
     QVERIFY(matches(name, start, document.lastChild()).empty());
     QVERIFY(ElementSearch(document.lastChild()).FirstMatch(name, emptyStart).isNull());
     QVERIFY(ElementSearch(document.lastChild()).FirstMatch(name, start).isNull());
+}
+
+void TestElementSearch::searchesNothingWithinOtherNodes()
+{
+    QDomDocument document = documentOf(QStringLiteral("<r><a/></r>"));
+    QDomElement root = document.documentElement();
+    const QDomNode own = root.firstChild();
+    const QDomNode inner = root.insertBefore(documentOf(QStringLiteral("<a/>")), own);
+    QVERIFY(inner.isDocument() && inner.hasChildNodes());
+    const QString name = QStringLiteral("a");
+    QVERIFY(matches(name, root, root) == std::list<QDomNode> {own});
+    QVERIFY(ElementSearch(root).FirstMatch(name, root) == own);
 }
 
 void TestElementSearch::namesTheTopNodeItWasGiven()

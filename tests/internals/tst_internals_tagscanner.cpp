@@ -53,6 +53,7 @@ void TestTagScanner::looksAtTags_data()
         "<?xml\tversion = '1.1'\r\n encoding\n=\n\"UTF-8\" standalone ='no' ?><a/>", true);
     row("declaration-of-one-that-stands-alone", "<?xml version='1.0' standalone='yes'?><a/>", true);
     row("declaration-with-an-unknown-version", "<?xml version='2.0'?><a/>", false);
+    row("declaration-with-a-longer-version", "<?xml version='1.05'?><a/>", false);
     row("declaration-without-version", "<?xml encoding='UTF-8'?><a/>", false);
     row("declaration-with-an-unnumbered-encoding", "<?xml version='1.0' encoding='ISO-8859-'?><a/>", false);
     row("declaration-with-a-longer-encoding", "<?xml version='1.0' encoding='UTF-81'?><a/>", false);
