@@ -517,22 +517,20 @@ void XmlSchemaHandler::takeOffAllOrigins()
 
 void XmlSchemaHandler::readTag()
 {
-    struct Construct
-    {
-        QLatin1String tag;
-        void (XmlSchemaHandler::*read)();
-    };
+    using Construct = std::pair<QLatin1String, void (XmlSchemaHandler::*)()>;
     static const Construct constructs[] = {
         {ElementTag, &XmlSchemaHandler::readElement},          {AttributeTag, &XmlSchemaHandler::readAttribute},
         {ComplexTypeTag, &XmlSchemaHandler::beginType},        {SimpleTypeTag, &XmlSchemaHandler::beginType},
         {RestrictionTag, &XmlSchemaHandler::beginRestriction}, {ExtensionTag, &XmlSchemaHandler::beginExtension},
         {ChoiceTag, &XmlSchemaHandler::beginChoice},           {IncludeTag, &XmlSchemaHandler::readInclude},
     };
-    const auto* const construct = std::find_if(std::begin(constructs), std::end(constructs),
-                                               [this](const Construct& c) { return isWord(m_sCurrentName, c.tag); });
-    if (construct != std::end(constructs)) {
-        (this->*construct->read)();
-    } else if (m_pLog) {
+    for (const auto& [tag, read] : constructs) {
+        if (isWord(m_sCurrentName, tag)) {
+            (this->*read)();
+            return;
+        }
+    }
+    if (m_pLog) {
         m_pLog->TagPassedOver(m_tag);
     }
 }
