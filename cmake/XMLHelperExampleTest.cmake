@@ -6,7 +6,7 @@
 #       EXPECTED_STATUS <status>      0 when it is not given
 #       EXPECTED_OUTPUT <file>        what the program prints, a file of the tests folder
 #       WRITTEN_FILE <name>           a file that the program writes into that folder
-#       EXPECTED_FILE <file>          what it has to hold, a file of the tests folder
+#       EXPECTED_FILE <file>)         what it has to hold, a file of the tests folder
 
 include(XMLHelperTesting)
 

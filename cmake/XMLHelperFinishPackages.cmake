@@ -4,7 +4,7 @@ if(NOT CPACK_GENERATOR STREQUAL "DEB")
     return()
 endif()
 
-# Compresses a file; without the date, so that the same files make the same package.
+# Compresses a file, without its date.
 function(compress file)
     execute_process(COMMAND gzip -9 -n -f "${file}" COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
@@ -35,6 +35,15 @@ function(add_documents folder package)
     if(EXISTS "${overrides}")
         configure_file("${overrides}" "${folder}/usr/share/lintian/overrides/${package}" COPYONLY)
     endif()
+    # Whatever the rights are that the builder's files get.
+    foreach(made IN ITEMS doc lintian)
+        if(EXISTS "${folder}/usr/share/${made}")
+            file(CHMOD_RECURSE "${folder}/usr/share/${made}"
+                FILE_PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ
+                DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE
+                    WORLD_READ WORLD_EXECUTE)
+        endif()
+    endforeach()
 endfunction()
 
 file(GLOB folders "${CPACK_TEMPORARY_DIRECTORY}/*")

@@ -1,6 +1,6 @@
 # The install rules: the libraries with their client headers, and what find_package() and pkg-config find them by.
 # The components: runtime and development; platform and platform_development, the stand-ins for the suite's base
-# libraries; tools, the companion programs; translations; and examples, which are installed only by name:
+# libraries; tools, the companion programs; translations; and examples and doc, which are installed only by name:
 #
 #   cmake --install <build> --prefix <folder>
 #   cmake --install <build> --prefix <folder> --component examples
@@ -217,7 +217,9 @@ if(TARGET measurementpanel)
 endif()
 
 # What scripts/make-docs has made, as a component of its own that is installed only by name.
-if(EXISTS "${XMLHELPER_DOCS}/html/index.html")
+set(has_docs OFF)
+if(XMLHELPER_DOCS AND EXISTS "${XMLHELPER_DOCS}/html/index.html")
+    set(has_docs ON)
     install(DIRECTORY "${XMLHELPER_DOCS}/html" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/xmlhelper-doc"
         COMPONENT doc EXCLUDE_FROM_ALL)
     install(FILES "${XMLHELPER_DOCS}/xmlhelper.qch" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/xmlhelper-doc"

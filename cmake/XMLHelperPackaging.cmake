@@ -15,8 +15,8 @@
 # conflicts with it, as one package at a time may have files of these names; see docs/platform.md.
 #
 # The preset "packages" configures with -DCMAKE_INSTALL_PREFIX=/usr to have the libraries where Debian keeps its own, in
-# the folder of the machine's architecture. With another prefix they go into /usr/lib itself, where the loader finds them
-# too.
+# the folder of the machine's architecture. With another prefix they go into /usr/lib itself, where the loader finds
+# them, too.
 
 include(GNUInstallDirs)
 
@@ -43,7 +43,7 @@ endif()
 if(TARGET measurementpanel)
     list(APPEND CPACK_COMPONENTS_ALL examples)
 endif()
-if(EXISTS "${XMLHELPER_DOCS}/html/index.html")
+if(has_docs)
     list(APPEND CPACK_COMPONENTS_ALL doc)
 endif()
 

@@ -1,9 +1,9 @@
-# What every target of this project is compiled with. Nothing here leaks to embedding projects:
-# all of it is private to the target it is called for.
+# What every target of this project is compiled with. It is private to the target that it is called for, but for C++17
+# and what the sanitizers link.
 #
 #   xmlhelper_target_defaults(<target>)   warnings, strict Qt, sanitizers, C++17
 #   xmlhelper_target_exports(<target> <map>)   what a shared library exports, under a version
-#   xmlhelper_lay_translations_beside(<program> <catalogue>...)   into a folder of that name
+#   xmlhelper_lay_translations_beside(<program> <catalogue>...)   into the folder translations beside it
 
 function(xmlhelper_target_defaults target)
     target_compile_features(${target} PUBLIC cxx_std_17)
@@ -73,7 +73,8 @@ function(xmlhelper_target_exports target map)
     endif()
 endfunction()
 
-# The catalogues in all languages, when they are made. The program's property XMLHELPER_CATALOGUES tells what to install.
+# The catalogues in all languages, when they are made. The program's property XMLHELPER_CATALOGUES tells what to
+# install.
 function(xmlhelper_lay_translations_beside program)
     if(NOT TARGET xmlhelper_translations)
         return()

@@ -18,7 +18,8 @@ int main(int argc, char* argv[])
     ReportSupervisor supervisor;
     ReportJournal journal;
     QString message;
-    if (!journal.Open(folder.filePath(QStringLiteral("journal.sqlite")), &message) || !message.isEmpty()) {
+    const bool isOpen = journal.Open(folder.filePath(QStringLiteral("journal.sqlite")), &message);
+    if (!message.isEmpty()) {
         std::cerr << qPrintable(message) << std::endl; // It cannot be opened, or was damaged and is made anew.
     }
     journal.SetValueNames({QStringLiteral("Frequency"), QStringLiteral("Frequency@Unit")});
@@ -38,6 +39,9 @@ int main(int argc, char* argv[])
     filler.Add(QStringLiteral("Frequency"), 98.5e6);
     filler.Add(QStringLiteral("Frequency@Unit"), QStringLiteral("Hz"));
     filler.Add(QStringLiteral("Level"), -42.5);
-    filler.Fill(arguments.value(1), folder.filePath(QStringLiteral("report.xml")));
+    if (!isOpen || !filler.Fill(arguments.value(1), folder.filePath(QStringLiteral("report.xml")))) {
+        std::cerr << qPrintable(filler.Complaints().join(QLatin1Char('\n'))) << std::endl;
+        return 1;
+    }
     return QCoreApplication::exec();
 }

@@ -22,7 +22,7 @@ ITSELF = "it runs the tests, this one too"
 ANEW = "it builds everything anew"
 WINDOWS = "it needs a Qt for Windows"
 MSVC = "it needs MSVC"
-PACKED = "package_makes_debian_packages and package_makes_documentation_package do the same"
+PACKED = "scripts/test-packages does it"
 NOT_RUN = {
     "scripts/demo": ANEW,
     "scripts/demo --window": ANEW + ", and waits for somebody",
@@ -128,7 +128,7 @@ def lay_out(sources, folder):
 
 def run(command, folder):
     """What is wrong with a command, or nothing."""
-    done = subprocess.run(["sh", "-c", command], cwd=folder, text=True, capture_output=True, check=False)
+    done = subprocess.run(["sh", "-c", command], cwd=folder, encoding="utf-8", capture_output=True, check=False)
     said = done.stdout + done.stderr
     if done.returncode != 0:
         return f"ends with {done.returncode}:\n{said}"
@@ -161,7 +161,7 @@ def faults_of_manual(manual, work):
     folder = work / manual.name
     shutil.copytree(pathlib.Path(__file__).parent / "man" / manual.stem, folder)
     for command, printed in sessions_of(manual):
-        done = subprocess.run(["sh", "-c", command], cwd=folder, text=True, capture_output=True, check=False)
+        done = subprocess.run(["sh", "-c", command], cwd=folder, encoding="utf-8", capture_output=True, check=False)
         if done.stdout + done.stderr != printed:
             yield f"{manual.name}: {command}\n  prints\n{done.stdout}{done.stderr}  and not\n{printed}"
 

@@ -1,4 +1,5 @@
-# The installed tree holds the files of the checked-in list, the companion programs that are built, and nothing else. It is moved before anybody uses it.
+# The installed tree holds the files of the checked-in list, the companion programs that are built, and nothing else.
+# It is moved before anybody uses it.
 include("${CMAKE_CURRENT_LIST_DIR}/packagetest.cmake")
 
 run(COMMAND ${CMAKE_COMMAND} --install "${BUILD_DIR}" --config "${CONFIG}" --prefix "${WORK_DIR}/tree")

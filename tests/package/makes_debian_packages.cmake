@@ -70,11 +70,11 @@ set(platform xmlhelper-platform${LOWER_SUFFIX})
 if(QT_MAJOR EQUAL 6)
     set(runtime libxmlhelper-qt6-${VERSION_MAJOR})
     set(qt_dev "qt6-base-dev, qt6-5compat-dev")
-    set(qt_core libqt6core6)
+    set(qt_core "libqt6core6(t64)?")
 else()
     set(runtime libxmlhelper${VERSION_MAJOR})
     set(qt_dev "qtbase5-dev")
-    set(qt_core libqt5core5a)
+    set(qt_core "libqt5core5(a|t64)")
 endif()
 
 expect_package(${runtime} FILES runtime_files
