@@ -388,7 +388,7 @@ std::vector<Row> fillRows(const Workspace& workspace)
     for (const SetterRow& setter : setters()) {
         rows.push_back({QStringLiteral("fill/") + setter.name,
                         QStringLiteral("the bare DOM edits"),
-                        1.5,
+                        1.3,
                         {CallsOfRun},
                         [=, &workspace](int calls) {
                             return fill(workspace, setter.declaration, setter.set, setter.edit, calls);
@@ -396,7 +396,7 @@ std::vector<Row> fillRows(const Workspace& workspace)
     }
     rows.push_back({QStringLiteral("fill/enumeration"),
                     QStringLiteral("linear; beside it, the bare DOM edits"),
-                    0,
+                    1.5,
                     {10, 100, 1000, 5000},
                     [&workspace](int values) { return fillEnumeration(workspace, values); },
                     0,

@@ -141,7 +141,7 @@ std::vector<Row> jobRows(const Workspace& workspace)
     opponents.insert(opponents.begin(),
                      {QStringLiteral("qt"),
                       QStringLiteral("SAX over the schema, DOM by hand, one write"),
-                      1.10,
+                      1.05,
                       {50, 500, 5000, 50000},
                       writeByQt});
     std::vector<Row> rows;
@@ -157,7 +157,7 @@ std::vector<Row> buttonRows(const Workspace& workspace)
 {
     return {{QStringLiteral("button"),
              QStringLiteral("the job filled by hand"),
-             1.2,
+             1.0,
              {10, 100, 1000, 10000},
              [&workspace](int items) { return pressButton(workspace, items); }}};
 }

@@ -125,7 +125,7 @@ std::vector<MemoryRow> memoryRows()
 {
     return {{QStringLiteral("memory/read"), QStringLiteral("setContent alone"), 1.10, 20000000,
              QStringLiteral("memory.xml"), reportText, QStringLiteral("read"), QStringLiteral("setContent")},
-            {QStringLiteral("memory/job"), QStringLiteral("the skeleton alone"), 1.5, 50000,
+            {QStringLiteral("memory/job"), QStringLiteral("the skeleton alone"), 1.2, 50000,
              QStringLiteral("memory-50000.xsd"), [](int size) { return schemaText(Shape::RequiredGroups, size); },
              QStringLiteral("report"), QStringLiteral("skeleton")}};
 }

@@ -6,14 +6,14 @@ std::vector<Peer> peers()
 #ifdef XMLHELPER_HAS_LIBXML2
     found.push_back({QStringLiteral("libxml2"),
                      QStringLiteral("libxml2: schema, tree, validation, save"),
-                     1.0,
+                     0.6,
                      {50, 500, 5000, 50000},
                      writeByLibxml2});
 #endif
 #ifdef XMLHELPER_HAS_XERCES
     found.push_back({QStringLiteral("xerces"),
                      QStringLiteral("Xerces-C: grammar, DOM, serialisation, validation"),
-                     0.35,
+                     0.3,
                      {50, 500, 5000, 50000},
                      writeByXerces});
 #endif

@@ -236,7 +236,7 @@ std::vector<Row> schemaRows(const Workspace& workspace)
     for (const Shape shape : {Shape::Flat, Shape::Groups, Shape::SharedNames, Shape::NamedTypes}) {
         rows.push_back({QStringLiteral("schema/read/") + toText(shape),
                         QStringLiteral("a SAX pass without listener"),
-                        1.1,
+                        1.15,
                         {50, 500, 5000, 50000},
                         [&workspace, shape](int size) { return readSchemaOf(workspace, shape, size); }});
     }
@@ -250,7 +250,7 @@ std::vector<Row> walkRows(const Workspace& workspace)
         for (const Filling filling : {Filling::Unfilled, Filling::HalfFilled, Filling::Filled}) {
             rows.push_back({QStringLiteral("walk/") + toText(shape) + QLatin1Char('/') + toText(filling),
                             QStringLiteral("the same walk, its question answered by a stub"),
-                            1.3,
+                            filling == Filling::Filled ? 1.1 : 1.4,
                             {1000, 10000, 100000},
                             [=, &workspace](int size) { return walk(workspace, shape, filling, size); },
                             0.05});

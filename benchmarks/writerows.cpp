@@ -83,7 +83,7 @@ std::vector<Row> saveRows(const Workspace& workspace)
 {
     return {{QStringLiteral("save"),
              QStringLiteral("save into a QString and one write"),
-             1.0,
+             0.6,
              {10000, 1000000, 20000000},
              [&workspace](int bytes) { return save(workspace, bytes); }}};
 }

@@ -39,6 +39,7 @@ NOT_RUN = {
     "scripts/bench --seconds 0.3 --limit 2": "it takes minutes",
     "scripts/bench --json results.json": "it takes minutes",
     "scripts/bench --json docs/measured/benchmarks.json": "it takes minutes",
+    "scripts/measure instructions": "it takes minutes",
     "scripts/coverage docs/measured/coverage.json": "it takes minutes",
     "scripts/mutate --json docs/measured/mutation.json": "it takes an hour",
     "valgrind --tool=callgrind --collect-atstart=no build/release/benchmarks/xmlhelper_benchmarks \\\n"
