@@ -1,11 +1,15 @@
 #include "table.h"
 
+#include <algorithm>
 #include <cstdio>
 
+#include <QDateTime>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSysInfo>
+#include <QThread>
 
 #include "harness.h"
 
@@ -54,6 +58,32 @@ template <class Entry> QJsonArray toJson(const std::vector<Entry>& entries)
     return array;
 }
 
+/// The first line of a file of the system that begins with @p start, without what is before the colon; a line of its
+/// own when @p start is empty.
+QString lineOf(const QString& fileName, const QByteArray& start)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return QString();
+    }
+    const QList<QByteArray> lines = file.readAll().split('\n');
+    const auto line = std::find_if(lines.begin(), lines.end(),
+                                   [&start](const QByteArray& candidate) { return candidate.startsWith(start); });
+    return line == lines.end() ? QString() : QString::fromUtf8(line->mid(line->indexOf(':') + 1).trimmed());
+}
+
+/// Where and when it was measured. The load tells whether the machine was idle.
+QJsonObject conditions()
+{
+    return {{QStringLiteral("date"), QDateTime::currentDateTimeUtc().toString(Qt::ISODate)},
+            {QStringLiteral("system"), QSysInfo::prettyProductName()},
+            {QStringLiteral("processor"), lineOf(QStringLiteral("/proc/cpuinfo"), "model name")},
+            {QStringLiteral("cores"), QThread::idealThreadCount()},
+            {QStringLiteral("load"), lineOf(QStringLiteral("/proc/loadavg"), QByteArray())},
+            {QStringLiteral("compiler"), QStringLiteral(XMLHELPER_COMPILER)},
+            {QStringLiteral("qt"), QString::fromLatin1(qVersion())}};
+}
+
 QByteArray sized(const Measurement& measurement)
 {
     return (measurement.name + QLatin1Char('/') + QString::number(measurement.size)).toUtf8();
@@ -100,7 +130,8 @@ bool writeJson(const QString& fileName, const std::vector<Measurement>& measurem
                const std::vector<Growth>& growths)
 {
     QFile file(fileName);
-    const QJsonObject all {{QStringLiteral("measurements"), toJson(measurements)},
+    const QJsonObject all {{QStringLiteral("conditions"), conditions()},
+                           {QStringLiteral("measurements"), toJson(measurements)},
                            {QStringLiteral("growths"), toJson(growths)}};
     return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(all).toJson()) > 0;
 }
