@@ -7,7 +7,7 @@
 /// platform: std::clock() tells the time of day on Windows.
 double cpuSeconds();
 
-/// The steps in which it goes on.
+/// The steps in which it goes on: a time may be longer by one than it is told.
 #ifdef Q_OS_WIN
 constexpr double CpuTimeStep = 0.016;
 #else
