@@ -1,5 +1,6 @@
 #include "xmlcreatereport.h"
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <type_traits>
@@ -64,9 +65,6 @@ std::optional<int> plainNumberIn(const QString& text)
     }
     return isNegative ? -number : number;
 }
-
-/// Up to here listing the attributes is fast.
-constexpr int FewToList = 16;
 
 /// A facet's number; one that does not convert counts as 0.
 template <typename Number> Number boundIn(const QString& text)
@@ -152,6 +150,9 @@ DomAttributes numberedValuesOf(const QDomElement& element)
     }
     return values.size() + 1 == map.count() ? values : DomAttributes();
 }
+
+/// Up to so many attributes are listed faster than asked for.
+constexpr int FewToList = 16;
 
 /// The values that @p element, the current one, may have.
 DomAttributes valuesOfElement(DomParser& parser, QDomElement& element)
@@ -607,10 +608,10 @@ template <typename Number> bool XmlCreateReport::useRange(Number value)
         return false;
     }
     const OwnerIndex::OwnChange change = m_pDomParser->Change();
-    for (const auto& [facet, attribute] : facets) {
-        if (verdict.usedFacets.contains(facet)) {
-            m_pDomParser->RemoveAttribute(attribute.name());
-        }
+    for (const QLatin1String used : verdict.usedFacets) { // in the order of the check
+        const auto facet
+            = std::find_if(facets.begin(), facets.end(), [used](const auto& found) { return found.first == used; });
+        m_pDomParser->RemoveAttribute(facet->second.name());
     }
     return true;
 }
